@@ -1,0 +1,174 @@
+#pragma once
+
+#include "model/devicedescription.h"
+#include "model/projectdata.h"
+#include "model/samplelist.h"
+#include "model/sensordescription.h"
+
+#include <QColor>
+#include <QDateTime>
+#include <QObject>
+#include <QPixmap>
+#include <QStringList>
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <vector>
+
+/// The single owner of everything that a project holds. Lives on the GUI thread. Nothing throws; an index outside
+/// its range is logged and the call does nothing.
+///
+/// Sample ownership: a SampleList stays at its address until its measurement is removed. A removed measurement is
+/// kept alive until discardRemoved(), so that plots can still be drawn until they have been re-pointed. The model
+/// calls discardRemoved() itself behind every dataChanged() that it could deliver (not while its signals are
+/// blocked); so every receiver that keeps pointers must drop or re-point them synchronously in its slot whenever
+/// structureRevision() differs from what it saw last. Whoever removes with blocked signals re-points directly and
+/// then calls discardRemoved().
+class Model : public QObject
+{
+    Q_OBJECT
+
+public:
+    static constexpr int kNumMarkers = 4;
+    static constexpr int kNumPhases = 5;
+    static constexpr int kNumImages = 5;
+
+    /// Called from the long loops of open(), save() and saveCsv(), about every 20 ms, with the progress in percent.
+    using Yield = std::function<void(int percent)>;
+
+    /// Opens the project file unless the name is empty.
+    explicit Model(const QString &fileToOpen, QObject *parent = nullptr);
+    ~Model() override;
+
+    // --- Measurements: five channels, each an ordered list of measurements -------------------------------------
+    [[nodiscard]] int numChannels(int sensor) const;
+    /// nullptr if an index is out of range (not logged).
+    [[nodiscard]] const SampleList *measurement(int sensor, int measurement) const;
+    /// Appends one empty measurement to one sensor; returns its index, -1 for a bad sensor. Emits nothing.
+    int appendMeasurement(int sensor);
+    /// Appends one sample; a number that is not finite counts as 0. False for indices out of range. Emits nothing.
+    bool appendSample(int sensor, int measurement, double value);
+    /// Removes one measurement from all five channels; false if no channel has it. Emits nothing.
+    [[nodiscard]] bool deleteChannel(int measurement);
+    /// Frees the samples of removed measurements: call once no plot points at them any more.
+    void discardRemoved();
+    /// Changes whenever a measurement is added or removed (not when a sample is appended).
+    [[nodiscard]] quint64 structureRevision() const { return m_structureRevision; }
+    /// Last sample of the newest measurement; 0.0 if there is none.
+    [[nodiscard]] double latestValue(int group, int sensor) const;
+    [[nodiscard]] double minimumValue(int sensor, int measurement) const;
+    [[nodiscard]] double maximumValue(int sensor, int measurement) const;
+    void clearData();
+
+    [[nodiscard]] QDateTime timestamp(int measurement) const;
+    void setTimestamp(int measurement, const QDateTime &timestamp);
+
+    // --- Display settings that belong to the project -----------------------------------------------------------
+    [[nodiscard]] double offset(int sensor) const;
+    void setOffset(int sensor, double offset);
+    void resetOffsets();
+    [[nodiscard]] QColor color(int sensor) const;
+    void setColor(uint8_t sensor, const QColor &color);
+    [[nodiscard]] QString phaseName(int phase) const;
+    void setPhaseName(int phase, const QString &name);
+    /// Sample index of a marker; -1 for a bad index.
+    [[nodiscard]] int verticalMarker(int index) const;
+    void setVerticalMarkerAbsolute(int index, int pos);
+    void setVerticalMarkerRelative(int index, int pos);
+    [[nodiscard]] bool markersAbsolute() const { return m_markersAbsolute; }
+    void setMarkersAbsolute(bool absolute);
+    [[nodiscard]] double osziMinimum(int sensor) const;
+    [[nodiscard]] double osziMaximum(int sensor) const;
+    /// Part of the saved view; no change signal.
+    void setOsziMinimum(int sensor, double value);
+    void setOsziMaximum(int sensor, double value);
+
+    // --- Description of project and device ---------------------------------------------------------------------
+    [[nodiscard]] const ProjectData &projectData() const { return m_projectData; }
+    void setProjectData(const ProjectData &data);
+    [[nodiscard]] QString comment() const { return m_comment; }
+    void setComment(const QString &comment);
+    [[nodiscard]] QPixmap image(int index) const;
+    void setImage(int index, const QPixmap &image);
+    [[nodiscard]] const SensorDescription &sensorDescription() const { return m_sensorDescription; }
+    void setSensorDescription(const SensorDescription &description); ///< emits nothing
+    [[nodiscard]] const DeviceDescription &deviceDescription() const { return m_deviceDescription; }
+    void setDeviceDescription(const DeviceDescription &description); ///< emits nothing; takes over both versions
+    void setSensorName(int sensor, const QString &name);
+    void setSensorMinimum(int group, int sensor, double minimum);
+    void setSensorMaximum(int group, int sensor, double maximum);
+    [[nodiscard]] QString hardwareVersion() const { return m_hardwareVersion; }
+    [[nodiscard]] QString firmwareVersion() const { return m_firmwareVersion; }
+    [[nodiscard]] int mesotraType() const { return m_mesotraType; }
+    /// Sampling interval in milliseconds, 1 to kMaxClock.
+    [[nodiscard]] int clock() const { return m_clock; }
+    void setClock(int milliseconds);
+    static constexpr int kMaxClock = 3600000;
+
+    [[nodiscard]] QStringList fileList() const { return m_fileList; }
+    void setFileList(const QStringList &files);
+
+    // --- State -------------------------------------------------------------------------------------------------
+    [[nodiscard]] bool isConnected() const { return m_connected; }
+    void setConnected(bool connected); ///< emits nothing
+    [[nodiscard]] bool isProjectModified() const { return m_projectModified; }
+    void setProjectModifiedFlag(bool modified);
+    [[nodiscard]] QString currentFile() const { return m_currentFile; }
+    void setCurrentFile(const QString &absolutePath);
+    /// True while open(), save() or saveCsv() runs: no second one, no deletion and no quit may start then.
+    [[nodiscard]] bool isBusy() const { return m_busy; }
+    /// Ends a recording on the side of the data: squeezes the newest measurements.
+    void endRecording();
+    void clear();
+
+    // --- Files -------------------------------------------------------------------------------------------------
+    [[nodiscard]] bool open(const QString &fileName);
+    [[nodiscard]] bool save(const QString &fileName);
+    [[nodiscard]] bool saveCsv(const QString &fileName);
+    /// Replaces QCoreApplication::processEvents() as what the long loops call.
+    void setYield(const Yield &yield);
+
+    // --- Emission with its log line, for the controller --------------------------------------------------------
+    void emitAppStateChanged();
+    void emitProjectChanged();
+    /// Cheap enough for every sample line: receivers coalesce their work to once per turn of the event loop.
+    void emitDataChanged();
+
+signals:
+    void appStateChanged();
+    void projectChanged();
+    void dataChanged();
+    void viewDataChanged();
+
+private:
+    using Channel = std::vector<std::unique_ptr<SampleList>>;
+
+    std::array<Channel, kNumSensors> m_channels;
+    Channel m_removed;
+    std::vector<QDateTime> m_timestamps;
+    quint64 m_structureRevision = 0;
+    std::array<double, kNumSensors> m_offsets{};
+    std::array<QColor, kNumSensors> m_colors;
+    std::array<int, kNumMarkers> m_markers{};
+    std::array<QString, kNumPhases> m_phaseNames;
+    std::array<QPixmap, kNumImages> m_images;
+    SensorDescription m_sensorDescription;
+    DeviceDescription m_deviceDescription;
+    ProjectData m_projectData;
+    QString m_comment;
+    QString m_hardwareVersion;
+    QString m_firmwareVersion;
+    QString m_currentFile;
+    QStringList m_fileList;
+    std::array<double, kNumSensors> m_osziMinimum{};
+    std::array<double, kNumSensors> m_osziMaximum{};
+    int m_mesotraType = 0;
+    int m_clock = 100;
+    bool m_markersAbsolute = false;
+    bool m_projectModified = false;
+    bool m_connected = false;
+    bool m_busy = false;
+    Yield m_yield;
+};

@@ -1,0 +1,138 @@
+#pragma once
+
+#include "model/sensordescription.h"
+#include "view/userprompts.h"
+
+#include <QMainWindow>
+
+#include <array>
+#include <memory>
+#include <optional>
+
+class Model;
+class QTabWidget;
+class QToolBar;
+class TabBlackBox;
+class TabDataLogger;
+class TabHome;
+class TabOszilloscope;
+class TabProject;
+class TabTerminal;
+class TabWebConfig;
+
+/// Actions whose state the controller sets.
+enum class Actions { Connect = 0, Disconnect = 1, Calibrate = 2, Recording = 3 };
+/// Look of an action; Disabled is the only state that cannot be triggered.
+enum class ActionState { Disabled = 0, Normal = 1, Active = 2, Alert = 3 };
+
+/// The main window: tool bar, tabs, and every question to the user. Turns user actions into signals that the
+/// controller handles, and redraws itself when the model reports changes.
+class View : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// Neither the model nor, if given, the prompts may be null; the model must outlive the view.
+    explicit View(Model *model, std::unique_ptr<UserPrompts> prompts = nullptr);
+    ~View() override;
+
+    [[nodiscard]] TabHome *tabHome() const;
+    [[nodiscard]] TabProject *tabProject() const;
+    [[nodiscard]] TabOszilloscope *tabOszi() const;
+    [[nodiscard]] TabWebConfig *tabWebConfig() const;
+    [[nodiscard]] TabDataLogger *tabLogger() const;
+    [[nodiscard]] TabTerminal *tabTerminal() const;
+    [[nodiscard]] TabBlackBox *tabBlackBox() const;
+    [[nodiscard]] QTabWidget *tabs() const;
+
+    // --- Questions and messages ---
+    [[nodiscard]] bool askToSave();
+    [[nodiscard]] bool askToQuit();
+    [[nodiscard]] QMessageBox::StandardButton askToSaveAndQuit();
+    [[nodiscard]] bool askYesNo(const QString &title, const QString &text);
+    /// "Achtung: Alle Messdaten werden gelöscht!" with "Abbrechen"; true to go on.
+    [[nodiscard]] bool askToClearData();
+    void showMessage(const QString &text, const QString &title);
+    void showWarning(const QString &text, const QString &title);
+    /// File dialogs start in the last folder and remember the one chosen. Empty: cancelled.
+    [[nodiscard]] QString askOpenFile(const QString &title, const QString &filter);
+    [[nodiscard]] QString askSaveFile(const QString &title, const QString &filter);
+    [[nodiscard]] std::optional<QString> askAddress(const QString &current);
+
+    // --- State shown ---
+    void setActionState(Actions action, ActionState state);
+    void setTabEnabled(int tab, bool enabled);
+    void setConnected(bool connected);
+    void setRecordingRunning(bool running);
+    /// Tabs and actions as for an empty project.
+    void reset();
+    /// The connection's progress dialog: centred on the window, 100 pixels high, half the window's width. Not modal
+    /// to the event loop; while it is shown the connect action cancels.
+    void showProgress(const QString &text);
+    void hideProgress();
+    [[nodiscard]] bool isProgressShown() const;
+    /// Shown in the status bar for the time given, 0: until replaced.
+    void showStatus(const QString &text, int milliseconds = 10000);
+    /// Adds a widget at the right of the status bar (the controller's progress bar); not owned afterwards by the view.
+    void addStatusWidget(QWidget *widget);
+    void setDeviceAddress(const QString &address);
+    void writeSettings();
+
+    // --- Live text of terminal and data logger; both cheap enough for every line ---
+    void terminalReceived(const QString &line);
+    void terminalSent(const QString &line);
+    /// One sample line for the data-logger tab.
+    void logSample(double seconds, const std::array<double, kNumSensors> &values);
+
+signals:
+    void newProject();
+    void openProject();
+    void saveProject();
+    void saveProjectAs();
+    void importBlackBox();
+    void firmwareUpdate();
+    void connectDisconnect();
+    void calibrate();
+    void startStopRecording();
+    void quit();
+    void openImportBlackBoxData();
+    void saveOszi();
+    void saveCSV();
+    void saveTerminal();
+    void clearLogger();
+    void loggerHeadline();
+    /// The line as typed, without a line feed.
+    void terminalSend(const QString &line);
+    void terminalClear();
+    void about();
+    void clearMarkers();
+    void commentChanged();
+    void imageButtonClicked();
+    void imageLabelClicked();
+    void offsetChanged(double offset);
+
+public slots:
+    void updateView();
+    void onModel_appStateChanged();
+    void onModel_ProjectChanged();
+    void onModel_DataChanged();
+    void onModel_ViewDataChanged();
+    void resetCorrection();
+    void menu();
+    void buttonLockPressed();
+    void languageChanged();
+    void onTabSelected(int index);
+    void deleteImage0Confimed();
+    void deleteImage1Confimed();
+    void deleteImage2Confimed();
+    void deleteImage3Confimed();
+    void deleteImage4Confimed();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    struct Private;
+    std::unique_ptr<Private> d;
+};
