@@ -1,0 +1,3 @@
+#include "kit/logging.h"
+
+Q_LOGGING_CATEGORY(lcKit, "ventaro.kit")
