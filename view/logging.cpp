@@ -1,0 +1,3 @@
+#include "view/logging.h"
+
+Q_LOGGING_CATEGORY(lcView, "ventaro.view")
