@@ -4,6 +4,7 @@
 #include "model/projectdata.h"
 #include "model/samplelist.h"
 #include "model/sensordescription.h"
+#include "model/verticalmarkers.h"
 
 #include <QColor>
 #include <QDateTime>
@@ -31,7 +32,7 @@ class Model : public QObject
     Q_OBJECT
 
 public:
-    static constexpr int kNumMarkers = 4;
+    static constexpr int kNumMarkers = kNumVerticalMarkers;
     static constexpr int kNumPhases = 5;
     static constexpr int kNumImages = 5;
 
@@ -60,8 +61,10 @@ public:
     [[nodiscard]] double latestValue(int group, int sensor) const;
     [[nodiscard]] double minimumValue(int sensor, int measurement) const;
     [[nodiscard]] double maximumValue(int sensor, int measurement) const;
+    /// Refused while the model is busy, like clear() and deleteChannel().
     void clearData();
 
+    /// Not part of the project file. A null date-time for a measurement without one.
     [[nodiscard]] QDateTime timestamp(int measurement) const;
     void setTimestamp(int measurement, const QDateTime &timestamp);
 
@@ -73,12 +76,13 @@ public:
     void setColor(uint8_t sensor, const QColor &color);
     [[nodiscard]] QString phaseName(int phase) const;
     void setPhaseName(int phase, const QString &name);
-    /// Sample index of a marker; -1 for a bad index.
+    /// Sample index of a marker; -1 for a bad index. The four are in non-decreasing order.
     [[nodiscard]] int verticalMarker(int index) const;
+    /// A marker that passes its neighbours takes them along; see withMarkerAt() and withMarkerDistance().
     void setVerticalMarkerAbsolute(int index, int pos);
     void setVerticalMarkerRelative(int index, int pos);
     [[nodiscard]] bool markersAbsolute() const { return m_markersAbsolute; }
-    void setMarkersAbsolute(bool absolute);
+    void setMarkersAbsolute(bool absolute); ///< emits projectChanged()
     [[nodiscard]] double osziMinimum(int sensor) const;
     [[nodiscard]] double osziMaximum(int sensor) const;
     /// Part of the saved view; no change signal.
@@ -104,7 +108,7 @@ public:
     [[nodiscard]] int mesotraType() const { return m_mesotraType; }
     /// Sampling interval in milliseconds, 1 to kMaxClock.
     [[nodiscard]] int clock() const { return m_clock; }
-    void setClock(int milliseconds);
+    void setClock(int milliseconds); ///< takes the nearest value in range
     static constexpr int kMaxClock = 3600000;
 
     [[nodiscard]] QStringList fileList() const { return m_fileList; }
@@ -145,13 +149,26 @@ signals:
 private:
     using Channel = std::vector<std::unique_ptr<SampleList>>;
 
+    // The log lines of these name the caller.
+    void announceProjectChanged(const char *function);
+    void announceDataChanged(const char *function);
+    [[nodiscard]] bool refusesWhileBusy(const char *function) const;
+    [[nodiscard]] bool hasMeasurement(int sensor, int measurement, const char *function) const;
+    [[nodiscard]] int measurementCount() const;
+
+    void resetColors();
+    void resetPhaseNames();
+    void resetSensorDescription();
+    void clearImages();
+
     std::array<Channel, kNumSensors> m_channels;
     Channel m_removed;
     std::vector<QDateTime> m_timestamps;
     quint64 m_structureRevision = 0;
+    quint64 m_changes = 0; // counts what makes a project file that is being written out of date
     std::array<double, kNumSensors> m_offsets{};
     std::array<QColor, kNumSensors> m_colors;
-    std::array<int, kNumMarkers> m_markers{};
+    VerticalMarkers m_markers{};
     std::array<QString, kNumPhases> m_phaseNames;
     std::array<QPixmap, kNumImages> m_images;
     SensorDescription m_sensorDescription;

@@ -52,6 +52,10 @@ private:
         QColor color;
     };
 
+    // nullptr, and a log line that names the caller, for an index outside the group.
+    [[nodiscard]] const Sensor *find(int i, const char *function) const;
+    [[nodiscard]] Sensor *find(int i, const char *function);
+
     QString m_name;
     QVector<Sensor> m_sensors;
 };

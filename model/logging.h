@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QLoggingCategory>
+
+/// Debug output of this folder: "ventaro.model".
+Q_DECLARE_LOGGING_CATEGORY(lcModel)
