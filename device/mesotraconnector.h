@@ -3,22 +3,31 @@
 #include <QAbstractSocket>
 #include <QObject>
 #include <QString>
+#include <QVector>
 
 class QTcpSocket;
 
 /// The program's only channel to the measuring box: sends text commands over TCP and cuts what arrives into lines.
 /// Works asynchronously but for the wait of up to 100 ms for the bytes of each command to be written.
+///
+/// The signals about the link are emitted from the event loop or from connect() and disconnectFromHost(), never from
+/// within the socket, so that a slot may do anything: open a dialog, connect anew, even delete the connector. While a
+/// slot of messageReceived() runs an event loop of its own, further lines wait; their order never changes.
 class MesotraConnector : public QObject
 {
     Q_OBJECT
 
 public:
     static constexpr quint16 kDefaultPort = 2222;
+    /// As much may arrive without a line feed before the connection is dropped, in bytes.
+    static constexpr qint64 kMaxUnterminated = 1024 * 1024;
 
     explicit MesotraConnector(quint16 port = kDefaultPort);
     ~MesotraConnector() override;
 
+    /// Drops any earlier connection, with its undelivered lines, and returns at once; connected() or error() follows.
     void connect(const QString &address);
+    /// Waits up to 100 ms for pending bytes. Lines not delivered yet are dropped.
     void disconnectFromHost();
     [[nodiscard]] bool isConnected() const { return m_connected; }
     [[nodiscard]] QString hostAddress() const { return m_hostAddress; }
@@ -37,24 +46,48 @@ public:
 
 signals:
     void connected();
+    /// After the last complete line that came over the link.
     void disconnected();
-    /// One line with its line feed, every byte one character (Latin-1), 2 to 1023 characters.
+    /// One line with its line feed, every byte one character (Latin-1), 2 to 1023 characters. A longer line comes as
+    /// several messages.
     void messageReceived(const QString &message);
+    /// UnknownSocketError if the connector itself dropped the link because no line feed came.
     void error(QAbstractSocket::SocketError socketError);
     /// Text that went out to the box, for the terminal.
     void written(const QString &text);
 
 public slots:
+    /// Delivers the complete lines that have arrived, for about 10 ms; the rest follows from the event loop.
     void tcpSocketListener();
     void tcpSocketError(QAbstractSocket::SocketError socketError);
     void onConnected();
     void onDisconnected();
 
 private:
+    /// What the socket reported and the connector has not passed on yet.
+    struct Pending
+    {
+        bool connected = false;
+        bool disconnected = false;
+        QVector<QAbstractSocket::SocketError> errors;
+    };
+
+    void createSocket();
     void sendCommand(const QString &command);
+    void waitForWritten();
+    void dropLink();
+    void schedule();
+    void processPending();
+    void processEndOfLink();
+    void deliverLine();
+    void dropEndlessLine();
 
     QTcpSocket *m_socket = nullptr;
     QString m_hostAddress;
+    Pending m_pending;
+    quint64 m_link = 0; ///< changes with every connection attempt and every drop
     quint16 m_port;
     bool m_connected = false;
+    bool m_scheduled = false;
+    bool m_delivering = false;
 };
