@@ -1,0 +1,33 @@
+#!/bin/bash
+# Renders the pictures of resources/icons/ from the drawings in resources/svg/, each in two sizes (name.png and
+# name@2x.png). The result is committed, so this runs only when a drawing changes. Needs rsvg-convert and Roboto.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+drawings=resources/svg
+pictures=resources/icons
+
+# render DRAWING NAME WIDTH [COLOUR]
+render() {
+    local colour_sheet
+    colour_sheet=$(mktemp)
+    echo "${4:+path { fill: $4 \}}" >"$colour_sheet"
+    rsvg-convert --width "$3" --keep-aspect-ratio --stylesheet "$colour_sheet" "$1" -o "$pictures/$2.png"
+    rsvg-convert --width "$(($3 * 2))" --keep-aspect-ratio --stylesheet "$colour_sheet" "$1" -o "$pictures/$2@2x.png"
+    rm -f "$colour_sheet"
+}
+
+# Icons are black on transparent; whoever shows one tints it.
+for drawing in "$drawings"/icons/*.svg; do
+    render "$drawing" "$(basename "$drawing" .svg)" 48 "#000000"
+done
+
+# The arrows of the spin boxes are shown by the style sheet, which cannot tint.
+for direction in up down; do
+    render "$drawings/arrows/$direction.svg" "$direction" 30 "#555555"
+    render "$drawings/arrows/$direction.svg" "$direction-disabled" 30 "#CCCCCC"
+done
+
+render "$drawings/ventaro.svg" ventaro 128
+render "$drawings/logo-mini.svg" Ventaro-logo-mini 232
+render "$drawings/splash.svg" Splashscreen-2 1200
