@@ -1,0 +1,21 @@
+#include "app/session.h"
+#include "app/startup.h"
+#include "app/theme.h"
+
+#include <QApplication>
+
+int main(int argc, char *argv[])
+{
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication application(argc, argv);
+    prepareApplication(application);
+    if (!checkCopyProtection())
+        return 0;
+
+    SessionOptions options;
+    options.arguments = QApplication::arguments();
+    options.deviceAddress = theme::deviceAddress();
+    options.connectAtOnce = qEnvironmentVariableIntValue("VENTARO_AUTOCONNECT") == 1;
+    return runSession(application, options);
+}

@@ -1,0 +1,31 @@
+#include "app/session.h"
+
+#include "app/logging.h"
+#include "controller/controller.h"
+#include "model/model.h"
+#include "view/view.h"
+
+#include <QApplication>
+#include <QSplashScreen>
+#include <QTimer>
+
+int runSession(QApplication &application, const SessionOptions &options)
+{
+    QSplashScreen splash;
+    showSplash(splash, options.splashTime);
+
+    Model model(projectPath(options.arguments));
+    View view(&model);
+    ControllerOptions controllerOptions;
+    controllerOptions.deviceAddress = options.deviceAddress;
+    const Controller controller(&model, &view, controllerOptions);
+
+    // Closing the window is only a wish; whether the program ends is decided where unsaved data is asked about.
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    view.show();
+    if (options.connectAtOnce)
+        QTimer::singleShot(0, &view, &View::connectDisconnect);
+    const int result = application.exec();
+    qCDebug(lcApp) << "event loop returned" << result;
+    return 0;
+}

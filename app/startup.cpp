@@ -1,0 +1,109 @@
+#include "app/startup.h"
+
+#include "app/logging.h"
+#include "app/machinelicence.h"
+#include "app/stylesheets.h"
+#include "app/theme.h"
+#include "kit/qtmaterialpalette.h"
+#include "kit/qtmaterialstyle.h"
+#include "kit/qtmaterialtheme.h"
+
+#include <QApplication>
+#include <QFontDatabase>
+#include <QIcon>
+#include <QLibraryInfo>
+#include <QMessageBox>
+#include <QPixmap>
+#include <QSplashScreen>
+#include <QStyleFactory>
+#include <QSysInfo>
+#include <QThread>
+#include <QTranslator>
+
+#include <memory>
+
+namespace {
+
+constexpr int kSplashWidth = 1200;
+
+/// The program is written in German; Qt's file dialogs and standard buttons need a translation for that.
+void installGermanQtTexts(QApplication &application)
+{
+    auto *translator = new QTranslator(&application);
+    if (translator->load(QStringLiteral("qtbase_de"), QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(translator);
+    else
+        qCDebug(lcApp) << "no German texts for Qt's own dialogs";
+}
+
+} // namespace
+
+void loadFonts()
+{
+    for (const char *name : {"Roboto-Regular.ttf", "Roboto-Medium.ttf", "Roboto-Bold.ttf"}) {
+        if (QFontDatabase::addApplicationFont(QStringLiteral(":/fonts/") + QLatin1String(name)) == -1)
+            qCDebug(lcApp).noquote().nospace() << "Font file '" << name << "' could not be loaded!";
+    }
+}
+
+void installKitTheme()
+{
+    using namespace QtMaterialPalette;
+    auto kitTheme = std::make_unique<QtMaterialTheme>();
+    kitTheme->setColor(QStringLiteral("primary1"), theme::qColorPrimary);
+    kitTheme->setColor(QStringLiteral("primary2"), cyan700());
+    kitTheme->setColor(QStringLiteral("primary3"), lightBlack());
+    kitTheme->setColor(QStringLiteral("accent1"), theme::qColorPrimary);
+    kitTheme->setColor(QStringLiteral("accent2"), grey100());
+    kitTheme->setColor(QStringLiteral("accent3"), grey500());
+    kitTheme->setColor(QStringLiteral("text"), theme::qColorPrimary);
+    kitTheme->setColor(QStringLiteral("alternateText"), white());
+    kitTheme->setColor(QStringLiteral("canvas"), theme::qColorBackground);
+    kitTheme->setColor(QStringLiteral("border"), grey300());
+    kitTheme->setColor(QStringLiteral("disabled"), minBlack());
+    kitTheme->setColor(QStringLiteral("disabled2"), faintBlack());
+    kitTheme->setColor(QStringLiteral("disabled3"), grey300());
+    QtMaterialStyle::instance().setTheme(std::move(kitTheme));
+}
+
+void prepareApplication(QApplication &application)
+{
+    loadFonts();
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    application.setStyleSheet(theme::styleApplication);
+    installKitTheme();
+    installGermanQtTexts(application);
+    QApplication::setWindowIcon(QIcon(theme::iconPrefix + QStringLiteral("ventaro.png")));
+}
+
+void showSplash(QSplashScreen &splash, std::chrono::milliseconds time)
+{
+    const QPixmap picture(theme::splashPath);
+    if (!picture.isNull()) { // the width counts device pixels, of which a fine screen's picture has more
+        splash.setPixmap(
+            picture.scaledToWidth(qRound(kSplashWidth * picture.devicePixelRatio()), Qt::FastTransformation));
+    }
+    splash.setWindowFlags(splash.windowFlags() | Qt::WindowStaysOnTopHint);
+    splash.show();
+    QCoreApplication::processEvents();
+    QThread::msleep(static_cast<unsigned long>(time.count()));
+    splash.close();
+}
+
+QString projectPath(const QStringList &arguments)
+{
+    return arguments.size() == 2 ? arguments.at(1) : QString();
+}
+
+bool checkCopyProtection()
+{
+    const QByteArray machineId = QSysInfo::machineUniqueId();
+    if (isMachineLicensed(machineId, licensedMachines()))
+        return true;
+    qCDebug(lcApp) << "ERROR: machine not licensed!";
+    const QString text =
+        QCoreApplication::translate("Startup", "Ventaro ist für diesen Rechner nicht freigeschaltet.\n\n"
+                                               "Kennung dieses Rechners:\n%1");
+    QMessageBox::critical(nullptr, theme::applicationName, text.arg(machineHash(machineId)));
+    return false;
+}
