@@ -25,7 +25,8 @@ inline const QString styleMenu =
     + QStringLiteral(";font: 24px;min-height:35px;}QMenu::icon:selected {background-color: green;}");
 
 inline const QString styleTabWidget =
-    QStringLiteral("QTabWidget {border: 2px solid red;background-color: red;}QTabBar::tab {background-color: ")
+    QStringLiteral("QTabWidget {border: 2px solid red;background-color: red;}"
+                   "QTabBar {font: bold 24px;}QTabBar::tab {background-color: ")
     + colorLight
     + QStringLiteral(";border-left: 7px solid ") + colorDark
     + QStringLiteral(";border-bottom: 1px solid ") + colorMedium
@@ -108,10 +109,16 @@ inline const QString styleMain =
     + QStringLiteral(";    border: 1px solid ") + colorBorder
     + QStringLiteral(";min-height:30px;}"
                      "QScrollBar {border: 1px solid #CCC;min-height: 30px;}"
-                     "QScrollBar::left-arrow {width: 30px;height: 30px;subcontrol-origin: border;"
+                     "QScrollBar:horizontal {padding: 0px 30px;}"
+                     "QScrollBar::handle {background-color: ") + colorMedium
+    + QStringLiteral(";border-radius: 3px;min-width: 30px;min-height: 30px;}"
+                     "QScrollBar::sub-line:horizontal {width: 30px;height: 30px;subcontrol-origin: border;"
                      "subcontrol-position: left;}"
-                     "QScrollBar::right-arrow {width: 30px;height: 30px;subcontrol-origin: border;"
+                     "QScrollBar::add-line:horizontal {width: 30px;height: 30px;subcontrol-origin: border;"
                      "subcontrol-position: right;}"
+                     "QScrollBar::left-arrow {width: 30px;height: 30px;image: url(:/icons/left.png);}"
+                     "QScrollBar::right-arrow {width: 30px;height: 30px;image: url(:/icons/right.png);}"
+                     "QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical {height: 0px;}"
                      "QComboBox { min-height:25px;min-width:25px;padding: 2px;}"
                      "QCheckBox {background-color: ") + colorBackground
     + QStringLiteral(";min-height: 25px;min-width: 25px;padding: 2px;}"
@@ -121,7 +128,10 @@ inline const QString styleMain =
                      "QMessageBox {background-color: ") + colorPrimary
     + QStringLiteral(";font-size: 32px;color: white;min-width: 800px;min-height: 600px;padding: 10px;}"
                      "QMessageBox QLabel {font-size: 24px;color: white;min-width: 600px;min-height: 200px;}"
-                     "QMessageBox QPushButton {font-size: 24px;color: white;min-width: 100px;min-height: 50px;}"
+                     "QMessageBox QLabel#qt_msgboxex_icon_label {min-width: 0px;min-height: 0px;}"
+                     "QMessageBox QPushButton {font-size: 24px;color: white;min-width: 100px;min-height: 50px;"
+                     "border: 1px solid white;padding: 0px 10px;}"
+                     "QMessageBox QPushButton:focus {border: 3px solid white;}"
                      "QHeaderView::section {    background-color: ") + colorPrimary
     + QStringLiteral(";    color: white;    padding-left: 4px;    padding-right: 4px;    border: 1px solid ")
     + colorBorder

@@ -22,10 +22,13 @@ for drawing in "$drawings"/icons/*.svg; do
     render "$drawing" "$(basename "$drawing" .svg)" 48 "#000000"
 done
 
-# The arrows of the spin boxes are shown by the style sheet, which cannot tint.
+# The arrows of spin boxes and scroll bars are shown by the style sheet, which cannot tint.
 for direction in up down; do
     render "$drawings/arrows/$direction.svg" "$direction" 30 "#555555"
     render "$drawings/arrows/$direction.svg" "$direction-disabled" 30 "#CCCCCC"
+done
+for direction in left right; do
+    render "$drawings/arrows/$direction.svg" "$direction" 30 "#555555"
 done
 
 render "$drawings/ventaro.svg" ventaro 128
