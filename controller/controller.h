@@ -4,22 +4,30 @@
 #include <QObject>
 #include <QString>
 
+#include <functional>
 #include <memory>
 
 class MesotraConnector;
 class Model;
 class View;
+struct ReceivedProject;
 
 /// What the controller takes from outside, so that a test need not wait or use the real port.
 struct ControllerOptions
 {
-    QString deviceAddress;
+    QString deviceAddress; ///< connected to first; empty: the user is asked
     quint16 port = 2222;
     int deviceDescriptionTimeout = 500; ///< ms
     int sensorDescriptionTimeout = 700; ///< ms
 };
 
-/// Joins the user's actions, the device link and the data. Created last, deleted first.
+/// Joins the user's actions, the device link and the data. Created last, deleted first; the model and the view must
+/// outlive it.
+///
+/// One question at a time: a question or error that the box causes waits until no other dialog is up and no file is
+/// being read or written. While such a question is up, or a file is being read or written, the lines of the box wait
+/// in order in the socket and are handled afterwards. Dialogs that the user opens do not hold up the samples. What
+/// the user asks for while a dialog is up or a file is being read or written is refused with a status message.
 class Controller : public QObject
 {
     Q_OBJECT
@@ -28,7 +36,13 @@ public:
     Controller(Model *model, View *view, const ControllerOptions &options = {});
     ~Controller() override;
 
+    /// True from the box's echo of the start to its echo of the stop, or to the end of the link.
     [[nodiscard]] bool isRecordingRunning() const;
+    /// The measurement of a sensor position (0 to 4) that receives the samples; -1 for none.
+    [[nodiscard]] int seriesIndex(int position) const;
+    /// True while sample values are taken as thousandths because the box did not describe its sensors.
+    [[nodiscard]] bool areValuesInThousandths() const;
+    /// Owned by the controller.
     [[nodiscard]] MesotraConnector *connector() const;
 
 public slots:
@@ -42,14 +56,17 @@ public slots:
     void onActionCalibration();
     void onActionStartStopRecording();
     void onActionQuit();
+    void onActionAbout();
     void onTabProject_projectDataChanged();
     void onTabProject_clearDataClicked();
     void onTabProject_onPhaseEditChanged(int phase, const QString &name);
+    void onTabProject_commentChanged();
     void onTabOszi_deleteMeasurements(const QString &range);
     void onTabOszi_markerChangedAbsolute(int index, int pos_ms);
     void onTabOszi_markerChangedRelative(int index, int pos_ms);
     void onTabOszi_checkBoxMarkerAbsClicked(bool absolute);
     void onTabBlackBox_listClicked();
+    void onTerminalSend(const QString &line);
     void onMessageReceived(const QString &message);
     void handleValueMessage(const QString &message);
     void handleDeviceDescription(const QString &message);
@@ -61,6 +78,49 @@ public slots:
     void onTimerWaitForSensorDescription_timeout();
 
 private:
+    void connectUserActions();
+    void connectTabs();
+    void connectDevice();
+    void hideUnavailableActions();
+    void showFileProgress(int percent);
+    [[nodiscard]] bool isOccupied() const;
+    [[nodiscard]] bool refuseWhileOccupied();
+
+    void dispatch(const QString &message);
+    void handleClockEcho(const QString &message);
+    void handleListLine(const QString &message);
+    void finishList();
+    [[nodiscard]] bool areLinesHeld() const;
+    void resumeLines();
+    void dispatchHeldLine();
+    void askAboutReceivedProject();
+    void applyReceivedProject(const ReceivedProject &received);
+    void handleDeferred();
+
+    void startRecording();
+    void stopRecording();
+    void beginMeasurement();
+    void markModified();
+    void calibrateFromLatestValues();
+    [[nodiscard]] bool deleteRange(const QString &range);
+    [[nodiscard]] int deleteMeasurements(qint64 first, qint64 count);
+    void finishDeletion(bool complete, const QString &range);
+    void setMarker(int index, int pos_ms, bool absolute);
+
+    void connectTo(const QString &address, const QString &progressText);
+    void cancelConnecting();
+    void leaveDevice();
+    void reportConnectionError(QAbstractSocket::SocketError error);
+    void offerReconnect();
+
+    [[nodiscard]] bool saveUnsavedChanges();
+    [[nodiscard]] bool saveTo(const QString &fileName);
+    [[nodiscard]] bool confirmQuit();
+    void openFile(const QString &fileName);
+    void showDeviceState();
+    [[nodiscard]] QString askProjectFileToSave();
+    void applyEdit(const std::function<void()> &edit);
+
     struct Private;
     std::unique_ptr<Private> d;
 };

@@ -168,6 +168,13 @@ bool MesotraConnector::reboot()
     return true;
 }
 
+void MesotraConnector::setPaused(bool paused)
+{
+    m_paused = paused;
+    if (!paused)
+        schedule();
+}
+
 void MesotraConnector::schedule()
 {
     if (std::exchange(m_scheduled, true))
@@ -184,6 +191,8 @@ void MesotraConnector::schedule()
 // Passes on what the socket reported, in the order in which it happened on the wire.
 void MesotraConnector::processPending()
 {
+    if (m_paused)
+        return; // looked at again when that ends
     if (m_delivering)
         return; // inside an event loop of a slot; the outer call goes on when that slot returns
     const QPointer<MesotraConnector> self(this);
@@ -192,7 +201,7 @@ void MesotraConnector::processPending()
         onConnected();
     if (self && m_link == link)
         tcpSocketListener();
-    if (self && m_link == link && !m_delivering && !m_socket->canReadLine())
+    if (self && m_link == link && !m_delivering && !m_paused && !m_socket->canReadLine())
         processEndOfLink();
 }
 
@@ -215,19 +224,21 @@ void MesotraConnector::processEndOfLink()
 
 void MesotraConnector::tcpSocketListener()
 {
-    if (m_delivering)
+    if (m_delivering || m_paused)
         return;
     const QPointer<MesotraConnector> self(this);
     const quint64 link = m_link;
     QElapsedTimer slice;
     slice.start();
     m_delivering = true;
-    while (m_link == link && m_socket->canReadLine() && slice.elapsed() < kDeliverySlice) {
+    while (m_link == link && !m_paused && m_socket->canReadLine() && slice.elapsed() < kDeliverySlice) {
         deliverLine();
         if (!self)
             return;
     }
     m_delivering = false;
+    if (m_paused)
+        return;
     if (m_socket->canReadLine() || m_pending.connected || m_pending.disconnected || !m_pending.errors.isEmpty())
         schedule();
     else if (m_socket->bytesAvailable() >= kMaxUnterminated)

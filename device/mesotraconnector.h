@@ -43,6 +43,9 @@ public:
     void setClock(const QString &label);
     /// False if not connected; otherwise true, whatever became of the bytes.
     bool reboot();
+    /// While paused, lines and the end of the link wait in the socket, whose buffer is bounded; then the box itself
+    /// has to wait. Nothing is lost and the order never changes.
+    void setPaused(bool paused);
 
 signals:
     void connected();
@@ -90,4 +93,5 @@ private:
     bool m_connected = false;
     bool m_scheduled = false;
     bool m_delivering = false;
+    bool m_paused = false;
 };

@@ -1,0 +1,182 @@
+#include "controller/controller.h"
+
+#include "app/theme.h"
+#include "controller/controller_p.h"
+#include "controller/logging.h"
+#include "model/model.h"
+#include "view/tabblackbox.h"
+#include "view/taboszilloscope.h"
+#include "view/tabproject.h"
+#include "view/view.h"
+
+#include <QAction>
+#include <QApplication>
+
+namespace {
+
+// How long the answer to a list request may take before the user may ask again.
+constexpr int kListTimeout = 5000;
+
+void makeSingleShot(QTimer &timer, int milliseconds)
+{
+    timer.setSingleShot(true);
+    timer.setInterval(milliseconds);
+}
+
+} // namespace
+
+Controller::Controller(Model *model, View *view, const ControllerOptions &options)
+    : d(std::make_unique<Private>(model, view, options))
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    makeSingleShot(d->deviceDescriptionTimer, options.deviceDescriptionTimeout);
+    makeSingleShot(d->sensorDescriptionTimer, options.sensorDescriptionTimeout);
+    makeSingleShot(d->listTimer, kListTimeout);
+    makeSingleShot(d->resumeTimer, 0);
+    makeSingleShot(d->deferredTimer, 0);
+
+    d->progressBar = new QProgressBar;
+    d->progressBar->hide();
+    d->view->addStatusWidget(d->progressBar);
+    d->model->setYield([this](int percent) { showFileProgress(percent); });
+
+    connectUserActions();
+    connectTabs();
+    connectDevice();
+    hideUnavailableActions();
+    d->view->setDeviceAddress(d->address);
+}
+
+Controller::~Controller()
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    d->model->setYield({});
+    // The socket's last signals must not find a controller that is half gone.
+    d->connector.disconnect(this);
+    delete d->progressBar;
+}
+
+void Controller::connectUserActions()
+{
+    QObject::connect(d->view, &View::newProject, this, &Controller::onNewProject);
+    QObject::connect(d->view, &View::openProject, this, &Controller::onOpenProject);
+    QObject::connect(d->view, &View::saveProject, this, &Controller::onSaveProject);
+    QObject::connect(d->view, &View::saveProjectAs, this, &Controller::onSaveProjectAs);
+    QObject::connect(d->view, &View::importBlackBox, this, &Controller::onImportBlackBox);
+    QObject::connect(d->view, &View::firmwareUpdate, this, &Controller::onFirmwareUpdate);
+    QObject::connect(d->view, &View::connectDisconnect, this, &Controller::onActionConnect);
+    QObject::connect(d->view, &View::calibrate, this, &Controller::onActionCalibration);
+    QObject::connect(d->view, &View::startStopRecording, this, &Controller::onActionStartStopRecording);
+    QObject::connect(d->view, &View::quit, this, &Controller::onActionQuit);
+}
+
+void Controller::connectTabs()
+{
+    const TabProject *project = d->view->tabProject();
+    QObject::connect(project, &TabProject::projectDataChanged, this, &Controller::onTabProject_projectDataChanged);
+    QObject::connect(project, &TabProject::clearDataClicked, this, &Controller::onTabProject_clearDataClicked);
+    QObject::connect(project, &TabProject::phaseEditChanged, this, &Controller::onTabProject_onPhaseEditChanged);
+    QObject::connect(project, &TabProject::commentChanged, this, &Controller::onTabProject_commentChanged);
+
+    const TabOszilloscope *oszi = d->view->tabOszi();
+    QObject::connect(oszi, &TabOszilloscope::deleteMeasurements, this, &Controller::onTabOszi_deleteMeasurements);
+    QObject::connect(oszi, &TabOszilloscope::markerChangedAbsolute, this, &Controller::onTabOszi_markerChangedAbsolute);
+    QObject::connect(oszi, &TabOszilloscope::markerChangedRelative, this, &Controller::onTabOszi_markerChangedRelative);
+    QObject::connect(oszi, &TabOszilloscope::checkBoxMarkerAbsClicked, this,
+                     &Controller::onTabOszi_checkBoxMarkerAbsClicked);
+
+    QObject::connect(d->view->tabBlackBox(), &TabBlackBox::listRequested, this, &Controller::onTabBlackBox_listClicked);
+    QObject::connect(d->view, &View::terminalSend, this, &Controller::onTerminalSend);
+    QObject::connect(d->view, &View::about, this, &Controller::onActionAbout);
+}
+
+void Controller::connectDevice()
+{
+    MesotraConnector *connector = &d->connector;
+    QObject::connect(connector, &MesotraConnector::connected, this, &Controller::onConnected);
+    QObject::connect(connector, &MesotraConnector::disconnected, this, &Controller::onDisconnected);
+    QObject::connect(connector, &MesotraConnector::messageReceived, this, &Controller::onMessageReceived);
+    QObject::connect(connector, &MesotraConnector::written, d->view, &View::terminalSent);
+    QObject::connect(connector, &MesotraConnector::error, this, [this](QAbstractSocket::SocketError error) {
+        if (d->linkWanted)
+            connectionError(error);
+    });
+
+    QObject::connect(&d->deviceDescriptionTimer, &QTimer::timeout, this,
+                     &Controller::onTimerWaitForDeviceDescription_timeout);
+    QObject::connect(&d->sensorDescriptionTimer, &QTimer::timeout, this,
+                     &Controller::onTimerWaitForSensorDescription_timeout);
+    QObject::connect(&d->resumeTimer, &QTimer::timeout, this, &Controller::resumeLines);
+    QObject::connect(&d->deferredTimer, &QTimer::timeout, this, &Controller::handleDeferred);
+    QObject::connect(&d->listTimer, &QTimer::timeout, this,
+                     [this] { d->view->tabBlackBox()->setListButtonEnabled(true); });
+}
+
+void Controller::hideUnavailableActions()
+{
+    for (const char *name : {"actionOpenBlackBox", "actionImportBlackBox", "actionFirmwareUpdate"}) {
+        if (auto *action = d->view->findChild<QAction *>(QLatin1String(name)))
+            action->setVisible(false);
+    }
+}
+
+bool Controller::isRecordingRunning() const
+{
+    return d->recordingRunning;
+}
+
+int Controller::seriesIndex(int position) const
+{
+    return d->series.index(position);
+}
+
+bool Controller::areValuesInThousandths() const
+{
+    return d->valuesInThousandths;
+}
+
+MesotraConnector *Controller::connector() const
+{
+    return &d->connector;
+}
+
+void Controller::showFileProgress(int percent)
+{
+    d->progressBar->setValue(percent);
+    QCoreApplication::processEvents();
+}
+
+bool Controller::isOccupied() const
+{
+    return d->openPrompts > 0 || d->model->isBusy();
+}
+
+bool Controller::refuseWhileOccupied()
+{
+    if (!isOccupied())
+        return false;
+    qCDebug(lcController) << "refused: a dialog is open or a file is being read or written";
+    d->view->showStatus(tr("Bitte warten, bis der laufende Vorgang beendet ist."));
+    return true;
+}
+
+void Controller::onActionAbout()
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    if (refuseWhileOccupied())
+        return;
+    const QString text = tr("%1 %2\n\nHardware Version: %3\nFirmware Version: %4\nQt Version: %5")
+                             .arg(theme::applicationName, theme::applicationVersion, d->model->hardwareVersion(),
+                                  d->model->firmwareVersion(), QString::fromLatin1(qVersion()));
+    d->prompt([&] { d->view->showMessage(text, tr("Über Ventaro")); });
+}
+
+void Controller::onImportBlackBox()
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+}
+
+void Controller::onFirmwareUpdate()
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+}

@@ -1,0 +1,157 @@
+#include "controller/controller.h"
+#include "controller/controller_p.h"
+#include "controller/logging.h"
+#include "device/hostaddress.h"
+#include "model/model.h"
+#include "view/tabblackbox.h"
+#include "view/view.h"
+
+#include <QApplication>
+
+// --- The user connects and disconnects -------------------------------------------------------------------------
+
+void Controller::onActionConnect()
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    if (refuseWhileOccupied())
+        return;
+    if (d->connector.isConnected()) {
+        qCDebug(lcController) << " isConnected -> disconnect!";
+        d->connector.stopMeasurement();
+        stopRecording();
+        leaveDevice();
+    } else if (d->view->isProgressShown()) {
+        cancelConnecting();
+    } else if (d->address.isEmpty()) {
+        offerReconnect();
+    } else {
+        qCDebug(lcController) << " not connected -> connect!";
+        connectTo(d->address, tr("Verbinden ..."));
+    }
+}
+
+void Controller::connectTo(const QString &address, const QString &progressText)
+{
+    d->linkWanted = true;
+    d->deferredError.reset();
+    d->view->setDeviceAddress(address);
+    d->view->showProgress(progressText);
+    d->connector.connect(address);
+}
+
+void Controller::cancelConnecting()
+{
+    leaveDevice();
+    d->view->hideProgress();
+    d->view->showStatus(tr("Verbindungsaufbau abgebrochen."));
+}
+
+void Controller::leaveDevice()
+{
+    d->linkWanted = false;
+    d->deferredError.reset();
+    d->connector.disconnectFromHost();
+}
+
+// --- What the link reports -------------------------------------------------------------------------------------
+
+void Controller::onConnected()
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    d->view->hideProgress();
+    d->deferredError.reset();
+    d->model->blockSignals(false);
+    d->model->setConnected(true);
+    d->model->emitAppStateChanged();
+    d->connector.setClock(QStringLiteral("100ms"));
+    if (d->model->clock() != 100)
+        markModified();
+    d->model->setClock(100);
+    qCDebug(lcController) << "starting DeviceDescription timer";
+    d->deviceDescriptionTimer.start();
+    d->connector.requestDeviceDescription();
+    qCDebug(lcController) << "starting SensorDescription timer";
+    d->sensorDescriptionTimer.start();
+    d->connector.requestSensorDescription();
+}
+
+void Controller::onDisconnected()
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    while (!d->heldLines.empty()) // what the box sent before comes first
+        dispatchHeldLine();
+    d->deviceDescriptionTimer.stop();
+    d->sensorDescriptionTimer.stop();
+    d->listActive = false;
+    d->listBlock.clear();
+    d->view->tabBlackBox()->setListButtonEnabled(true);
+    const bool wasConnected = d->model->isConnected();
+    const bool wasRecording = d->recordingRunning;
+    d->model->setConnected(false);
+    d->recordingRunning = false;
+    if (wasRecording)
+        d->model->endRecording();
+    d->model->blockSignals(false);
+    d->model->emitAppStateChanged();
+    d->view->setRecordingRunning(false);
+    if (wasConnected)
+        d->view->showStatus(wasRecording ? tr("Verbindung getrennt, Aufnahme beendet. Alle Daten sind erhalten.")
+                                         : tr("Verbindung getrennt."));
+}
+
+void Controller::onTimerWaitForDeviceDescription_timeout()
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+}
+
+void Controller::onTimerWaitForSensorDescription_timeout()
+{
+    qCDebug(lcController) << Q_FUNC_INFO << "valuesInThousandths=" << true;
+    d->valuesInThousandths = true;
+}
+
+// --- Errors ----------------------------------------------------------------------------------------------------
+
+void Controller::connectionError(QAbstractSocket::SocketError error)
+{
+    qCDebug(lcController) << Q_FUNC_INFO << error;
+    d->view->hideProgress();
+    if (isOccupied() || QApplication::activeModalWidget()) {
+        d->deferredError = error; // one dialog at a time
+        d->deferredTimer.start(0);
+        return;
+    }
+    d->deferredError.reset();
+    reportConnectionError(error);
+    offerReconnect();
+}
+
+void Controller::reportConnectionError(QAbstractSocket::SocketError error)
+{
+    QString text;
+    if (error == QAbstractSocket::RemoteHostClosedError)
+        text = tr("Die Mesotra Hardware ist nicht mehr erreichbar.");
+    else if (error == QAbstractSocket::HostNotFoundError)
+        text = tr("Die Mesotra Hardware wurde nicht gefunden! Bitte IP-Adresse überprüfen!");
+    else if (error == QAbstractSocket::ConnectionRefusedError)
+        text = tr("Die Verbindung wurde abgelehnt!\n(Die IP-Adresse wurde jedoch gefunden.)");
+    else
+        return;
+    d->prompt([&] { d->view->showMessage(text, tr("Netzwerk Fehler")); });
+}
+
+void Controller::offerReconnect()
+{
+    const std::optional<QString> address = d->prompt([this] { return d->view->askAddress(d->address); });
+    if (!address) {
+        qCDebug(lcController) << "dialog rejected";
+        d->linkWanted = false;
+        return;
+    }
+    if (!isValidHostAddress(*address)) {
+        d->view->showStatus(tr("Keine gültige Adresse: %1").arg(*address));
+        return;
+    }
+    d->address = *address;
+    connectTo(*address, tr("Verbinden mit %1 ...").arg(*address));
+}

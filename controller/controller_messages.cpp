@@ -1,0 +1,211 @@
+#include "controller/controller.h"
+#include "controller/controller_p.h"
+#include "controller/logging.h"
+#include "model/model.h"
+#include "view/tabblackbox.h"
+#include "view/taboszilloscope.h"
+#include "view/view.h"
+
+#include <QApplication>
+
+namespace {
+
+// How often to look whether something that makes lines or questions wait is over.
+constexpr int kRetryInterval = 20;
+// A list block that never ends must not fill the memory.
+constexpr int kMaxListEntries = 100000;
+
+} // namespace
+
+// --- Lines in order --------------------------------------------------------------------------------------------
+
+bool Controller::areLinesHeld() const
+{
+    return d->holds > 0 || d->model->isBusy();
+}
+
+void Controller::onMessageReceived(const QString &message)
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    if (areLinesHeld() || d->dispatching || !d->heldLines.empty()) {
+        d->heldLines.push_back(message);
+        d->connector.setPaused(true);
+        if (!d->resumeTimer.isActive())
+            d->resumeTimer.start(kRetryInterval);
+        return;
+    }
+    dispatch(message);
+}
+
+void Controller::resumeLines()
+{
+    while (!areLinesHeld() && !d->heldLines.empty())
+        dispatchHeldLine();
+    if (areLinesHeld())
+        d->resumeTimer.start(kRetryInterval);
+    else
+        d->connector.setPaused(false);
+}
+
+void Controller::dispatchHeldLine()
+{
+    const QString message = d->heldLines.front();
+    d->heldLines.pop_front();
+    dispatch(message);
+}
+
+void Controller::dispatch(const QString &message)
+{
+    d->dispatching = true;
+    d->view->terminalReceived(message);
+    switch (classify(message)) {
+    case MessageKind::Sample:
+        handleValueMessage(message);
+        break;
+    case MessageKind::RunStarted:
+        qCDebug(lcController) << "received 'run=1'";
+        startRecording();
+        break;
+    case MessageKind::RunStopped:
+        stopRecording();
+        break;
+    case MessageKind::ClockEcho:
+        handleClockEcho(message);
+        break;
+    case MessageKind::DeviceDescription:
+        d->deviceDescriptionTimer.stop();
+        handleDeviceDescription(message);
+        break;
+    case MessageKind::SensorDescription:
+        d->sensorDescriptionTimer.stop();
+        handleSensorDescription(message);
+        break;
+    case MessageKind::ListBegin:
+        d->listActive = true;
+        break;
+    case MessageKind::ListEnd:
+        finishList();
+        break;
+    case MessageKind::Other:
+        handleListLine(message);
+        break;
+    }
+    d->dispatching = false;
+}
+
+// --- Single messages -------------------------------------------------------------------------------------------
+
+void Controller::handleClockEcho(const QString &message)
+{
+    const std::optional<int> clock = parseClockEcho(message);
+    if (!clock || *clock < 1 || *clock > Model::kMaxClock) {
+        qCDebug(lcController) << "ERROR";
+        return;
+    }
+    d->model->blockSignals(false);
+    if (*clock != d->model->clock())
+        markModified();
+    d->model->setClock(*clock);
+    d->view->tabOszi()->setClock(*clock, *clock * 100);
+}
+
+void Controller::handleListLine(const QString &message)
+{
+    if (!d->listActive || isDirectoryItself(message))
+        return;
+    if (d->listBlock.size() < kMaxListEntries)
+        d->listBlock.append(message.simplified());
+    else
+        qCDebug(lcController) << "ERROR: list too long!";
+}
+
+void Controller::finishList()
+{
+    TabBlackBox *tab = d->view->tabBlackBox();
+    tab->setList(d->listBlock);
+    d->listBlock.clear();
+    d->listTimer.stop();
+    tab->setListButtonEnabled(true);
+    d->listActive = false;
+}
+
+void Controller::handleSensorDescription(const QString &message)
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    d->valuesInThousandths = false;
+    SensorDescription description = d->model->sensorDescription();
+    applySensorDescription(parseSensorDescription(message), description);
+    d->model->blockSignals(false);
+    d->model->setSensorDescription(description);
+    qCDebug(lcController) << "emit Model::projectChanged()";
+    d->model->emitProjectChanged();
+}
+
+void Controller::handleDeviceDescription(const QString &message)
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    d->model->setDeviceDescription(parseDeviceDescription(message));
+    const std::optional<ReceivedProject> received = parseProjectDescription(message);
+    if (!received)
+        return;
+    qCDebug(lcController) << "Received projectData:" << received->data;
+    // Asked from the event loop, about the newest only: a box that describes its project again and again asks once.
+    d->receivedProject = received;
+    if (!d->deferredTimer.isActive())
+        d->deferredTimer.start(0);
+}
+
+// --- Questions that the box causes -----------------------------------------------------------------------------
+
+void Controller::handleDeferred()
+{
+    if (!d->deferredError && !d->receivedProject)
+        return;
+    if (isOccupied() || QApplication::activeModalWidget()) {
+        d->deferredTimer.start(kRetryInterval);
+        return;
+    }
+    if (d->deferredError)
+        connectionError(*d->deferredError);
+    else
+        askAboutReceivedProject();
+    d->deferredTimer.start(0);
+}
+
+void Controller::askAboutReceivedProject()
+{
+    const ReceivedProject asked = *d->receivedProject;
+    d->receivedProject.reset();
+    const LineHold hold(d->holds, d->connector, d->resumeTimer);
+    const QString question =
+        tr("Soll die aktuelle Projektbeschreibung durch die empfangenen Daten überschrieben werden?");
+    if (d->prompt([&] { return d->view->askYesNo(tr("Projektbeschreibung empfangen"), question); }))
+        applyReceivedProject(asked);
+}
+
+void Controller::applyReceivedProject(const ReceivedProject &received)
+{
+    d->model->blockSignals(false);
+    d->model->setProjectData(received.data);
+    for (int phase = 0; phase < kNumPhases; ++phase)
+        d->model->setPhaseName(phase, received.phases[static_cast<std::size_t>(phase)]);
+    markModified();
+}
+
+void Controller::onTabBlackBox_listClicked()
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    if (!d->connector.write(QStringLiteral("list\n"))) {
+        d->view->showStatus(tr("Keine Verbindung zur Mesotra Hardware."));
+        return;
+    }
+    d->view->tabBlackBox()->setListButtonEnabled(false);
+    d->listTimer.start();
+}
+
+void Controller::onTerminalSend(const QString &line)
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    if (!d->connector.isConnected() || !d->connector.write(line + QLatin1Char('\n')))
+        d->view->showStatus(tr("Keine Verbindung zur Mesotra Hardware."));
+}

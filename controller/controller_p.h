@@ -1,0 +1,115 @@
+#pragma once
+
+#include "controller/controller.h"
+#include "controller/recordingseries.h"
+#include "device/mesotraconnector.h"
+#include "device/messages.h"
+
+#include <QElapsedTimer>
+#include <QPointer>
+#include <QProgressBar>
+#include <QStringList>
+#include <QTimer>
+
+#include <deque>
+#include <functional>
+#include <optional>
+#include <vector>
+
+/// Counts a dialog as open for its lifetime.
+class PromptScope
+{
+public:
+    explicit PromptScope(int &openPrompts)
+        : m_openPrompts(openPrompts)
+    {
+        ++m_openPrompts;
+    }
+    ~PromptScope() { --m_openPrompts; }
+    Q_DISABLE_COPY_MOVE(PromptScope)
+
+private:
+    int &m_openPrompts;
+};
+
+struct Controller::Private
+{
+    Private(Model *m, View *v, const ControllerOptions &o)
+        : model(m)
+        , view(v)
+        , connector(o.port)
+        , address(o.deviceAddress)
+    {}
+
+    Model *model;
+    View *view;
+    MesotraConnector connector;
+    QString address; ///< what "connect" uses: as configured, then the last one typed in this session
+
+    /// Stands in the status bar; the view must not delete it, but may be gone first.
+    QPointer<QProgressBar> progressBar;
+
+    // --- Link ---
+    QTimer deviceDescriptionTimer;
+    QTimer sensorDescriptionTimer;
+    QTimer listTimer;
+    bool linkWanted = false; ///< errors of a link that the user gave up are of no interest
+    std::optional<QAbstractSocket::SocketError> deferredError;
+
+    // --- Lines of the box ---
+    std::deque<QString> heldLines;
+    QTimer resumeTimer;
+    int holds = 0; ///< > 0: lines wait
+    bool dispatching = false;
+    bool valuesInThousandths = false;
+    bool listActive = false;
+    QStringList listBlock;
+    QElapsedTimer sinceLastSample;
+
+    // --- Questions ---
+    int openPrompts = 0;
+    QTimer deferredTimer;
+    std::optional<ReceivedProject> receivedProject; ///< the newest that the user has not been asked about
+
+    // --- Recording ---
+    bool recordingRunning = false;
+    RecordingSeries series;
+    bool calibrating = false;
+    std::optional<SampleLine> unstoredAnswer; ///< came while calibrating and found no measurement to land in
+
+    /// Runs a dialog of the view; counted as open until it has its answer.
+    template <typename Dialog>
+    auto prompt(Dialog dialog)
+    {
+        const PromptScope scope(openPrompts);
+        return dialog();
+    }
+
+    // --- Files ---
+    bool fileSaved = false;                       ///< how the last save ended
+    std::vector<std::function<void()>> heldEdits; ///< made by the user while a file was being written
+};
+
+/// Keeps the lines of the box waiting for its lifetime. Bytes stay in the socket, whose buffer is bounded, so that
+/// hours of an unanswered question cost no more than the samples themselves would.
+class LineHold
+{
+public:
+    LineHold(int &holds, MesotraConnector &connector, QTimer &resumeTimer)
+        : m_holds(holds)
+        , m_resumeTimer(resumeTimer)
+    {
+        ++m_holds;
+        connector.setPaused(true);
+    }
+    ~LineHold()
+    {
+        if (--m_holds == 0)
+            m_resumeTimer.start(0);
+    }
+    Q_DISABLE_COPY_MOVE(LineHold)
+
+private:
+    int &m_holds;
+    QTimer &m_resumeTimer;
+};

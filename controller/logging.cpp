@@ -1,0 +1,3 @@
+#include "controller/logging.h"
+
+Q_LOGGING_CATEGORY(lcController, "ventaro.controller")
