@@ -1,0 +1,98 @@
+#pragma once
+
+#include "view/userprompts.h"
+
+#include <QStringList>
+
+#include <deque>
+#include <functional>
+#include <vector>
+
+/// Answers every dialog of the program from a script and remembers what was shown. What is asked without an answer
+/// in the script is cancelled and counted in `unexpected`.
+class ScriptedPrompts : public UserPrompts
+{
+public:
+    struct Shown
+    {
+        QString title;
+        QString text;
+        QMessageBox::StandardButtons buttons;
+    };
+
+    std::deque<QMessageBox::StandardButton> answers;
+    std::deque<QString> openNames;
+    std::deque<QString> saveNames;
+    std::deque<std::optional<QString>> addresses;
+    /// Runs while a dialog is up, as the event loop of a real one would.
+    std::function<void()> whileOpen;
+
+    std::vector<Shown> questions;
+    std::vector<Shown> messages; ///< informations and warnings
+    std::vector<Shown> warnings;
+    QStringList fileDialogs; ///< "title|filter"
+    int addressDialogs = 0;
+    int unexpected = 0;
+    int mostOpenAtOnce = 0;
+
+    QMessageBox::StandardButton ask(const QString &title, const QString &text,
+                                    QMessageBox::StandardButtons buttons) override
+    {
+        questions.push_back({title, text, buttons});
+        const QMessageBox::StandardButton cancel =
+            buttons & QMessageBox::Cancel ? QMessageBox::Cancel : QMessageBox::No;
+        return open([&] { return next(answers, cancel); });
+    }
+    void inform(const QString &title, const QString &text) override
+    {
+        messages.push_back({title, text, QMessageBox::Ok});
+        open([] { return 0; });
+    }
+    void warn(const QString &title, const QString &text) override
+    {
+        messages.push_back({title, text, QMessageBox::Ok});
+        warnings.push_back(messages.back());
+        open([] { return 0; });
+    }
+    QString openFileName(const QString &title, const QString &, const QString &filter) override
+    {
+        fileDialogs << title + QLatin1Char('|') + filter;
+        return open([&] { return next(openNames, QString()); });
+    }
+    QString saveFileName(const QString &title, const QString &, const QString &filter) override
+    {
+        fileDialogs << title + QLatin1Char('|') + filter;
+        return open([&] { return next(saveNames, QString()); });
+    }
+    std::optional<QString> askAddress(const QString &) override
+    {
+        ++addressDialogs;
+        return open([&] { return next(addresses, std::optional<QString>()); });
+    }
+
+private:
+    template <typename Answer>
+    Answer next(std::deque<Answer> &script, const Answer &cancelled)
+    {
+        if (script.empty()) {
+            ++unexpected;
+            return cancelled;
+        }
+        const Answer answer = script.front();
+        script.pop_front();
+        return answer;
+    }
+
+    template <typename Dialog>
+    auto open(Dialog dialog)
+    {
+        ++m_open;
+        mostOpenAtOnce = std::max(mostOpenAtOnce, m_open);
+        if (whileOpen)
+            whileOpen();
+        --m_open;
+        return dialog();
+    }
+
+    int m_open = 0;
+};
