@@ -1,0 +1,525 @@
+#include "device/mesotraconnector.h"
+
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QLoggingCategory>
+#include <QSignalSpy>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+#include <memory>
+
+namespace {
+
+const QString kLoopback = QStringLiteral("127.0.0.1");
+
+QStringList texts(std::initializer_list<const char *> latin1)
+{
+    QStringList list;
+    for (const char *text : latin1)
+        list.append(QString::fromLatin1(text));
+    return list;
+}
+
+QStringList *capturedLog = nullptr;
+
+void captureLog(QtMsgType, const QMessageLogContext &, const QString &text)
+{
+    if (capturedLog)
+        capturedLog->append(text);
+}
+
+// Everything logged during its lifetime, the device category switched on.
+class LogCapture
+{
+public:
+    LogCapture()
+    {
+        capturedLog = &m_lines;
+        m_previous = qInstallMessageHandler(captureLog);
+        QLoggingCategory::setFilterRules(QStringLiteral("ventaro.device.debug=true"));
+    }
+    ~LogCapture()
+    {
+        qInstallMessageHandler(m_previous);
+        QLoggingCategory::setFilterRules(QStringLiteral("ventaro.device.debug=false"));
+        capturedLog = nullptr;
+    }
+    Q_DISABLE_COPY(LogCapture)
+    [[nodiscard]] bool contains(const QString &text) const { return m_lines.join(QLatin1Char('\n')).contains(text); }
+
+private:
+    QStringList m_lines;
+    QtMessageHandler m_previous = nullptr;
+};
+
+// A connector, a server that it is connected to, and what the connector said.
+class Link
+{
+public:
+    Link()
+        : connector(std::make_unique<MesotraConnector>(listen(server)))
+    {
+        QObject::connect(connector.get(), &MesotraConnector::messageReceived, &context,
+                         [this](const QString &message) { record(message); });
+        QObject::connect(connector.get(), &MesotraConnector::connected, &context,
+                         [this] { record(QStringLiteral("[up]")); });
+        QObject::connect(connector.get(), &MesotraConnector::disconnected, &context,
+                         [this] { record(QStringLiteral("[down]")); });
+        QObject::connect(connector.get(), &MesotraConnector::error, &context,
+                         [this](QAbstractSocket::SocketError e) { record(QStringLiteral("[error %1]").arg(e)); });
+    }
+    ~Link() { connector.reset(); }
+    Q_DISABLE_COPY(Link)
+
+    [[nodiscard]] bool open()
+    {
+        connector->connect(kLoopback);
+        return QTest::qWaitFor([this] { return takePeer() && connector->isConnected(); });
+    }
+    void send(const QByteArray &bytes)
+    {
+        peer->write(bytes);
+        peer->flush();
+    }
+    [[nodiscard]] bool waitFor(const QString &last)
+    {
+        return QTest::qWaitFor([this, &last] { return !events.isEmpty() && events.last() == last; }, 20000);
+    }
+    [[nodiscard]] QByteArray receivedBytes(int count)
+    {
+        (void)QTest::qWaitFor([this, count] { return peer->bytesAvailable() >= count; });
+        return peer->readAll();
+    }
+    static quint16 listen(QTcpServer &server)
+    {
+        server.listen(QHostAddress::LocalHost);
+        return server.serverPort();
+    }
+
+    QTcpServer server;
+    std::unique_ptr<MesotraConnector> connector;
+    QTcpSocket *peer = nullptr;
+    QStringList events;
+    std::function<void(const QString &)> reaction;
+
+private:
+    bool takePeer()
+    {
+        while (server.hasPendingConnections())
+            peer = server.nextPendingConnection();
+        return peer != nullptr;
+    }
+    void record(const QString &event)
+    {
+        events.append(event);
+        if (reaction)
+            reaction(event);
+    }
+
+    QObject context;
+};
+
+QByteArray numberedLines(int count)
+{
+    QByteArray lines;
+    for (int i = 0; i < count; ++i)
+        lines += QByteArray::number(i) + ";1.5;2.5;3.5;4.5;5.5\n";
+    return lines;
+}
+
+bool areNumbered(const QStringList &lines, int count)
+{
+    for (int i = 0; i < count; ++i) {
+        if (i >= lines.size() || lines.at(i) != QStringLiteral("%1;1.5;2.5;3.5;4.5;5.5\n").arg(i))
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+class TestMesotraConnector : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QLoggingCategory::setFilterRules(QStringLiteral("ventaro.device.debug=false")); }
+    void deliversLines_data();
+    void deliversLines();
+    void joinsALineFromSegments();
+    void sendsCommands_data();
+    void sendsCommands();
+    void sendsNothingWhileClosed();
+    void reboots();
+    void reportsARefusedConnection();
+    void dropsAnEndlessLine();
+    void deliversABurstWithoutStarvingTheLoop();
+    void deliversEverythingBeforeTheEnd();
+    void holdsLinesWhileASlotShowsADialog();
+    void reconnectsFromASlot_data();
+    void reconnectsFromASlot();
+    void disconnectsFromASlot();
+    void isDeletedFromASlot_data();
+    void isDeletedFromASlot();
+    void reconnectsWhileConnected();
+    void forgetsTheErrorOfAnAbortedAttempt();
+    void survivesConnectingAnywhereAtAnyTime();
+    void deliversQuickly();
+};
+
+void TestMesotraConnector::deliversLines_data()
+{
+    QTest::addColumn<QByteArray>("sent");
+    QTest::addColumn<QStringList>("messages");
+    const QString longPart(1023, QLatin1Char('a'));
+    QTest::newRow("one") << QByteArray("x\n") << texts({"x\n"});
+    QTest::newRow("lone line feeds") << QByteArray("\n\n\nx\n\n") << texts({"x\n"});
+    QTest::newRow("two in a segment") << QByteArray("1;2;3\nrun=1\n") << texts({"1;2;3\n", "run=1\n"});
+    QTest::newRow("carriage return stays") << QByteArray("x\r\n") << texts({"x\r\n"});
+    QTest::newRow("blank line") << QByteArray(" \n") << texts({" \n"});
+    QTest::newRow("NUL bytes") << QByteArray("a\0b\n\0\n", 6)
+                               << QStringList{QString::fromLatin1("a\0b\n", 4), QString::fromLatin1("\0\n", 2)};
+    QTest::newRow("UTF-8 arrives byte by byte") << QByteArray("\xC2\xB0"
+                                                              "C\xFF\n")
+                                                << QStringList{QStringLiteral("Â°Cÿ\n")};
+    QTest::newRow("1022 characters") << QByteArray(1022, 'a') + '\n'
+                                     << QStringList{longPart.chopped(1) + QLatin1Char('\n')};
+    // The line feed alone in its piece is dropped like any lone line feed.
+    QTest::newRow("1023 characters") << QByteArray(1023, 'a') + '\n' << QStringList{longPart};
+    QTest::newRow("1024 characters") << QByteArray(1024, 'a') + '\n' << QStringList{longPart, QStringLiteral("a\n")};
+    QTest::newRow("2500 characters") << QByteArray(2500, 'a') + '\n'
+                                     << QStringList{longPart, longPart,
+                                                    QString(454, QLatin1Char('a')) + QLatin1Char('\n')};
+    QTest::newRow("no line feed yet") << QByteArray("1\n2") << texts({"1\n"});
+}
+
+void TestMesotraConnector::deliversLines()
+{
+    QFETCH(QByteArray, sent);
+    QFETCH(QStringList, messages);
+    Link link;
+    QVERIFY(link.open());
+    link.send(sent + (sent.endsWith('\n') ? "end\n" : ""));
+    QVERIFY(link.waitFor(sent.endsWith('\n') ? QStringLiteral("end\n") : messages.last()));
+    if (sent.endsWith('\n'))
+        messages.append(QStringLiteral("end\n"));
+    QCOMPARE(link.events, texts({"[up]"}) + messages);
+}
+
+void TestMesotraConnector::joinsALineFromSegments()
+{
+    Link link;
+    QVERIFY(link.open());
+    for (const char *segment : {"1;2", ";3", "\n4;5;6", "\n"}) {
+        QSignalSpy written(link.peer, &QTcpSocket::bytesWritten);
+        link.send(segment);
+        QTest::qWait(2); // lets the segment arrive on its own
+    }
+    QVERIFY(link.waitFor(QStringLiteral("4;5;6\n")));
+    QCOMPARE(link.events, (texts({"[up]", "1;2;3\n", "4;5;6\n"})));
+}
+
+void TestMesotraConnector::sendsCommands_data()
+{
+    using Command = std::function<void(MesotraConnector &)>;
+    QTest::addColumn<Command>("command");
+    QTest::addColumn<QByteArray>("bytes");
+    const auto row = [](const char *name, const Command &command, const QByteArray &bytes) {
+        QTest::newRow(name) << command << bytes;
+    };
+    row("calibrate", &MesotraConnector::calibrate, "1\n");
+    row("start", &MesotraConnector::startMeasurement, "run=1\n");
+    row("stop", &MesotraConnector::stopMeasurement, "run=0\n");
+    row("device", &MesotraConnector::requestDeviceDescription, "deviceDescription\n");
+    row("sensors", &MesotraConnector::requestSensorDescription, "sensorDescription\n");
+    row("reboot", &MesotraConnector::reboot, "reboot\n");
+    row(
+        "written", [](MesotraConnector &c) { c.write(QStringLiteral("list\n")); }, "list\n");
+    row(
+        "clock", [](MesotraConnector &c) { c.setClock(QStringLiteral("250ms")); }, "t=250\n");
+    row(
+        "unknown clock", [](MesotraConnector &c) { c.setClock(QStringLiteral("2ms")); }, "");
+    row(
+        "clock in capitals", [](MesotraConnector &c) { c.setClock(QStringLiteral("250MS")); }, "");
+}
+
+Q_DECLARE_METATYPE(std::function<void(MesotraConnector &)>)
+
+void TestMesotraConnector::sendsCommands()
+{
+    QFETCH(std::function<void(MesotraConnector &)>, command);
+    QFETCH(QByteArray, bytes);
+    Link link;
+    QVERIFY(link.open());
+    QSignalSpy written(link.connector.get(), &MesotraConnector::written);
+    command(*link.connector);
+    QCOMPARE(written.size(), bytes.isEmpty() ? 0 : 1);
+    if (!bytes.isEmpty())
+        QCOMPARE(written.first().first().toString(), QString::fromLatin1(bytes));
+    QVERIFY(link.connector->write(QStringLiteral("end\n")));
+    QCOMPARE(link.receivedBytes(bytes.size() + 4), bytes + "end\n");
+}
+
+void TestMesotraConnector::sendsNothingWhileClosed()
+{
+    LogCapture log;
+    MesotraConnector connector;
+    QSignalSpy written(&connector, &MesotraConnector::written);
+    connector.setClock(QStringLiteral("100ms"));
+    connector.disconnectFromHost();
+    QVERIFY(!log.contains(QStringLiteral("ERROR")));
+    QVERIFY(!log.contains(QStringLiteral("setClock")));
+    QVERIFY(!connector.write(QStringLiteral("run=0\n")));
+    QVERIFY(log.contains(QStringLiteral("ERROR in tcpSocket.write() !!! s=run=0\n")));
+    QVERIFY(!connector.reboot());
+    QVERIFY(log.contains(QStringLiteral("ERROR: Not connected!!!")));
+    connector.startMeasurement();
+    QVERIFY(written.isEmpty());
+    QVERIFY(!connector.isConnected());
+    QVERIFY(connector.hostAddress().isEmpty());
+}
+
+void TestMesotraConnector::reboots()
+{
+    Link link;
+    QVERIFY(link.open());
+    LogCapture log;
+    QVERIFY(link.connector->reboot());
+    QVERIFY(log.contains(QStringLiteral("MesotraConnector::reboot()")));
+    QVERIFY(log.contains(QStringLiteral("TODO: check result!")));
+}
+
+void TestMesotraConnector::reportsARefusedConnection()
+{
+    Link link;
+    link.server.close();
+    link.connector->connect(kLoopback);
+    QVERIFY(link.waitFor(QStringLiteral("[error %1]").arg(QAbstractSocket::ConnectionRefusedError)));
+    QCOMPARE(link.events.size(), 1);
+    QCOMPARE(link.connector->hostAddress(), kLoopback);
+    QVERIFY(!link.connector->write(QStringLiteral("1\n")));
+}
+
+void TestMesotraConnector::dropsAnEndlessLine()
+{
+    Link link;
+    QVERIFY(link.open());
+    LogCapture log;
+    link.send("first\n" + QByteArray(2 * MesotraConnector::kMaxUnterminated, 'x'));
+    QVERIFY(link.waitFor(QStringLiteral("[error %1]").arg(QAbstractSocket::UnknownSocketError)));
+    QCOMPARE(link.events, texts({"[up]", "first\n", "[down]"}) + link.events.mid(3));
+    QVERIFY(log.contains(QStringLiteral("no line feed within")));
+    QVERIFY(!link.connector->isConnected());
+    QTRY_COMPARE(link.peer->state(), QAbstractSocket::UnconnectedState);
+    QVERIFY(link.open()); // and a new link works
+}
+
+// The first line is held until the whole burst has arrived, so that the connector has all of it to deliver at once.
+void TestMesotraConnector::deliversABurstWithoutStarvingTheLoop()
+{
+    constexpr int kLines = 200000;
+    Link link;
+    QVERIFY(link.open());
+    link.events.clear();
+    link.reaction = [&link](const QString &) {
+        link.reaction = nullptr;
+        QVERIFY(QTest::qWaitFor([&link] { return link.peer->bytesToWrite() == 0; }));
+    };
+    QTimer timer;
+    int linesAtTick = 0;
+    int mostBetweenTicks = 0;
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
+        mostBetweenTicks = std::max(mostBetweenTicks, static_cast<int>(link.events.size()) - linesAtTick);
+        linesAtTick = static_cast<int>(link.events.size());
+    });
+    timer.start(5);
+    link.send(numberedLines(kLines));
+    QVERIFY(link.waitFor(QStringLiteral("%1;1.5;2.5;3.5;4.5;5.5\n").arg(kLines - 1)));
+    QVERIFY(areNumbered(link.events, kLines));
+    QVERIFY2(mostBetweenTicks < kLines / 4, qPrintable(QString::number(mostBetweenTicks)));
+}
+
+void TestMesotraConnector::deliversEverythingBeforeTheEnd()
+{
+    constexpr int kLines = 50000;
+    Link link;
+    QVERIFY(link.open());
+    link.events.clear();
+    link.send(numberedLines(kLines) + "incomplete");
+    link.peer->disconnectFromHost();
+    QVERIFY(link.waitFor(QStringLiteral("[error %1]").arg(QAbstractSocket::RemoteHostClosedError)));
+    QVERIFY(areNumbered(link.events, kLines));
+    QCOMPARE(link.events.mid(kLines), texts({"[down]"}) + link.events.mid(kLines + 1));
+    QVERIFY(!link.connector->isConnected());
+}
+
+void TestMesotraConnector::holdsLinesWhileASlotShowsADialog()
+{
+    Link link;
+    QVERIFY(link.open());
+    QStringList duringDialog;
+    link.reaction = [&](const QString &event) {
+        if (event != QLatin1String("ask\n"))
+            return;
+        link.send("2\n3\n");
+        link.peer->disconnectFromHost();
+        QEventLoop dialog;
+        QTimer::singleShot(30, &dialog, &QEventLoop::quit);
+        dialog.exec();
+        duringDialog = link.events;
+    };
+    link.send("ask\n1\n");
+    QVERIFY(link.waitFor(QStringLiteral("[error %1]").arg(QAbstractSocket::RemoteHostClosedError)));
+    QCOMPARE(duringDialog, (texts({"[up]", "ask\n"})));
+    QCOMPARE(link.events.mid(0, 6), (texts({"[up]", "ask\n", "1\n", "2\n", "3\n", "[down]"})));
+}
+
+void TestMesotraConnector::reconnectsFromASlot_data()
+{
+    QTest::addColumn<QString>("trigger");
+    QTest::newRow("line") << "x\n";
+    QTest::newRow("end of the link") << "[down]";
+    QTest::newRow("error") << QStringLiteral("[error %1]").arg(QAbstractSocket::RemoteHostClosedError);
+}
+
+// As the program does it: a dialog first, then a new attempt while the old link's signal is still being handled.
+void TestMesotraConnector::reconnectsFromASlot()
+{
+    QFETCH(QString, trigger);
+    Link link;
+    QVERIFY(link.open());
+    link.reaction = [&](const QString &event) {
+        if (event != trigger)
+            return;
+        link.reaction = nullptr;
+        QTest::qWait(5);
+        link.connector->connect(kLoopback);
+    };
+    link.send("x\n");
+    QTRY_VERIFY(link.events.contains(QStringLiteral("x\n")));
+    if (trigger != QLatin1String("x\n"))
+        link.peer->disconnectFromHost();
+    QVERIFY(link.waitFor(QStringLiteral("[up]")));
+    QTest::qWait(5);
+    QVERIFY(link.connector->isConnected());
+    QVERIFY(link.open()); // takes the newest peer
+    link.send("y\n");
+    QVERIFY(link.waitFor(QStringLiteral("y\n")));
+    QCOMPARE(link.events.count(QStringLiteral("x\n")), 1);
+}
+
+void TestMesotraConnector::disconnectsFromASlot()
+{
+    Link link;
+    QVERIFY(link.open());
+    link.reaction = [&link](const QString &event) {
+        if (event == QLatin1String("1\n"))
+            link.connector->disconnectFromHost();
+    };
+    link.send("1\n2\n");
+    QTRY_COMPARE(link.peer->state(), QAbstractSocket::UnconnectedState);
+    QCOMPARE(link.events, (texts({"[up]", "1\n", "[down]"})));
+    QVERIFY(!link.connector->write(QStringLiteral("1\n")));
+}
+
+void TestMesotraConnector::isDeletedFromASlot_data()
+{
+    QTest::addColumn<QString>("trigger");
+    for (const char *trigger : {"[up]", "x\n", "[down]"})
+        QTest::newRow(trigger) << QString::fromLatin1(trigger);
+    QTest::newRow("error") << QStringLiteral("[error %1]").arg(QAbstractSocket::RemoteHostClosedError);
+}
+
+void TestMesotraConnector::isDeletedFromASlot()
+{
+    QFETCH(QString, trigger);
+    Link link;
+    link.reaction = [&](const QString &event) {
+        if (event == trigger)
+            link.connector.reset();
+    };
+    link.connector->connect(kLoopback);
+    QTRY_VERIFY(link.server.hasPendingConnections());
+    link.peer = link.server.nextPendingConnection();
+    link.send("x\ny\n");
+    link.peer->disconnectFromHost();
+    QTRY_VERIFY(!link.connector);
+    QTest::qWait(2);
+    QCOMPARE(link.events.last(), trigger);
+}
+
+void TestMesotraConnector::reconnectsWhileConnected()
+{
+    Link link;
+    QVERIFY(link.open());
+    QTcpSocket *first = link.peer;
+    link.send("old\nhalf a li");
+    QVERIFY(link.waitFor(QStringLiteral("old\n")));
+    QTest::qWait(2);
+    link.peer = nullptr;
+    QVERIFY(link.open());
+    link.send("new\n");
+    QVERIFY(link.waitFor(QStringLiteral("new\n")));
+    QCOMPARE(link.events, (texts({"[up]", "old\n", "[down]", "[up]", "new\n"})));
+    QTRY_COMPARE(first->state(), QAbstractSocket::UnconnectedState);
+}
+
+void TestMesotraConnector::forgetsTheErrorOfAnAbortedAttempt()
+{
+    Link closed;
+    closed.server.close();
+    Link link;
+    MesotraConnector connector(link.server.serverPort());
+    QSignalSpy errors(&connector, &MesotraConnector::error);
+    QSignalSpy connected(&connector, &MesotraConnector::connected);
+    for (const char *unreachable : {"127.255.255.254", "nosuchhost.invalid", "", "nosuchhost.invalid"}) {
+        connector.connect(QString::fromLatin1(unreachable));
+        connector.connect(kLoopback);
+    }
+    QVERIFY(connected.wait());
+    QTest::qWait(10);
+    QCOMPARE(errors.size(), 0);
+    QCOMPARE(connected.size(), 1);
+    QVERIFY(connector.isConnected());
+}
+
+void TestMesotraConnector::survivesConnectingAnywhereAtAnyTime()
+{
+    Link link;
+    for (int i = 0; i < 200; ++i) {
+        link.connector->connect(i % 3 == 0 ? QStringLiteral("nosuchhost.invalid") : kLoopback);
+        if (i % 2 == 0)
+            QCoreApplication::processEvents();
+        if (i % 5 == 0)
+            link.connector->setClock(QStringLiteral("1ms"));
+        if (i % 7 == 0)
+            link.connector->disconnectFromHost();
+    }
+    QVERIFY(link.open());
+    QCOMPARE(link.events.last(), QStringLiteral("[up]"));
+    QVERIFY(std::abs(link.events.count(QStringLiteral("[up]")) - link.events.count(QStringLiteral("[down]"))) == 1);
+}
+
+// Only a figure in the log; it depends on the machine and on the sanitizers.
+void TestMesotraConnector::deliversQuickly()
+{
+    constexpr int kLines = 100000;
+    Link link;
+    QVERIFY(link.open());
+    const QByteArray lines = numberedLines(kLines);
+    int count = 0;
+    link.connector->disconnect();
+    QObject::connect(link.connector.get(), &MesotraConnector::messageReceived, link.peer, [&count] { ++count; });
+    link.send(lines);
+    QElapsedTimer elapsed;
+    elapsed.start();
+    QVERIFY(QTest::qWaitFor([&count] { return count == kLines; }, 20000));
+    qInfo("%.0f lines a second", kLines * 1e9 / static_cast<double>(elapsed.nsecsElapsed()));
+}
+
+QTEST_GUILESS_MAIN(TestMesotraConnector)
+#include "tst_mesotraconnector.moc"
