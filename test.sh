@@ -1,0 +1,15 @@
+#!/bin/bash
+# Everything that has to be right before a change goes in: checks, a build with warnings as errors and sanitizers, a
+# release build, all tests. Installs what it needs on Debian 12. Ends with CTest's summary.
+set -euo pipefail
+source "$(dirname "${BASH_SOURCE[0]}")/tools/steps.sh"
+
+tools/install_packages.sh test
+step "layers" python3 tools/check_layers.py
+step "format" tools/check_format.sh
+step "release build" build release
+step "build with sanitizers" build dev
+
+export QT_QPA_PLATFORM=offscreen
+export UBSAN_OPTIONS=print_stacktrace=1
+exec ctest --preset dev --parallel "$(nproc)" --no-tests=error

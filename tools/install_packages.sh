@@ -1,0 +1,45 @@
+#!/bin/bash
+# Installs the Debian packages that are missing; quick and silent when all are there. Needs root or sudo only then.
+#
+#   install_packages.sh run     to build and run the program
+#   install_packages.sh test    the same and the checks of test.sh
+#   install_packages.sh lint    the same and the linters of tools/lint.sh
+set -euo pipefail
+
+packages=(cmake ninja-build g++ python3 qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n rapidjson-dev)
+case ${1:-test} in
+run) [ -z "${WAYLAND_DISPLAY:-}" ] || [ -n "${DISPLAY:-}" ] || packages+=(qtwayland5) ;;
+test) packages+=(clang-format) ;;
+lint) packages+=(clang-format clang-tidy clazy) ;;
+*) echo "usage: $0 [run|test|lint]" >&2 && exit 2 ;;
+esac
+
+missing=()
+for package in "${packages[@]}"; do
+    state=$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null || true)
+    [ "$state" = installed ] || missing+=("$package")
+done
+[ ${#missing[@]} -gt 0 ] || exit 0
+
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || {
+        echo "Please install as root: ${missing[*]}" >&2
+        exit 1
+    }
+    as_root=(sudo)
+fi
+
+log=$(mktemp)
+trap 'rm -f "$log"' EXIT
+quiet_apt() {
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -qq -o Dpkg::Use-Pty=0 "$@" >>"$log" 2>&1
+}
+echo "Installing ${missing[*]}"
+# The list of packages may be out of date or absent; a failed update alone need not stop the installation.
+quiet_apt update || echo "apt-get update failed" >>"$log"
+quiet_apt install --yes --no-install-recommends "${missing[@]}" || {
+    tail -n 40 "$log" >&2
+    echo "FAILED: installing ${missing[*]}" >&2
+    exit 1
+}
