@@ -55,6 +55,11 @@ public:
     [[nodiscard]] int highlighted() const;
     [[nodiscard]] double offset() const;
     [[nodiscard]] double channelOffset(int slot) const;
+    /// The samples that fit right of the left margin at the present width and zoom.
+    [[nodiscard]] int visibleSamples() const;
+    /// Markers and phase names; the position is in milliseconds.
+    [[nodiscard]] int verticalMarkerCount() const;
+    [[nodiscard]] int horizontalLineCount() const;
 
 signals:
     void valueGridChanged(double grid);

@@ -1,0 +1,199 @@
+#include "plots/oszipainter.h"
+
+#include "plots/labelcache.h"
+#include "plots/osziscene.h"
+#include "plots/plotgrid.h"
+
+#include <QLine>
+#include <QLocale>
+#include <QPainter>
+#include <QStaticText>
+#include <QVarLengthArray>
+#include <QtMath>
+
+#include <algorithm>
+
+namespace oszipainter {
+
+namespace {
+
+constexpr int kLeft = PlotGeometry::kLeftMargin;
+constexpr int kValueLabelRight = 55;
+constexpr int kTimeLabelShift = 3;
+constexpr int kThickPen = 3;
+constexpr int kLastPhaseWidth = 100;
+constexpr int kEndValueGap = 4; // pixels between the end of the curve and its value
+
+QPen dashedPen(const QColor &color)
+{
+    return QPen(color, kThickPen, Qt::DashLine);
+}
+
+QSize roundedUp(const QSizeF &size)
+{
+    return {qCeil(size.width()), qCeil(size.height())};
+}
+
+/// Pixels from the left edge of the plot area to a marker; not positive for markers that are not drawn.
+qint64 markerDistance(const OsziScene &scene, const OsziMarker &marker)
+{
+    return scene.geometry.distanceOfTime(marker.position);
+}
+
+/// Centres a name between two distances from the left edge of the plot area, cut off where it does not fit.
+void paintPhaseName(QPainter &painter, const QStaticText &name, qint64 left, qint64 right, int widgetWidth)
+{
+    const QSize size = roundedUp(name.size());
+    const qint64 x = kLeft + left + (right - left - size.width()) / 2;
+    if (right <= left || right <= 0 || x > widgetWidth || x + size.width() < kLeft)
+        return;
+    painter.save();
+    painter.setClipRect(QRect(QPoint(kLeft + int(std::max<qint64>(left, 0)), 0),
+                              QPoint(kLeft - 1 + int(std::min<qint64>(right, widgetWidth)), size.height())),
+                        Qt::IntersectClip);
+    painter.setPen(Qt::black);
+    painter.drawStaticText(int(x), 0, name);
+    painter.restore();
+}
+
+} // namespace
+
+void paintValueGrid(QPainter &painter, const OsziScene &scene, LabelCache &labels)
+{
+    const PlotGeometry &geometry = scene.geometry;
+    const GridLines lines = valueGridLines(geometry, scene.valueGrid);
+    const int decimals = labelDecimals(geometry.span());
+    const QLocale locale;
+    for (qint64 i = lines.first; i <= lines.last; i += lines.stride) {
+        const double value = double(i) * scene.valueGrid;
+        const int y = geometry.yOfValue(value);
+        painter.setPen(i == 0 ? Qt::black : Qt::gray);
+        painter.drawLine(kLeft, y, geometry.width, y);
+        painter.setPen(Qt::black);
+        const QStaticText &label = labels.label(locale.toString(value, 'f', decimals), painter.font());
+        const QSize size = roundedUp(label.size());
+        painter.drawStaticText(kValueLabelRight - size.width(), y - size.height() / 2, label);
+    }
+}
+
+void paintClockGrid(QPainter &painter, const OsziScene &scene, LabelCache &labels)
+{
+    const PlotGeometry &geometry = scene.geometry;
+    painter.setPen(Qt::black);
+    painter.drawLine(kLeft, geometry.margin, kLeft, geometry.bottom());
+    const GridLines lines = clockGridLines(geometry, scene.clockGrid);
+    for (qint64 i = lines.first; i <= lines.last; i += lines.stride) {
+        const qint64 time = i * scene.clockGrid;
+        const int x = geometry.xOfTime(time);
+        painter.setPen(Qt::gray);
+        painter.drawLine(x, geometry.margin, x, geometry.bottom());
+        painter.setPen(Qt::black);
+        painter.drawStaticText(x - kTimeLabelShift, geometry.bottom(), labels.label(timeLabel(time), painter.font()));
+    }
+}
+
+void paintCurves(QPainter &painter, const OsziScene &scene)
+{
+    const OsziCurve *highlighted = scene.highlightedCurve();
+    for (const OsziCurve &curve : scene.curves) {
+        const SampleSpan span = drawnSpan(scene, curve);
+        if (span.isEmpty() || &curve == highlighted)
+            continue;
+        painter.setPen(QPen(curve.color, 1));
+        for (qint64 k = span.first + 1; k <= span.last; ++k)
+            painter.drawLine(scene.pointOf(curve, k - 1), scene.pointOf(curve, k));
+    }
+}
+
+void paintHighlighted(QPainter &painter, const OsziScene &scene, const QRect &region)
+{
+    const OsziCurve *curve = scene.highlightedCurve();
+    SampleSpan span = curve ? drawnSpan(scene, *curve) : SampleSpan();
+    span.first = std::max(span.first, scene.geometry.sampleAt(region.left() - kThickPen) - 1);
+    span.last = std::min(span.last, scene.geometry.sampleAt(region.right() + kThickPen) + 1);
+    if (span.isEmpty())
+        return;
+    QVarLengthArray<QLine, 2048> lines;
+    QPoint from = scene.pointOf(*curve, span.first);
+    for (qint64 k = span.first + 1; k <= span.last; ++k) {
+        const QPoint to = scene.pointOf(*curve, k);
+        lines.append(QLine(from, to));
+        from = to;
+    }
+    painter.setPen(QPen(scene.highlightColor, kThickPen));
+    painter.drawLines(lines.constData(), lines.size());
+}
+
+QString endValueText(const OsziScene &scene)
+{
+    const OsziCurve *curve = scene.highlightedCurve();
+    if (!curve || drawnSpan(scene, *curve).isEmpty())
+        return {};
+    const int last = curve->samples->size() - 1;
+    if (last > scene.geometry.lastVisibleIndex())
+        return {};
+    return QString::number(scene.drawnValue(*curve, last), 'f', labelDecimals(scene.geometry.span()) + 1);
+}
+
+QRect endValueRect(const OsziScene &scene, const QFont &font, LabelCache &labels)
+{
+    const QString text = endValueText(scene);
+    if (text.isEmpty())
+        return {};
+    const OsziCurve &curve = *scene.highlightedCurve();
+    const QPoint end = scene.pointOf(curve, curve.samples->size() - 1);
+    QRect rect(QPoint(end.x() + kEndValueGap, 0), roundedUp(labels.label(text, font).size()));
+    if (rect.right() >= scene.geometry.widgetWidth)
+        rect.moveRight(std::min(end.x() - kEndValueGap, scene.geometry.widgetWidth - 1));
+    rect.moveLeft(std::max(rect.left(), 0));
+    const int lowest = std::max(scene.geometry.height - rect.height(), 0);
+    rect.moveTop(std::clamp(end.y() - rect.height() / 2, 0, lowest));
+    return rect;
+}
+
+void paintEndValue(QPainter &painter, const OsziScene &scene, LabelCache &labels)
+{
+    const QRect rect = endValueRect(scene, painter.font(), labels);
+    if (rect.isEmpty())
+        return;
+    painter.setPen(scene.highlightColor);
+    painter.drawStaticText(rect.topLeft(), labels.label(endValueText(scene), painter.font()));
+}
+
+void paintHorizontalLines(QPainter &painter, const OsziScene &scene)
+{
+    for (const OsziLine &line : scene.lines) {
+        const int y = scene.geometry.yOfValue(line.value);
+        if (y < -kThickPen || y > scene.geometry.height + kThickPen)
+            continue; // also keeps the dasher away from coordinates it cannot handle
+        painter.setPen(dashedPen(line.color));
+        painter.drawLine(kLeft, y, scene.geometry.width, y);
+    }
+}
+
+void paintVerticalMarkers(QPainter &painter, const OsziScene &scene)
+{
+    for (const OsziMarker &marker : scene.markers) {
+        const qint64 distance = markerDistance(scene, marker);
+        if (distance <= 0 || distance > scene.geometry.widgetWidth)
+            continue;
+        const int x = kLeft + int(distance);
+        painter.setPen(dashedPen(marker.color));
+        painter.drawLine(x, 0, x, scene.geometry.bottom());
+    }
+}
+
+void paintPhaseNames(QPainter &painter, const OsziScene &scene, LabelCache &labels)
+{
+    for (int i = 0; i < scene.markers.size(); ++i) {
+        const qint64 right = markerDistance(scene, scene.markers[i]);
+        if (right <= 0)
+            continue;
+        const qint64 left = i > 0 ? markerDistance(scene, scene.markers[i - 1]) : 0;
+        const bool isLast = i + 1 == scene.markers.size();
+        paintPhaseName(painter, labels.label(scene.markers[i].phase, painter.font()), left,
+                       isLast ? left + kLastPhaseWidth : right, scene.geometry.widgetWidth);
+    }
+}
+
+} // namespace oszipainter

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QRect>
+#include <QString>
+
+class LabelCache;
+class QFont;
+class QPainter;
+struct OsziCurve;
+struct OsziScene;
+
+/// The steps of painting a plot, each over the ones before. All paint in the widget's coordinates.
+namespace oszipainter {
+
+/// Horizontal grid lines with their labels left of the plot area.
+void paintValueGrid(QPainter &painter, const OsziScene &scene, LabelCache &labels);
+/// The time axis, vertical grid lines and their labels below the plot area.
+void paintClockGrid(QPainter &painter, const OsziScene &scene, LabelCache &labels);
+/// Every shown curve but the highlighted one, in slot order, one drawLine() a segment: the picture that every quicker
+/// way of drawing them has to match.
+void paintCurves(QPainter &painter, const OsziScene &scene);
+/// The highlighted curve, as far as its columns can touch `region`.
+void paintHighlighted(QPainter &painter, const OsziScene &scene, const QRect &region);
+/// The highlighted curve's last value beside its end.
+void paintEndValue(QPainter &painter, const OsziScene &scene, LabelCache &labels);
+void paintHorizontalLines(QPainter &painter, const OsziScene &scene);
+void paintVerticalMarkers(QPainter &painter, const OsziScene &scene);
+void paintPhaseNames(QPainter &painter, const OsziScene &scene, LabelCache &labels);
+
+/// Where the highlighted curve's last value is written: beside its end, inside the widget. Empty when it is not
+/// written.
+[[nodiscard]] QRect endValueRect(const OsziScene &scene, const QFont &font, LabelCache &labels);
+/// The highlighted curve's last value as it is written; empty when its end is not in view.
+[[nodiscard]] QString endValueText(const OsziScene &scene);
+
+} // namespace oszipainter

@@ -1,0 +1,120 @@
+#include "plots/logging.h"
+#include "plots/oszipainter.h"
+#include "plots/osziwidget_p.h"
+#include "plots/plotgrid.h"
+
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QScopedValueRollback>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kHairLineHalf = 400; // pixels
+constexpr int kReadOutRight = 10;  // pixels from the mouse to the read-out
+constexpr int kReadOutAbove = 11;  // pixels between the curve and the read-out
+
+} // namespace
+
+void OsziWidget::Private::measure(const OsziWidget *widget)
+{
+    scene.geometry.width = widget->contentsRect().width();
+    scene.geometry.widgetWidth = widget->width();
+    scene.geometry.height = widget->height();
+}
+
+void OsziWidget::Private::followValueGrid(OsziWidget *widget)
+{
+    if (!scene.valueGridAuto)
+        return;
+    const double grid = autoValueGrid(scene.geometry.span(), scene.geometry.plotHeight());
+    if (!(grid < scene.valueGrid) && !(grid > scene.valueGrid))
+        return;
+    scene.valueGrid = grid;
+    qCDebug(lcPlots) << "emit valueGridChanged()";
+    const QScopedValueRollback<bool> announcing(announcingGrid, true);
+    emit widget->valueGridChanged(grid);
+}
+
+void OsziWidget::Private::followClockGrid(OsziWidget *widget)
+{
+    if (!scene.clockGridAuto)
+        return;
+    const int grid = autoClockGrid(scene.geometry.zoom, scene.geometry.clock, scene.clockGrid);
+    if (grid == scene.clockGrid)
+        return;
+    scene.clockGrid = grid;
+    qCDebug(lcPlots) << "emit clockGridChanged()";
+    const QScopedValueRollback<bool> announcing(announcingGrid, true);
+    emit widget->clockGridChanged(grid);
+}
+
+void OsziWidget::paintEvent(QPaintEvent *event)
+{
+    d->measure(this);
+    d->followValueGrid(this);
+    d->followClockGrid(this);
+
+    QPainter painter(this);
+    drawFrame(&painter);
+    oszipainter::paintValueGrid(painter, d->scene, d->labels);
+    oszipainter::paintClockGrid(painter, d->scene, d->labels);
+    oszipainter::paintCurves(painter, d->scene);
+    oszipainter::paintHighlighted(painter, d->scene, event->rect());
+    oszipainter::paintEndValue(painter, d->scene, d->labels);
+    oszipainter::paintHorizontalLines(painter, d->scene);
+    oszipainter::paintVerticalMarkers(painter, d->scene);
+    oszipainter::paintPhaseNames(painter, d->scene, d->labels);
+}
+
+void OsziWidget::mousePressEvent(QMouseEvent *event)
+{
+    qCDebug(lcPlots) << Q_FUNC_INFO;
+    qCDebug(lcPlots) << "emit mouseAtX()";
+    emit mouseAtX(qRound(event->localPos().x()));
+}
+
+void OsziWidget::mouseMoveEvent(QMouseEvent *event)
+{
+    qCDebug(lcPlots) << Q_FUNC_INFO;
+    qCDebug(lcPlots) << "emit mouseAtX()";
+    emit mouseAtX(qRound(event->localPos().x()));
+}
+
+void OsziWidget::mouseReleaseEvent(QMouseEvent *)
+{
+    qCDebug(lcPlots) << Q_FUNC_INFO;
+    qCDebug(lcPlots) << "emit mouseReleased()";
+    emit mouseReleased();
+}
+
+void OsziWidget::showMouseMarker(int x)
+{
+    qCDebug(lcPlots) << Q_FUNC_INFO << "x=" << x;
+    d->measure(this);
+    const OsziScene &scene = d->scene;
+    const OsziCurve *curve = scene.highlightedCurve();
+    const qint64 index = scene.geometry.sampleAt(x);
+    if (!curve || !curve->samples || index < 0 || index >= curve->samples->size()) {
+        hideMouseMarker();
+        return;
+    }
+    const double value = scene.drawnValue(*curve, index);
+    // A curve far outside keeps its hair line just as far outside as can be seen.
+    const int y = std::clamp(scene.geometry.yOfValue(value), -kHairLineHalf, height() + kHairLineHalf);
+    d->hairLine->move(x, y - kHairLineHalf);
+    d->hairLine->show();
+    d->mouseReadOut->setText(QString::number(value, 'g', 6));
+    d->mouseReadOut->adjustSize();
+    d->mouseReadOut->move(x + kReadOutRight, y - d->mouseReadOut->height() - kReadOutAbove);
+    d->mouseReadOut->show();
+}
+
+void OsziWidget::hideMouseMarker()
+{
+    qCDebug(lcPlots) << Q_FUNC_INFO;
+    d->hairLine->hide();
+    d->mouseReadOut->hide();
+}

@@ -1,0 +1,215 @@
+#include "plots/osziwidget.h"
+
+#include <QImage>
+#include <QTest>
+
+namespace {
+
+constexpr int kWidth = 600;
+constexpr int kHeight = 240;
+
+QImage picture(OsziWidget &plot)
+{
+    return plot.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
+/// The rows between which a colour occurs in a column; (-1, -1) where it does not.
+QPair<int, int> rowsOf(const QImage &image, int column, const QColor &color)
+{
+    QPair<int, int> rows(-1, -1);
+    for (int y = 0; y < image.height(); ++y) {
+        if (image.pixelColor(column, y) != color)
+            continue;
+        rows.first = rows.first < 0 ? y : rows.first;
+        rows.second = y;
+    }
+    return rows;
+}
+
+bool occurs(const QImage &image, const QRect &where, const QColor &color)
+{
+    for (int x = where.left(); x <= where.right(); ++x) {
+        if (rowsOf(image.copy(x, where.top(), 1, where.height()), 0, color).first >= 0)
+            return true;
+    }
+    return false;
+}
+
+int inkIn(const QImage &image, const QRect &where)
+{
+    int ink = 0;
+    for (int y = where.top(); y <= where.bottom(); ++y) {
+        for (int x = where.left(); x <= where.right(); ++x)
+            ink += image.pixelColor(x, y) != QColor(Qt::white);
+    }
+    return ink;
+}
+
+} // namespace
+
+class TestOsziPainting : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void backgroundComesFromTheStyleSheet();
+    void gridLinesAndLabels();
+    void curvesJoinTheirSamples();
+    void highlightedIsOnTop();
+    void endValueStaysInside_data();
+    void endValueStaysInside();
+    void markersAndPhases();
+    void referenceLines();
+
+private:
+    [[nodiscard]] int yOf(double value) const { return qRound(kHeight - m_margin - (kHeight - 2 * m_margin) * value); }
+
+    OsziWidget *m_plot = nullptr;
+    int m_margin = 0;
+};
+
+/// An empty plot of the values 0 to 1 on white, without grid lines that could be taken for curves.
+void TestOsziPainting::init()
+{
+    m_plot = new OsziWidget;
+    m_plot->setStyleSheet(QStringLiteral("OsziWidget { background-color: white; }"));
+    m_plot->resize(kWidth, kHeight);
+    m_plot->setMaxValue(1.0);
+    m_plot->setValueGridAuto(false);
+    m_plot->setValueGrid(1e6);
+    m_plot->setClockGridAuto(false);
+    m_plot->setClockGrid(1000000);
+    const QImage image = picture(*m_plot);
+    m_margin = rowsOf(image.copy(0, 1, kWidth, kHeight - 2), OsziWidget::kLeftMargin, Qt::black).first + 1;
+}
+
+void TestOsziPainting::cleanup()
+{
+    delete m_plot;
+}
+
+void TestOsziPainting::backgroundComesFromTheStyleSheet()
+{
+    m_plot->setStyleSheet(QStringLiteral("OsziWidget { background-color: #123456; }"));
+    const QImage image = picture(*m_plot);
+    QCOMPARE(image.pixelColor(300, 100), QColor(0x12, 0x34, 0x56));
+    QCOMPARE(image.pixelColor(10, 60), QColor(0x12, 0x34, 0x56));
+    QVERIFY(image.pixelColor(0, 100) != QColor(0x12, 0x34, 0x56)); // the frame
+}
+
+void TestOsziPainting::gridLinesAndLabels()
+{
+    m_plot->setValueGrid(0.5);
+    m_plot->setClockGrid(100);
+    const QImage image = picture(*m_plot);
+    QCOMPARE(image.pixelColor(350, yOf(0.0)), QColor(Qt::black));
+    QCOMPARE(image.pixelColor(350, yOf(0.5)), QColor(Qt::gray));
+    QCOMPARE(image.pixelColor(350, yOf(1.0)), QColor(Qt::gray));
+    QCOMPARE(image.pixelColor(350, yOf(0.25)), QColor(Qt::white));
+    QCOMPARE(image.pixelColor(OsziWidget::kLeftMargin + 100, yOf(0.25)), QColor(Qt::gray));
+    QCOMPARE(image.pixelColor(OsziWidget::kLeftMargin, yOf(0.25)), QColor(Qt::black));
+    const QRect leftLabel(2, yOf(0.5) - m_margin / 2, 53, m_margin);
+    QVERIFY(inkIn(image, leftLabel) > 20);
+    const QRect timeLabel(OsziWidget::kLeftMargin + 98, kHeight - m_margin + 2, 30, m_margin - 4);
+    QVERIFY(inkIn(image, timeLabel) > 20);
+    QCOMPARE(inkIn(image, leftLabel.translated(0, 40)), 0);
+}
+
+void TestOsziPainting::curvesJoinTheirSamples()
+{
+    const SampleList samples = {9.0, 0.2, 0.8, 0.8, 0.8};
+    m_plot->setZoom(20);
+    m_plot->setStartIndex(1);
+    m_plot->setCurve(0, &samples, Qt::blue, true);
+    const QImage image = picture(*m_plot);
+    QCOMPARE(rowsOf(image, 70, Qt::blue).second, yOf(0.2));
+    QCOMPARE(rowsOf(image, 90, Qt::blue).first, yOf(0.8));
+    QCOMPARE(rowsOf(image, 100, Qt::blue), qMakePair(yOf(0.8), yOf(0.8)));
+    QCOMPARE(rowsOf(image, 110 + 1, Qt::blue), qMakePair(yOf(0.8), yOf(0.8)));
+    QVERIFY(!occurs(image, QRect(0, 0, 70, kHeight), Qt::blue));
+    QVERIFY(!occurs(image, QRect(131, 0, 300, kHeight), Qt::blue));
+    m_plot->setDisabled(0);
+    QVERIFY(!occurs(picture(*m_plot), QRect(0, 0, kWidth, kHeight), Qt::blue));
+}
+
+void TestOsziPainting::highlightedIsOnTop()
+{
+    const SampleList samples(300, 0.5);
+    for (const int slot : {3, 4, 9999})
+        m_plot->setCurve(slot, &samples, slot == 4 ? Qt::green : Qt::blue, true);
+    QCOMPARE(picture(*m_plot).pixelColor(200, yOf(0.5)), QColor(Qt::blue));
+    m_plot->setDisabled(9999);
+    QCOMPARE(picture(*m_plot).pixelColor(200, yOf(0.5)), QColor(Qt::green));
+    m_plot->highlightSingle(3);
+    const QImage image = picture(*m_plot);
+    QCOMPARE(rowsOf(image, 200, Qt::red), qMakePair(yOf(0.5) - 1, yOf(0.5) + 1));
+    m_plot->setHighlightColor(Qt::magenta);
+    QCOMPARE(picture(*m_plot).pixelColor(200, yOf(0.5)), QColor(Qt::magenta));
+}
+
+void TestOsziPainting::endValueStaysInside_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::addColumn<double>("value");
+    QTest::addColumn<bool>("written");
+    QTest::addColumn<QRect>("where");
+
+    QTest::newRow("right of the end") << 200 << 0.5 << true << QRect(275, 100, 60, 40);
+    QTest::newRow("left of it at the right edge") << 528 << 0.5 << true << QRect(530, 105, 55, 10);
+    QTest::newRow("end out of view") << 530 << 0.5 << false << QRect(530, 105, 55, 10);
+    QTest::newRow("above") << 200 << 7.0 << true << QRect(275, 1, 60, 20);
+    QTest::newRow("below") << 200 << -7.0 << true << QRect(275, 220, 60, 18);
+}
+
+void TestOsziPainting::endValueStaysInside()
+{
+    QFETCH(int, count);
+    QFETCH(double, value);
+    QFETCH(bool, written);
+    QFETCH(QRect, where);
+    const SampleList samples(count, value);
+    m_plot->setCurve(0, &samples, Qt::blue, true);
+    m_plot->highlightSingle(0);
+    const QImage image = picture(*m_plot);
+    QCOMPARE(inkIn(image, where) > 20, written);
+}
+
+void TestOsziPainting::markersAndPhases()
+{
+    m_plot->setClock(10);
+    m_plot->setVerticalMarkerCount(4);
+    m_plot->setVerticalMarker(0, 0, Qt::red);
+    m_plot->setVerticalMarker(1, 1500, Qt::green);
+    m_plot->setVerticalMarker(2, -1, Qt::magenta);
+    m_plot->setVerticalMarker(3, 3000, Qt::blue);
+    for (int phase = 0; phase < 4; ++phase)
+        m_plot->setPhaseName(phase, QStringLiteral("Phase"));
+    const QImage image = picture(*m_plot);
+    QCOMPARE(rowsOf(image, 70 + 150, Qt::green).first, 0);
+    QVERIFY(rowsOf(image, 70 + 150, Qt::green).second <= kHeight - m_margin + 1);
+    QVERIFY(rowsOf(image, 70 + 300, Qt::blue).first >= 0);
+    QVERIFY(!occurs(image, image.rect(), Qt::red));
+    QVERIFY(!occurs(image, image.rect(), Qt::magenta));
+    // Phase 1 ends at its marker; the last begins at the marker before it, here at the left edge.
+    const int middle = 70 + 75;
+    QVERIFY(inkIn(image, QRect(middle - 15, 2, 30, m_margin - 4)) > 20);
+    QCOMPARE(inkIn(image, QRect(70 + 155, 2, 140, m_margin - 4)), 0);
+}
+
+void TestOsziPainting::referenceLines()
+{
+    m_plot->setHorizontalLineCount(2);
+    m_plot->setHorizontalLine(0, 0.25, Qt::green);
+    m_plot->setHorizontalLine(1, 0.75, Qt::blue);
+    const QImage image = picture(*m_plot);
+    QCOMPARE(rowsOf(image, 75, Qt::green), qMakePair(yOf(0.25) - 1, yOf(0.25) + 1));
+    QVERIFY(occurs(image, QRect(560, yOf(0.75), 38, 1), Qt::blue));
+    QVERIFY(occurs(image, QRect(100, yOf(0.75), 50, 1), Qt::white)); // dashed
+    QVERIFY(!occurs(image, QRect(0, 0, 68, kHeight), Qt::green));
+}
+
+QTEST_MAIN(TestOsziPainting)
+
+#include "tst_oszipainting.moc"

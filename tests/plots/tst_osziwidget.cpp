@@ -1,0 +1,377 @@
+#include "plots/osziwidget.h"
+
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QRegularExpression>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QTest>
+
+#include <functional>
+#include <limits>
+
+namespace {
+
+using Step = std::function<void(OsziWidget &)>;
+using Reading = std::function<double(const OsziWidget &)>;
+constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
+constexpr double kInf = std::numeric_limits<double>::infinity();
+constexpr int kIntMax = std::numeric_limits<int>::max();
+
+} // namespace
+
+Q_DECLARE_METATYPE(Step)
+Q_DECLARE_METATYPE(Reading)
+
+class TestOsziWidget : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void startsWithDefaults();
+    void settersKeepWhatMakesSense_data();
+    void settersKeepWhatMakesSense();
+    void slotsOutsideTheRangeAreIgnored_data();
+    void slotsOutsideTheRangeAreIgnored();
+    void curvesKeepTheirChannelOffset();
+    void curvesPassThroughZero_data();
+    void curvesPassThroughZero();
+    void markerListsGrowAndShrink();
+    void markerOutOfRangeIsLogged();
+    void mouseIsReported();
+    void mouseMarkerFollowsTheHighlightedCurve_data();
+    void mouseMarkerFollowsTheHighlightedCurve();
+    void gridsAreAnnouncedOnce();
+    void spinBoxesDoNotAnswerForEver();
+    void extremeSettingsPaint_data();
+    void extremeSettingsPaint();
+
+private:
+    OsziWidget *m_plot = nullptr;
+    SampleList m_samples = {10.0, 20.0, 30.0, 40.0};
+};
+
+void TestOsziWidget::init()
+{
+    m_plot = new OsziWidget;
+    m_plot->resize(400, 220);
+}
+
+void TestOsziWidget::cleanup()
+{
+    delete m_plot;
+}
+
+void TestOsziWidget::startsWithDefaults()
+{
+    QCOMPARE(m_plot->frameStyle(), int(QFrame::Box | QFrame::Plain));
+    QCOMPARE(m_plot->lineWidth(), 1);
+    QCOMPARE(m_plot->minValue(), 0.0);
+    QCOMPARE(m_plot->maxValue(), 255.0);
+    QCOMPARE(m_plot->valueGrid(), 50.0);
+    QCOMPARE(m_plot->clockGrid(), 100);
+    QCOMPARE(m_plot->zoom(), 1);
+    QCOMPARE(m_plot->clock(), 1);
+    QCOMPARE(m_plot->highlighted(), -1);
+    QCOMPARE(m_plot->visibleSamples(), 400 - 2 - OsziWidget::kLeftMargin);
+}
+
+void TestOsziWidget::settersKeepWhatMakesSense_data()
+{
+    QTest::addColumn<Step>("step");
+    QTest::addColumn<Reading>("reading");
+    QTest::addColumn<double>("expected");
+
+    const auto row = [](const char *name, const Step &step, const Reading &reading, double expected) {
+        QTest::newRow(name) << step << reading << expected;
+    };
+    const Reading minimum = &OsziWidget::minValue;
+    const Reading maximum = &OsziWidget::maxValue;
+    const Reading zoom = &OsziWidget::zoom;
+    const Reading clock = &OsziWidget::clock;
+    const Reading clockGrid = &OsziWidget::clockGrid;
+    const Reading valueGrid = &OsziWidget::valueGrid;
+    row(
+        "minimum", [](OsziWidget &w) { w.setMinValue(254.9); }, minimum, 254.9);
+    row(
+        "minimum at the maximum", [](OsziWidget &w) { w.setMinValue(254.9999); }, minimum, 0.0);
+    row(
+        "minimum not a number", [](OsziWidget &w) { w.setMinValue(kNan); }, minimum, 0.0);
+    row(
+        "minimum infinite", [](OsziWidget &w) { w.setMinValue(-kInf); }, minimum, 0.0);
+    row(
+        "maximum", [](OsziWidget &w) { w.setMaxValue(0.001); }, maximum, 0.001);
+    row(
+        "maximum at the minimum", [](OsziWidget &w) { w.setMaxValue(0.0001); }, maximum, 255.0);
+    row(
+        "maximum infinite", [](OsziWidget &w) { w.setMaxValue(kInf); }, maximum, 255.0);
+    row(
+        "zoom", [](OsziWidget &w) { w.setZoom(4); }, zoom, 4);
+    row(
+        "zoom 0", [](OsziWidget &w) { w.setZoom(0); }, zoom, 1);
+    row(
+        "zoom 0.5", [](OsziWidget &w) { w.setZoom(0.5); }, zoom, 1);
+    row(
+        "zoom is rounded", [](OsziWidget &w) { w.setZoom(2.5); }, zoom, 3);
+    row(
+        "zoom beyond int", [](OsziWidget &w) { w.setZoom(1e20); }, zoom, kIntMax);
+    row(
+        "zoom not a number", [](OsziWidget &w) { w.setZoom(kNan); }, zoom, 1);
+    row(
+        "clock", [](OsziWidget &w) { w.setClock(100); }, clock, 100);
+    row(
+        "clock 0", [](OsziWidget &w) { w.setClock(0); }, clock, 1);
+    row(
+        "clock grid at the clock", [](OsziWidget &w) { w.setClock(20), w.setClockGrid(20); }, clockGrid, 20);
+    row(
+        "clock grid below the clock", [](OsziWidget &w) { w.setClock(20), w.setClockGrid(19); }, clockGrid, 100);
+    row(
+        "value grid", [](OsziWidget &w) { w.setValueGrid(12.5); }, valueGrid, 12.5);
+    row(
+        "value grid 0", [](OsziWidget &w) { w.setValueGrid(0.0); }, valueGrid, 50.0);
+    row(
+        "value grid not a number", [](OsziWidget &w) { w.setValueGrid(kNan); }, valueGrid, 50.0);
+    row(
+        "automatic value grid starts over", [](OsziWidget &w) { w.setValueGridAuto(true); }, valueGrid, 1.0);
+    row(
+        "automatic value grid off", [](OsziWidget &w) { w.setValueGridAuto(false); }, valueGrid, 50.0);
+    row(
+        "offset", [](OsziWidget &w) { w.setOffset(-3.5); }, &OsziWidget::offset, -3.5);
+    row(
+        "offset not a number", [](OsziWidget &w) { w.setOffset(kNan); }, &OsziWidget::offset, 0.0);
+    row(
+        "start index is not checked", [](OsziWidget &w) { w.setStartIndex(-5); }, &OsziWidget::startIndex, -5);
+}
+
+void TestOsziWidget::settersKeepWhatMakesSense()
+{
+    QFETCH(Step, step);
+    QFETCH(Reading, reading);
+    step(*m_plot);
+    QTEST(reading(*m_plot), "expected");
+}
+
+void TestOsziWidget::slotsOutsideTheRangeAreIgnored_data()
+{
+    QTest::addColumn<int>("slot");
+    QTest::addColumn<bool>("exists");
+
+    QTest::newRow("first") << 0 << true;
+    QTest::newRow("last") << 9999 << true;
+    QTest::newRow("below") << -1 << false;
+    QTest::newRow("above") << 10000 << false;
+}
+
+void TestOsziWidget::slotsOutsideTheRangeAreIgnored()
+{
+    QFETCH(int, slot);
+    QFETCH(bool, exists);
+    m_plot->setCurve(slot, &m_samples, Qt::blue, false);
+    m_plot->setEnabled(slot);
+    QCOMPARE(m_plot->isShown(slot), exists);
+    m_plot->setChannelOffset(slot, 7.0);
+    QCOMPARE(m_plot->channelOffset(slot), exists ? 7.0 : 0.0);
+    m_plot->setAutoChannelOffset(slot, 2);
+    QCOMPARE(m_plot->channelOffset(slot), exists ? -30.0 : 0.0);
+    m_plot->setDisabled(slot);
+    QVERIFY(!m_plot->isShown(slot));
+    QCOMPARE(m_plot->curve(slot), exists ? &m_samples : nullptr);
+}
+
+void TestOsziWidget::curvesKeepTheirChannelOffset()
+{
+    m_plot->setChannelOffset(3, 5.0);
+    m_plot->setCurve(3, &m_samples, Qt::blue, true);
+    m_plot->clearCurves();
+    QCOMPARE(m_plot->curve(3), nullptr);
+    QVERIFY(!m_plot->isShown(3));
+    QCOMPARE(m_plot->channelOffset(3), 5.0);
+    m_plot->clearChannelOffsets();
+    QCOMPARE(m_plot->channelOffset(3), 0.0);
+}
+
+void TestOsziWidget::curvesPassThroughZero_data()
+{
+    QTest::addColumn<int>("time");
+    QTest::addColumn<double>("offset");
+
+    QTest::newRow("first sample") << 0 << -10.0;
+    QTest::newRow("time within a sample") << 299 << -30.0;
+    QTest::newRow("last sample") << 300 << -40.0;
+    QTest::newRow("behind the end") << 400 << 1.5;
+    QTest::newRow("before the start") << -100 << 1.5;
+}
+
+void TestOsziWidget::curvesPassThroughZero()
+{
+    QFETCH(int, time);
+    QFETCH(double, offset);
+    m_plot->setClock(100);
+    for (const int slot : {0, 9999})
+        m_plot->setCurve(slot, &m_samples, Qt::blue, true);
+    for (const int slot : {0, 1, 9999})
+        m_plot->setChannelOffset(slot, 1.5);
+    m_plot->setAutoChannelOffsets(time);
+    QCOMPARE(m_plot->channelOffset(0), offset);
+    QCOMPARE(m_plot->channelOffset(1), 1.5);
+    QCOMPARE(m_plot->channelOffset(9999), offset);
+}
+
+void TestOsziWidget::markerListsGrowAndShrink()
+{
+    m_plot->setVerticalMarkerCount(5);
+    m_plot->setVerticalMarkerCount(4);
+    QCOMPARE(m_plot->verticalMarkerCount(), 4);
+    m_plot->setVerticalMarkerCount(-1);
+    QCOMPARE(m_plot->verticalMarkerCount(), 0);
+    m_plot->setHorizontalLineCount(2);
+    QCOMPARE(m_plot->horizontalLineCount(), 2);
+    // None of these may touch what is not there.
+    m_plot->setVerticalMarker3(100);
+    m_plot->setPhaseName(0, QStringLiteral("Kühlzeit"));
+    m_plot->setHorizontalLine(2, 1.0, Qt::red);
+    m_plot->setHorizontalLine(-1, 1.0, Qt::red);
+    (void)m_plot->grab();
+}
+
+void TestOsziWidget::markerOutOfRangeIsLogged()
+{
+    m_plot->setVerticalMarkerCount(4);
+    QTest::ignoreMessage(QtDebugMsg, "void OsziWidget::setVerticalMarker(int, int, QColor) ERROR: index out of range!");
+    m_plot->setVerticalMarker(4, 100, Qt::red);
+    QCOMPARE(m_plot->verticalMarkerCount(), 4);
+}
+
+void TestOsziWidget::mouseIsReported()
+{
+    const QSignalSpy at(m_plot, &OsziWidget::mouseAtX);
+    const QSignalSpy released(m_plot, &OsziWidget::mouseReleased);
+    QTest::mousePress(m_plot, Qt::LeftButton, Qt::NoModifier, QPoint(123, 50));
+    QMouseEvent move(QEvent::MouseMove, QPointF(149.5, 50.0), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(m_plot, &move);
+    QTest::mouseRelease(m_plot, Qt::LeftButton, Qt::NoModifier, QPoint(150, 50));
+    QCOMPARE(at.first().first().toInt(), 123);
+    QCOMPARE(at.last().first().toInt(), 150);
+    QCOMPARE(released.count(), 1);
+}
+
+void TestOsziWidget::mouseMarkerFollowsTheHighlightedCurve_data()
+{
+    QTest::addColumn<int>("highlighted");
+    QTest::addColumn<int>("x");
+    QTest::addColumn<QString>("text"); // empty: nothing is shown
+
+    QTest::newRow("at a sample") << 0 << 81 << QStringLiteral("21.5");
+    QTest::newRow("between two samples") << 0 << 89 << QStringLiteral("21.5");
+    QTest::newRow("left margin, truncated to the start") << 0 << 61 << QStringLiteral("11.5");
+    QTest::newRow("farther left") << 0 << 60 << QString();
+    QTest::newRow("behind the end") << 0 << 110 << QString();
+    QTest::newRow("an empty slot") << 1 << 81 << QString();
+    QTest::newRow("none highlighted") << -1 << 81 << QString();
+    QTest::newRow("no such slot") << 10000 << 81 << QString();
+}
+
+void TestOsziWidget::mouseMarkerFollowsTheHighlightedCurve()
+{
+    QFETCH(int, highlighted);
+    QFETCH(int, x);
+    QFETCH(QString, text);
+    m_plot->setCurve(0, &m_samples, Qt::blue, true);
+    m_plot->setOffset(1.0);
+    m_plot->setChannelOffset(0, 0.5);
+    m_plot->setZoom(10);
+    m_plot->highlightSingle(0);
+    m_plot->showMouseMarker(75);
+    m_plot->highlightSingle(highlighted);
+    m_plot->showMouseMarker(x);
+
+    const auto *hairLine = m_plot->findChild<QLabel *>(QStringLiteral("hairLine"));
+    const auto *readOut = m_plot->findChild<QLabel *>(QStringLiteral("mouseReadOut"));
+    QCOMPARE(hairLine->isHidden(), text.isEmpty());
+    QCOMPARE(readOut->isHidden(), text.isEmpty());
+    if (text.isEmpty())
+        return;
+    QCOMPARE(readOut->text(), text);
+    QCOMPARE(hairLine->x(), x);
+    QCOMPARE(readOut->x(), x + 10);
+    QCOMPARE(readOut->geometry().bottom() + 1 - hairLine->y(), 400 - 11);
+    m_plot->hideMouseMarker();
+    QVERIFY(hairLine->isHidden() && readOut->isHidden());
+}
+
+void TestOsziWidget::gridsAreAnnouncedOnce()
+{
+    const QSignalSpy value(m_plot, &OsziWidget::valueGridChanged);
+    const QSignalSpy clock(m_plot, &OsziWidget::clockGridChanged);
+    m_plot->setZoom(5);
+    m_plot->setMaxValue(1000.0);
+    (void)m_plot->grab();
+    (void)m_plot->grab();
+    QCOMPARE(value.count(), 1);
+    QCOMPARE(value.first().first().toDouble(), m_plot->valueGrid());
+    QCOMPARE(clock.count(), 1);
+    QCOMPARE(clock.first().first().toInt(), 10);
+}
+
+void TestOsziWidget::spinBoxesDoNotAnswerForEver()
+{
+    QDoubleSpinBox valueBox; // two decimals: rounds the grid of a tiny range to 0.00
+    QSpinBox clockBox;       // ends at 99
+    connect(&valueBox, qOverload<double>(&QDoubleSpinBox::valueChanged), m_plot, &OsziWidget::setValueGrid);
+    connect(m_plot, &OsziWidget::valueGridChanged, &valueBox, &QDoubleSpinBox::setValue);
+    connect(&clockBox, qOverload<int>(&QSpinBox::valueChanged), m_plot, &OsziWidget::setClockGrid);
+    connect(m_plot, &OsziWidget::clockGridChanged, &clockBox, &QSpinBox::setValue);
+    m_plot->setMaxValue(0.01);
+    m_plot->setClock(10);
+    m_plot->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_plot));
+    const QSignalSpy announced(m_plot, &OsziWidget::valueGridChanged);
+    for (int turn = 0; turn < 20; ++turn)
+        QCoreApplication::processEvents();
+    QVERIFY(announced.count() <= 1);
+    QVERIFY(m_plot->valueGrid() > 0.0);
+    QCOMPARE(m_plot->clockGrid(), 800);
+}
+
+void TestOsziWidget::extremeSettingsPaint_data()
+{
+    QTest::addColumn<Step>("step");
+
+    const auto row = [](const char *name, const Step &step) { QTest::newRow(name) << step; };
+    row("no room", [](OsziWidget &w) { w.resize(0, 0); });
+    row("lower than its margins", [](OsziWidget &w) { w.resize(300, 5); });
+    row("narrower than the labels", [](OsziWidget &w) { w.resize(60, 200); });
+    row("first start", [](OsziWidget &w) { w.setStartIndex(std::numeric_limits<int>::min()); });
+    row("last start", [](OsziWidget &w) { w.setStartIndex(kIntMax); });
+    row("largest zoom", [](OsziWidget &w) { w.setZoom(kIntMax); });
+    row("largest zoom from the left", [](OsziWidget &w) { w.setZoom(kIntMax), w.setStartIndex(-1); });
+    row("slowest clock", [](OsziWidget &w) { w.setClock(kIntMax); });
+    row("smallest range", [](OsziWidget &w) { w.setMaxValue(0.00011); });
+    row("largest range", [](OsziWidget &w) { w.setMinValue(-1e308), w.setMaxValue(1e308); });
+    row("tiny grid", [](OsziWidget &w) { w.setValueGridAuto(false), w.setValueGrid(1e-300); });
+    row("markers far away", [](OsziWidget &w) { w.setVerticalMarker0(kIntMax), w.setVerticalMarker1(-kIntMax); });
+    row("line far away", [](OsziWidget &w) { w.setHorizontalLine(0, 1e300, Qt::red); });
+    row("offset far away", [](OsziWidget &w) { w.setOffset(1e308), w.setChannelOffset(0, 1e308); });
+    row("fine clock grid", [](OsziWidget &w) { w.setClockGridAuto(false), w.setClockGrid(1), w.setClock(1000000); });
+}
+
+void TestOsziWidget::extremeSettingsPaint()
+{
+    QFETCH(Step, step);
+    m_plot->setVerticalMarkerCount(2);
+    m_plot->setHorizontalLineCount(1);
+    m_plot->setPhaseName(1, QStringLiteral("Einspritzzeit"));
+    m_plot->setCurve(0, &m_samples, Qt::blue, true);
+    m_plot->setCurve(1, &m_samples, Qt::blue, true);
+    m_plot->highlightSingle(1);
+    step(*m_plot);
+    (void)m_plot->grab(); // has to come back, and without a word from the sanitizers
+    m_plot->showMouseMarker(80);
+}
+
+QTEST_MAIN(TestOsziWidget)
+
+#include "tst_osziwidget.moc"
