@@ -8,6 +8,11 @@ class Model;
 class OsziWidget;
 
 /// The tab "Oszilloskop": five stacked rows, one a sensor position, all measurements as curves, the newest highlighted.
+///
+/// setModel() connects the model's signals; nobody else need forward them. onModel_dataChanged() may be called for
+/// every sample line: when measurements were added or removed it points all slots anew before it returns; when
+/// samples only grew, the first few calls of a turn of the event loop act at once and the others at its end.
+/// Nothing that the model reports makes the tab emit a signal.
 class TabOszilloscope : public QWidget
 {
     Q_OBJECT
@@ -16,6 +21,7 @@ public:
     explicit TabOszilloscope(QWidget *parent = nullptr);
     ~TabOszilloscope() override;
 
+    /// The model is not owned and may go first; nullptr leaves the tab empty.
     void setModel(Model *model);
     /// Row 0 to 4; nullptr for any other.
     [[nodiscard]] OsziWidget *row(int position) const;
@@ -25,7 +31,12 @@ public:
     /// Empties every slot of every row.
     void clearSlots();
     /// The sampling period, and the largest clock grid offered (100 times the period).
+    /// A clock below 1 is ignored.
     void setClock(int clock, int clockGrid);
+    /// Colour of a marker's line and button; invalid for an index outside 0 to 3.
+    [[nodiscard]] static QColor markerColor(int index);
+    /// Limits of a row's range boxes / the range shown, kept in the model as well. Only group 0 exists; ends that are
+    /// not in order are ignored.
     void setMaximumSensorRange(int group, int sensor, double min, double max);
     void setCurrentSensorRange(int group, int sensor, double min, double max);
     void setCheckBoxMarkerAbsolute(bool absolute);
@@ -53,6 +64,7 @@ public slots:
     void onSpinBoxMinValueChanged(double minValue);
     void onModel_projectChanged();
     void onModel_dataChanged();
+    void onModel_viewDataChanged();
 
 protected:
     void changeEvent(QEvent *event) override;

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QLayout>
+#include <QVector>
+
+/// Lays groups of controls out in lines from left to right and breaks a line where the next group does not fit, so
+/// that the same controls serve a narrow window in several lines and a wide one in few. What remains of a line goes
+/// to its groups in equal shares between them.
+class FlowLayout : public QLayout
+{
+    Q_OBJECT
+
+public:
+    explicit FlowLayout(int horizontalGap, int verticalGap, QWidget *parent = nullptr);
+    ~FlowLayout() override;
+
+    void addItem(QLayoutItem *item) override;
+    [[nodiscard]] int count() const override { return static_cast<int>(m_items.size()); }
+    [[nodiscard]] QLayoutItem *itemAt(int index) const override;
+    QLayoutItem *takeAt(int index) override;
+    [[nodiscard]] Qt::Orientations expandingDirections() const override { return {}; }
+    [[nodiscard]] bool hasHeightForWidth() const override { return true; }
+    [[nodiscard]] int heightForWidth(int width) const override;
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSize() const override;
+    void setGeometry(const QRect &rect) override;
+
+private:
+    struct Line
+    {
+        QVector<QLayoutItem *> items;
+        int width = 0; ///< of the items and the gaps between them
+        int height = 0;
+    };
+
+    [[nodiscard]] QVector<Line> linesFor(int width) const;
+    void place(const Line &line, QRect area) const;
+
+    QVector<QLayoutItem *> m_items;
+    int m_horizontalGap;
+    int m_verticalGap;
+};

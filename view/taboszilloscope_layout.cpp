@@ -1,0 +1,305 @@
+#include "plots/osziwidget.h"
+#include "view/oszirowcontrols.h"
+#include "view/oszirowinput.h"
+#include "view/taboszilloscope_flow.h"
+#include "view/taboszilloscope_p.h"
+
+#include <QCheckBox>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSlider>
+#include <QVBoxLayout>
+
+#include <limits>
+
+namespace {
+
+constexpr int kGap = 4;
+constexpr int kGroupGap = 14;
+constexpr int kParamsWidth = 226;
+constexpr int kLargestSeconds = std::numeric_limits<int>::max() / 1000;
+const int kLargestMilliseconds = 24 * 60 * 60 * 1000;
+
+/// What makes five rows and all controls fit a small laptop: the application's sheet, but tighter.
+QString compactSheet()
+{
+    return QStringLiteral(
+        "QLabel, QCheckBox, QLineEdit, QSpinBox, QDoubleSpinBox {font-size: 16px;}"
+        "QSpinBox, QDoubleSpinBox {min-height: 30px; padding: 0px;}"
+        "QPushButton {min-height: 34px; min-width: 44px;}"
+        "OsziRow QLabel {font-size: 13px; min-height: 15px; max-height: 20px;}"
+        "OsziRow QDoubleSpinBox {font-size: 15px; min-height: 25px; min-width: 70px;}"
+        "OsziRow QDoubleSpinBox::up-button, OsziRow QDoubleSpinBox::down-button {width: 24px; height: 25px;}"
+        "OsziRow QCheckBox {min-height: 22px; min-width: 22px; padding: 0px;}"
+        "QScrollBar:horizontal {min-height: 34px;}");
+}
+
+/// A group of controls in one line, for the flow layout.
+QHBoxLayout *groupLayout(QWidget *group)
+{
+    auto *layout = new QHBoxLayout(group);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(kGap);
+    return layout;
+}
+
+} // namespace
+
+void TabOszilloscope::Private::build()
+{
+    q->setStyleSheet(compactSheet());
+    auto *layout = new QVBoxLayout(q);
+    layout->setContentsMargins(kGap, kGap, kGap, kGap);
+    layout->setSpacing(kGap);
+    layout->addWidget(createHead());
+    layout->addWidget(createRows(), 1);
+    layout->addWidget(createTimeAxis());
+
+    auto *foot = new QWidget(q);
+    auto *flow = new FlowLayout(kGroupGap, kGap, foot);
+    flow->addWidget(createMarkers(foot));
+    flow->addWidget(createMeasurements(foot));
+    flow->addWidget(createDeletion(foot));
+    layout->addWidget(foot);
+
+    for (int position = 0; position < kNumSensors; ++position) {
+        connectRow(position);
+        connectInput(position);
+    }
+    connectControls();
+    updateEnabled();
+}
+
+QWidget *TabOszilloscope::Private::createRows()
+{
+    auto *content = new QWidget(q);
+    auto *layout = new QVBoxLayout(content);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(2);
+    for (int position = 0; position < kNumSensors; ++position) {
+        auto *row = new OsziRow(position, content);
+        row->plot()->setVerticalMarkerCount(Model::kNumPhases);
+        rows.at(static_cast<size_t>(position)) = row;
+        layout->addWidget(row, 1);
+    }
+    scrollArea = new QScrollArea(q);
+    scrollArea->setObjectName(QStringLiteral("scrollArea"));
+    scrollArea->setWidgetResizable(true);
+    scrollArea->setFrameShape(QFrame::NoFrame);
+    scrollArea->setWidget(content);
+    return scrollArea;
+}
+
+QWidget *TabOszilloscope::Private::createHead()
+{
+    auto *head = new QWidget(q);
+    auto *line = new QHBoxLayout(head);
+    line->setContentsMargins(0, 0, 0, 0);
+    line->setSpacing(kGroupGap);
+    auto *groups = new QWidget(head);
+    auto *flow = new FlowLayout(kGroupGap, kGap, groups);
+    for (int position = 0; position < kNumSensors; ++position)
+        flow->addWidget(createSensorSwitch(position, groups));
+    flow->addWidget(createYCorrection(groups));
+    flow->addWidget(createSampleRate(groups));
+    line->addWidget(groups, 1);
+    createLock(head);
+    line->addWidget(lockButton, 0, Qt::AlignTop);
+    return head;
+}
+
+QWidget *TabOszilloscope::Private::createSensorSwitch(int position, QWidget *parent)
+{
+    const QString number = QString::number(position + 1);
+    auto *group = new QWidget(parent);
+    SensorSwitch &made = sensors.at(static_cast<size_t>(position));
+    made.box = new QCheckBox(group);
+    made.box->setObjectName(QStringLiteral("sensor%1CheckBox").arg(number));
+    made.box->setChecked(true);
+    made.label = new ElidedLabel(6, 11, group);
+    made.label->setObjectName(QStringLiteral("sensor%1Label").arg(number));
+    connect(made.label, &ElidedLabel::clicked, made.box, &QCheckBox::click);
+    QHBoxLayout *layout = groupLayout(group);
+    layout->addWidget(made.box);
+    layout->addWidget(made.label);
+    return group;
+}
+
+void TabOszilloscope::Private::createLock(QWidget *parent)
+{
+    lockButton = new QPushButton(parent);
+    lockButton->setObjectName(QStringLiteral("lockButton"));
+    lockButton->setCheckable(true);
+    lockButton->setIconSize(QSize(26, 26));
+}
+
+QWidget *TabOszilloscope::Private::createTimeAxis()
+{
+    auto *axis = new QWidget(q);
+    QHBoxLayout *layout = groupLayout(axis);
+    scrollBar = new QScrollBar(Qt::Horizontal, axis);
+    scrollBar->setObjectName(QStringLiteral("scrollBarOszi"));
+    scrollBar->setFocusPolicy(Qt::StrongFocus);
+    zoomCaption = new QLabel(axis);
+    zoom = new QSlider(Qt::Horizontal, axis);
+    zoom->setObjectName(QStringLiteral("sliderTimeZoom"));
+    zoom->setRange(1, osziaxes::kMaximumZoom);
+    zoom->setPageStep(5);
+    zoom->setMinimumWidth(120);
+    zoom->setMaximumWidth(240);
+    layout->addWidget(scrollBar, 4);
+    layout->addSpacing(kGap);
+    layout->addWidget(zoomCaption);
+    layout->addWidget(zoom, 1);
+    layout->addSpacing(kGap);
+    layout->addWidget(createClockGrid(axis));
+    return axis;
+}
+
+QWidget *TabOszilloscope::Private::createClockGrid(QWidget *parent)
+{
+    auto *group = new QWidget(parent);
+    clockGridCaption = new QLabel(group);
+    clockGridAuto = new QCheckBox(group);
+    clockGridAuto->setObjectName(QStringLiteral("checkBoxClockGridAuto"));
+    clockGridAuto->setChecked(true);
+    clockGrid = new OsziSpinBox(QStringLiteral("100000 ms"), group);
+    clockGrid->setObjectName(QStringLiteral("clockGridSpinBox"));
+    clockGrid->setRange(1, 100);
+    clockGrid->setValue(100);
+    QHBoxLayout *layout = groupLayout(group);
+    layout->addWidget(clockGridCaption);
+    layout->addWidget(clockGridAuto);
+    layout->addWidget(clockGrid);
+    return group;
+}
+
+QWidget *TabOszilloscope::Private::createYCorrection(QWidget *parent)
+{
+    auto *group = new QWidget(parent);
+    yCorrectionCaption = new QLabel(group);
+    yCorrection = new QCheckBox(group);
+    yCorrection->setObjectName(QStringLiteral("checkBoxYCorrection"));
+    yCorrectionTime = new OsziSpinBox(QStringLiteral("00000 ms"), group);
+    yCorrectionTime->setObjectName(QStringLiteral("spinBoxYCorrection"));
+    yCorrectionTime->setRange(0, kLargestMilliseconds);
+    yCorrectionTime->setSingleStep(100);
+    QHBoxLayout *layout = groupLayout(group);
+    layout->addWidget(yCorrectionCaption);
+    layout->addWidget(yCorrection);
+    layout->addWidget(yCorrectionTime);
+    return group;
+}
+
+QWidget *TabOszilloscope::Private::createSampleRate(QWidget *parent)
+{
+    auto *frame = new QFrame(parent);
+    frame->setObjectName(QStringLiteral("frameSampleRate"));
+    sampleRateCaption = new QLabel(frame);
+    sampleRate = new QLabel(frame);
+    sampleRate->setObjectName(QStringLiteral("clockLabel"));
+    QHBoxLayout *layout = groupLayout(frame);
+    layout->addWidget(sampleRateCaption);
+    layout->addWidget(sampleRate);
+    return frame;
+}
+
+QWidget *TabOszilloscope::Private::createMarkers(QWidget *parent)
+{
+    markerFrame = new QFrame(parent);
+    markerFrame->setObjectName(QStringLiteral("frameMarker"));
+    QHBoxLayout *layout = groupLayout(markerFrame);
+    for (int index = 0; index < Model::kNumMarkers; ++index) {
+        const Marker marker = createMarker(index, markerFrame);
+        markers.at(static_cast<size_t>(index)) = marker;
+        layout->addWidget(marker.button);
+        layout->addWidget(marker.label);
+        layout->addWidget(marker.seconds);
+        layout->addSpacing(kGap);
+    }
+    markerAbsolute = new QCheckBox(markerFrame);
+    markerAbsolute->setObjectName(QStringLiteral("checkBoxMarkerAbsolute"));
+    markerAbsoluteCaption = new QLabel(markerFrame);
+    markerAbsoluteCaption->setObjectName(QStringLiteral("labelMarkerAbsolute"));
+    clearMarkersButton = new QPushButton(markerFrame);
+    clearMarkersButton->setObjectName(QStringLiteral("buttonClearMarkers"));
+    clearMarkersButton->setIcon(QIcon(QStringLiteral(":/icons/delete.png")));
+    layout->addWidget(markerAbsolute);
+    layout->addWidget(markerAbsoluteCaption);
+    layout->addWidget(clearMarkersButton);
+    return markerFrame;
+}
+
+TabOszilloscope::Private::Marker TabOszilloscope::Private::createMarker(int index, QWidget *parent)
+{
+    const QString number = QString::number(index + 1);
+    Marker marker;
+    marker.button = new QPushButton(number, parent);
+    marker.button->setObjectName(QStringLiteral("buttonMarker") + number);
+    marker.button->setCheckable(true);
+    marker.button->setStyleSheet(QStringLiteral("QPushButton {min-width: 34px; background-color: %1;}"
+                                                "QPushButton:checked {border: 4px solid black;}"
+                                                "QPushButton:disabled {background-color: gray;}")
+                                     .arg(markerColor(index).name()));
+    marker.label = new QLabel(parent);
+    marker.label->setObjectName(QStringLiteral("labelMarker") + number);
+    marker.seconds = new OsziDoubleSpinBox(QStringLiteral("000.00"), parent);
+    marker.seconds->setObjectName(QStringLiteral("markerSpinBox") + number);
+    marker.seconds->setDecimals(4); // with three, 1.2345 s would be rounded here already, and downwards
+    marker.seconds->setRange(0.0, kLargestSeconds);
+    marker.seconds->setSingleStep(0.1);
+    return marker;
+}
+
+QWidget *TabOszilloscope::Private::createMeasurements(QWidget *parent)
+{
+    auto *group = new QWidget(parent);
+    counterCaption = new QLabel(group);
+    counter = new QLabel(group);
+    counter->setObjectName(QStringLiteral("numMeasuringsLabel"));
+    displayedCaption = new QLabel(group);
+    allMeasurements = new QCheckBox(group);
+    allMeasurements->setObjectName(QStringLiteral("checkBoxAllMeasurings"));
+    allMeasurements->setChecked(true);
+    displayed = new QLineEdit(group);
+    displayed->setObjectName(QStringLiteral("displayedMeasLineEdit"));
+    displayed->setMinimumWidth(110);
+    highlightCaption = new QLabel(group);
+    highlight = new OsziSpinBox(QStringLiteral("00000"), group);
+    highlight->setObjectName(QStringLiteral("highlightSpinBox"));
+    highlight->setRange(0, 0);
+    QHBoxLayout *layout = groupLayout(group);
+    layout->addWidget(counterCaption);
+    layout->addWidget(counter);
+    layout->addSpacing(kGroupGap);
+    layout->addWidget(displayedCaption);
+    layout->addWidget(allMeasurements);
+    layout->addWidget(displayed);
+    layout->addSpacing(kGroupGap);
+    layout->addWidget(highlightCaption);
+    layout->addWidget(highlight);
+    return group;
+}
+
+QWidget *TabOszilloscope::Private::createDeletion(QWidget *parent)
+{
+    auto *group = new QWidget(parent);
+    deletionCaption = new QLabel(group);
+    deletion = new QLineEdit(group);
+    deletion->setObjectName(QStringLiteral("measToDeleteLineEdit"));
+    deletion->setMinimumWidth(110);
+    deleteButton = new QPushButton(group);
+    deleteButton->setObjectName(QStringLiteral("buttonDeleteMeasurement"));
+    deleteButton->setIcon(QIcon(QStringLiteral(":/icons/delete.png")));
+    QHBoxLayout *layout = groupLayout(group);
+    layout->addWidget(deletionCaption);
+    layout->addWidget(deletion);
+    layout->addWidget(deleteButton);
+    return group;
+}
