@@ -11,12 +11,17 @@
 #include <QObject>
 #include <QPixmap>
 #include <QStringList>
+#include <QVariantMap>
 
 #include <array>
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
+
+class QFile;
+struct ProjectDocument;
 
 /// The single owner of everything that a project holds. Lives on the GUI thread. Nothing throws; an index outside
 /// its range is logged and the call does nothing.
@@ -160,6 +165,20 @@ private:
     void resetPhaseNames();
     void resetSensorDescription();
     void clearImages();
+
+    struct OpenedProject;
+    [[nodiscard]] ProjectDocument toDocument() const;
+    void describeSensors(ProjectDocument &document) const;
+    [[nodiscard]] bool writeFile(const QString &fileName, bool asProject);
+    [[nodiscard]] std::optional<OpenedProject> readFile(QFile &file);
+    void apply(OpenedProject &project, const QString &absolutePath);
+    void applyDescription(const QVariantMap &fields);
+    void applyChannel(int sensor, std::optional<Channel> &channel);
+    void applyLabels(const QVariantMap &fields);
+    void applySensors(const QVariantMap &fields);
+    void applyViewData(const QVariantMap &fields);
+    void useDistanceSensors();
+    void announceOpened();
 
     std::array<Channel, kNumSensors> m_channels;
     Channel m_removed;

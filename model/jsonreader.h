@@ -1,0 +1,83 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+class QIODevice;
+
+/// Reads JSON text token by token from a device, in a buffer of constant size whatever the document holds. The text
+/// may start with a byte order mark. A number that does not fit into a double is 0. Broken UTF-8 in a string gives
+/// replacement characters. Throws std::bad_alloc if a string does not fit into memory.
+class JsonReader
+{
+public:
+    enum class Token {
+        BeginObject,
+        EndObject,
+        BeginArray,
+        EndArray,
+        Key,
+        String,
+        Number,
+        True,
+        False,
+        Null,
+        End,    ///< behind the root value
+        Invalid ///< not JSON, nested too deeply or not readable; stays so
+    };
+
+    /// `refilled` is called with the number of bytes taken from the device so far.
+    JsonReader(QIODevice &source, const std::function<void(qint64 bytes)> &refilled);
+
+    [[nodiscard]] Token next();
+    /// Of the last key, or of the last string unless strings are skipped.
+    [[nodiscard]] QString text() const;
+    /// Of the last number.
+    [[nodiscard]] double number() const { return m_number; }
+
+    /// Reads up to `capacity` numbers of the array that was begun; fewer if something else follows, which is the
+    /// next token.
+    [[nodiscard]] int readNumbers(double *numbers, int capacity);
+    /// Reads on to the end of the value that `token` began; false if it is not valid.
+    [[nodiscard]] bool skipValue(Token token);
+
+    /// As many as QJsonDocument takes.
+    static constexpr std::size_t kMaxDepth = 1024;
+
+private:
+    enum class Expected { Value, ValueOrEnd, Key, KeyOrEnd, CommaOrEnd };
+
+    [[nodiscard]] int peekBehindBlanks();
+    [[nodiscard]] bool refill();
+    void skipByteOrderMark();
+    Token fail();
+    Token separator(int c);
+    Token value(int c);
+    Token begin(bool object);
+    Token end(int c);
+    Token key(int c);
+    Token literal(const char *text, Token token);
+    [[nodiscard]] bool readNumber();
+    [[nodiscard]] bool readString(bool keep);
+    [[nodiscard]] bool keepText(const char *begin, const char *end, bool keep);
+
+    QIODevice &m_source;
+    std::function<void(qint64 bytes)> m_refilled;
+    QByteArray m_buffer;
+    const char *m_pos = nullptr;
+    const char *m_end = nullptr;
+    qint64 m_bytesRead = 0;
+    std::vector<bool> m_inObject; // one entry a level
+    QByteArray m_text;            // as it stands in the file
+    double m_number = 0.0;
+    Expected m_expected = Expected::Value;
+    bool m_atEnd = false;
+    bool m_skipStrings = false;
+    bool m_failed = false;
+};
+
+/// The text that a JSON string stands for; `escaped` is what stands between its quotation marks.
+[[nodiscard]] QString unescapedJson(const QByteArray &escaped);

@@ -1,0 +1,23 @@
+#include "model/projectimage.h"
+
+#include <QBuffer>
+#include <QImageReader>
+
+QByteArray toPng(const QPixmap &image)
+{
+    QBuffer buffer;
+    if (image.isNull() || !buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, "PNG"))
+        return {};
+    return buffer.data();
+}
+
+QPixmap fromPng(QByteArray png)
+{
+    constexpr qint64 kMostPixels = 100000000;
+    QBuffer buffer(&png);
+    QImageReader reader(&buffer, "PNG");
+    const QSize size = reader.size();
+    if (!size.isValid() || qint64(size.width()) * size.height() > kMostPixels)
+        return {};
+    return QPixmap::fromImageReader(&reader);
+}
