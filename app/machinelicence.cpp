@@ -6,7 +6,7 @@
 
 QStringList licensedMachines()
 {
-    return QStringLiteral(VENTARO_LICENSED_MACHINES).split(QLatin1Char(','), Qt::SkipEmptyParts);
+    return QString::fromLatin1(VENTARO_LICENSED_MACHINES).split(QLatin1Char(','), Qt::SkipEmptyParts);
 }
 
 QString machineHash(const QByteArray &machineId)
