@@ -34,6 +34,8 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    void retranslateUi();
+
     struct Private;
     std::unique_ptr<Private> d;
 };

@@ -3,6 +3,7 @@
 #include <QMessageBox>
 #include <QString>
 
+#include <functional>
 #include <optional>
 
 /// Everything that asks the user or waits for an answer. The program answers with dialogs, tests from a script.
@@ -14,8 +15,7 @@ public:
     /// Buttons carry the texts "Speichern", "Verwerfen", "Abbrechen", "Ja", "Nein", "OK". Closing the box answers
     /// with the escape button: Abbrechen if there is one, else Nein, else the last of the list.
     [[nodiscard]] virtual QMessageBox::StandardButton ask(const QString &title, const QString &text,
-                                                          QMessageBox::StandardButtons buttons)
-        = 0;
+                                                          QMessageBox::StandardButtons buttons) = 0;
     virtual void inform(const QString &title, const QString &text) = 0;
     virtual void warn(const QString &title, const QString &text) = 0;
     /// Empty: cancelled.
@@ -23,4 +23,6 @@ public:
     [[nodiscard]] virtual QString saveFileName(const QString &title, const QString &folder, const QString &filter) = 0;
     /// The reconnect dialog; nothing if it was rejected. The answer looks like an IPv4 address or a host name.
     [[nodiscard]] virtual std::optional<QString> askAddress(const QString &current) = 0;
+    /// What askAddress() lets through; who has no use for it ignores it.
+    virtual void setAddressValidator(std::function<bool(const QString &)> isValid) { (void)isValid; }
 };

@@ -6,6 +6,7 @@
 #include <QMainWindow>
 
 #include <array>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -14,9 +15,11 @@ class QTabWidget;
 class QToolBar;
 class TabBlackBox;
 class TabDataLogger;
+class TabEvaluation;
 class TabHome;
 class TabOszilloscope;
 class TabProject;
+class TabSensors;
 class TabTerminal;
 class TabWebConfig;
 
@@ -38,14 +41,19 @@ public:
 
     [[nodiscard]] TabHome *tabHome() const;
     [[nodiscard]] TabProject *tabProject() const;
+    [[nodiscard]] TabSensors *tabSensors() const;
     [[nodiscard]] TabOszilloscope *tabOszi() const;
+    [[nodiscard]] TabEvaluation *tabEvaluation() const;
     [[nodiscard]] TabWebConfig *tabWebConfig() const;
     [[nodiscard]] TabDataLogger *tabLogger() const;
     [[nodiscard]] TabTerminal *tabTerminal() const;
     [[nodiscard]] TabBlackBox *tabBlackBox() const;
     [[nodiscard]] QTabWidget *tabs() const;
 
-    // --- Questions and messages ---
+    // --- Questions and messages: one at a time ---
+    /// While a question or message is open, a further message waits for its turn, and a further question is answered
+    /// at once with what changes nothing: save, not quit, cancel, no, no file, no address.
+    [[nodiscard]] bool isAsking() const;
     [[nodiscard]] bool askToSave();
     [[nodiscard]] bool askToQuit();
     [[nodiscard]] QMessageBox::StandardButton askToSaveAndQuit();
@@ -58,6 +66,8 @@ public:
     [[nodiscard]] QString askOpenFile(const QString &title, const QString &filter);
     [[nodiscard]] QString askSaveFile(const QString &title, const QString &filter);
     [[nodiscard]] std::optional<QString> askAddress(const QString &current);
+    /// Which texts askAddress() lets through; until it is called every text that is not blank.
+    void setAddressValidator(std::function<bool(const QString &)> isValid);
 
     // --- State shown ---
     void setActionState(Actions action, ActionState state);
@@ -67,7 +77,8 @@ public:
     /// Tabs and actions as for an empty project.
     void reset();
     /// The connection's progress dialog: centred on the window, 100 pixels high, half the window's width. Not modal
-    /// to the event loop; while it is shown the connect action cancels.
+    /// to the event loop; while it is shown the connect action, its button and the escape key hide it and emit
+    /// progressCancelled().
     void showProgress(const QString &text);
     void hideProgress();
     [[nodiscard]] bool isProgressShown() const;
@@ -110,6 +121,10 @@ signals:
     void imageButtonClicked();
     void imageLabelClicked();
     void offsetChanged(double offset);
+    /// The user gave up an attempt to connect.
+    void progressCancelled();
+    /// Two-letter code of the language chosen in the menu.
+    void languageSelected(const QString &code);
 
 public slots:
     void updateView();
@@ -129,6 +144,7 @@ public slots:
     void deleteImage4Confimed();
 
 protected:
+    bool event(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void changeEvent(QEvent *event) override;
 

@@ -1,0 +1,130 @@
+#include "view/dialogprompts.h"
+
+#include "view/ipaddressdialog.h"
+#include "view/logging.h"
+
+#include <QCoreApplication>
+#include <QFileDialog>
+#include <QPushButton>
+#include <QRegularExpression>
+
+namespace {
+
+struct AnswerText
+{
+    QMessageBox::StandardButton button;
+    const char *text;
+};
+
+// In the order in which they stand in a box.
+constexpr AnswerText kAnswers[] = {
+    {QMessageBox::Save, QT_TRANSLATE_NOOP("DialogPrompts", "Speichern")},
+    {QMessageBox::Discard, QT_TRANSLATE_NOOP("DialogPrompts", "Verwerfen")},
+    {QMessageBox::Yes, QT_TRANSLATE_NOOP("DialogPrompts", "Ja")},
+    {QMessageBox::No, QT_TRANSLATE_NOOP("DialogPrompts", "Nein")},
+    {QMessageBox::Ok, QT_TRANSLATE_NOOP("DialogPrompts", "OK")},
+    {QMessageBox::Cancel, QT_TRANSLATE_NOOP("DialogPrompts", "Abbrechen")},
+};
+
+void prepare(QFileDialog &dialog, const QString &filter)
+{
+    dialog.setNameFilters(filter.split(QStringLiteral(";;")));
+    const auto useSuffix = [&dialog](const QString &selected) { dialog.setDefaultSuffix(filterSuffix(selected)); };
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, useSuffix);
+    useSuffix(dialog.selectedNameFilter());
+}
+
+QString chosenFile(QFileDialog &dialog)
+{
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+} // namespace
+
+QMessageBox::StandardButton escapeAnswer(QMessageBox::StandardButtons buttons)
+{
+    if (buttons.testFlag(QMessageBox::Cancel))
+        return QMessageBox::Cancel;
+    if (buttons.testFlag(QMessageBox::No))
+        return QMessageBox::No;
+    QMessageBox::StandardButton last = QMessageBox::NoButton;
+    for (const AnswerText &answer : kAnswers) {
+        if (buttons.testFlag(answer.button))
+            last = answer.button;
+    }
+    return last;
+}
+
+QString filterSuffix(const QString &nameFilter)
+{
+    static const QRegularExpression pattern(QStringLiteral("\\*\\.(\\w+)"));
+    return pattern.match(nameFilter).captured(1);
+}
+
+void fillMessageBox(QMessageBox &box, const QString &title, const QString &text, QMessageBox::StandardButtons buttons)
+{
+    box.setWindowTitle(title);
+    box.setText(text);
+    // The platform's order would tear apart what reads as "save, discard, cancel".
+    for (const AnswerText &answer : kAnswers) {
+        if (!buttons.testFlag(answer.button))
+            continue;
+        QPushButton *button = box.addButton(answer.button);
+        button->setText(QCoreApplication::translate("DialogPrompts", answer.text));
+        if (!box.defaultButton())
+            box.setDefaultButton(button);
+    }
+    box.setEscapeButton(escapeAnswer(buttons));
+}
+
+QMessageBox::StandardButton DialogPrompts::ask(const QString &title, const QString &text,
+                                               QMessageBox::StandardButtons buttons)
+{
+    QMessageBox box(m_window);
+    fillMessageBox(box, title, text, buttons);
+    box.exec();
+    const QMessageBox::StandardButton answer = box.standardButton(box.clickedButton());
+    return answer == QMessageBox::NoButton ? escapeAnswer(buttons) : answer;
+}
+
+void DialogPrompts::inform(const QString &title, const QString &text)
+{
+    (void)ask(title, text, QMessageBox::Ok); // there is one answer only
+}
+
+void DialogPrompts::warn(const QString &title, const QString &text)
+{
+    (void)ask(title, text, QMessageBox::Ok); // likewise
+}
+
+QString DialogPrompts::openFileName(const QString &title, const QString &folder, const QString &filter)
+{
+    QFileDialog dialog(m_window, title, folder);
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    prepare(dialog, filter);
+    return chosenFile(dialog);
+}
+
+QString DialogPrompts::saveFileName(const QString &title, const QString &folder, const QString &filter)
+{
+    QFileDialog dialog(m_window, title, folder);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    prepare(dialog, filter);
+    return chosenFile(dialog);
+}
+
+std::optional<QString> DialogPrompts::askAddress(const QString &current)
+{
+    IPAddressDialog dialog(current, m_isValid, m_window);
+    if (dialog.exec() == QDialog::Accepted)
+        return dialog.address();
+    qCDebug(lcView) << "dialog rejected";
+    return std::nullopt;
+}
+
+void DialogPrompts::setAddressValidator(std::function<bool(const QString &)> isValid)
+{
+    m_isValid = std::move(isValid);
+}

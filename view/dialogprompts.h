@@ -1,0 +1,38 @@
+#pragma once
+
+#include "view/userprompts.h"
+
+#include <QPointer>
+#include <QWidget>
+
+class QMessageBox;
+
+/// Asks with dialogs over a window.
+class DialogPrompts : public UserPrompts
+{
+public:
+    explicit DialogPrompts(QWidget *window)
+        : m_window(window)
+    {}
+
+    [[nodiscard]] QMessageBox::StandardButton ask(const QString &title, const QString &text,
+                                                  QMessageBox::StandardButtons buttons) override;
+    void inform(const QString &title, const QString &text) override;
+    void warn(const QString &title, const QString &text) override;
+    [[nodiscard]] QString openFileName(const QString &title, const QString &folder, const QString &filter) override;
+    [[nodiscard]] QString saveFileName(const QString &title, const QString &folder, const QString &filter) override;
+    [[nodiscard]] std::optional<QString> askAddress(const QString &current) override;
+    void setAddressValidator(std::function<bool(const QString &)> isValid) override;
+
+private:
+    QPointer<QWidget> m_window;
+    std::function<bool(const QString &)> m_isValid;
+};
+
+/// Fills a box: buttons in the program's words, in the order of reading, the first one the default, and what closing
+/// the box answers.
+void fillMessageBox(QMessageBox &box, const QString &title, const QString &text, QMessageBox::StandardButtons buttons);
+/// "Abbrechen" if it is among the buttons, else "Nein", else the last.
+[[nodiscard]] QMessageBox::StandardButton escapeAnswer(QMessageBox::StandardButtons buttons);
+/// The ending of the first pattern in a file filter's entry: "csv" for "CSV (*.csv)"; empty if there is none.
+[[nodiscard]] QString filterSuffix(const QString &nameFilter);

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "model/projectdata.h"
+
+#include <QWidget>
+
+#include <memory>
+
+/// The nine fields of the project's record.
+class ProjectForm : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit ProjectForm(QWidget *parent = nullptr);
+    ~ProjectForm() override;
+
+    /// Fills the fields; emits nothing. Numbers outside the range offered for typing are shown all the same.
+    void setData(const ProjectData &data);
+    /// What was set, with what the user edited since. A field that was not edited keeps its value exactly, even
+    /// where it shows fewer digits.
+    [[nodiscard]] ProjectData data() const;
+
+signals:
+    /// The user changed a field; with every key, so that nothing typed is lost.
+    void edited();
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    void retranslateUi();
+
+    struct Private;
+    std::unique_ptr<Private> d;
+};

@@ -1,0 +1,38 @@
+#include "view/tabstyle.h"
+
+#include "app/theme.h"
+#include "view/actionicon.h"
+
+#include <QLabel>
+#include <QPushButton>
+
+namespace tabstyle {
+
+QString fixedPitchSheet()
+{
+    return QStringLiteral("QPlainTextEdit {font-family: \"Courier New\"; font-size: 16px; color: %1;"
+                          " background-color: %2; border: 1px solid %3;}"
+                          "QPlainTextEdit:focus {border: 2px solid %4;}")
+        .arg(theme::colorText, theme::colorBackground, theme::colorBorder, theme::colorPrimary);
+}
+
+void makeHeading(QLabel *label)
+{
+    label->setStyleSheet(QStringLiteral("QLabel {font: bold 22px; color: %1;}").arg(theme::colorPrimary));
+}
+
+void makeHint(QLabel *label)
+{
+    label->setWordWrap(true);
+    label->setStyleSheet(QStringLiteral("QLabel {font-size: 16px; color: %1;}").arg(theme::colorDark));
+}
+
+void makeLarge(QPushButton *button, const QString &iconFile)
+{
+    button->setStyleSheet(QStringLiteral("QPushButton {font-size: 22px; min-height: 64px; padding: 4px 20px;"
+                                         " text-align: left;}"));
+    button->setIcon(actionIcon(iconFile, theme::qColorBackground));
+    button->setIconSize(QSize(36, 36));
+}
+
+} // namespace tabstyle

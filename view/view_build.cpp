@@ -1,0 +1,262 @@
+#include "app/theme.h"
+#include "model/model.h"
+#include "view/connectionprogress.h"
+#include "view/dialogprompts.h"
+#include "view/logging.h"
+#include "view/sidetabs.h"
+#include "view/tabblackbox.h"
+#include "view/tabdatalogger.h"
+#include "view/tabevaluation.h"
+#include "view/tabhome.h"
+#include "view/taboszilloscope.h"
+#include "view/tabproject.h"
+#include "view/tabsensors.h"
+#include "view/tabterminal.h"
+#include "view/tabwebconfig.h"
+#include "view/viewprivate.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QActionGroup>
+#include <QDoubleSpinBox>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QMenu>
+#include <QMetaMethod>
+#include <QScreen>
+#include <QSettings>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int kDataInterval = 50;  // ms between two updates of what shows the latest samples
+constexpr int kFileInterval = 250; // ms
+
+constexpr QSize kSmallestTabs(320, 200);
+constexpr QPoint kDefaultPosition(200, 200);
+constexpr QSize kDefaultSize(400, 400);
+constexpr int kTitleBarHeight = 30;
+
+QSettings settings()
+{
+    return QSettings(theme::organisationName, theme::applicationName);
+}
+
+/// A window whose title bar lies on no screen (a monitor was taken away) could not be moved back by hand.
+bool isReachable(QPoint position, QSize size)
+{
+    const QRect titleBar(position, QSize(size.width(), kTitleBarHeight));
+    const QList<QScreen *> screens = QGuiApplication::screens();
+    return std::any_of(screens.cbegin(), screens.cend(), [&titleBar](const QScreen *screen) {
+        return screen->availableVirtualGeometry().intersects(titleBar) && screen->geometry().intersects(titleBar);
+    });
+}
+
+} // namespace
+
+View::Private::Private(View *view, Model *data, std::unique_ptr<UserPrompts> questions)
+    : q(view)
+    , model(data)
+    , prompts(questions ? std::move(questions) : std::make_unique<DialogPrompts>(view))
+    , actions(view)
+{}
+
+void View::Private::createWindow()
+{
+    createToolBar();
+    createTabs();
+    createStatusBar();
+    createTimers();
+    progress = new ConnectionProgress(q);
+}
+
+void View::Private::createToolBar()
+{
+    toolBar = q->addToolBar(QString());
+    toolBar->setObjectName(QStringLiteral("toolBar"));
+    toolBar->setMovable(false);
+    toolBar->setContextMenuPolicy(Qt::PreventContextMenu); // it would offer to hide the bar for good
+    toolBar->setIconSize(QSize(36, 36));
+    toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    actions.fillToolBar(toolBar);
+    menu = new QMenu(q);
+    menu->setObjectName(QStringLiteral("menu"));
+    actions.fillMenu(menu);
+}
+
+void View::Private::createTabs()
+{
+    auto *central = new QWidget(q);
+    central->setObjectName(QStringLiteral("centralwidget"));
+    tabs = new SideTabWidget(central);
+    tabs->setObjectName(QStringLiteral("tabWidget"));
+    tabs->setMinimumSize(kSmallestTabs); // the window may be made smaller than the largest page needs
+    auto *layout = new QVBoxLayout(central);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(tabs);
+    q->setCentralWidget(central);
+    const auto add = [this](QWidget *page, const char *name) {
+        page->setObjectName(QLatin1String(name));
+        tabs->addTab(page, QString());
+    };
+    add(tabHome = new TabHome, "tabHome");
+    add(tabProject = new TabProject, "tabProject");
+    add(tabSensors = new TabSensors, "tabSensors");
+    add(tabOszi = new TabOszilloscope, "tabOszi");
+    add(tabEvaluation = new TabEvaluation, "tabEvaluation");
+    add(tabWebConfig = new TabWebConfig, "tabWebConfig");
+    add(tabLogger = new TabDataLogger, "tabLogger");
+    add(tabTerminal = new TabTerminal, "tabTerminal");
+    add(tabBlackBox = new TabBlackBox, "tabBlackBox");
+}
+
+void View::Private::createStatusBar()
+{
+    fileLabel = new QLabel(q);
+    fileLabel->setObjectName(QStringLiteral("labelProjectFile"));
+    fileLabel->setTextFormat(Qt::PlainText);
+    q->statusBar()->addPermanentWidget(fileLabel);
+}
+
+void View::Private::createTimers()
+{
+    for (QTimer *timer : {&dataTimer, &projectTimer, &statusTimer})
+        timer->setSingleShot(true);
+    dataTimer.setInterval(kDataInterval);
+    projectTimer.setInterval(0);
+    QObject::connect(&dataTimer, &QTimer::timeout, q, [this] { refreshData(); });
+    QObject::connect(&projectTimer, &QTimer::timeout, q, [this] { refreshProject(); });
+    QObject::connect(&fileTimer, &QTimer::timeout, q, [this] { refreshFileLabel(); });
+    fileTimer.start(kFileInterval);
+}
+
+void View::Private::connectActions()
+{
+    const auto relay = [this](QAction *action, void (View::*signal)()) {
+        QObject::connect(action, &QAction::triggered, q, signal);
+    };
+    relay(actions.newProject, &View::newProject);
+    relay(actions.openProject, &View::openProject);
+    relay(actions.saveProject, &View::saveProject);
+    relay(actions.saveAs, &View::saveProjectAs);
+    relay(actions.openBlackBox, &View::openImportBlackBoxData);
+    relay(actions.openBlackBox, &View::importBlackBox);
+    relay(actions.saveCsv, &View::saveCSV);
+    relay(actions.saveOszi, &View::saveOszi);
+    relay(actions.saveTerminal, &View::saveTerminal);
+    relay(actions.disconnectBox, &View::connectDisconnect);
+    relay(actions.calibrate, &View::calibrate);
+    relay(actions.startRecording, &View::startStopRecording);
+    relay(actions.firmwareUpdate, &View::firmwareUpdate);
+    relay(actions.menu, &View::menu);
+    relay(actions.about, &View::about);
+    relay(actions.quit, &View::quit);
+    QObject::connect(progress, &ConnectionProgress::cancelled, q, [this] {
+        q->hideProgress();
+        emit q->progressCancelled();
+    });
+    QObject::connect(actions.connectBox, &QAction::triggered, q, [this] {
+        if (q->isProgressShown())
+            emit progress->cancelled();
+        else
+            emit q->connectDisconnect();
+    });
+}
+
+void View::Private::connectExports()
+{
+    QObject::connect(q, &View::saveTerminal, q, [this] { exportTerminal(); });
+    QObject::connect(q, &View::saveOszi, q, [this] { exportOszi(); });
+    QObject::connect(q, &View::saveCSV, q, [this] { exportCsv(); });
+    QObject::connect(q, &View::loggerHeadline, q, [this] { tabLogger->writeHeadline(); });
+    QObject::connect(q, &View::clearLogger, q, [this] {
+        tabLogger->clear();
+        if (tabLogger->isAnySensorChecked())
+            emit q->loggerHeadline();
+    });
+    QObject::connect(q, &View::openImportBlackBoxData, q, [this] { tabs->setCurrentWidget(tabBlackBox); });
+    QObject::connect(actions.languages, &QActionGroup::triggered, q,
+                     [this](const QAction *language) { emit q->languageSelected(language->data().toString()); });
+    // Without anyone who changes the language there is nothing to choose.
+    QObject::connect(actions.languageMenu, &QMenu::aboutToShow, q, [this] {
+        actions.english->setEnabled(q->isSignalConnected(QMetaMethod::fromSignal(&View::languageSelected)));
+    });
+}
+
+void View::Private::connectTabs()
+{
+    QObject::connect(tabs, &QTabWidget::currentChanged, q, &View::onTabSelected);
+    tabHome->setActions(actions.connectBox, actions.newProject, actions.openProject);
+    QObject::connect(tabProject, &TabProject::commentChanged, q, &View::commentChanged);
+    QObject::connect(tabLogger, &TabDataLogger::clearRequested, q, &View::clearLogger);
+    QObject::connect(tabLogger, &TabDataLogger::headlineRequested, q, &View::loggerHeadline);
+    QObject::connect(tabTerminal, &TabTerminal::sendRequested, q, &View::terminalSend);
+    QObject::connect(tabTerminal, &TabTerminal::cleared, q, &View::terminalClear);
+    QObject::connect(tabWebConfig, &TabWebConfig::openFailed, q,
+                     [this] { q->showStatus(View::tr("Der Browser konnte nicht geöffnet werden.")); });
+    relayOsziControls();
+}
+
+void View::Private::relayOsziControls()
+{
+    if (const auto *clear = tabOszi->findChild<QAbstractButton *>(QStringLiteral("buttonClearMarkers")))
+        QObject::connect(clear, &QAbstractButton::clicked, q, &View::clearMarkers);
+    for (int i = 1; i <= kNumSensors; ++i) {
+        if (const auto *offset = tabOszi->findChild<QDoubleSpinBox *>(QStringLiteral("offsetSpinBox%1").arg(i)))
+            QObject::connect(offset, qOverload<double>(&QDoubleSpinBox::valueChanged), q, &View::offsetChanged);
+    }
+}
+
+void View::Private::connectModel()
+{
+    tabHome->setModel(model);
+    tabProject->setModel(model);
+    tabSensors->setModel(model);
+    tabOszi->setModel(model);
+    tabEvaluation->setModel(model);
+    QObject::connect(model, &Model::appStateChanged, q, &View::onModel_appStateChanged);
+    QObject::connect(model, &Model::projectChanged, q, &View::onModel_ProjectChanged);
+    QObject::connect(model, &Model::dataChanged, q, &View::onModel_DataChanged);
+    QObject::connect(model, &Model::viewDataChanged, q, &View::onModel_ViewDataChanged);
+    QObject::connect(model, &Model::projectChanged, tabOszi, &TabOszilloscope::onModel_projectChanged,
+                     Qt::UniqueConnection);
+    QObject::connect(model, &Model::dataChanged, tabOszi, &TabOszilloscope::onModel_dataChanged, Qt::UniqueConnection);
+}
+
+void View::Private::readSettings()
+{
+    const QSettings stored = settings();
+    const QPoint position = stored.value(QStringLiteral("mainwindow_pos"), kDefaultPosition).toPoint();
+    const QSize size = stored.value(QStringLiteral("mainwindow_size"), kDefaultSize).toSize();
+    q->resize(size.isEmpty() ? kDefaultSize : size);
+    q->move(isReachable(position, q->size()) ? position : kDefaultPosition);
+    lastDir = stored.value(QStringLiteral("lastDir")).toString();
+}
+
+void View::writeSettings()
+{
+    qCDebug(lcView) << Q_FUNC_INFO;
+    QSettings stored = settings();
+    const bool filling = isMaximized() || isFullScreen();
+    stored.setValue(QStringLiteral("mainwindow_pos"), filling ? normalGeometry().topLeft() : pos());
+    stored.setValue(QStringLiteral("mainwindow_size"), filling ? normalGeometry().size() : size());
+    stored.setValue(QStringLiteral("lastDir"), d->lastDir);
+}
+
+void View::Private::retranslate()
+{
+    const QString titles[] = {tr("Home"),        tr("Projekt"),    tr("Sensoren"),
+                              tr("Oszilloskop"), tr("Auswertung"), tr("Web Configuration"),
+                              tr("Datenlogger"), tr("Terminal"),   tr("BlackBox")};
+    for (int i = 0; i < tabs->count(); ++i)
+        tabs->setTabText(i, titles[i]);
+    toolBar->setWindowTitle(tr("Werkzeugleiste"));
+    actions.retranslate();
+    actions.nameToolButtons(toolBar);
+    showRecordingTexts();
+    if (link != Link::Unknown)
+        showLink(link == Link::Connected);
+    refreshFileLabel();
+}

@@ -1,0 +1,172 @@
+#include "view/viewactions.h"
+
+#include "app/theme.h"
+#include "view/actionicon.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QMenu>
+#include <QToolBar>
+#include <QToolButton>
+
+namespace {
+
+QAction *newAction(QWidget *owner, const char *name, const QString &icon = {}, const QKeySequence &shortcut = {})
+{
+    auto *action = new QAction(owner);
+    action->setObjectName(QLatin1String(name));
+    if (!icon.isEmpty())
+        action->setIcon(actionIcon(icon, theme::qColorPrimary));
+    action->setShortcut(shortcut);
+    owner->addAction(action); // so that the shortcut works wherever the action is shown
+    return action;
+}
+
+void setTexts(QAction *action, const QString &text, const QString &toolTip, const QString &statusTip)
+{
+    action->setText(text);
+    if (!toolTip.isEmpty())
+        action->setToolTip(toolTip);
+    action->setStatusTip(statusTip);
+}
+
+/// The bar is dark, the menu is white: one icon cannot serve both, so the bar's buttons show white ones.
+void showIconOnly(QToolBar *bar, QAction *action, const QString &icon)
+{
+    bar->addAction(action);
+    auto *button = qobject_cast<QToolButton *>(bar->widgetForAction(action));
+    button->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    button->setIcon(actionIcon(icon, theme::qColorBackground));
+}
+
+void addSpacer(QToolBar *bar)
+{
+    auto *spacer = new QWidget(bar);
+    spacer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    bar->addWidget(spacer);
+}
+
+} // namespace
+
+ViewActions::ViewActions(QWidget *owner)
+{
+    createProjectActions(owner);
+    createBoxActions(owner);
+    createOtherActions(owner);
+}
+
+void ViewActions::createProjectActions(QWidget *owner)
+{
+    newProject = newAction(owner, "actionNewProject", QStringLiteral("file-plus.png"), QKeySequence::New);
+    openProject = newAction(owner, "actionOpenProject", QStringLiteral("folder-open.png"), QKeySequence::Open);
+    saveProject = newAction(owner, "actionSaveProject", QStringLiteral("content-save.png"), QKeySequence::Save);
+    saveAs = newAction(owner, "actionSaveAs", QStringLiteral("content-save-as.png"), Qt::CTRL + Qt::SHIFT + Qt::Key_S);
+    openBlackBox = newAction(owner, "actionOpenBlackBox", QStringLiteral("database.png"), Qt::CTRL + Qt::Key_B);
+    saveCsv = newAction(owner, "actionSaveCSV", QStringLiteral("file-delimited.png"), Qt::CTRL + Qt::Key_E);
+    saveOszi = newAction(owner, "actionSaveOszi", QStringLiteral("image.png"), Qt::CTRL + Qt::SHIFT + Qt::Key_G);
+    saveTerminal =
+        newAction(owner, "actionSaveTerminal", QStringLiteral("console.png"), Qt::CTRL + Qt::SHIFT + Qt::Key_T);
+}
+
+void ViewActions::createBoxActions(QWidget *owner)
+{
+    connectBox = newAction(owner, "actionConnect", {}, Qt::Key_F5);
+    disconnectBox = newAction(owner, "actionDisconnect", QStringLiteral("close.png"));
+    calibrate = newAction(owner, "actionCalibrate", {}, Qt::Key_F6);
+    startRecording = newAction(owner, "actionStartRecording", {}, Qt::Key_F7);
+    firmwareUpdate = newAction(owner, "actionFirmwareUpdate", QStringLiteral("update.png"));
+    disconnectBox->setEnabled(false);
+}
+
+void ViewActions::createOtherActions(QWidget *owner)
+{
+    menu = newAction(owner, "actionMenu", {}, Qt::Key_F10);
+    menu->setIcon(actionIcon(QStringLiteral("menu.png"), theme::qColorBackground));
+    about = newAction(owner, "actionAbout", QStringLiteral("information.png"));
+    quit = newAction(owner, "actionQuit", QStringLiteral("exit.png"), Qt::CTRL + Qt::Key_Q);
+    quit->setMenuRole(QAction::QuitRole);
+    about->setMenuRole(QAction::AboutRole);
+    german = newAction(owner, "actionLanguageGerman");
+    english = newAction(owner, "actionLanguageEnglish");
+    languages = new QActionGroup(owner);
+    for (QAction *language : {german, english}) {
+        language->setCheckable(true);
+        languages->addAction(language);
+    }
+    german->setData(QStringLiteral("de"));
+    english->setData(QStringLiteral("en"));
+    german->setChecked(true);
+}
+
+void ViewActions::retranslate() const
+{
+    retranslateProject();
+    retranslateBox();
+    retranslateOther();
+}
+
+void ViewActions::retranslateProject() const
+{
+    setTexts(newProject, tr("&Neues Projekt"), tr("Neues Projekt anlegen"), tr("Beginnt ein leeres Projekt"));
+    setTexts(openProject, tr("Projekt &öffnen..."), {}, tr("Öffnet eine Projektdatei"));
+    setTexts(saveProject, tr("Projekt &speichern"), {}, tr("Speichert das Projekt in seiner Datei"));
+    setTexts(saveAs, tr("Projekt speichern &unter..."), {}, tr("Speichert das Projekt in einer neuen Datei"));
+    setTexts(openBlackBox, tr("BlackBox Daten Öffnen"), {}, tr("Übernimmt Aufzeichnungen der Box in das Projekt"));
+    setTexts(saveCsv, tr("CSV speichern..."), tr("Save data as CSV file"),
+             tr("Schreibt alle Messungen als Tabelle in eine Datei"));
+    setTexts(saveOszi, tr("Oszilloskop speichern..."), tr("Save oscilloscope as a graphics file"),
+             tr("Speichert die erste Zeile des Oszilloskops als Bild"));
+    setTexts(saveTerminal, tr("Terminal speichern..."), {}, tr("Schreibt den Inhalt des Terminals in eine Datei"));
+}
+
+void ViewActions::retranslateBox() const
+{
+    setTexts(connectBox, tr("Verbinden"), tr("Mit Mesotra verbinden."), tr("Verbindet mit der Mesotra Box"));
+    setTexts(disconnectBox, tr("Trennen"), tr("Mesotra Verbindung trennen."), tr("Trennt die Verbindung zur Box"));
+    setTexts(calibrate, tr("Kalibrieren"), {}, tr("Setzt die aktuellen Werte aller Sensoren auf null"));
+    setTexts(startRecording, tr("Start"), {}, tr("Startet oder beendet eine Aufzeichnung"));
+    setTexts(firmwareUpdate, tr("Firmware Update…"), {}, tr("Überträgt eine neue Firmware auf die Box"));
+}
+
+void ViewActions::retranslateOther() const
+{
+    setTexts(menu, tr("Menu"), {}, tr("Öffnet das Menü"));
+    setTexts(about, tr("Über Ventaro..."), {}, tr("Versionen von Programm und Box"));
+    setTexts(quit, tr("Ventaro beenden"), {}, tr("Beendet das Programm"));
+    setTexts(german, tr("German"), {}, tr("Zeigt die Texte auf Deutsch"));
+    setTexts(english, tr("English"), {}, tr("Zeigt die Texte auf Englisch"));
+    if (languageMenu)
+        languageMenu->setTitle(tr("Sprache"));
+}
+
+void ViewActions::fillToolBar(QToolBar *bar) const
+{
+    bar->addAction(connectBox);
+    bar->addAction(calibrate);
+    bar->addAction(startRecording);
+    addSpacer(bar);
+    showIconOnly(bar, newProject, QStringLiteral("file-plus.png"));
+    showIconOnly(bar, openProject, QStringLiteral("folder-open.png"));
+    showIconOnly(bar, saveProject, QStringLiteral("content-save.png"));
+    bar->addSeparator();
+    bar->addAction(menu);
+}
+
+void ViewActions::nameToolButtons(QToolBar *bar) const
+{
+    for (QAction *action : {newProject, openProject, saveProject})
+        bar->widgetForAction(action)->setAccessibleName(action->iconText());
+}
+
+void ViewActions::fillMenu(QMenu *target)
+{
+    target->addActions({newProject, openProject, saveProject, saveAs, openBlackBox});
+    target->addSeparator();
+    target->addActions({saveCsv, saveOszi, saveTerminal});
+    target->addSeparator();
+    target->addActions({disconnectBox, firmwareUpdate});
+    target->addSeparator();
+    languageMenu = target->addMenu(actionIcon(QStringLiteral("translate.png"), theme::qColorPrimary), QString());
+    languageMenu->addActions({german, english});
+    target->addActions({about, quit});
+}

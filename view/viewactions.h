@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QKeySequence>
+
+class QAction;
+class QActionGroup;
+class QMenu;
+class QObject;
+class QToolBar;
+class QWidget;
+
+/// All actions of the main window. They belong to the owner and are told apart by their object names.
+struct ViewActions
+{
+    Q_DECLARE_TR_FUNCTIONS(View)
+
+public:
+    explicit ViewActions(QWidget *owner);
+
+    /// Texts in the current language. The texts of connection and recording are those for "not connected" and "not
+    /// recording"; the window sets them anew.
+    void retranslate() const;
+    /// The actions used most, the first three with their text; the menu at the right.
+    void fillToolBar(QToolBar *bar) const;
+    /// What a tool button shows as an icon alone gets its text as accessible name.
+    void nameToolButtons(QToolBar *bar) const;
+    void fillMenu(QMenu *menu);
+
+    QAction *connectBox = nullptr;
+    QAction *disconnectBox = nullptr;
+    QAction *about = nullptr;
+    QAction *saveTerminal = nullptr;
+    QAction *saveCsv = nullptr;
+    QAction *saveOszi = nullptr;
+    QAction *newProject = nullptr;
+    QAction *openProject = nullptr;
+    QAction *saveProject = nullptr;
+    QAction *saveAs = nullptr;
+    QAction *startRecording = nullptr;
+    QAction *calibrate = nullptr;
+    QAction *menu = nullptr;
+    QAction *quit = nullptr;
+    QAction *german = nullptr;
+    QAction *english = nullptr;
+    QAction *openBlackBox = nullptr;
+    QAction *firmwareUpdate = nullptr;
+    QActionGroup *languages = nullptr;
+    QMenu *languageMenu = nullptr;
+
+private:
+    void createProjectActions(QWidget *owner);
+    void createBoxActions(QWidget *owner);
+    void createOtherActions(QWidget *owner);
+    void retranslateProject() const;
+    void retranslateBox() const;
+    void retranslateOther() const;
+};
