@@ -220,9 +220,6 @@ void View::Private::connectModel()
     QObject::connect(model, &Model::projectChanged, q, &View::onModel_ProjectChanged);
     QObject::connect(model, &Model::dataChanged, q, &View::onModel_DataChanged);
     QObject::connect(model, &Model::viewDataChanged, q, &View::onModel_ViewDataChanged);
-    QObject::connect(model, &Model::projectChanged, tabOszi, &TabOszilloscope::onModel_projectChanged,
-                     Qt::UniqueConnection);
-    QObject::connect(model, &Model::dataChanged, tabOszi, &TabOszilloscope::onModel_dataChanged, Qt::UniqueConnection);
 }
 
 void View::Private::readSettings()

@@ -167,7 +167,6 @@ void View::updateView()
     qCDebug(lcView) << Q_FUNC_INFO;
     d->tabProject->updateFromModel();
     d->refreshProject();
-    onModel_ViewDataChanged();
     d->tabOszi->onModel_projectChanged();
     d->tabOszi->onModel_dataChanged();
     d->refreshData();
@@ -202,9 +201,7 @@ void View::onModel_DataChanged()
 void View::onModel_ViewDataChanged()
 {
     qCDebug(lcView) << Q_FUNC_INFO;
-    for (int i = 0; i < kNumSensors; ++i)
-        d->tabOszi->setCurrentSensorRange(0, i, d->model->osziMinimum(i), d->model->osziMaximum(i));
-    d->tabOszi->setCheckBoxMarkerAbsolute(d->model->markersAbsolute());
+    d->refreshFileLabel(); // a file was opened; the oscilloscope tab follows by itself
 }
 
 void View::onTabSelected(int index)
