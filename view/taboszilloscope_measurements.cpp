@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -132,6 +133,7 @@ void TabOszilloscope::Private::takeGrowth()
     for (const OsziRow *row : rows)
         row->plot()->samplesAppended();
     correctNewest();
+    const QScopedValueRollback<bool> grows(growing, true);
     q->updateOsziSlider();
 }
 

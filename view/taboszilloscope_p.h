@@ -162,6 +162,8 @@ struct TabOszilloscope::Private
     bool pointed = false; ///< the slots are as seenRevision says
     quint64 seenRevision = 0;
     int longest = 0;            ///< samples of the longest curve of row 1, but for the newest
+    int lastSamples = 0;        ///< samples of the longest curve when the scroll bar was last set up
+    bool growing = false;       ///< the scroll bar is being set up because samples came
     int uncorrectedNewest = -1; ///< the measurement that has not yet reached the time of the y correction
     int growthsThisTurn = 0;
     bool turnEndQueued = false;

@@ -46,7 +46,10 @@ void TabOszilloscope::updateOsziSlider()
     const int samples = d->longestCurve();
     const int visible = d->visibleSamples();
     const osziaxes::ScrollState state = osziaxes::scrollState(samples, visible);
-    const bool follows = osziaxes::followsEnd(d->scrollBar->value(), samples, visible) && !d->zoom->isSliderDown();
+    // Many samples may have come since: whoever would have followed the first of them is not left behind.
+    const int next = d->growing ? std::min(samples, d->lastSamples + 1) : samples;
+    const bool follows = osziaxes::followsEnd(d->scrollBar->value(), next, visible) && !d->zoom->isSliderDown();
+    d->lastSamples = samples;
     d->scrollBar->setEnabled(state.enabled);
     d->scrollBar->setRange(0, state.maximum);
     if (!state.enabled)
