@@ -1,0 +1,91 @@
+#include "model/csvexport.h"
+#include "model/pacer.h"
+#include "tests/support/faildevice.h"
+
+#include <QBuffer>
+#include <QLocale>
+#include <QtTest>
+
+namespace {
+
+ProjectDocument document()
+{
+    ProjectDocument result;
+    result.data.name = QStringLiteral("Deckel");
+    result.data.number = QStringLiteral("47");
+    result.data.user = QStringLiteral("Öz");
+    result.data.date = QStringLiteral("heute");
+    result.clock = 250;
+    result.sensorNames[1] = QStringLiteral("Weg");
+    return result;
+}
+
+bool write(QIODevice &target, const ProjectDocument &source)
+{
+    Pacer pacer([](int) {}, 1);
+    return writeCsv(target, QStringLiteral("a.vnt"), source, pacer);
+}
+
+QByteArray csv(const ProjectDocument &source)
+{
+    QBuffer buffer;
+    return buffer.open(QIODevice::WriteOnly) && write(buffer, source) ? buffer.data() : QByteArray("failed");
+}
+
+} // namespace
+
+class TestCsvExport : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void writesTheLayout();
+    void writesNumbers_data();
+    void writesNumbers();
+    void reportsAFullDevice();
+};
+
+void TestCsvExport::writesTheLayout()
+{
+    const SampleList first{1.5, 1234567.0, -2.0};
+    const SampleList empty;
+    ProjectDocument source = document();
+    source.samples[1] = {{&first, 3}, {&empty, 0}, {&first, 1}};
+    QCOMPARE(csv(source), QByteArray("Dateiname: a.vnt\nProjekt: Deckel\nProj.Nr.: 47\nBearbeiter: Öz\nDatum: heute\n\n"
+                                     "Abtastrate: 250ms\nSensor 1: \nSensor 2: Weg\n"
+                                     "data 0;1,5;1,23457e+06;-2\ndata 1;\ndata 2;1,5\n"
+                                     "Sensor 3: \nSensor 4: \nSensor 5: \n"));
+}
+
+void TestCsvExport::writesNumbers_data()
+{
+    QTest::addColumn<double>("value");
+    for (double value : {0.0, -0.0, 0.1, 1.0 / 3, 12.0, 123.456789, 999.9995, 1000.0, 12345.6, 123456.0, 999999.5, -1e6,
+                         1e-4, 0.00012345678, 1e-5, 1e100, 5e-324, -1234.5})
+        QTest::newRow(qPrintable(QString::number(value, 'g', 17))) << value;
+}
+
+void TestCsvExport::writesNumbers()
+{
+    QFETCH(double, value);
+    const SampleList samples{value};
+    ProjectDocument source = document();
+    source.samples[4] = {{&samples, 1}};
+    const QString expected = QLocale(QLocale::German).toString(value, 'g', 6);
+    QVERIFY(csv(source).endsWith("Sensor 5: \ndata 0;" + expected.toUtf8() + '\n'));
+}
+
+void TestCsvExport::reportsAFullDevice()
+{
+    const SampleList samples(30000, 1.25);
+    ProjectDocument source = document();
+    source.samples[0] = {{&samples, samples.size()}};
+    const int size = csv(source).size();
+    for (int limit : {0, 1, 65536, size / 2, size - 1, size}) {
+        FailDevice device(limit);
+        QCOMPARE(write(device, source), limit == size);
+    }
+}
+
+QTEST_GUILESS_MAIN(TestCsvExport)
+#include "tst_csvexport.moc"
