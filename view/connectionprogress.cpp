@@ -15,7 +15,8 @@ ConnectionProgress::ConnectionProgress(QWidget *window)
 {
     setObjectName(QStringLiteral("connectionProgress"));
     setStyleSheet(QStringLiteral("ConnectionProgress {background-color: %1; border: 3px solid %2; border-radius: 4px;}"
-                                 "ConnectionProgress QLabel {font-size: 20px;}")
+                                 "ConnectionProgress QLabel {font-size: 20px;}"
+                                 "ConnectionProgress QPushButton {font-size: 18px; padding: 0px 18px;}")
                       .arg(theme::colorBackground, theme::colorPrimary));
     m_label = new QLabel(this);
     m_label->setObjectName(QStringLiteral("labelProgress"));

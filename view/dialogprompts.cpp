@@ -1,14 +1,21 @@
 #include "view/dialogprompts.h"
 
+#include "app/theme.h"
+#include "view/actionicon.h"
 #include "view/ipaddressdialog.h"
 #include "view/logging.h"
 
 #include <QCoreApplication>
 #include <QFileDialog>
+#include <QGridLayout>
 #include <QPushButton>
 #include <QRegularExpression>
 
 namespace {
+
+constexpr QSize kPanelSize(800, 600);
+constexpr int kButtonRowHeight = 84;
+constexpr QSize kIconSize(72, 72);
 
 struct AnswerText
 {
@@ -77,24 +84,45 @@ void fillMessageBox(QMessageBox &box, const QString &title, const QString &text,
     box.setEscapeButton(escapeAnswer(buttons));
 }
 
-QMessageBox::StandardButton DialogPrompts::ask(const QString &title, const QString &text,
-                                               QMessageBox::StandardButtons buttons)
+void makePanel(QMessageBox &box, const QString &iconFile)
+{
+    box.setIconPixmap(actionIcon(iconFile, theme::qColorBackground).pixmap(kIconSize));
+    // The icon is a label too and must not be as wide as the text.
+    box.setStyleSheet(QStringLiteral("QLabel#qt_msgboxex_icon_label {min-width: %1px; max-width: %1px;}"
+                                     "QPushButton {padding: 0px 20px;}")
+                          .arg(kIconSize.width() + kIconSize.width() / 2));
+    // A message box sets its size by its layout and ignores the minimum in the sheet.
+    if (auto *grid = qobject_cast<QGridLayout *>(box.layout())) {
+        grid->setRowMinimumHeight(0, kPanelSize.height() - kButtonRowHeight);
+        grid->addItem(new QSpacerItem(kPanelSize.width(), 0), grid->rowCount(), 0, 1, grid->columnCount());
+    }
+}
+
+QMessageBox::StandardButton DialogPrompts::run(const QString &title, const QString &text,
+                                               QMessageBox::StandardButtons buttons, const QString &iconFile)
 {
     QMessageBox box(m_window);
     fillMessageBox(box, title, text, buttons);
+    makePanel(box, iconFile);
     box.exec();
     const QMessageBox::StandardButton answer = box.standardButton(box.clickedButton());
     return answer == QMessageBox::NoButton ? escapeAnswer(buttons) : answer;
 }
 
+QMessageBox::StandardButton DialogPrompts::ask(const QString &title, const QString &text,
+                                               QMessageBox::StandardButtons buttons)
+{
+    return run(title, text, buttons, QStringLiteral("help-circle-outline.png"));
+}
+
 void DialogPrompts::inform(const QString &title, const QString &text)
 {
-    (void)ask(title, text, QMessageBox::Ok); // there is one answer only
+    (void)run(title, text, QMessageBox::Ok, QStringLiteral("information.png")); // there is one answer only
 }
 
 void DialogPrompts::warn(const QString &title, const QString &text)
 {
-    (void)ask(title, text, QMessageBox::Ok); // likewise
+    (void)run(title, text, QMessageBox::Ok, QStringLiteral("alert.png")); // likewise
 }
 
 QString DialogPrompts::openFileName(const QString &title, const QString &folder, const QString &filter)

@@ -25,6 +25,9 @@ public:
     void setAddressValidator(std::function<bool(const QString &)> isValid) override;
 
 private:
+    [[nodiscard]] QMessageBox::StandardButton run(const QString &title, const QString &text,
+                                                  QMessageBox::StandardButtons buttons, const QString &iconFile);
+
     QPointer<QWidget> m_window;
     std::function<bool(const QString &)> m_isValid;
 };
@@ -32,6 +35,8 @@ private:
 /// Fills a box: buttons in the program's words, in the order of reading, the first one the default, and what closing
 /// the box answers.
 void fillMessageBox(QMessageBox &box, const QString &title, const QString &text, QMessageBox::StandardButtons buttons);
+/// The large panel that the application's sheet means: 800 x 600 pixels at least, a white icon beside the text.
+void makePanel(QMessageBox &box, const QString &iconFile);
 /// "Abbrechen" if it is among the buttons, else "Nein", else the last.
 [[nodiscard]] QMessageBox::StandardButton escapeAnswer(QMessageBox::StandardButtons buttons);
 /// The ending of the first pattern in a file filter's entry: "csv" for "CSV (*.csv)"; empty if there is none.

@@ -1,5 +1,7 @@
 #include "view/projectform.h"
 
+#include "view/tabstyle.h"
+
 #include <QDate>
 #include <QDoubleSpinBox>
 #include <QEvent>
@@ -46,7 +48,7 @@ SpinBox *newNumberField(QWidget *parent, const char *name)
     auto *box = new SpinBox(parent);
     box->setObjectName(QLatin1String(name));
     box->setAlignment(Qt::AlignHCenter);
-    box->setMinimumWidth(220);
+    box->setStyleSheet(QStringLiteral("QAbstractSpinBox {min-width: 200px; min-height: 30px; padding: 2px;}"));
     box->setGroupSeparatorShown(true);
     return box;
 }
@@ -121,6 +123,7 @@ void ProjectForm::Private::createFields(QWidget *form)
     }
     today = new QPushButton(form);
     today->setObjectName(QStringLiteral("buttonToday"));
+    tabstyle::makeRegular(today);
     force = newNumberField<QSpinBox>(form, "spinBoxClosePower");
     force->setRange(0, kLargestForce);
     injectionTime = newTimeField(form, "spinBoxInjectionTime");
@@ -225,7 +228,7 @@ void ProjectForm::retranslateUi()
     };
     for (std::size_t i = 0; i < texts.size(); ++i)
         d->labels[i]->setText(texts[i]);
-    d->texts[Date]->setPlaceholderText(tr("TT.MM.JJJJ"));
+    d->texts[Date]->setToolTip(tr("TT.MM.JJJJ"));
     d->today->setText(tr("&Heute"));
     d->today->setToolTip(tr("Das heutige Datum eintragen"));
     d->force->setSuffix(tr(" kN"));

@@ -8,18 +8,7 @@
 
 namespace {
 
-constexpr int kDigits = 6;
-constexpr int kColumnsPerSensor = 2;
-
-int sensorOfColumn(int column)
-{
-    return (column - ShotTable::FirstSensorColumn) / kColumnsPerSensor;
-}
-
-bool isMaximumColumn(int column)
-{
-    return (column - ShotTable::FirstSensorColumn) % kColumnsPerSensor == 1;
-}
+constexpr int kDigits = 5;
 
 } // namespace
 
@@ -33,11 +22,20 @@ ShotTable::ShotTable(const Model *model, QObject *parent)
 
 void ShotTable::refresh()
 {
-    if (m_model->structureRevision() != m_revision) {
+    const int count = m_model->numChannels(0);
+    const int before = rowCount();
+    if (m_model->structureRevision() == m_revision) {
+        if (before > 0) // only the newest shot grows
+            emit dataChanged(index(before - 1, 0), index(before - 1, NumColumns - 1));
+    } else if (count <= before) {
         reload();
-    } else if (!m_rows.empty()) { // only the newest shot grows
-        const int last = rowCount() - 1;
-        emit dataChanged(index(last, 0), index(last, columnCount() - 1));
+    } else {
+        beginInsertRows({}, before, count - 1);
+        m_revision = m_model->structureRevision();
+        m_rows.assign(static_cast<std::size_t>(count), Row{}); // shots may have been removed as well
+        endInsertRows();
+        if (before > 0)
+            emit dataChanged(index(0, 0), index(before - 1, NumColumns - 1));
     }
 }
 
@@ -56,7 +54,7 @@ int ShotTable::rowCount(const QModelIndex &parent) const
 
 int ShotTable::columnCount(const QModelIndex &parent) const
 {
-    return parent.isValid() ? 0 : FirstSensorColumn + kNumSensors * kColumnsPerSensor;
+    return parent.isValid() ? 0 : NumColumns;
 }
 
 QVariant ShotTable::data(const QModelIndex &index, int role) const
@@ -64,7 +62,7 @@ QVariant ShotTable::data(const QModelIndex &index, int role) const
     if (!index.isValid())
         return {};
     if (role == Qt::TextAlignmentRole)
-        return QVariant::fromValue(index.column() == TimeColumn ? Qt::AlignCenter : Qt::AlignRight | Qt::AlignVCenter);
+        return int(index.column() == NumberColumn ? Qt::AlignRight | Qt::AlignVCenter : Qt::AlignCenter);
     return role == Qt::DisplayRole ? QVariant(text(index.row(), index.column())) : QVariant();
 }
 
@@ -73,11 +71,13 @@ QString ShotTable::text(int shot, int column) const
     if (column == NumberColumn)
         return QString::number(shot + 1);
     if (column == TimeColumn)
-        return m_model->timestamp(shot).toString(QStringLiteral("dd.MM.yyyy HH:mm:ss"));
-    const Extremes values = extremes(shot, sensorOfColumn(column));
+        return m_model->timestamp(shot).toString(QStringLiteral("dd.MM. HH:mm:ss"));
+    const Extremes values = extremes(shot, column - FirstSensorColumn);
     if (values.count == 0)
         return QStringLiteral("–");
-    return QLocale().toString(isMaximumColumn(column) ? values.maximum : values.minimum, 'g', kDigits);
+    const QLocale locale;
+    return tr("%1 … %2").arg(locale.toString(values.minimum, 'g', kDigits),
+                             locale.toString(values.maximum, 'g', kDigits));
 }
 
 ShotTable::Extremes ShotTable::extremes(int shot, int sensor) const
@@ -104,11 +104,12 @@ QVariant ShotTable::headerData(int section, Qt::Orientation orientation, int rol
         return tr("Nr.");
     if (section == TimeColumn)
         return tr("Aufgezeichnet");
-    const int sensor = sensorOfColumn(section);
+    const int sensor = section - FirstSensorColumn;
     const SensorDescription &description = m_model->sensorDescription();
-    QString name = tr("Sensor %1").arg(sensor + 1);
-    if (description.numSensorGroups() > 0 && sensor < description.sensorGroup(0).numSensors()
-        && !description.sensorGroup(0).sensorName(sensor).isEmpty())
+    QString name;
+    if (description.numSensorGroups() > 0 && sensor < description.sensorGroup(0).numSensors())
         name = description.sensorGroup(0).sensorName(sensor);
-    return isMaximumColumn(section) ? tr("%1\nMax.").arg(name) : tr("%1\nMin.").arg(name);
+    if (name.isEmpty())
+        name = tr("Sensor %1").arg(sensor + 1);
+    return name + QLatin1Char('\n') + tr("Min. … Max.");
 }

@@ -17,7 +17,12 @@ class ShotTable : public QAbstractTableModel
     Q_OBJECT
 
 public:
-    enum Column { NumberColumn = 0, TimeColumn = 1, FirstSensorColumn = 2 };
+    enum Column {
+        NumberColumn = 0,
+        TimeColumn = 1,
+        FirstSensorColumn = 2,
+        NumColumns = FirstSensorColumn + kNumSensors
+    };
 
     explicit ShotTable(const Model *model, QObject *parent = nullptr);
 

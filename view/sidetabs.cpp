@@ -75,7 +75,7 @@ void SideTabBar::paintEvent(QPaintEvent *)
         initStyleOption(&option, index);
         painter.drawControl(QStyle::CE_TabBarTabShape, option);
         drawLabel(painter, index);
-        if (hasFocus() && index == currentIndex()) {
+        if (index == currentIndex() && hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange)) {
             painter.setPen(QPen(theme::qColorPrimary, 1, Qt::DotLine));
             painter.drawRect(tabRect(index).adjusted(kMarkerWidth + 3, 3, -4, -4));
         }

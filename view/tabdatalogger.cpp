@@ -53,6 +53,8 @@ void TabDataLogger::Private::createBoxes(TabDataLogger *tab)
     for (std::size_t i = 0; i < boxes.size(); ++i) {
         boxes[i] = new QCheckBox(tab);
         boxes[i]->setObjectName(QStringLiteral("loggerCheckBoxA%1").arg(i));
+        // The sheet's paddings are left out of the width that a box asks for.
+        boxes[i]->setStyleSheet(QStringLiteral("QCheckBox {padding-right: 20px;}"));
         connect(boxes[i], &QCheckBox::toggled, tab, &TabDataLogger::onSensorToggled);
     }
 }
@@ -76,6 +78,7 @@ TabDataLogger::TabDataLogger(QWidget *parent)
     d->createBoxes(this);
     d->clear = new QPushButton(this);
     d->clear->setObjectName(QStringLiteral("loggerButtonClear"));
+    tabstyle::makeRegular(d->clear);
     d->edit = new StreamEdit(kMaximumLines, this);
     d->edit->setObjectName(QStringLiteral("editLogger"));
     d->edit->setStyleSheet(tabstyle::fixedPitchSheet());

@@ -30,7 +30,6 @@ void TabEvaluation::Private::createTable(QWidget *tab)
     table->verticalHeader()->hide();
     table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     table->verticalHeader()->setDefaultSectionSize(36);
-    table->horizontalHeader()->setDefaultSectionSize(110);
     table->horizontalHeader()->setMinimumSectionSize(60);
 }
 
@@ -59,9 +58,12 @@ void TabEvaluation::setModel(const Model *model)
 {
     d->shots = new ShotTable(model, this);
     d->table->setModel(d->shots);
-    d->table->setColumnWidth(ShotTable::NumberColumn, 70);
-    d->table->setColumnWidth(ShotTable::TimeColumn, 210);
+    for (int column = ShotTable::FirstSensorColumn; column < ShotTable::NumColumns; ++column)
+        d->table->horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
+    d->table->setColumnWidth(ShotTable::NumberColumn, 60);
+    d->table->setColumnWidth(ShotTable::TimeColumn, 150);
     connect(d->shots, &QAbstractItemModel::modelReset, this, [this] { d->updateHeading(); });
+    connect(d->shots, &QAbstractItemModel::rowsInserted, this, [this] { d->updateHeading(); });
     d->updateHeading();
 }
 

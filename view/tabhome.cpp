@@ -12,7 +12,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 #include <array>
@@ -23,12 +22,6 @@ enum Fact { Box, Recording, Project, Shots, NumFacts };
 constexpr int kButtonWidth = 380;
 constexpr int kMargin = 48;
 
-QPixmap logo()
-{
-    QPixmap pixmap(theme::logoPath);
-    return pixmap;
-}
-
 } // namespace
 
 struct TabHome::Private
@@ -37,7 +30,6 @@ struct TabHome::Private
     QAction *connectAction = nullptr;
     QString address;
     bool recording = false;
-    QLabel *title = nullptr;
     QLabel *subtitle = nullptr;
     QLabel *stateHeading = nullptr;
     QPushButton *connectButton = nullptr;
@@ -46,7 +38,7 @@ struct TabHome::Private
     std::array<QLabel *, NumFacts> names{};
     std::array<QLabel *, NumFacts> values{};
 
-    [[nodiscard]] QHBoxLayout *createHead(QWidget *page);
+    [[nodiscard]] QVBoxLayout *createHead(QWidget *page);
     [[nodiscard]] QVBoxLayout *createButtons(QWidget *page);
     [[nodiscard]] QVBoxLayout *createState(QWidget *page);
     [[nodiscard]] QString boxText() const;
@@ -54,23 +46,17 @@ struct TabHome::Private
     void set(Fact fact, const QString &text) { values[fact]->setText(text); }
 };
 
-QHBoxLayout *TabHome::Private::createHead(QWidget *page)
+QVBoxLayout *TabHome::Private::createHead(QWidget *page)
 {
     auto *picture = new QLabel(page);
-    picture->setPixmap(logo());
-    title = new QLabel(page);
-    title->setStyleSheet(QStringLiteral("QLabel {font: bold 44px; color: %1;}").arg(theme::colorPrimary));
+    picture->setPixmap(QPixmap(theme::logoPath));
+    picture->setAccessibleName(theme::applicationName);
     subtitle = new QLabel(page);
-    subtitle->setStyleSheet(QStringLiteral("QLabel {font-size: 20px; color: %1;}").arg(theme::colorDark));
-    auto *text = new QVBoxLayout;
-    text->setSpacing(0);
-    text->addWidget(title);
-    text->addWidget(subtitle);
-    auto *head = new QHBoxLayout;
-    head->setSpacing(24);
-    head->addWidget(picture, 0, Qt::AlignVCenter);
-    head->addLayout(text);
-    head->addStretch(1);
+    subtitle->setStyleSheet(QStringLiteral("QLabel {font-size: 22px; color: %1;}").arg(theme::colorDark));
+    auto *head = new QVBoxLayout;
+    head->setSpacing(16);
+    head->addWidget(picture, 0, Qt::AlignLeft);
+    head->addWidget(subtitle);
     return head;
 }
 
@@ -99,6 +85,8 @@ QVBoxLayout *TabHome::Private::createState(QWidget *page)
     tabstyle::makeHeading(stateHeading);
     auto *grid = new QGridLayout;
     grid->setHorizontalSpacing(24);
+    grid->setVerticalSpacing(8);
+    grid->setRowStretch(NumFacts, 1);
     grid->setColumnStretch(1, 1);
     for (int i = 0; i < NumFacts; ++i) {
         auto *name = new QLabel(page);
@@ -114,8 +102,7 @@ QVBoxLayout *TabHome::Private::createState(QWidget *page)
     }
     auto *column = new QVBoxLayout;
     column->addWidget(stateHeading);
-    column->addLayout(grid);
-    column->addStretch(1);
+    column->addLayout(grid, 1);
     return column;
 }
 
@@ -143,8 +130,7 @@ TabHome::TabHome(QWidget *parent)
     : QWidget(parent)
     , d(std::make_unique<Private>())
 {
-    auto *page = new QWidget;
-    page->setObjectName(QStringLiteral("homeContent"));
+    QWidget *page = tabstyle::addScrolledPage(this);
     auto *columns = new QHBoxLayout;
     columns->setSpacing(kMargin);
     auto *rows = new QVBoxLayout(page);
@@ -154,12 +140,6 @@ TabHome::TabHome(QWidget *parent)
     columns->addLayout(d->createButtons(page));
     columns->addLayout(d->createState(page), 1);
     rows->addLayout(columns, 1);
-    auto *scroll = new QScrollArea(this);
-    scroll->setWidget(page);
-    scroll->setWidgetResizable(true);
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(scroll);
     retranslateUi();
 }
 
@@ -221,7 +201,6 @@ void TabHome::changeEvent(QEvent *event)
 
 void TabHome::retranslateUi()
 {
-    d->title->setText(theme::applicationName);
     d->subtitle->setText(tr("Prozessüberwachung für Spritzgießwerkzeuge"));
     d->stateHeading->setText(tr("Stand"));
     d->newButton->setText(tr("&Neues Projekt"));

@@ -12,7 +12,6 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -95,20 +94,13 @@ TabProject::TabProject(QWidget *parent)
     : QWidget(parent)
     , d(std::make_unique<Private>())
 {
-    auto *content = new QWidget;
-    content->setObjectName(QStringLiteral("projectContent"));
+    QWidget *content = tabstyle::addScrolledPage(this);
     d->createWidgets(content);
     auto *columns = new QHBoxLayout(content);
     columns->setContentsMargins(24, 8, 24, 16);
     columns->setSpacing(32);
     columns->addLayout(d->leftColumn(), 1);
     columns->addLayout(d->rightColumn(), 1);
-    auto *scroll = new QScrollArea(this);
-    scroll->setWidget(content);
-    scroll->setWidgetResizable(true);
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(scroll);
     connect(d->form, &ProjectForm::edited, this, &TabProject::projectDataChanged);
     connect(d->commentEdit, &QPlainTextEdit::textChanged, this, &TabProject::commentChanged);
     connect(d->clear, &QPushButton::clicked, this, &TabProject::clearDataClicked);

@@ -3,9 +3,9 @@
 #include "model/model.h"
 #include "view/logging.h"
 #include "view/sensorpanel.h"
+#include "view/tabstyle.h"
 
 #include <QEvent>
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 #include <array>
@@ -20,7 +20,7 @@ TabSensors::TabSensors(QWidget *parent)
     : QWidget(parent)
     , d(std::make_unique<Private>())
 {
-    auto *page = new QWidget;
+    QWidget *page = tabstyle::addScrolledPage(this);
     auto *rows = new QVBoxLayout(page);
     rows->setContentsMargins(16, 16, 16, 16);
     rows->setSpacing(12);
@@ -29,12 +29,6 @@ TabSensors::TabSensors(QWidget *parent)
         d->panels[i]->setObjectName(QStringLiteral("sensorPanel%1").arg(i + 1));
         rows->addWidget(d->panels[i], 1);
     }
-    auto *scroll = new QScrollArea(this);
-    scroll->setWidget(page);
-    scroll->setWidgetResizable(true);
-    auto *layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(scroll);
 }
 
 TabSensors::~TabSensors() = default;

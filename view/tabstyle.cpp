@@ -5,6 +5,8 @@
 
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QVBoxLayout>
 
 namespace tabstyle {
 
@@ -18,6 +20,7 @@ QString fixedPitchSheet()
 
 void makeHeading(QLabel *label)
 {
+    label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     label->setStyleSheet(QStringLiteral("QLabel {font: bold 22px; color: %1;}").arg(theme::colorPrimary));
 }
 
@@ -27,12 +30,32 @@ void makeHint(QLabel *label)
     label->setStyleSheet(QStringLiteral("QLabel {font-size: 16px; color: %1;}").arg(theme::colorDark));
 }
 
+void makeRegular(QPushButton *button)
+{
+    button->setStyleSheet(QStringLiteral("QPushButton {padding: 0px 18px;}"));
+}
+
 void makeLarge(QPushButton *button, const QString &iconFile)
 {
     button->setStyleSheet(QStringLiteral("QPushButton {font-size: 22px; min-height: 64px; padding: 4px 20px;"
                                          " text-align: left;}"));
     button->setIcon(actionIcon(iconFile, theme::qColorBackground));
     button->setIconSize(QSize(36, 36));
+}
+
+QWidget *addScrolledPage(QWidget *tab)
+{
+    auto *page = new QWidget;
+    auto *scroll = new QScrollArea(tab);
+    scroll->setWidget(page);
+    scroll->setWidgetResizable(true);
+    // Both would be painted in the window's grey.
+    page->setAutoFillBackground(false);
+    scroll->viewport()->setAutoFillBackground(false);
+    auto *layout = new QVBoxLayout(tab);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(scroll);
+    return page;
 }
 
 } // namespace tabstyle

@@ -4,6 +4,7 @@
 
 class QLabel;
 class QPushButton;
+class QWidget;
 
 /// The looks that the tabs share, on top of the application's sheet.
 namespace tabstyle {
@@ -14,7 +15,12 @@ namespace tabstyle {
 void makeHeading(QLabel *label);
 /// A hint in small grey type that wraps.
 void makeHint(QLabel *label);
+/// A button with room beside its text.
+void makeRegular(QPushButton *button);
 /// A tall button with a large icon beside its text.
 void makeLarge(QPushButton *button, const QString &iconFile);
+
+/// Fills a tab with one page that scrolls where the window is too small for it; returns the empty page.
+[[nodiscard]] QWidget *addScrolledPage(QWidget *tab);
 
 } // namespace tabstyle

@@ -103,6 +103,8 @@ TabTerminal::TabTerminal(QWidget *parent)
     d->send->setObjectName(QStringLiteral("buttonSend"));
     d->clear = new QPushButton(this);
     d->clear->setObjectName(QStringLiteral("buttonClearTerminal"));
+    for (QPushButton *button : {d->send, d->clear})
+        tabstyle::makeRegular(button);
     d->layOut(this);
     setTabOrder(d->input, d->send);
     setTabOrder(d->send, d->clear);
@@ -177,8 +179,7 @@ void TabTerminal::retranslateUi()
     d->send->setToolTip(tr("Zeile an die Box senden (Eingabetaste)"));
     d->clear->setText(tr("&Leeren"));
     d->clear->setToolTip(tr("Alle Zeilen aus der Anzeige entfernen"));
-    d->input->setPlaceholderText(tr("z. B. deviceDescription"));
-    d->input->setToolTip(tr("Pfeil nach oben und unten: frühere Zeilen"));
+    d->input->setToolTip(tr("Zeile für die Box, z. B. deviceDescription\nPfeil nach oben und unten: frühere Zeilen"));
     d->edit->setAccessibleName(tr("Zeilen von und zu der Box"));
     d->edit->setPlaceholderText(tr("„<“ kam von der Box, „>“ ging an die Box."));
 }

@@ -79,6 +79,7 @@ void View::Private::createToolBar()
     toolBar->setMovable(false);
     toolBar->setContextMenuPolicy(Qt::PreventContextMenu); // it would offer to hide the bar for good
     toolBar->setIconSize(QSize(36, 36));
+    toolBar->setStyleSheet(QStringLiteral("QToolBar {padding: 6px;}")); // room for fingers
     toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     actions.fillToolBar(toolBar);
     menu = new QMenu(q);
@@ -251,7 +252,7 @@ void View::Private::retranslate()
         tabs->setTabText(i, titles[i]);
     toolBar->setWindowTitle(tr("Werkzeugleiste"));
     actions.retranslate();
-    actions.nameToolButtons(toolBar);
+    actions.nameToolButtons();
     showRecordingTexts();
     if (link != Link::Unknown)
         showLink(link == Link::Connected);

@@ -30,15 +30,6 @@ void setTexts(QAction *action, const QString &text, const QString &toolTip, cons
     action->setStatusTip(statusTip);
 }
 
-/// The bar is dark, the menu is white: one icon cannot serve both, so the bar's buttons show white ones.
-void showIconOnly(QToolBar *bar, QAction *action, const QString &icon)
-{
-    bar->addAction(action);
-    auto *button = qobject_cast<QToolButton *>(bar->widgetForAction(action));
-    button->setToolButtonStyle(Qt::ToolButtonIconOnly);
-    button->setIcon(actionIcon(icon, theme::qColorBackground));
-}
-
 void addSpacer(QToolBar *bar)
 {
     auto *spacer = new QWidget(bar);
@@ -139,23 +130,38 @@ void ViewActions::retranslateOther() const
         languageMenu->setTitle(tr("Sprache"));
 }
 
-void ViewActions::fillToolBar(QToolBar *bar) const
+void ViewActions::addIconButton(QToolBar *bar, QAction *action, const QString &icon)
+{
+    // The bar is dark and the menu is white, so the action's own icon cannot serve both.
+    auto *button = new QToolButton(bar);
+    button->setIcon(actionIcon(icon, theme::qColorBackground));
+    button->setIconSize(bar->iconSize());
+    button->setFocusPolicy(Qt::NoFocus);
+    QObject::connect(button, &QToolButton::clicked, action, &QAction::trigger);
+    bar->addWidget(button);
+    m_iconButtons.append({button, action});
+}
+
+void ViewActions::fillToolBar(QToolBar *bar)
 {
     bar->addAction(connectBox);
     bar->addAction(calibrate);
     bar->addAction(startRecording);
     addSpacer(bar);
-    showIconOnly(bar, newProject, QStringLiteral("file-plus.png"));
-    showIconOnly(bar, openProject, QStringLiteral("folder-open.png"));
-    showIconOnly(bar, saveProject, QStringLiteral("content-save.png"));
+    addIconButton(bar, newProject, QStringLiteral("file-plus.png"));
+    addIconButton(bar, openProject, QStringLiteral("folder-open.png"));
+    addIconButton(bar, saveProject, QStringLiteral("content-save.png"));
     bar->addSeparator();
     bar->addAction(menu);
 }
 
-void ViewActions::nameToolButtons(QToolBar *bar) const
+void ViewActions::nameToolButtons() const
 {
-    for (QAction *action : {newProject, openProject, saveProject})
-        bar->widgetForAction(action)->setAccessibleName(action->iconText());
+    for (const auto &[button, action] : m_iconButtons) {
+        button->setAccessibleName(action->iconText());
+        button->setToolTip(action->toolTip());
+        button->setStatusTip(action->statusTip());
+    }
 }
 
 void ViewActions::fillMenu(QMenu *target)

@@ -1,13 +1,15 @@
 #pragma once
 
 #include <QCoreApplication>
-#include <QKeySequence>
+#include <QPair>
+#include <QVector>
 
 class QAction;
 class QActionGroup;
 class QMenu;
 class QObject;
 class QToolBar;
+class QToolButton;
 class QWidget;
 
 /// All actions of the main window. They belong to the owner and are told apart by their object names.
@@ -22,9 +24,9 @@ public:
     /// recording"; the window sets them anew.
     void retranslate() const;
     /// The actions used most, the first three with their text; the menu at the right.
-    void fillToolBar(QToolBar *bar) const;
+    void fillToolBar(QToolBar *bar);
     /// What a tool button shows as an icon alone gets its text as accessible name.
-    void nameToolButtons(QToolBar *bar) const;
+    void nameToolButtons() const;
     void fillMenu(QMenu *menu);
 
     QAction *connectBox = nullptr;
@@ -49,10 +51,13 @@ public:
     QMenu *languageMenu = nullptr;
 
 private:
+    void addIconButton(QToolBar *bar, QAction *action, const QString &icon);
     void createProjectActions(QWidget *owner);
     void createBoxActions(QWidget *owner);
     void createOtherActions(QWidget *owner);
     void retranslateProject() const;
     void retranslateBox() const;
     void retranslateOther() const;
+
+    QVector<QPair<QToolButton *, QAction *>> m_iconButtons;
 };

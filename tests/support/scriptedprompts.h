@@ -84,7 +84,7 @@ private:
     }
 
     template <typename Dialog>
-    auto open(Dialog dialog)
+    auto open(Dialog dialog) -> decltype(dialog())
     {
         ++m_open;
         mostOpenAtOnce = std::max(mostOpenAtOnce, m_open);

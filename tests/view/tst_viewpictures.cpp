@@ -1,0 +1,196 @@
+#include "app/startup.h"
+#include "model/model.h"
+#include "tests/support/scriptedprompts.h"
+#include "view/dialogprompts.h"
+#include "view/ipaddressdialog.h"
+#include "view/tabdatalogger.h"
+#include "view/view.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QDir>
+#include <QLabel>
+#include <QMenu>
+#include <QMessageBox>
+#include <QScrollBar>
+#include <QTabWidget>
+#include <QTest>
+#include <QToolBar>
+
+#include <cmath>
+
+namespace {
+
+constexpr int kShots = 12;
+constexpr int kSamples = 300;
+
+/// A project as after a quarter of an hour's work.
+void fill(Model &model)
+{
+    const QStringList names{QStringLiteral("Werkzeugweg"), QStringLiteral("Einspritzdruck"),
+                            QStringLiteral("Werkzeuginnendruck"), QStringLiteral("Schmelzetemperatur"),
+                            QStringLiteral("Werkzeugtemperatur")};
+    const QStringList units{QStringLiteral("mm"), QStringLiteral("bar"), QStringLiteral("bar"), QStringLiteral("°C"),
+                            QStringLiteral("°C")};
+    SensorDescription description;
+    description.setNumSensorGroups(1);
+    description.modifiableSensorGroup(0)->setNumSensors(kNumSensors);
+    for (int sensor = 0; sensor < kNumSensors; ++sensor) {
+        description.modifiableSensorGroup(0)->setSensorName(sensor, names.at(sensor));
+        description.modifiableSensorGroup(0)->setSensorUnit(sensor, units.at(sensor));
+        for (int shot = 0; shot < kShots; ++shot) {
+            const int series = model.appendMeasurement(sensor);
+            for (int i = 0; i < kSamples; ++i)
+                model.appendSample(sensor, series, 180.0 * (sensor + 1) * std::exp(-i / 90.0) * std::sin(i / 20.0));
+        }
+    }
+    model.setSensorDescription(description);
+    ProjectData project;
+    project.name = QStringLiteral("Gehäusedeckel 4-fach");
+    project.number = QStringLiteral("WZ-2291");
+    project.user = QStringLiteral("K. Brandt");
+    project.date = QStringLiteral("21.11.2026");
+    project.customer = QStringLiteral("Muster GmbH & Co. KG");
+    project.closingForce = 1200;
+    project.injectionTime = 1.25;
+    project.pressTime = 4.5;
+    project.pressure = 850;
+    model.setProjectData(project);
+    model.setComment(QStringLiteral("Erste Bemusterung nach dem Umbau.\nKühlkreis 2 gedrosselt."));
+    model.emitProjectChanged();
+    model.emitDataChanged();
+}
+
+/// The picture goes to the folder that VENTARO_PICTURES names, if any: to be looked at.
+void keep(QWidget &widget, const QString &name)
+{
+    const QString folder = qEnvironmentVariable("VENTARO_PICTURES");
+    const QPixmap picture = widget.grab();
+    QVERIFY(!picture.isNull());
+    if (!folder.isEmpty())
+        QVERIFY(picture.save(QDir(folder).filePath(name + QStringLiteral(".png"))));
+}
+
+/// The text of a button or a label that is narrower than it needs; empty if nothing is clipped.
+QString clippedText(const QWidget *page)
+{
+    for (const auto *button : page->findChildren<QAbstractButton *>()) {
+        if (button->isVisible() && !button->text().isEmpty() && button->width() < button->minimumSizeHint().width())
+            return button->text();
+    }
+    for (const auto *label : page->findChildren<QLabel *>()) {
+        if (label->isVisible() && !label->wordWrap() && label->width() < label->minimumSizeHint().width()
+            && label->sizePolicy().horizontalPolicy() != QSizePolicy::Ignored)
+            return label->text();
+    }
+    return {};
+}
+
+} // namespace
+
+class TestViewPictures : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void nothingIsClipped_data();
+    void nothingIsClipped();
+    void dialogsFitTheScreen_data();
+    void dialogsFitTheScreen();
+};
+
+void TestViewPictures::initTestCase()
+{
+    prepareApplication(*qobject_cast<QApplication *>(QCoreApplication::instance()));
+}
+
+void TestViewPictures::nothingIsClipped_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::addColumn<bool>("connected");
+    QTest::newRow("1280x800") << QSize(1280, 800) << true;
+    QTest::newRow("1920x1080") << QSize(1920, 1080) << true;
+    QTest::newRow("1280x800 without a box") << QSize(1280, 800) << false;
+}
+
+void TestViewPictures::nothingIsClipped()
+{
+    QFETCH(QSize, size);
+    QFETCH(bool, connected);
+    Model model{QString()};
+    View view(&model, std::make_unique<ScriptedPrompts>());
+    if (connected) {
+        fill(model);
+        model.setConnected(true);
+        model.emitAppStateChanged();
+        view.setDeviceAddress(QStringLiteral("192.168.4.1"));
+        view.setRecordingRunning(true);
+        view.findChild<QCheckBox *>(QStringLiteral("loggerCheckBoxA1"))->setChecked(true);
+        for (int i = 0; i < 40; ++i) {
+            view.logSample(i * 0.1, {1.5 * i, 2.25, 3.0, 4.0, 5.0});
+            view.terminalReceived(QStringLiteral("%1;12.5;230.1;80;181.5;42\n").arg(i));
+        }
+        view.terminalSent(QStringLiteral("run=1\n"));
+        view.showStatus(QStringLiteral("Die CSV-Datei konnte nicht gespeichert werden!"));
+    }
+    view.resize(size);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    for (int tab = 0; tab < view.tabs()->count(); ++tab) {
+        view.tabs()->setCurrentIndex(tab);
+        QTest::qWait(60);
+        QCOMPARE(view.size(), size);
+        keep(view, QStringLiteral("%1x%2-%3-%4").arg(size.width()).arg(size.height()).arg(connected).arg(tab));
+        QCOMPARE(clippedText(view.tabs()->widget(tab)), QString());
+    }
+    QCOMPARE(clippedText(view.findChild<QToolBar *>(QStringLiteral("toolBar"))), QString());
+    view.showProgress(QStringLiteral("Verbinden mit 192.168.4.1 ..."));
+    keep(view, QStringLiteral("%1x%2-%3-progress").arg(size.width()).arg(size.height()).arg(connected));
+    auto *menu = view.findChild<QMenu *>(QStringLiteral("menu"));
+    menu->resize(menu->sizeHint());
+    keep(*menu, QStringLiteral("menu-%1").arg(connected));
+    QVERIFY(menu->sizeHint().height() <= size.height());
+}
+
+void TestViewPictures::dialogsFitTheScreen_data()
+{
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("buttons");
+    QTest::newRow("quit") << QStringLiteral("Ventaro") << QStringLiteral("Vor dem Beenden Ventaro Projekt speichern?")
+                          << int(QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
+    QTest::newRow("message") << QStringLiteral("Netzwerk Fehler")
+                             << QStringLiteral("Die Verbindung wurde abgelehnt!\n(Die IP-Adresse wurde jedoch "
+                                               "gefunden.)")
+                             << int(QMessageBox::Ok);
+    QTest::newRow("long") << QStringLiteral("Projektbeschreibung empfangen")
+                          << QStringLiteral("Soll die aktuelle Projektbeschreibung durch die empfangenen Daten "
+                                            "überschrieben werden?")
+                          << int(QMessageBox::Yes | QMessageBox::No);
+}
+
+void TestViewPictures::dialogsFitTheScreen()
+{
+    QFETCH(QString, title);
+    QFETCH(QString, text);
+    QFETCH(int, buttons);
+    QMessageBox box;
+    fillMessageBox(box, title, text, QMessageBox::StandardButtons(buttons));
+    makePanel(box, QStringLiteral("help-circle-outline.png"));
+    box.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&box));
+    keep(box, QStringLiteral("box-") + QString::fromLatin1(QTest::currentDataTag()));
+    QVERIFY2(QRect(800, 600, 401, 101).contains(box.width(), box.height()),
+             qPrintable(QStringLiteral("%1 x %2").arg(box.width()).arg(box.height())));
+    QCOMPARE(clippedText(&box), QString());
+
+    IPAddressDialog dialog(QStringLiteral("192.168.4"), [](const QString &) { return false; });
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    keep(dialog, QStringLiteral("address"));
+    QCOMPARE(clippedText(&dialog), QString());
+}
+
+QTEST_MAIN(TestViewPictures)
+#include "tst_viewpictures.moc"
