@@ -15,7 +15,7 @@ int main(int argc, char *argv[])
 
     SessionOptions options;
     options.arguments = QApplication::arguments();
-    options.deviceAddress = theme::deviceAddress();
+    options.controller.deviceAddress = theme::deviceAddress();
     options.connectAtOnce = qEnvironmentVariableIntValue("VENTARO_AUTOCONNECT") == 1;
     return runSession(application, options);
 }

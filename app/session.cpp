@@ -1,7 +1,6 @@
 #include "app/session.h"
 
 #include "app/logging.h"
-#include "controller/controller.h"
 #include "model/model.h"
 #include "view/view.h"
 
@@ -16,9 +15,7 @@ int runSession(QApplication &application, const SessionOptions &options)
 
     Model model(projectPath(options.arguments));
     View view(&model);
-    ControllerOptions controllerOptions;
-    controllerOptions.deviceAddress = options.deviceAddress;
-    const Controller controller(&model, &view, controllerOptions);
+    const Controller controller(&model, &view, options.controller);
 
     // Closing the window is only a wish; whether the program ends is decided where unsaved data is asked about.
     QGuiApplication::setQuitOnLastWindowClosed(false);

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app/startup.h"
+#include "controller/controller.h"
 
-#include <QString>
 #include <QStringList>
 
 class QApplication;
@@ -11,7 +11,7 @@ class QApplication;
 struct SessionOptions
 {
     QStringList arguments;                             ///< the program's name first
-    QString deviceAddress;                             ///< offered to the user when connecting
+    ControllerOptions controller;                      ///< with the address offered when connecting
     bool connectAtOnce = false;                        ///< press "Verbinden" as soon as the window is shown
     std::chrono::milliseconds splashTime{kSplashTime}; ///< blocks
 };
