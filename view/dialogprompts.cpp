@@ -93,6 +93,8 @@ void makePanel(QMessageBox &box, const QString &iconFile)
                           .arg(kIconSize.width() + kIconSize.width() / 2));
     // A message box sets its size by its layout and ignores the minimum in the sheet.
     if (auto *grid = qobject_cast<QGridLayout *>(box.layout())) {
+        if (auto *icon = box.findChild<QWidget *>(QStringLiteral("qt_msgboxex_icon_label")))
+            grid->setAlignment(icon, Qt::AlignVCenter);
         grid->setRowMinimumHeight(0, kPanelSize.height() - kButtonRowHeight);
         grid->addItem(new QSpacerItem(kPanelSize.width(), 0), grid->rowCount(), 0, 1, grid->columnCount());
     }

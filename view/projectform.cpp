@@ -143,6 +143,8 @@ void ProjectForm::Private::layOut(QWidget *form)
 {
     auto *layout = new QFormLayout(form);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->setVerticalSpacing(6);
+    layout->setHorizontalSpacing(16);
     layout->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     for (int row = 0; row < NumRows; ++row) {
         auto *label = new QLabel(form);

@@ -53,8 +53,6 @@ void TabDataLogger::Private::createBoxes(TabDataLogger *tab)
     for (std::size_t i = 0; i < boxes.size(); ++i) {
         boxes[i] = new QCheckBox(tab);
         boxes[i]->setObjectName(QStringLiteral("loggerCheckBoxA%1").arg(i));
-        // The sheet's paddings are left out of the width that a box asks for.
-        boxes[i]->setStyleSheet(QStringLiteral("QCheckBox {padding-right: 20px;}"));
         connect(boxes[i], &QCheckBox::toggled, tab, &TabDataLogger::onSensorToggled);
     }
 }
@@ -62,6 +60,7 @@ void TabDataLogger::Private::createBoxes(TabDataLogger *tab)
 void TabDataLogger::Private::layOut(QWidget *tab) const
 {
     auto *row = new QHBoxLayout;
+    row->setSpacing(20);
     for (QCheckBox *box : boxes)
         row->addWidget(box);
     row->addStretch(1);

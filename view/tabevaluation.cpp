@@ -31,6 +31,7 @@ void TabEvaluation::Private::createTable(QWidget *tab)
     table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     table->verticalHeader()->setDefaultSectionSize(36);
     table->horizontalHeader()->setMinimumSectionSize(60);
+    table->setStyleSheet(QStringLiteral("QHeaderView {font-size: 16px;}"));
 }
 
 void TabEvaluation::Private::updateHeading() const

@@ -101,6 +101,7 @@ QVBoxLayout *TabHome::Private::createState(QWidget *page)
         values[static_cast<std::size_t>(i)] = value;
     }
     auto *column = new QVBoxLayout;
+    column->setSpacing(12);
     column->addWidget(stateHeading);
     column->addLayout(grid, 1);
     return column;

@@ -62,6 +62,7 @@ void TabProject::Private::createWidgets(QWidget *parent)
 QVBoxLayout *TabProject::Private::leftColumn() const
 {
     auto *column = new QVBoxLayout;
+    column->setSpacing(10);
     column->addWidget(recordHeading);
     column->addWidget(form);
     column->addStretch(1);
@@ -71,9 +72,12 @@ QVBoxLayout *TabProject::Private::leftColumn() const
 QVBoxLayout *TabProject::Private::rightColumn() const
 {
     auto *names = new QFormLayout;
+    names->setVerticalSpacing(6);
+    names->setHorizontalSpacing(16);
     for (std::size_t i = 0; i < phases.size(); ++i)
         names->addRow(phaseLabels[i], phases[i]);
     auto *column = new QVBoxLayout;
+    column->setSpacing(10);
     column->addWidget(phaseHeading);
     column->addLayout(names);
     column->addWidget(commentHeading);

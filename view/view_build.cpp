@@ -65,6 +65,8 @@ View::Private::Private(View *view, Model *data, std::unique_ptr<UserPrompts> que
 
 void View::Private::createWindow()
 {
+    // A check box asks for too little room while its indicator has a minimum size only.
+    q->setStyleSheet(QStringLiteral("QCheckBox::indicator {width: 22px; height: 22px;}"));
     createToolBar();
     createTabs();
     createStatusBar();
@@ -79,7 +81,7 @@ void View::Private::createToolBar()
     toolBar->setMovable(false);
     toolBar->setContextMenuPolicy(Qt::PreventContextMenu); // it would offer to hide the bar for good
     toolBar->setIconSize(QSize(36, 36));
-    toolBar->setStyleSheet(QStringLiteral("QToolBar {padding: 6px;}")); // room for fingers
+    toolBar->setContentsMargins(6, 5, 6, 6); // room for fingers, and the line below stays whole
     toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     actions.fillToolBar(toolBar);
     menu = new QMenu(q);

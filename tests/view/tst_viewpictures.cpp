@@ -12,7 +12,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
-#include <QScrollBar>
+#include <QStyleOptionButton>
 #include <QTabWidget>
 #include <QTest>
 #include <QToolBar>
@@ -71,11 +71,25 @@ void keep(QWidget &widget, const QString &name)
         QVERIFY(picture.save(QDir(folder).filePath(name + QStringLiteral(".png"))));
 }
 
-/// The text of a button or a label that is narrower than it needs; empty if nothing is clipped.
+int textWidth(const QAbstractButton *button)
+{
+    return button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width();
+}
+
+int roomForText(const QAbstractButton *button)
+{
+    QStyleOptionButton option;
+    option.initFrom(button);
+    if (qobject_cast<const QCheckBox *>(button))
+        return button->style()->subElementRect(QStyle::SE_CheckBoxContents, &option, button).width();
+    return button->width() - (button->icon().isNull() ? 0 : button->iconSize().width());
+}
+
+/// The text of a button or a label that has too little room; empty if nothing is clipped.
 QString clippedText(const QWidget *page)
 {
     for (const auto *button : page->findChildren<QAbstractButton *>()) {
-        if (button->isVisible() && !button->text().isEmpty() && button->width() < button->minimumSizeHint().width())
+        if (button->isVisible() && !button->text().isEmpty() && roomForText(button) < textWidth(button))
             return button->text();
     }
     for (const auto *label : page->findChildren<QLabel *>()) {
