@@ -19,6 +19,7 @@ constexpr double kDefaultGrid = 50.0;
 constexpr int kValueDecimals = 4;
 constexpr int kGridDecimals = 6;
 constexpr int kSmallestPlot = 160;
+constexpr int kTallestBox = 36;
 
 OsziDoubleSpinBox *createBox(const QString &name, int decimals, double minimum, double value, QWidget *parent)
 {
@@ -28,6 +29,8 @@ OsziDoubleSpinBox *createBox(const QString &name, int decimals, double minimum, 
     box->setRange(minimum, kLargestValue);
     box->setStepType(QAbstractSpinBox::AdaptiveDecimalStepType);
     box->setValue(value);
+    box->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Expanding);
+    box->setMaximumHeight(kTallestBox);
     return box;
 }
 
@@ -64,7 +67,8 @@ OsziRow::OsziRow(int position, QWidget *parent)
 void OsziRow::createBoxes(QWidget *params)
 {
     const QString number = QString::number(m_position + 1);
-    m_title = new ElidedLabel(6, 12, params);
+    m_title = new ElidedLabel(6, 14, params);
+    m_title->setObjectName(QStringLiteral("osziTitle"));
     m_rangeCaption = new QLabel(params);
     m_autoCaption = new QLabel(params);
     m_gridCaption = new QLabel(params);
@@ -76,6 +80,7 @@ void OsziRow::createBoxes(QWidget *params)
     m_gridAuto = new QCheckBox(params);
     m_gridAuto->setObjectName(QStringLiteral("checkBoxValueGridAuto") + number);
     m_gridAuto->setChecked(true);
+    m_gridAuto->setMaximumWidth(kCheckBoxWidth);
     m_grid = createBox(QStringLiteral("valueGridSpinBox") + number, kGridDecimals, 0.001, kDefaultGrid, params);
     m_offset = createBox(QStringLiteral("offsetSpinBox") + number, kValueDecimals, -kLargestValue, 0.0, params);
 }
@@ -86,18 +91,21 @@ void OsziRow::layOut(QWidget *params)
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(4);
     grid->setVerticalSpacing(0);
-    grid->addWidget(m_title, 0, 0);
+    grid->addWidget(m_title, 0, 0, 1, 2);
     grid->addWidget(m_max, 1, 0);
     grid->addWidget(m_rangeCaption, 2, 0, Qt::AlignHCenter);
     grid->addWidget(m_min, 3, 0);
-    grid->addWidget(m_autoCaption, 0, 1, Qt::AlignHCenter);
-    grid->addWidget(m_gridAuto, 1, 1, Qt::AlignCenter);
+    grid->addWidget(m_gridAuto, 1, 1);
+    grid->addWidget(m_autoCaption, 2, 1, Qt::AlignHCenter);
     grid->addWidget(m_gridCaption, 0, 2, Qt::AlignHCenter);
     grid->addWidget(m_grid, 1, 2);
-    grid->addWidget(m_offsetCaption, 2, 1, 1, 2, Qt::AlignRight);
+    grid->addWidget(m_offsetCaption, 2, 2, Qt::AlignHCenter);
     grid->addWidget(m_offset, 3, 2);
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(2, 1);
+    // The boxes take what height there is, up to a comfortable one; what is left stays below.
+    for (int line : {1, 3})
+        grid->setRowStretch(line, 100);
     grid->setRowStretch(4, 1);
 }
 

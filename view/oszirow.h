@@ -18,6 +18,8 @@ class OsziRow : public QWidget
     Q_OBJECT
 
 public:
+    static constexpr int kCheckBoxWidth = 30; ///< pixels, of one without text
+
     /// Position 0 to 4; the object names count from 1.
     explicit OsziRow(int position, QWidget *parent = nullptr);
 

@@ -1,4 +1,6 @@
+#include "app/theme.h"
 #include "plots/osziwidget.h"
+#include "view/actionicon.h"
 #include "view/oszirowcontrols.h"
 #include "view/oszirowinput.h"
 #include "view/taboszilloscope_flow.h"
@@ -22,7 +24,6 @@ namespace {
 
 constexpr int kGap = 4;
 constexpr int kGroupGap = 14;
-constexpr int kParamsWidth = 226;
 constexpr int kLargestSeconds = std::numeric_limits<int>::max() / 1000;
 const int kLargestMilliseconds = 24 * 60 * 60 * 1000;
 
@@ -30,14 +31,50 @@ const int kLargestMilliseconds = 24 * 60 * 60 * 1000;
 QString compactSheet()
 {
     return QStringLiteral(
-        "QLabel, QCheckBox, QLineEdit, QSpinBox, QDoubleSpinBox {font-size: 16px;}"
-        "QSpinBox, QDoubleSpinBox {min-height: 30px; padding: 0px;}"
-        "QPushButton {min-height: 34px; min-width: 44px;}"
-        "OsziRow QLabel {font-size: 13px; min-height: 15px; max-height: 20px;}"
-        "OsziRow QDoubleSpinBox {font-size: 15px; min-height: 25px; min-width: 70px;}"
-        "OsziRow QDoubleSpinBox::up-button, OsziRow QDoubleSpinBox::down-button {width: 24px; height: 25px;}"
-        "OsziRow QCheckBox {min-height: 22px; min-width: 22px; padding: 0px;}"
-        "QScrollBar:horizontal {min-height: 34px;}");
+               "QLabel, QCheckBox, QLineEdit, QSpinBox, QDoubleSpinBox {font-size: 16px;}"
+               "QSpinBox, QDoubleSpinBox {min-height: 32px; padding: 0px;}"
+               "QPushButton {min-height: 34px; min-width: 44px;}"
+               "QPushButton#lockButton {min-width: 56px;}"
+               "QPushButton#lockButton:checked {background-color: #B3261E;}"
+               "QCheckBox {spacing: 4px; padding: 1px;}"
+               "QCheckBox::indicator {width: 24px; height: 24px;}"
+               "QWidget#osziRows {background-color: white;}"
+               "OsziRow QLabel {font-size: 13px; min-height: 15px; max-height: 18px;}"
+               "OsziRow QLabel#osziTitle {font-size: 14px; font-weight: bold;}"
+               "OsziRow QDoubleSpinBox {font-size: 15px; min-height: 25px; min-width: 70px;}"
+               "OsziRow QDoubleSpinBox::up-button, OsziRow QDoubleSpinBox::down-button {width: 24px; height: 25px;}"
+               "QScrollBar:horizontal {min-height: 34px;}"
+               "QSlider {min-height: 32px;}"
+               "QSlider::groove:horizontal {height: 8px; border-radius: 4px; background-color: #D5D5D5;}"
+               "QSlider::handle:horizontal {width: 28px; margin: -10px 0px; border-radius: 14px;"
+               " background-color: %1;}"
+               "QSlider::handle:horizontal:focus {border: 3px solid black;}")
+        .arg(theme::colorPrimary);
+}
+
+QCheckBox *createCheckBox(const QString &name, bool checked, QWidget *parent)
+{
+    auto *box = new QCheckBox(parent);
+    box->setObjectName(name);
+    box->setChecked(checked);
+    return box;
+}
+
+/// One whose caption stands elsewhere: as wide as its indicator.
+QCheckBox *createBareCheckBox(const QString &name, bool checked, QWidget *parent)
+{
+    QCheckBox *box = createCheckBox(name, checked, parent);
+    box->setMaximumWidth(OsziRow::kCheckBoxWidth);
+    return box;
+}
+
+QPushButton *createClearButton(const QString &name, QWidget *parent)
+{
+    auto *button = new QPushButton(parent);
+    button->setObjectName(name);
+    button->setIcon(actionIcon(QStringLiteral("delete.png"), Qt::white));
+    button->setIconSize(QSize(24, 24));
+    return button;
 }
 
 /// A group of controls in one line, for the flow layout.
@@ -65,7 +102,7 @@ void TabOszilloscope::Private::build()
     auto *flow = new FlowLayout(kGroupGap, kGap, foot);
     flow->addWidget(createMarkers(foot));
     flow->addWidget(createMeasurements(foot));
-    flow->addWidget(createDeletion(foot));
+    flow->addWidget(createSampleRate(foot));
     layout->addWidget(foot);
 
     for (int position = 0; position < kNumSensors; ++position) {
@@ -79,6 +116,7 @@ void TabOszilloscope::Private::build()
 QWidget *TabOszilloscope::Private::createRows()
 {
     auto *content = new QWidget(q);
+    content->setObjectName(QStringLiteral("osziRows"));
     auto *layout = new QVBoxLayout(content);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(2);
@@ -107,7 +145,6 @@ QWidget *TabOszilloscope::Private::createHead()
     for (int position = 0; position < kNumSensors; ++position)
         flow->addWidget(createSensorSwitch(position, groups));
     flow->addWidget(createYCorrection(groups));
-    flow->addWidget(createSampleRate(groups));
     line->addWidget(groups, 1);
     createLock(head);
     line->addWidget(lockButton, 0, Qt::AlignTop);
@@ -119,9 +156,7 @@ QWidget *TabOszilloscope::Private::createSensorSwitch(int position, QWidget *par
     const QString number = QString::number(position + 1);
     auto *group = new QWidget(parent);
     SensorSwitch &made = sensors.at(static_cast<size_t>(position));
-    made.box = new QCheckBox(group);
-    made.box->setObjectName(QStringLiteral("sensor%1CheckBox").arg(number));
-    made.box->setChecked(true);
+    made.box = createBareCheckBox(QStringLiteral("sensor%1CheckBox").arg(number), true, group);
     made.label = new ElidedLabel(6, 11, group);
     made.label->setObjectName(QStringLiteral("sensor%1Label").arg(number));
     connect(made.label, &ElidedLabel::clicked, made.box, &QCheckBox::click);
@@ -166,9 +201,7 @@ QWidget *TabOszilloscope::Private::createClockGrid(QWidget *parent)
 {
     auto *group = new QWidget(parent);
     clockGridCaption = new QLabel(group);
-    clockGridAuto = new QCheckBox(group);
-    clockGridAuto->setObjectName(QStringLiteral("checkBoxClockGridAuto"));
-    clockGridAuto->setChecked(true);
+    clockGridAuto = createCheckBox(QStringLiteral("checkBoxClockGridAuto"), true, group);
     clockGrid = new OsziSpinBox(QStringLiteral("100000 ms"), group);
     clockGrid->setObjectName(QStringLiteral("clockGridSpinBox"));
     clockGrid->setRange(1, 100);
@@ -184,8 +217,7 @@ QWidget *TabOszilloscope::Private::createYCorrection(QWidget *parent)
 {
     auto *group = new QWidget(parent);
     yCorrectionCaption = new QLabel(group);
-    yCorrection = new QCheckBox(group);
-    yCorrection->setObjectName(QStringLiteral("checkBoxYCorrection"));
+    yCorrection = createBareCheckBox(QStringLiteral("checkBoxYCorrection"), false, group);
     yCorrectionTime = new OsziSpinBox(QStringLiteral("00000 ms"), group);
     yCorrectionTime->setObjectName(QStringLiteral("spinBoxYCorrection"));
     yCorrectionTime->setRange(0, kLargestMilliseconds);
@@ -223,13 +255,10 @@ QWidget *TabOszilloscope::Private::createMarkers(QWidget *parent)
         layout->addWidget(marker.seconds);
         layout->addSpacing(kGap);
     }
-    markerAbsolute = new QCheckBox(markerFrame);
-    markerAbsolute->setObjectName(QStringLiteral("checkBoxMarkerAbsolute"));
+    markerAbsolute = createBareCheckBox(QStringLiteral("checkBoxMarkerAbsolute"), false, markerFrame);
     markerAbsoluteCaption = new QLabel(markerFrame);
     markerAbsoluteCaption->setObjectName(QStringLiteral("labelMarkerAbsolute"));
-    clearMarkersButton = new QPushButton(markerFrame);
-    clearMarkersButton->setObjectName(QStringLiteral("buttonClearMarkers"));
-    clearMarkersButton->setIcon(QIcon(QStringLiteral(":/icons/delete.png")));
+    clearMarkersButton = createClearButton(QStringLiteral("buttonClearMarkers"), markerFrame);
     layout->addWidget(markerAbsolute);
     layout->addWidget(markerAbsoluteCaption);
     layout->addWidget(clearMarkersButton);
@@ -264,9 +293,7 @@ QWidget *TabOszilloscope::Private::createMeasurements(QWidget *parent)
     counter = new QLabel(group);
     counter->setObjectName(QStringLiteral("numMeasuringsLabel"));
     displayedCaption = new QLabel(group);
-    allMeasurements = new QCheckBox(group);
-    allMeasurements->setObjectName(QStringLiteral("checkBoxAllMeasurings"));
-    allMeasurements->setChecked(true);
+    allMeasurements = createCheckBox(QStringLiteral("checkBoxAllMeasurings"), true, group);
     displayed = new QLineEdit(group);
     displayed->setObjectName(QStringLiteral("displayedMeasLineEdit"));
     displayed->setMinimumWidth(110);
@@ -284,6 +311,8 @@ QWidget *TabOszilloscope::Private::createMeasurements(QWidget *parent)
     layout->addSpacing(kGroupGap);
     layout->addWidget(highlightCaption);
     layout->addWidget(highlight);
+    layout->addSpacing(kGroupGap);
+    layout->addWidget(createDeletion(group));
     return group;
 }
 
@@ -294,9 +323,7 @@ QWidget *TabOszilloscope::Private::createDeletion(QWidget *parent)
     deletion = new QLineEdit(group);
     deletion->setObjectName(QStringLiteral("measToDeleteLineEdit"));
     deletion->setMinimumWidth(110);
-    deleteButton = new QPushButton(group);
-    deleteButton->setObjectName(QStringLiteral("buttonDeleteMeasurement"));
-    deleteButton->setIcon(QIcon(QStringLiteral(":/icons/delete.png")));
+    deleteButton = createClearButton(QStringLiteral("buttonDeleteMeasurement"), group);
     QHBoxLayout *layout = groupLayout(group);
     layout->addWidget(deletionCaption);
     layout->addWidget(deletion);

@@ -1,4 +1,5 @@
 #include "plots/osziwidget.h"
+#include "view/actionicon.h"
 #include "view/oszirowcontrols.h"
 #include "view/oszirowinput.h"
 #include "view/taboszilloscope_p.h"
@@ -106,8 +107,7 @@ void TabOszilloscope::Private::showLock()
     lockButton->setToolTip(closed ? TabOszilloscope::tr("Gesperrt: Bereiche, Raster, Korrekturen, Marker und Messungen "
                                                         "sind vor Änderungen geschützt. Klicken zum Entsperren.")
                                   : TabOszilloscope::tr("Alles kann geändert werden. Klicken zum Sperren."));
-    lockButton->setText(closed ? TabOszilloscope::tr("Gesperrt") : TabOszilloscope::tr("Offen"));
-    lockButton->setAccessibleName(TabOszilloscope::tr("Sperre"));
+    lockButton->setAccessibleName(closed ? TabOszilloscope::tr("Gesperrt") : TabOszilloscope::tr("Offen"));
     if (closed)
         armMarker(-1, false);
     updateEnabled();
@@ -177,7 +177,6 @@ void TabOszilloscope::Private::retranslateMeasurements()
     displayedCaption->setText(TabOszilloscope::tr("Angezeigt"));
     allMeasurements->setText(TabOszilloscope::tr("alle"));
     allMeasurements->setToolTip(TabOszilloscope::tr("Alle Messungen zeigen"));
-    displayed->setPlaceholderText(TabOszilloscope::tr("z. B. 1-3,5"));
     displayed->setToolTip(TabOszilloscope::tr("Nummern und Bereiche, durch Komma getrennt: 1-3,5 zeigt die Messungen "
                                               "1, 2, 3 und 5."));
     displayed->setAccessibleName(TabOszilloscope::tr("Angezeigte Messungen"));
@@ -185,7 +184,6 @@ void TabOszilloscope::Private::retranslateMeasurements()
     highlight->setToolTip(TabOszilloscope::tr("Nummer der hervorgehobenen Messung; 0 hebt keine hervor"));
     highlight->setAccessibleName(TabOszilloscope::tr("Markierte Messung"));
     deletionCaption->setText(TabOszilloscope::tr("Löschen"));
-    deletion->setPlaceholderText(TabOszilloscope::tr("z. B. 1-3,5"));
     deletion->setToolTip(TabOszilloscope::tr("Nummern und Bereiche in aufsteigender Folge, durch Komma getrennt: "
                                              "1-3,5 löscht die Messungen 1, 2, 3 und 5."));
     deletion->setAccessibleName(TabOszilloscope::tr("Zu löschende Messungen"));
