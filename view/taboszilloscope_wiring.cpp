@@ -103,7 +103,7 @@ void TabOszilloscope::Private::showLock()
 {
     const bool closed = lockButton->isChecked();
     lockButton->setIcon(
-        QIcon(closed ? QStringLiteral(":/icons/lock-closed.png") : QStringLiteral(":/icons/lock-open.png")));
+        actionIcon(closed ? QStringLiteral("lock-closed.png") : QStringLiteral("lock-open.png"), Qt::white));
     lockButton->setToolTip(closed ? TabOszilloscope::tr("Gesperrt: Bereiche, Raster, Korrekturen, Marker und Messungen "
                                                         "sind vor Änderungen geschützt. Klicken zum Entsperren.")
                                   : TabOszilloscope::tr("Alles kann geändert werden. Klicken zum Sperren."));
