@@ -1,0 +1,309 @@
+#include "simulator/boxsimulator.h"
+
+#include "simulator/boxtexts.h"
+#include "simulator/logging.h"
+
+#include <QTcpSocket>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace {
+
+constexpr int kMaxCommand = 4096; // bytes without a line feed
+constexpr int kMaxCommandsKept = 10000;
+constexpr qint64 kMaxUnsent = qint64{8} * 1024 * 1024; // bytes; a client that leaves more unread is gone
+constexpr qint64 kBurstWindow = 256 * 1024;            // bytes of a burst handed to the socket at a time
+constexpr int kFarewell = 5000;                        // ms for the rest of a link that was ended
+constexpr int kReadBuffer = 64 * 1024;                 // bytes
+constexpr int kLongestTick = 10;                       // ms between looks at the clock
+constexpr int kLongLineEvery = 10;                     // sample lines
+
+} // namespace
+
+BoxSimulator::BoxSimulator(const BoxOptions &options, QObject *parent)
+    : QObject(parent)
+    , m_options(options)
+{
+    m_timer.setTimerType(Qt::PreciseTimer);
+    connect(&m_server, &QTcpServer::newConnection, this, &BoxSimulator::takeClient);
+    connect(&m_timer, &QTimer::timeout, this, &BoxSimulator::sendDueSamples);
+}
+
+BoxSimulator::~BoxSimulator()
+{
+    if (m_client)
+        m_client->disconnect(this);
+}
+
+bool BoxSimulator::listen(const QHostAddress &address, quint16 port)
+{
+    if (!m_server.listen(address, port))
+        return false;
+    m_address = address;
+    m_port = m_server.serverPort();
+    qCInfo(lcSimulator).noquote().nospace() << "listening on " << address.toString() << ":" << m_port;
+    return true;
+}
+
+void BoxSimulator::setOptions(const BoxOptions &options)
+{
+    m_options = options;
+}
+
+void BoxSimulator::takeClient()
+{
+    while (QTcpSocket *client = m_server.nextPendingConnection()) {
+        dropLink(true);
+        m_client = client;
+        m_client->setReadBufferSize(kReadBuffer);
+        m_client->setSocketOption(QAbstractSocket::LowDelayOption, 1);
+        m_received.clear();
+        m_bytesSent = 0;
+        connect(client, &QTcpSocket::readyRead, this, &BoxSimulator::readCommands);
+        connect(client, &QTcpSocket::bytesWritten, this, &BoxSimulator::sendBurstSamples);
+        connect(client, &QTcpSocket::disconnected, this, &BoxSimulator::forgetClient);
+        qCInfo(lcSimulator).noquote() << "client" << client->peerAddress().toString();
+        emit clientConnected();
+    }
+}
+
+void BoxSimulator::forgetClient()
+{
+    if (!m_client)
+        return;
+    QTcpSocket *client = std::exchange(m_client, nullptr);
+    client->disconnect(this);
+    connect(client, &QTcpSocket::disconnected, client, &QObject::deleteLater);
+    if (client->state() == QAbstractSocket::UnconnectedState)
+        client->deleteLater();
+    m_burstLeft = 0;
+    if (m_running)
+        stopRun();
+    qCInfo(lcSimulator) << "client gone";
+    emit clientDisconnected();
+}
+
+void BoxSimulator::dropLink(bool hard)
+{
+    if (!m_client)
+        return;
+    QTcpSocket *client = m_client;
+    forgetClient();
+    if (hard) {
+        client->abort();
+        return;
+    }
+    client->disconnectFromHost(); // still sends what was written
+    QTimer::singleShot(kFarewell, client, [client] { client->abort(); });
+}
+
+void BoxSimulator::reboot()
+{
+    qCInfo(lcSimulator) << "rebooting";
+    m_server.close();
+    dropLink(true);
+    QTimer::singleShot(m_options.rebootPause, this, [this] {
+        if (!m_server.isListening() && !listen(m_address, m_port))
+            qCWarning(lcSimulator).noquote() << "cannot listen again:" << m_server.errorString();
+    });
+}
+
+void BoxSimulator::readCommands()
+{
+    const QTcpSocket *client = m_client;
+    m_received += m_client->readAll();
+    for (int end = m_received.indexOf('\n'); end >= 0; end = m_received.indexOf('\n')) {
+        const QByteArray command = m_received.left(end).trimmed();
+        m_received.remove(0, end + 1);
+        if (!command.isEmpty())
+            handleCommand(command.left(kMaxCommand));
+        if (m_client != client)
+            return; // the command or a slot ended the link
+    }
+    if (m_received.size() > kMaxCommand) {
+        qCWarning(lcSimulator) << "no line feed within" << m_received.size() << "bytes: ignored";
+        m_received.clear();
+    }
+}
+
+void BoxSimulator::handleCommand(const QByteArray &command)
+{
+    const QString text = QString::fromLatin1(command);
+    qCDebug(lcSimulator) << "received" << text;
+    m_commands.append(text);
+    if (m_commands.size() > kMaxCommandsKept)
+        m_commands.removeFirst();
+    emit commandReceived(text);
+    if (m_client)
+        handleRequest(command);
+}
+
+void BoxSimulator::handleRequest(const QByteArray &command)
+{
+    if (command == "run=1")
+        startRun();
+    else if (command == "run=0")
+        stopRun();
+    else if (command == "1")
+        sendSample(m_nextTime);
+    else if (command.startsWith("t="))
+        setPeriod(command.mid(2));
+    else if (command == "deviceDescription")
+        answer(deviceDescriptionLine(m_options.sendsProjectDescription));
+    else if (command == "sensorDescription" && m_options.describesSensors)
+        answer(sensorDescriptionLine());
+    else if (command == "list")
+        answer(listBlock());
+    else if (command == "reboot")
+        reboot();
+    else
+        qCInfo(lcSimulator) << "no answer to" << QString::fromLatin1(command);
+}
+
+// A second start begins a new shot, as the program begins one with every echo.
+void BoxSimulator::startRun()
+{
+    ++m_shot;
+    m_running = true;
+    m_nextTime = 0.0;
+    m_burstLeft = m_options.burst;
+    answer("run=1\n");
+    emit runningChanged(true);
+    restartClock();
+    m_timer.start(std::min(m_period, kLongestTick));
+    sendDueSamples();
+}
+
+void BoxSimulator::stopRun()
+{
+    const bool wasRunning = std::exchange(m_running, false);
+    m_burstLeft = 0;
+    m_timer.stop();
+    answer("run=0\n");
+    if (wasRunning)
+        emit runningChanged(false);
+}
+
+void BoxSimulator::setPeriod(const QByteArray &text)
+{
+    bool ok = false;
+    const int period = text.toInt(&ok);
+    if (!ok || period < 1 || period > 1000) {
+        qCInfo(lcSimulator) << "no such period:" << QString::fromLatin1(text);
+        return;
+    }
+    m_period = period;
+    answer("t=" + QByteArray::number(period) + '\n');
+    if (m_running) {
+        restartClock();
+        m_timer.start(std::min(m_period, kLongestTick));
+    }
+}
+
+// The samples of a period are counted against one clock, so that a late timer delays a sample but never shifts the
+// rest.
+void BoxSimulator::restartClock()
+{
+    m_clock.start();
+    m_sentInPeriod = 0;
+}
+
+void BoxSimulator::sendDueSamples()
+{
+    sendBurstSamples();
+    if (m_burstLeft > 0)
+        return;
+    const qint64 due = m_clock.elapsed() / m_period + 1;
+    while (m_running && m_sentInPeriod < due) {
+        ++m_sentInPeriod;
+        sendNextSample();
+    }
+}
+
+void BoxSimulator::burst(int lines)
+{
+    m_burstLeft += std::max(0, lines);
+    sendBurstSamples();
+}
+
+void BoxSimulator::sendBurstSamples()
+{
+    if (m_burstLeft <= 0 || m_sendingBurst)
+        return;
+    m_sendingBurst = true; // writing may report written bytes at once
+    while (m_client && m_burstLeft > 0 && m_client->bytesToWrite() < kBurstWindow) {
+        --m_burstLeft;
+        sendNextSample();
+    }
+    m_sendingBurst = false;
+    if (m_burstLeft == 0)
+        restartClock();
+}
+
+void BoxSimulator::sendNextSample()
+{
+    const double time = m_nextTime;
+    m_nextTime += m_period / 1000.0;
+    sendSample(time);
+}
+
+void BoxSimulator::sendSample(double time)
+{
+    if (!m_client || m_options.silent)
+        return;
+    sendDisturbances();
+    const QByteArray line = sampleLine(m_counter, valuesAt(time), !m_options.describesSensors);
+    ++m_counter;
+    if (sendRaw(line))
+        emit sampleSent(line);
+}
+
+// Every cycle of a long run is a shot of its own. Without a run the machine stands open and cold.
+SampleValues BoxSimulator::valuesAt(double time) const
+{
+    const double length = m_options.cycleSeconds;
+    if (!m_running)
+        return MouldCycle(m_options.seed, length)
+            .valuesAt(m_shot, 5.0 * length + static_cast<double>(m_counter) / 1000.0);
+    if (!m_options.repeatCycles)
+        return MouldCycle(m_options.seed, length).valuesAt(m_shot, time);
+    const double cycles = std::floor(time / length);
+    return MouldCycle(m_options.seed + static_cast<quint32>(cycles), length).valuesAt(m_shot, time - cycles * length);
+}
+
+void BoxSimulator::sendDisturbances()
+{
+    if (m_options.garbage)
+        sendRaw(garbageLine(m_counter));
+    if (m_options.longLines && m_counter % kLongLineEvery == 0)
+        sendRaw(overlongLine(m_counter));
+}
+
+void BoxSimulator::answer(const QByteArray &bytes)
+{
+    if (!m_options.silent)
+        sendRaw(bytes);
+}
+
+bool BoxSimulator::sendRaw(const QByteArray &bytes)
+{
+    if (!m_client)
+        return false;
+    if (m_client->bytesToWrite() > kMaxUnsent) {
+        qCWarning(lcSimulator) << "the client does not read: dropped";
+        dropLink(true);
+        return false;
+    }
+    const bool limited = m_options.dropAfter >= 0;
+    const qint64 allowed = limited ? std::max<qint64>(0, m_options.dropAfter - m_bytesSent) : bytes.size();
+    const QByteArray part = bytes.left(static_cast<int>(std::min<qint64>(allowed, bytes.size())));
+    m_client->write(part);
+    m_bytesSent += part.size();
+    if (limited && m_bytesSent >= m_options.dropAfter) {
+        qCInfo(lcSimulator) << "dropping the link after" << m_bytesSent << "bytes";
+        dropLink();
+    }
+    return part.size() == bytes.size();
+}

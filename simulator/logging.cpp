@@ -1,0 +1,3 @@
+#include "simulator/logging.h"
+
+Q_LOGGING_CATEGORY(lcSimulator, "ventaro.simulator")
