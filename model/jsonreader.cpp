@@ -2,6 +2,7 @@
 
 #include <QIODevice>
 
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstring>
@@ -29,6 +30,40 @@ bool startsLikeJson(const char *number, const char *end)
     if (*number == '-')
         ++number;
     return isDigit(*number) && (*number != '0' || number + 1 == end || !isDigit(number[1]));
+}
+
+struct PlainNumber
+{
+    double value = 0.0;
+    const char *end = nullptr; // nullptr: not plain
+};
+
+// A number without an exponent and of at most 15 digits, well before `end`: digits and power of ten are then exact as
+// doubles, and one division rounds as it should. All but exotic samples are of that kind.
+PlainNumber readPlainNumber(const char *pos, const char *end)
+{
+    static constexpr std::array<double, 16> kPowers{1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                    1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    if (end - pos < 24)
+        return {};
+    const bool negative = *pos == '-';
+    pos += negative ? 1 : 0;
+    const char *first = pos;
+    quint64 digits = 0;
+    for (; isDigit(*pos) && pos - first < 16; ++pos)
+        digits = digits * 10 + static_cast<quint64>(*pos - '0');
+    const auto whole = pos - first;
+    if (whole == 0 || (*first == '0' && whole > 1))
+        return {};
+    std::ptrdiff_t decimals = 0;
+    if (*pos == '.') {
+        for (++pos; isDigit(*pos) && whole + decimals < 16; ++pos, ++decimals)
+            digits = digits * 10 + static_cast<quint64>(*pos - '0');
+    }
+    if (whole + decimals > 15 || isDigit(*pos) || *pos == '.' || (*pos | 0x20) == 'e')
+        return {};
+    const double value = static_cast<double>(digits) / kPowers[static_cast<std::size_t>(decimals)];
+    return {negative ? -value : value, pos};
 }
 
 } // namespace
@@ -95,6 +130,8 @@ int JsonReader::peekBehindBlanks()
 {
     static constexpr char kBlanks[] = "        ";
     do {
+        if (m_pos != m_end && *m_pos == '\n')
+            ++m_pos; // what follows is an indentation
         while (m_end - m_pos >= 8 && std::memcmp(m_pos, kBlanks, 8) == 0)
             m_pos += 8;
         while (m_pos != m_end && isBlank(*m_pos))
@@ -216,6 +253,16 @@ JsonReader::Token JsonReader::literal(const char *text, Token token)
 }
 
 bool JsonReader::readNumber()
+{
+    const PlainNumber plain = readPlainNumber(m_pos, m_end);
+    if (plain.end == nullptr)
+        return readAnyNumber();
+    m_number = plain.value;
+    m_pos = plain.end;
+    return true;
+}
+
+bool JsonReader::readAnyNumber()
 {
     double number = 0.0;
     auto result = std::from_chars(m_pos, m_end, number);

@@ -61,6 +61,7 @@ private:
     Token key(int c);
     Token literal(const char *text, Token token);
     [[nodiscard]] bool readNumber();
+    [[nodiscard]] bool readAnyNumber();
     [[nodiscard]] bool readString(bool keep);
     [[nodiscard]] bool keepText(const char *begin, const char *end, bool keep);
 

@@ -128,7 +128,7 @@ public:
     void setCurrentFile(const QString &absolutePath);
     /// True while open(), save() or saveCsv() runs: no second one, no deletion and no quit may start then.
     [[nodiscard]] bool isBusy() const { return m_busy; }
-    /// Ends a recording on the side of the data: squeezes the newest measurements.
+    /// Ends a recording on the side of the data: gives back the memory that the newest measurements have not used.
     void endRecording();
     void clear();
 

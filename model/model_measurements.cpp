@@ -10,6 +10,9 @@ namespace {
 constexpr double kNoMinimum = 9999999.0;
 constexpr double kNoMaximum = -9999999.0;
 
+// Squeezing copies: of a longer measurement that is felt, and what it has not used of its memory costs nothing.
+constexpr int kLargestToSqueeze = 1000000;
+
 } // namespace
 
 int Model::numChannels(int sensor) const
@@ -97,7 +100,7 @@ void Model::endRecording()
 {
     qCDebug(lcModel) << Q_FUNC_INFO;
     for (Channel &channel : m_channels) {
-        if (!channel.empty())
+        if (!channel.empty() && channel.back()->size() < kLargestToSqueeze)
             channel.back()->squeeze();
     }
 }

@@ -21,12 +21,12 @@ public:
     }
     /// Sets the work done so far and looks at the clock.
     void moveTo(qint64 done);
+    /// Looks at the clock, where work goes on without progress.
+    void look();
 
 private:
     static constexpr qint64 kUnitsPerLook = 512;
     static constexpr int kMillisecondsPerTurn = 20;
-
-    void look();
 
     std::function<void(int percent)> m_yield;
     QElapsedTimer m_sinceTurn;

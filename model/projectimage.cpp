@@ -16,7 +16,7 @@ QPixmap fromPng(QByteArray png)
     constexpr qint64 kMostPixels = 100000000;
     QBuffer buffer(&png);
     QImageReader reader(&buffer, "PNG");
-    const QSize size = reader.size();
+    const QSize size = reader.canRead() ? reader.size() : QSize();
     if (!size.isValid() || qint64(size.width()) * size.height() > kMostPixels)
         return {};
     return QPixmap::fromImageReader(&reader);

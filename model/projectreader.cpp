@@ -6,6 +6,7 @@
 
 #include <QSet>
 
+#include <functional>
 #include <new>
 
 namespace {
@@ -60,8 +61,9 @@ int sensorOfKey(const QString &key)
 class ProjectReader
 {
 public:
-    explicit ProjectReader(JsonReader &json)
+    ProjectReader(JsonReader &json, const std::function<void()> &pause)
         : m_json(json)
+        , m_pause(pause)
     {}
 
     [[nodiscard]] std::optional<ProjectContent> read()
@@ -102,7 +104,7 @@ private:
             const bool valid = token == Token::BeginArray ? readSamples() : m_json.skipValue(token);
             if (!valid)
                 return false;
-            measurements->push_back(m_samples.take());
+            measurements->push_back(m_samples.take(m_pause));
         }
         return true;
     }
@@ -191,6 +193,7 @@ private:
     }
 
     JsonReader &m_json;
+    std::function<void()> m_pause;
     const QSet<QString> m_known = knownFields();
     SampleCollector m_samples;
     ProjectContent m_content;
@@ -212,5 +215,5 @@ QString imageKey(int image)
 std::optional<ProjectContent> readProject(QIODevice &source, Pacer &pacer)
 {
     JsonReader json(source, [&pacer](qint64 bytes) { pacer.moveTo(bytes); });
-    return ProjectReader(json).read();
+    return ProjectReader(json, [&pacer] { pacer.look(); }).read();
 }
