@@ -3,6 +3,7 @@
 #include "app/theme.h"
 #include "controller/controller_p.h"
 #include "controller/logging.h"
+#include "device/hostaddress.h"
 #include "model/model.h"
 #include "view/tabblackbox.h"
 #include "view/taboszilloscope.h"
@@ -16,6 +17,7 @@ namespace {
 
 // How long the answer to a list request may take before the user may ask again.
 constexpr int kListTimeout = 5000;
+constexpr int kProgressCheck = 200;
 
 void makeSingleShot(QTimer &timer, int milliseconds)
 {
@@ -32,6 +34,7 @@ Controller::Controller(Model *model, View *view, const ControllerOptions &option
     makeSingleShot(d->deviceDescriptionTimer, options.deviceDescriptionTimeout);
     makeSingleShot(d->sensorDescriptionTimer, options.sensorDescriptionTimeout);
     makeSingleShot(d->listTimer, kListTimeout);
+    makeSingleShot(d->progressTimer, kProgressCheck);
     makeSingleShot(d->resumeTimer, 0);
     makeSingleShot(d->deferredTimer, 0);
 
@@ -44,6 +47,7 @@ Controller::Controller(Model *model, View *view, const ControllerOptions &option
     connectTabs();
     connectDevice();
     hideUnavailableActions();
+    d->view->setAddressValidator(isValidHostAddress);
     d->view->setDeviceAddress(d->address);
 }
 
@@ -88,6 +92,8 @@ void Controller::connectTabs()
     QObject::connect(d->view->tabBlackBox(), &TabBlackBox::listRequested, this, &Controller::onTabBlackBox_listClicked);
     QObject::connect(d->view, &View::terminalSend, this, &Controller::onTerminalSend);
     QObject::connect(d->view, &View::about, this, &Controller::onActionAbout);
+    QObject::connect(d->view, &View::progressCancelled, this, &Controller::cancelConnecting);
+    QObject::connect(d->view, &View::offsetChanged, this, &Controller::markModified);
 }
 
 void Controller::connectDevice()
@@ -108,6 +114,7 @@ void Controller::connectDevice()
                      &Controller::onTimerWaitForSensorDescription_timeout);
     QObject::connect(&d->resumeTimer, &QTimer::timeout, this, &Controller::resumeLines);
     QObject::connect(&d->deferredTimer, &QTimer::timeout, this, &Controller::handleDeferred);
+    QObject::connect(&d->progressTimer, &QTimer::timeout, this, &Controller::hideProgressWhenIdle);
     QObject::connect(&d->listTimer, &QTimer::timeout, this,
                      [this] { d->view->tabBlackBox()->setListButtonEnabled(true); });
 }
@@ -140,15 +147,29 @@ MesotraConnector *Controller::connector() const
     return &d->connector;
 }
 
+/// Called from the model's long loops; an export that the view has started shows the bar here first.
 void Controller::showFileProgress(int percent)
 {
+    if (d->progressBar->isHidden()) {
+        d->progressBar->setFormat(tr("Saving..."));
+        d->progressBar->show();
+        d->progressTimer.start();
+    }
     d->progressBar->setValue(percent);
     QCoreApplication::processEvents();
 }
 
+void Controller::hideProgressWhenIdle()
+{
+    if (d->model->isBusy())
+        d->progressTimer.start();
+    else
+        d->progressBar->hide();
+}
+
 bool Controller::isOccupied() const
 {
-    return d->openPrompts > 0 || d->model->isBusy();
+    return d->openPrompts > 0 || d->view->isAsking() || d->model->isBusy();
 }
 
 bool Controller::refuseWhileOccupied()

@@ -10,6 +10,7 @@
 class MesotraConnector;
 class Model;
 class View;
+class SensorDescription;
 struct ReceivedProject;
 
 /// What the controller takes from outside, so that a test need not wait or use the real port.
@@ -83,11 +84,13 @@ private:
     void connectDevice();
     void hideUnavailableActions();
     void showFileProgress(int percent);
+    void hideProgressWhenIdle();
     [[nodiscard]] bool isOccupied() const;
     [[nodiscard]] bool refuseWhileOccupied();
 
     void dispatch(const QString &message);
     void handleClockEcho(const QString &message);
+    void showNewSensorLimits(const SensorDescription &before, const SensorDescription &now);
     void handleListLine(const QString &message);
     void finishList();
     [[nodiscard]] bool areLinesHeld() const;

@@ -133,12 +133,30 @@ void Controller::handleSensorDescription(const QString &message)
 {
     qCDebug(lcController) << Q_FUNC_INFO;
     d->valuesInThousandths = false;
-    SensorDescription description = d->model->sensorDescription();
+    const SensorDescription before = d->model->sensorDescription();
+    SensorDescription description = before;
     applySensorDescription(parseSensorDescription(message), description);
     d->model->blockSignals(false);
     d->model->setSensorDescription(description);
     qCDebug(lcController) << "emit Model::projectChanged()";
     d->model->emitProjectChanged();
+    showNewSensorLimits(before, description);
+}
+
+/// Rows take over limits that are news; the user's own range survives the description that every connection brings.
+void Controller::showNewSensorLimits(const SensorDescription &before, const SensorDescription &now)
+{
+    const bool known = before.numSensorGroups() > 0;
+    const SensorGroup &group = now.sensorGroup(0);
+    for (int sensor = 0; sensor < kNumSensors; ++sensor) {
+        const double minimum = group.sensorMinimum(sensor);
+        const double maximum = group.sensorMaximum(sensor);
+        const bool same = known && sensor < before.sensorGroup(0).numSensors()
+                          && before.sensorGroup(0).sensorMinimum(sensor) == minimum
+                          && before.sensorGroup(0).sensorMaximum(sensor) == maximum;
+        if (!same && minimum < maximum)
+            d->view->tabOszi()->setCurrentSensorRange(0, sensor, minimum, maximum);
+    }
 }
 
 void Controller::handleDeviceDescription(const QString &message)

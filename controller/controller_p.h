@@ -48,6 +48,7 @@ struct Controller::Private
 
     /// Stands in the status bar; the view must not delete it, but may be gone first.
     QPointer<QProgressBar> progressBar;
+    QTimer progressTimer;
 
     // --- Link ---
     QTimer deviceDescriptionTimer;
