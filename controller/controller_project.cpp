@@ -154,8 +154,6 @@ bool Controller::saveTo(const QString &fileName)
         const LineHold hold(d->holds, d->connector, d->resumeTimer);
         saved = d->model->save(fileName);
     }
-    if (saved)
-        d->model->setCurrentFile(QFileInfo(fileName).absoluteFilePath());
     for (const auto &edit : std::exchange(d->heldEdits, {}))
         applyEdit(edit);
     if (saved)
