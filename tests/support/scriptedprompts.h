@@ -4,6 +4,7 @@
 
 #include <QStringList>
 
+#include <algorithm>
 #include <deque>
 #include <functional>
 #include <vector>
@@ -41,57 +42,55 @@ public:
         questions.push_back({title, text, buttons});
         const QMessageBox::StandardButton cancel =
             buttons & QMessageBox::Cancel ? QMessageBox::Cancel : QMessageBox::No;
-        return open([&] { return next(answers, cancel); });
+        return answer(answers, cancel);
     }
     void inform(const QString &title, const QString &text) override
     {
         messages.push_back({title, text, QMessageBox::Ok});
-        open([] { return 0; });
+        stayOpen();
     }
     void warn(const QString &title, const QString &text) override
     {
         messages.push_back({title, text, QMessageBox::Ok});
         warnings.push_back(messages.back());
-        open([] { return 0; });
+        stayOpen();
     }
     QString openFileName(const QString &title, const QString &, const QString &filter) override
     {
         fileDialogs << title + QLatin1Char('|') + filter;
-        return open([&] { return next(openNames, QString()); });
+        return answer(openNames, QString());
     }
     QString saveFileName(const QString &title, const QString &, const QString &filter) override
     {
         fileDialogs << title + QLatin1Char('|') + filter;
-        return open([&] { return next(saveNames, QString()); });
+        return answer(saveNames, QString());
     }
     std::optional<QString> askAddress(const QString &) override
     {
         ++addressDialogs;
-        return open([&] { return next(addresses, std::optional<QString>()); });
+        return answer(addresses, std::optional<QString>());
     }
 
 private:
     template <typename Answer>
-    Answer next(std::deque<Answer> &script, const Answer &cancelled)
+    Answer answer(std::deque<Answer> &script, Answer result)
     {
         if (script.empty()) {
             ++unexpected;
-            return cancelled;
+        } else {
+            result = script.front();
+            script.pop_front();
         }
-        const Answer answer = script.front();
-        script.pop_front();
-        return answer;
+        stayOpen();
+        return result;
     }
 
-    template <typename Dialog>
-    auto open(Dialog dialog) -> decltype(dialog())
+    void stayOpen()
     {
-        ++m_open;
-        mostOpenAtOnce = std::max(mostOpenAtOnce, m_open);
+        mostOpenAtOnce = std::max(mostOpenAtOnce, ++m_open);
         if (whileOpen)
             whileOpen();
         --m_open;
-        return dialog();
     }
 
     int m_open = 0;
