@@ -229,8 +229,7 @@ void TestProjects::recordingGoesOnInTheNextProject()
     QVERIFY(bench.controller.isRecordingRunning());
     bench.say("0;4;4;4;4;4");
     bench.say("0;5;5;5;5;5");
-    QCOMPARE(bench.firstSamples(),
-             next == "open" ? (QVector<double>{1, 2, 4}) : QVector<double>{4});
+    QCOMPARE(bench.firstSamples(), next == "open" ? (QVector<double>{1, 2, 4}) : QVector<double>{4});
     QCOMPARE(bench.samples(0, bench.shots() - 1), (QVector<double>{4, 5}));
     QVERIFY(bench.slotsMatchModel());
 }

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "bench.h"
+
+#include "device/mesotraconnector.h"
+#include "simulator/boxsimulator.h"
+
+/// Short waits, and the port of a box on this machine.
+inline ControllerOptions optionsFor(quint16 port)
+{
+    ControllerOptions options;
+    options.deviceAddress = QStringLiteral("127.0.0.1");
+    options.port = port;
+    options.deviceDescriptionTimeout = 100;
+    options.sensorDescriptionTimeout = 150;
+    return options;
+}
+
+/// A simulated box and the program, on a real link.
+struct Rig
+{
+    explicit Rig(const BoxOptions &options = {})
+        : box(options)
+        , isListening(box.listen())
+        , bench(optionsFor(box.port()))
+    {
+        QObject::connect(&box, &BoxSimulator::sampleSent, &box, [this](const QByteArray &line) { sent.append(line); });
+    }
+
+    [[nodiscard]] bool connectToBox()
+    {
+        emit bench.view.connectDisconnect();
+        return QTest::qWaitFor([this] { return bench.model.isConnected() && !isWaitingForDescriptions(); });
+    }
+
+    /// True once the box has described its sensors or the wait for that is over.
+    [[nodiscard]] bool isWaitingForDescriptions() const
+    {
+        return bench.model.sensorDescription().sensorGroup(0).sensorName(0).isEmpty()
+               && !bench.controller.areValuesInThousandths();
+    }
+
+    [[nodiscard]] bool start()
+    {
+        sent.clear();
+        emit bench.view.startStopRecording();
+        return QTest::qWaitFor([this] { return bench.controller.isRecordingRunning(); });
+    }
+
+    /// Waits for so many samples, stops, and waits until the last one is there.
+    [[nodiscard]] bool stopAfter(int samples)
+    {
+        const bool enough = QTest::qWaitFor([&] { return sent.size() >= samples; });
+        emit bench.view.startStopRecording();
+        return enough && QTest::qWaitFor([this] { return !bench.controller.isRecordingRunning() && allArrived(); });
+    }
+
+    [[nodiscard]] bool recordShot(int samples) { return start() && stopAfter(samples); }
+
+    /// True if the newest shot holds every sample that the box sent since the start, bit for bit, and no other.
+    [[nodiscard]] bool allArrived(double divisor = 1.0) const
+    {
+        for (int sensor = 0; sensor < kNumSensors; ++sensor)
+            if (bench.samples(sensor, bench.shots() - 1) != sentValues(sensor, divisor))
+                return false;
+        return true;
+    }
+
+    [[nodiscard]] QVector<double> sentValues(int sensor, double divisor = 1.0) const
+    {
+        QVector<double> values;
+        for (const QByteArray &line : sent)
+            values.append(line.trimmed().split(';').value(sensor + 1).toDouble() / divisor);
+        return values;
+    }
+
+    BoxSimulator box;
+    bool isListening;
+    QList<QByteArray> sent;
+    Bench bench;
+};

@@ -1,0 +1,233 @@
+#include "rig.h"
+
+#include "view/tabproject.h"
+#include "view/tabterminal.h"
+
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include <cstring>
+
+namespace {
+
+/// Everything that a project file must bring back.
+struct Snapshot
+{
+    explicit Snapshot(const Model &model)
+        : project(model.projectData())
+        , comment(model.comment())
+        , clock(model.clock())
+        , picture(model.image(2).toImage().convertToFormat(QImage::Format_ARGB32))
+    {
+        for (int sensor = 0; sensor < kNumSensors; ++sensor) {
+            for (int shot = 0; shot < model.numChannels(sensor); ++shot)
+                samples[sensor].append(*model.measurement(sensor, shot));
+            offsets.append(model.offset(sensor));
+            names.append(model.sensorDescription().sensorGroup(0).sensorName(sensor));
+        }
+        for (int i = 0; i < Model::kNumMarkers; ++i)
+            markers.append(model.verticalMarker(i));
+        for (int i = 0; i < Model::kNumPhases; ++i)
+            names.append(model.phaseName(i));
+    }
+
+    ProjectData project;
+    QString comment;
+    int clock;
+    QImage picture;
+    std::array<QVector<SampleList>, kNumSensors> samples;
+    QVector<double> offsets;
+    QVector<int> markers;
+    QStringList names;
+};
+
+bool sameBits(const QVector<SampleList> &a, const QVector<SampleList> &b)
+{
+    if (a.size() != b.size())
+        return false;
+    for (int i = 0; i < a.size(); ++i) {
+        const auto bytes = static_cast<std::size_t>(a[i].size()) * sizeof(double);
+        if (a[i].size() != b[i].size() || std::memcmp(a[i].constData(), b[i].constData(), bytes) != 0)
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+class TestSession : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void connectingDescribesTheBox();
+    void fromBoxToProjectAndBack();
+    void calibrationTakesTheAnswer();
+    void disconnectStopsTheBox();
+    void quitStopsTheBox();
+    void terminalSendsAndShows();
+    void independentBox();
+
+private:
+    QTemporaryDir m_folder;
+};
+
+void TestSession::connectingDescribesTheBox()
+{
+    Rig rig;
+    QVERIFY(rig.isListening);
+    QSignalSpy appState(&rig.bench.model, &Model::appStateChanged);
+    emit rig.bench.view.connectDisconnect();
+    QVERIFY(rig.bench.view.isProgressShown());
+    QTRY_VERIFY(rig.bench.model.isConnected());
+    QVERIFY(!rig.bench.view.isProgressShown());
+    QVERIFY(!appState.isEmpty());
+    QTRY_VERIFY(!rig.isWaitingForDescriptions());
+    QCOMPARE(rig.box.receivedCommands(), (QStringList{QStringLiteral("t=100"), QStringLiteral("deviceDescription"),
+                                                      QStringLiteral("sensorDescription")}));
+    QCOMPARE(rig.bench.model.clock(), 100);
+    QVERIFY(!rig.bench.model.hardwareVersion().isEmpty());
+    QTest::qWait(200); // both waits are over
+    QVERIFY(!rig.bench.controller.areValuesInThousandths());
+    QVERIFY(rig.bench.prompts->messages.empty());
+}
+
+void TestSession::fromBoxToProjectAndBack()
+{
+    const QString file = m_folder.filePath(QStringLiteral("Tag.vnt"));
+    Rig rig;
+    Bench &bench = rig.bench;
+    bench.view.show();
+    QVERIFY(rig.connectToBox());
+    emit bench.view.terminalSend(QStringLiteral("t=1"));
+    QTRY_COMPARE(bench.model.clock(), 1);
+    for (int shot = 0; shot < 3; ++shot)
+        QVERIFY(rig.recordShot(40));
+    QCOMPARE(bench.shots(), 3);
+
+    bench.prompts->answers = {QMessageBox::Yes};
+    emit bench.view.tabOszi()->deleteMeasurements(QStringLiteral("2"));
+    QCOMPARE(bench.shots(), 2);
+    QVERIFY(rig.allArrived()); // in what is now shot 2
+    emit bench.view.tabOszi()->markerChangedAbsolute(2, 17);
+    emit bench.view.tabProject()->phaseEditChanged(1, QStringLiteral("Füllen <ß>"));
+    QPixmap picture(20, 10);
+    picture.fill(Qt::darkCyan);
+    bench.model.setImage(2, picture);
+    bench.model.setComment(QStringLiteral("Größe \"7\"\n\tZeile 2"));
+    bench.prompts->whileOpen = [&] { QTest::qWait(30); };
+    emit bench.view.calibrate();
+
+    bench.prompts->saveNames = {file};
+    emit bench.view.saveProject();
+    QVERIFY(!bench.model.isProjectModified());
+    const Snapshot before(bench.model);
+    emit bench.view.newProject();
+    QCOMPARE(bench.shots(), 0);
+    bench.prompts->openNames = {file};
+    emit bench.view.openProject();
+    const Snapshot after(bench.model);
+    for (std::size_t sensor = 0; sensor < kNumSensors; ++sensor) {
+        QVERIFY(before.samples[sensor].size() == 2 && before.samples[sensor][1].size() > 40);
+        QVERIFY(sameBits(after.samples[sensor], before.samples[sensor]));
+    }
+    QCOMPARE(after.project, before.project);
+    QCOMPARE(after.comment, before.comment);
+    QCOMPARE(after.clock, 1);
+    QCOMPARE(after.picture, before.picture);
+    QCOMPARE(after.offsets, before.offsets);
+    QCOMPARE(after.markers, before.markers);
+    QCOMPARE(after.names, before.names);
+    QVERIFY(bench.slotsMatchModel());
+    QCOMPARE(bench.prompts->unexpected, 0);
+}
+
+void TestSession::calibrationTakesTheAnswer()
+{
+    Rig rig;
+    QVERIFY(rig.connectToBox());
+    QVERIFY(rig.recordShot(2));
+    const int samples = rig.bench.samples(0, 0).size();
+    rig.sent.clear();
+    rig.box.clearReceivedCommands();
+    rig.bench.prompts->whileOpen = [&] { // the answer comes in while the box is up
+        QVERIFY(QTest::qWaitFor([&] { return rig.bench.samples(0, 0).size() == samples + 1; }));
+    };
+    emit rig.bench.view.calibrate();
+    QCOMPARE(rig.box.receivedCommands(), QStringList{QStringLiteral("1")});
+    QCOMPARE(rig.sent.size(), 1);
+    for (int sensor = 0; sensor < kNumSensors; ++sensor)
+        QCOMPARE(rig.bench.model.offset(sensor), 0.0 - rig.sentValues(sensor).constFirst());
+}
+
+void TestSession::disconnectStopsTheBox()
+{
+    Rig rig;
+    QVERIFY(rig.connectToBox());
+    QVERIFY(rig.start());
+    QTRY_VERIFY(rig.sent.size() > 2);
+    emit rig.bench.view.connectDisconnect();
+    QVERIFY(!rig.bench.controller.isRecordingRunning());
+    QVERIFY(!rig.bench.model.isConnected());
+    QTRY_COMPARE(rig.box.receivedCommands().last(), QStringLiteral("run=0"));
+    QTRY_VERIFY(!rig.box.hasClient());
+    QVERIFY(rig.bench.prompts->messages.empty());
+    QCOMPARE(rig.bench.prompts->addressDialogs, 0);
+    QVERIFY(rig.bench.samples(0, 0).size() > 0);
+}
+
+void TestSession::quitStopsTheBox()
+{
+    Rig rig;
+    QVERIFY(rig.connectToBox());
+    QVERIFY(rig.start());
+    rig.bench.prompts->answers = {QMessageBox::Discard};
+    emit rig.bench.view.quit();
+    QTRY_VERIFY(!rig.box.isRunning());
+    QTRY_VERIFY(!rig.box.hasClient());
+    QVERIFY(!rig.bench.model.isConnected());
+    QVERIFY(rig.bench.prompts->messages.empty());
+}
+
+void TestSession::terminalSendsAndShows()
+{
+    Rig rig;
+    emit rig.bench.view.terminalSend(QStringLiteral("early")); // refused: no link
+    QVERIFY(rig.connectToBox());
+    emit rig.bench.view.terminalSend(QStringLiteral("t=5"));
+    QTRY_COMPARE(rig.bench.model.clock(), 5);
+    const QString text = rig.bench.view.tabTerminal()->plainText();
+    QCOMPARE(text.count(QStringLiteral("t=5")), 2); // what went out and its echo
+    QVERIFY(text.contains(QStringLiteral("<sensorDescription")));
+    QVERIFY(!text.contains(QStringLiteral("early")));
+}
+
+void TestSession::independentBox()
+{
+    QProcess box;
+    box.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    box.start(QStringLiteral("python3"), {QStringLiteral(VENTARO_INDEPENDENT_BOX), QStringLiteral("--port"),
+                                          QStringLiteral("0"), QStringLiteral("--period"), QStringLiteral("5")});
+    QVERIFY2(box.waitForReadyRead(10000), "the box says which port it listens on");
+    const quint16 port = box.readLine().trimmed().split(' ').last().toUShort();
+    QVERIFY(port != 0);
+    Bench bench(optionsFor(port));
+    emit bench.view.connectDisconnect();
+    QTRY_VERIFY(bench.model.isConnected());
+    QTRY_VERIFY(!bench.model.sensorDescription().sensorGroup(0).sensorName(0).isEmpty());
+    for (int shot = 0; shot < 2; ++shot) {
+        emit bench.view.startStopRecording();
+        QTRY_COMPARE(bench.shots(), shot + 1);
+        QTRY_VERIFY(bench.samples(4, shot).size() >= 20);
+        emit bench.view.startStopRecording();
+        QTRY_VERIFY(!bench.controller.isRecordingRunning());
+    }
+    box.kill();
+    QTRY_VERIFY(!bench.model.isConnected());
+    box.waitForFinished(5000);
+    QCOMPARE(bench.shots(), 2);
+}
+
+QTEST_MAIN(TestSession)
+#include "tst_session.moc"
