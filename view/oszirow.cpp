@@ -147,14 +147,14 @@ osziaxes::ValueSpan OsziRow::span() const
 
 bool OsziRow::setSpan(osziaxes::ValueSpan span)
 {
-    if (!std::isfinite(span.minimum) || !std::isfinite(span.maximum) || !(span.minimum < span.maximum - 0.0001))
+    if (!std::isfinite(span.minimum) || !std::isfinite(span.maximum) || !osziaxes::isShowable(span))
         return false;
     const QSignalBlocker blockMax(m_max);
     const QSignalBlocker blockMin(m_min);
     for (OsziDoubleSpinBox *box : {m_max, m_min})
         box->setRange(std::min(box->minimum(), span.minimum), std::max(box->maximum(), span.maximum));
     // The end that moves away from the other one goes first, so that the plot refuses neither.
-    if (span.maximum > m_plot->minValue() + 0.0001) {
+    if (osziaxes::isShowable({m_plot->minValue(), span.maximum})) {
         m_plot->setMaxValue(span.maximum);
         m_plot->setMinValue(span.minimum);
     } else {
@@ -170,12 +170,17 @@ osziaxes::ValueSpan OsziRow::limits() const
     return {m_max->minimum(), m_max->maximum()};
 }
 
-void OsziRow::setLimits(osziaxes::ValueSpan limits)
+bool OsziRow::setLimits(osziaxes::ValueSpan limits)
 {
-    if (!(limits.minimum < limits.maximum) || !std::isfinite(limits.minimum) || !std::isfinite(limits.maximum))
-        return;
-    m_max->setRange(limits.minimum, limits.maximum);
-    m_min->setRange(limits.minimum, limits.maximum);
+    if (!std::isfinite(limits.minimum) || !std::isfinite(limits.maximum) || !osziaxes::isShowable(limits))
+        return false;
+    for (OsziDoubleSpinBox *box : {m_max, m_min}) {
+        const QSignalBlocker blocker(box);
+        box->setRange(limits.minimum, limits.maximum);
+    }
+    const osziaxes::ValueSpan shown{std::clamp(span().minimum, limits.minimum, limits.maximum),
+                                    std::clamp(span().maximum, limits.minimum, limits.maximum)};
+    return setSpan(osziaxes::isShowable(shown) ? shown : limits);
 }
 
 void OsziRow::showOffset(double offset)

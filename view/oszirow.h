@@ -33,8 +33,9 @@ public:
     [[nodiscard]] osziaxes::ValueSpan span() const;
     bool setSpan(osziaxes::ValueSpan span);
     [[nodiscard]] osziaxes::ValueSpan limits() const;
-    /// Limits of the range boxes; their values follow, with signals. Ignored unless minimum < maximum.
-    void setLimits(osziaxes::ValueSpan limits);
+    /// Limits of the range boxes; what is shown is held within them. Emits nothing; false for limits that are not
+    /// finite, not in order or too close.
+    bool setLimits(osziaxes::ValueSpan limits);
     /// The y correction; emits nothing.
     void showOffset(double offset);
     /// Name and unit as the row's title, in the colour given. An empty name stands for the position.

@@ -117,6 +117,14 @@ void TabOszilloscope::Private::storeSpan(const OsziRow *row)
     model->setOsziMaximum(position, row->span().maximum);
 }
 
+void TabOszilloscope::Private::storeOffset(int position, double offset)
+{
+    if (!model)
+        return;
+    model->setProjectModifiedFlag(true);
+    model->setOffset(position, offset);
+}
+
 int TabOszilloscope::Private::rowOf(const QObject *sender, OsziDoubleSpinBox *(OsziRow::*box)() const) const
 {
     for (int position = 0; position < kNumSensors; ++position) {
@@ -129,7 +137,7 @@ int TabOszilloscope::Private::rowOf(const QObject *sender, OsziDoubleSpinBox *(O
 
 void TabOszilloscope::onSpinBoxMaxValueChanged(double maxValue)
 {
-    qCDebug(lcView) << Q_FUNC_INFO << " maxValue=" << maxValue;
+    qCDebug(lcView).nospace() << Q_FUNC_INFO << " maxValue=" << maxValue;
     const int position = d->rowOf(sender(), &OsziRow::maxBox);
     if (position >= 0 && d->model)
         d->model->setOsziMaximum(position, row(position)->maxValue());
@@ -137,7 +145,7 @@ void TabOszilloscope::onSpinBoxMaxValueChanged(double maxValue)
 
 void TabOszilloscope::onSpinBoxMinValueChanged(double minValue)
 {
-    qCDebug(lcView) << Q_FUNC_INFO << " maxValue=" << minValue;
+    qCDebug(lcView).nospace() << Q_FUNC_INFO << " maxValue=" << minValue;
     const int position = d->rowOf(sender(), &OsziRow::minBox);
     if (position >= 0 && d->model)
         d->model->setOsziMinimum(position, row(position)->minValue());
@@ -146,8 +154,11 @@ void TabOszilloscope::onSpinBoxMinValueChanged(double minValue)
 void TabOszilloscope::setMaximumSensorRange(int group, int sensor, double min, double max)
 {
     qCDebug(lcView) << Q_FUNC_INFO << "group=" << group << "sensor=" << sensor << "min=" << min << "max=" << max;
-    if (group == 0 && row(sensor))
-        d->rows.at(static_cast<size_t>(sensor))->setLimits({min, max});
+    if (group != 0 || !row(sensor))
+        return;
+    OsziRow *limited = d->rows.at(static_cast<size_t>(sensor));
+    if (limited->setLimits({min, max}))
+        d->storeSpan(limited);
 }
 
 void TabOszilloscope::setCurrentSensorRange(int group, int sensor, double min, double max)

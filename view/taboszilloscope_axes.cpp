@@ -50,6 +50,11 @@ double up(double value)
 
 } // namespace
 
+bool isShowable(ValueSpan span)
+{
+    return span.minimum < span.maximum - 0.0001;
+}
+
 int visibleSamples(int width, int zoom)
 {
     return std::max(width - OsziWidget::kLeftMargin, 0) / std::max(zoom, 1);

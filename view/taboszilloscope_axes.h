@@ -22,8 +22,11 @@ struct ScrollState
 /// How near to the end the view must be to follow new samples.
 constexpr int kFollowDistance = 9;
 constexpr int kMaximumZoom = 100;
-/// The narrowest value range that gestures lead to; the plot refuses ranges of 0.0001 and below.
+/// The narrowest value range that gestures lead to.
 constexpr double kNarrowestSpan = 0.001;
+
+/// True if the plot takes these ends of its value axis.
+[[nodiscard]] bool isShowable(ValueSpan span);
 
 /// Samples that fit right of the left margin of a plot whose contents are `width` pixels wide.
 [[nodiscard]] int visibleSamples(int width, int zoom);

@@ -183,6 +183,8 @@ void TabOszilloscope::Private::applyFilter()
 void TabOszilloscope::displayAllMeas(bool state)
 {
     qCDebug(lcView) << Q_FUNC_INFO << "state=" << state;
+    const QSignalBlocker blocker(d->allMeasurements);
+    d->allMeasurements->setChecked(state);
     if (state) {
         for (const OsziRow *row : d->rows)
             row->plot()->setAllEnabled(true);
@@ -227,6 +229,7 @@ void TabOszilloscope::autoYCorrectionClicked()
 void TabOszilloscope::autoYCorrectionSpinBoxChanged(int milliseconds)
 {
     qCDebug(lcView) << Q_FUNC_INFO << "milliseconds=" << milliseconds;
+    d->yCorrectionTime->showValue(milliseconds);
     if (d->yCorrection->isChecked())
         d->applyYCorrection();
 }

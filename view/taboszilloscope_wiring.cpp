@@ -21,10 +21,7 @@ void TabOszilloscope::Private::connectRow(int position)
     OsziWidget *plot = row->plot();
     connect(row->maxBox(), changed, q, &TabOszilloscope::onSpinBoxMaxValueChanged);
     connect(row->minBox(), changed, q, &TabOszilloscope::onSpinBoxMinValueChanged);
-    connect(row->offsetBox(), changed, q, [this, position](double offset) {
-        if (model)
-            model->setOffset(position, offset);
-    });
+    connect(row->offsetBox(), changed, q, [this, position](double offset) { storeOffset(position, offset); });
     connect(clockGridAuto, &QCheckBox::toggled, plot, &OsziWidget::setClockGridAuto);
     connect(clockGrid, qOverload<int>(&QSpinBox::valueChanged), plot, &OsziWidget::setClockGrid);
     connect(plot, &OsziWidget::clockGridChanged, clockGrid, &OsziSpinBox::showValue);
