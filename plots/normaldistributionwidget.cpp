@@ -14,6 +14,8 @@
 
 namespace {
 
+constexpr int kFrame = 3; // pixels from the widget's edge to the labels at it
+
 // What lies inside the margins: the base line is its bottom edge.
 struct BellArea
 {
@@ -55,9 +57,9 @@ void drawBaseLabels(QPainter &painter, const BellArea &area, statistics::Moments
 void drawHeightLabels(QPainter &painter, const BellArea &area, double peak)
 {
     const QStaticText zero = figure(0.0, painter.font());
-    painter.drawStaticText(0, area.base - 7, zero);
+    painter.drawStaticText(kFrame, area.base - 7, zero);
     if (std::isfinite(peak))
-        painter.drawStaticText(0, area.top, figure(peak, painter.font()));
+        painter.drawStaticText(kFrame, area.top, figure(peak, painter.font()));
 }
 
 QPolygonF bell(const BellArea &area, statistics::Moments moments)

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <QVector>
+
+#include <vector>
+
+/// What a shot is measured against. Values are compared after the offset was added.
+struct RuntimeCriteria
+{
+    double offset = 0.0;
+    double startThreshold = 0.0;
+    double stopThreshold = 0.0;
+};
+
+[[nodiscard]] bool operator==(const RuntimeCriteria &a, const RuntimeCriteria &b);
+
+/// The first sample, from index `from` on, that lies strictly below the threshold; -1 if there is none.
+[[nodiscard]] int firstBelow(const QVector<double> &samples, double offset, double threshold, int from = 0);
+/// The last sample that does so, not looked for before index `from`; -1 if there is none.
+[[nodiscard]] int lastBelow(const QVector<double> &samples, double offset, double threshold, int from = 0);
+
+/// Start and stop of one shot. Ten samples are taken for a second.
+struct ShotRuntime
+{
+    static constexpr int kSamplesPerSecond = 10;
+
+    int startIndex = -1; ///< -1: the signal never fell below the start threshold
+    int stopIndex = -1;
+    int count = 0; ///< samples of the shot
+
+    /// Seconds; -0.1 for an index of -1.
+    [[nodiscard]] double startTime() const { return double(startIndex) / kSamplesPerSecond; }
+    [[nodiscard]] double stopTime() const { return double(stopIndex) / kSamplesPerSecond; }
+    [[nodiscard]] double duration() const { return double(stopIndex - startIndex) / kSamplesPerSecond; }
+    [[nodiscard]] double totalTime() const { return double(count) / kSamplesPerSecond; }
+    [[nodiscard]] int wholeSeconds() const { return count / kSamplesPerSecond; }
+    /// False where start and stop coincide.
+    [[nodiscard]] bool hasDuration() const { return startIndex != stopIndex; }
+};
+
+[[nodiscard]] bool operator==(const ShotRuntime &a, const ShotRuntime &b);
+
+[[nodiscard]] ShotRuntime shotRuntime(const QVector<double> &samples, const RuntimeCriteria &criteria);
+/// The result for a list that has only grown at its end since `before`: looks at the new samples alone.
+[[nodiscard]] ShotRuntime extendedRuntime(const ShotRuntime &before, const QVector<double> &samples,
+                                          const RuntimeCriteria &criteria);
+
+/// The results of all shots of one sensor. Keeps a shared copy of every list but the last, which tells for certain
+/// whether a list is still the same one, even if it was removed and its memory used again; a list that is appended to
+/// while shared is copied once.
+class RuntimeCache
+{
+public:
+    using Shots = std::vector<const QVector<double> *>;
+
+    /// How many shots a refresh had to look at.
+    struct Work
+    {
+        int scanned = 0;  ///< from their first sample
+        int extended = 0; ///< their new samples only
+    };
+
+    /// Brings the results up to date. `revision` must differ from the last call's if a list was added or removed since.
+    Work refresh(const Shots &shots, const RuntimeCriteria &criteria, quint64 revision);
+    /// Forgets what belongs to lists that are gone, so that their memory is freed; computes nothing.
+    void releaseRemoved(const Shots &shots);
+
+    /// As of the last refresh, one for each shot.
+    [[nodiscard]] const std::vector<ShotRuntime> &results() const { return m_results; }
+
+private:
+    [[nodiscard]] bool isKnown(size_t shot, const QVector<double> &samples) const;
+    void alignTo(const Shots &shots);
+    void refreshShot(size_t shot, const QVector<double> &samples, bool sameList, Work &work);
+
+    RuntimeCriteria m_criteria;
+    quint64 m_revision = 0;
+    std::vector<QVector<double>> m_lists; // as long as the results; the last one is left empty
+    std::vector<ShotRuntime> m_results;
+};

@@ -1,0 +1,337 @@
+#include "plots/tabevaluationruntime.h"
+
+#include "model/model.h"
+#include "plots/boxwhiskerswidget.h"
+#include "plots/logging.h"
+#include "plots/osziwidget.h"
+#include "plots/runtimetablemodel.h"
+
+#include <QAbstractButton>
+#include <QDoubleSpinBox>
+#include <QEvent>
+#include <QSignalBlocker>
+#include <QTableView>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+bool isSensor(int sensor)
+{
+    return sensor >= 0 && sensor < kNumSensors;
+}
+
+QString nameOf(const Model &model, int sensor)
+{
+    const SensorDescription &description = model.sensorDescription();
+    if (description.numSensorGroups() == 0 || sensor >= description.sensorGroup(0).numSensors())
+        return {};
+    return description.sensorGroup(0).sensorName(sensor);
+}
+
+std::optional<qint64> pauseBetween(const QDateTime &from, const QDateTime &to)
+{
+    return from.isValid() && to.isValid() ? std::optional(from.secsTo(to)) : std::nullopt;
+}
+
+std::vector<RuntimeRow> rowsOf(const Model &model, const std::vector<ShotRuntime> &results)
+{
+    std::vector<RuntimeRow> rows;
+    rows.reserve(results.size());
+    for (const ShotRuntime &result : results) {
+        rows.push_back({result, model.timestamp(static_cast<int>(rows.size())), std::nullopt});
+        if (rows.size() > 1) {
+            RuntimeRow &previous = rows[rows.size() - 2];
+            previous.pause = pauseBetween(previous.timestamp, rows.back().timestamp);
+        }
+    }
+    return rows;
+}
+
+} // namespace
+
+TabEvaluationRuntime::TabEvaluationRuntime(QWidget *parent)
+    : QWidget(parent)
+{
+    qCDebug(lcPlots) << Q_FUNC_INFO;
+    m_refreshTimer.setSingleShot(true);
+    createLayout();
+    retranslateUi();
+    connectWidgets();
+}
+
+TabEvaluationRuntime::~TabEvaluationRuntime() = default;
+
+void TabEvaluationRuntime::setModel(Model *model)
+{
+    qCDebug(lcPlots) << Q_FUNC_INFO;
+    if (!model) {
+        qCDebug(lcPlots) << "ERROR: model is not set!  (model==nullptr)!";
+        return;
+    }
+    if (m_model)
+        m_model->disconnect(this);
+    m_model = model;
+    connect(model, &Model::dataChanged, this, &TabEvaluationRuntime::onModel_dataChanged);
+    connect(model, &Model::projectChanged, this, &TabEvaluationRuntime::onModel_projectChanged);
+    m_caches.fill(RuntimeCache());
+    m_shown.sensor = -1;
+    m_chosenShot = -1;
+    m_seenRevision = model->structureRevision();
+    update();
+}
+
+bool TabEvaluationRuntime::hasModel(const char *function) const
+{
+    if (m_model)
+        return true;
+    qCDebug(lcPlots).noquote().nospace()
+        << function << " ERROR: model is not set!  (model==nullptr)!  -> set model before calling this!";
+    return false;
+}
+
+int TabEvaluationRuntime::currentSensor() const
+{
+    const auto checked = std::find_if(m_sensorButtons.begin(), m_sensorButtons.end(),
+                                      [](const QAbstractButton *button) { return button->isChecked(); });
+    return checked == m_sensorButtons.end() ? 0 : static_cast<int>(std::distance(m_sensorButtons.begin(), checked));
+}
+
+double TabEvaluationRuntime::startThreshold(int sensor) const
+{
+    return isSensor(sensor) ? m_thresholds[static_cast<size_t>(sensor)].start : 0.0;
+}
+
+double TabEvaluationRuntime::stopThreshold(int sensor) const
+{
+    return isSensor(sensor) ? m_thresholds[static_cast<size_t>(sensor)].stop : 0.0;
+}
+
+void TabEvaluationRuntime::setThresholds(int sensor, double start, double stop)
+{
+    qCDebug(lcPlots).noquote().nospace() << Q_FUNC_INFO << " sensor=" << sensor << " start=" << start
+                                         << " stop=" << stop;
+    if (!isSensor(sensor) || !std::isfinite(start) || !std::isfinite(stop))
+        return;
+    m_thresholds[static_cast<size_t>(sensor)] = {start, stop};
+    if (sensor != m_currentSensor)
+        return;
+    showThresholds();
+    if (m_model)
+        scheduleUpdate();
+}
+
+RuntimeCriteria TabEvaluationRuntime::criteria() const
+{
+    const Thresholds &thresholds = m_thresholds[static_cast<size_t>(m_currentSensor)];
+    return {m_model ? m_model->offset(m_currentSensor) : 0.0, thresholds.start, thresholds.stop};
+}
+
+// --- Following the model ---------------------------------------------------------------------------------------------
+
+// Comes for every sample line: no log line here, the model writes one for every emission.
+void TabEvaluationRuntime::onModel_dataChanged()
+{
+    if (m_seenRevision != m_model->structureRevision()) {
+        m_seenRevision = m_model->structureRevision();
+        for (int sensor = 0; sensor < kNumSensors; ++sensor)
+            m_caches[static_cast<size_t>(sensor)].releaseRemoved(shotsOf(sensor));
+    }
+    scheduleUpdate();
+}
+
+void TabEvaluationRuntime::onModel_projectChanged()
+{
+    qCDebug(lcPlots) << Q_FUNC_INFO;
+    scheduleUpdate();
+}
+
+void TabEvaluationRuntime::scheduleUpdate()
+{
+    m_outOfDate = true;
+    if (isVisible() && !m_refreshTimer.isActive())
+        m_refreshTimer.start(kRefreshInterval);
+}
+
+void TabEvaluationRuntime::onRefreshTimer_timeout()
+{
+    qCDebug(lcPlots) << Q_FUNC_INFO;
+    if (m_model && isVisible())
+        update();
+}
+
+void TabEvaluationRuntime::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    showSensorNames();
+    if (m_model && m_outOfDate)
+        update();
+}
+
+void TabEvaluationRuntime::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslateUi();
+    QWidget::changeEvent(event);
+}
+
+void TabEvaluationRuntime::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    showSensorNames();
+}
+
+void TabEvaluationRuntime::update()
+{
+    qCDebug(lcPlots) << Q_FUNC_INFO;
+    if (!hasModel(Q_FUNC_INFO))
+        return;
+    m_outOfDate = false;
+    m_refreshTimer.stop();
+    showSensorNames();
+    recompute();
+}
+
+void TabEvaluationRuntime::recompute()
+{
+    updateTable();
+    updateOszi();
+}
+
+// --- Table and summaries ---------------------------------------------------------------------------------------------
+
+RuntimeCache::Shots TabEvaluationRuntime::shotsOf(int sensor) const
+{
+    const int count = m_model->numChannels(sensor);
+    RuntimeCache::Shots shots;
+    shots.reserve(static_cast<size_t>(count));
+    for (int shot = 0; shot < count; ++shot)
+        shots.push_back(m_model->measurement(sensor, shot));
+    return shots;
+}
+
+void TabEvaluationRuntime::updateTable()
+{
+    if (!hasModel(Q_FUNC_INFO))
+        return;
+    RuntimeCache &cache = m_caches[static_cast<size_t>(m_currentSensor)];
+    const RuntimeCache::Work work = cache.refresh(shotsOf(m_currentSensor), criteria(), m_model->structureRevision());
+    qCDebug(lcPlots).noquote().nospace() << Q_FUNC_INFO << " shots=" << cache.results().size()
+                                         << " scanned=" << work.scanned << " extended=" << work.extended;
+    m_tableModel->setRows(rowsOf(*m_model, cache.results()));
+    showSummaries(cache.results());
+    if (m_chosenShot >= m_tableModel->numShots())
+        followNewestShot();
+}
+
+void TabEvaluationRuntime::followNewestShot()
+{
+    m_chosenShot = -1;
+    m_table->clearSelection();
+    m_table->setCurrentIndex(QModelIndex());
+}
+
+void TabEvaluationRuntime::showSummaries(const std::vector<ShotRuntime> &results)
+{
+    QList<double> starts;
+    QList<double> durations;
+    QList<double> stops;
+    double longest = 0.0;
+    m_longestCount = 0;
+    for (const ShotRuntime &result : results) {
+        starts.append(result.startTime());
+        if (result.hasDuration())
+            durations.append(result.duration());
+        stops.append(result.stopTime());
+        longest = std::max(longest, result.totalTime());
+        m_longestCount = std::max(m_longestCount, result.count);
+    }
+    for (BoxWhiskersWidget *summary : m_summaries)
+        summary->setAxisRange(0.0, longest);
+    m_summaries[0]->set(starts);
+    m_summaries[1]->set(durations);
+    m_summaries[2]->set(stops);
+}
+
+// --- What the user does ----------------------------------------------------------------------------------------------
+
+void TabEvaluationRuntime::onCurrentRowChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    qCDebug(lcPlots).noquote().nospace() << Q_FUNC_INFO << " row=" << current.row() << " previous=" << previous.row();
+    chooseShot(current.row());
+}
+
+void TabEvaluationRuntime::onTable_clicked(const QModelIndex &index)
+{
+    onCellClicked(index.row(), index.column());
+}
+
+void TabEvaluationRuntime::onCellClicked(int row, int column)
+{
+    qCDebug(lcPlots).noquote().nospace() << Q_FUNC_INFO << " row=" << row << "  col=" << column;
+    chooseShot(row);
+}
+
+void TabEvaluationRuntime::chooseShot(int row)
+{
+    if (!hasModel(Q_FUNC_INFO) || row < 0 || row >= m_model->numChannels(m_currentSensor) || row == m_chosenShot)
+        return;
+    m_chosenShot = row;
+    updateOszi();
+}
+
+void TabEvaluationRuntime::logThresholds(const char *function, const char *mark, int sensor) const
+{
+    qCDebug(lcPlots).noquote().nospace() << function << " " << mark << "currentSensor=" << sensor;
+    for (size_t i = 0; i < m_thresholds.size(); ++i)
+        qCDebug(lcPlots).noquote().nospace() << mark << "stopvalue " << i << " =" << m_thresholds[i].stop;
+}
+
+void TabEvaluationRuntime::onSensorButtonToggled()
+{
+    logThresholds(Q_FUNC_INFO, "", m_currentSensor);
+    const bool isOther = currentSensor() != m_currentSensor; // both the old and the new button report the switch
+    m_currentSensor = currentSensor();
+    logThresholds(Q_FUNC_INFO, "*", m_currentSensor);
+    if (!isOther)
+        return;
+    showThresholds();
+    if (hasModel(Q_FUNC_INFO))
+        recompute();
+}
+
+void TabEvaluationRuntime::onStartStopSpinBoxChanged()
+{
+    const Thresholds thresholds{m_spinBoxStartValue->value(), m_spinBoxStopValue->value()};
+    qCDebug(lcPlots).noquote().nospace() << Q_FUNC_INFO << " start=" << thresholds.start << " stop=" << thresholds.stop;
+    m_thresholds[static_cast<size_t>(m_currentSensor)] = thresholds;
+    if (hasModel(Q_FUNC_INFO))
+        recompute();
+    emit thresholdsChanged();
+}
+
+void TabEvaluationRuntime::showThresholds()
+{
+    const QSignalBlocker startBlocker(m_spinBoxStartValue);
+    const QSignalBlocker stopBlocker(m_spinBoxStopValue);
+    const Thresholds &thresholds = m_thresholds[static_cast<size_t>(m_currentSensor)];
+    m_spinBoxStartValue->setValue(thresholds.start);
+    m_spinBoxStopValue->setValue(thresholds.stop);
+}
+
+// A name that does not fit is shortened; the tool tip has all of it.
+void TabEvaluationRuntime::showSensorNames()
+{
+    constexpr int kFrame = 20; // pixels of a button that its text cannot use
+    for (int sensor = 0; sensor < kNumSensors; ++sensor) {
+        QAbstractButton *button = m_sensorButtons[static_cast<size_t>(sensor)];
+        const QString given = m_model ? nameOf(*m_model, sensor) : QString();
+        const QString name = given.isEmpty() ? tr("Sensor %1").arg(sensor + 1) : given;
+        QString text =
+            isVisible() ? button->fontMetrics().elidedText(name, Qt::ElideRight, button->width() - kFrame) : name;
+        text.replace(QLatin1Char('&'), QLatin1String("&&")); // no keyboard shortcut
+        button->setText(text);
+        button->setToolTip(name);
+    }
+}

@@ -1,0 +1,163 @@
+#include "plots/boxwhiskerswidget.h"
+#include "plots/osziwidget.h"
+#include "plots/runtimetablemodel.h"
+#include "plots/tabevaluationruntime.h"
+
+#include <QButtonGroup>
+#include <QDoubleSpinBox>
+#include <QGridLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QTableView>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr double kLargestThreshold = 1e6;
+constexpr int kSummaryHeight = 60; // pixels
+constexpr int kRowHeight = 30;     // pixels
+constexpr int kWidestTable = 900;  // pixels that its columns can use; the box plots get the rest
+
+} // namespace
+
+QLayout *TabEvaluationRuntime::createSensorButtons()
+{
+    auto *group = new QButtonGroup(this);
+    auto *layout = new QHBoxLayout;
+    for (int i = 0; i < kNumSensors; ++i) {
+        auto *button = new QRadioButton(this);
+        button->setObjectName(QStringLiteral("sensorButton%1").arg(i));
+        button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // a long name must not widen the page
+        group->addButton(button, i);
+        layout->addWidget(button);
+        m_sensorButtons[static_cast<size_t>(i)] = button;
+    }
+    m_sensorButtons[0]->setChecked(true);
+    return layout;
+}
+
+QDoubleSpinBox *TabEvaluationRuntime::createThresholdSpinBox(const QString &name)
+{
+    auto *spinBox = new QDoubleSpinBox(this);
+    spinBox->setObjectName(name);
+    spinBox->setDecimals(2);
+    spinBox->setRange(-kLargestThreshold, kLargestThreshold);
+    spinBox->setAlignment(Qt::AlignCenter);
+    spinBox->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    return spinBox;
+}
+
+// The thresholds, and below them the box plots under their captions.
+QLayout *TabEvaluationRuntime::createSummaries()
+{
+    m_labelStartValue = new QLabel(this);
+    m_labelStopValue = new QLabel(this);
+    m_spinBoxStartValue = createThresholdSpinBox(QStringLiteral("spinBoxStartValue"));
+    m_spinBoxStopValue = createThresholdSpinBox(QStringLiteral("spinBoxStopValue"));
+    auto *thresholds = new QGridLayout;
+    thresholds->setHorizontalSpacing(10);
+    thresholds->addWidget(m_labelStartValue, 0, 0);
+    thresholds->addWidget(m_spinBoxStartValue, 0, 1);
+    thresholds->addWidget(m_labelStopValue, 1, 0);
+    thresholds->addWidget(m_spinBoxStopValue, 1, 1);
+
+    const std::array<QColor, kNumSummaries> fills{Qt::green, Qt::blue, Qt::red};
+    const std::array<QString, kNumSummaries> styles{QStringLiteral("color: green;"), QStringLiteral("color: blue;"),
+                                                    QStringLiteral("color: red;")};
+    const std::array<QString, kNumSummaries> names{QStringLiteral("boxStart"), QStringLiteral("boxDuration"),
+                                                   QStringLiteral("boxStop")};
+    auto *layout = new QVBoxLayout;
+    layout->setSpacing(0);
+    layout->addLayout(thresholds);
+    for (size_t i = 0; i < fills.size(); ++i) {
+        m_summaryCaptions[i] = new QLabel(this);
+        m_summaryCaptions[i]->setStyleSheet(styles[i]);
+        m_summaries[i] = new BoxWhiskersWidget(this);
+        m_summaries[i]->setObjectName(names[i]);
+        m_summaries[i]->setFixedHeight(kSummaryHeight);
+        m_summaries[i]->setMargins(20, 0, 10, 20);
+        m_summaries[i]->setFillColor(fills[i]);
+        layout->addWidget(m_summaryCaptions[i]);
+        layout->addWidget(m_summaries[i]);
+    }
+    layout->addStretch();
+    return layout;
+}
+
+void TabEvaluationRuntime::createTable()
+{
+    m_tableModel = new RuntimeTableModel(this);
+    m_table = new QTableView(this);
+    m_table->setObjectName(QStringLiteral("tableRuntime"));
+    m_table->setModel(m_tableModel);
+    m_table->setMaximumWidth(kWidestTable);
+    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->setTabKeyNavigation(false);
+    m_table->setWordWrap(false);
+    m_table->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    m_table->verticalHeader()->hide();
+    m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    m_table->verticalHeader()->setDefaultSectionSize(kRowHeight);
+    m_table->horizontalHeader()->setResizeContentsPrecision(0); // what is visible counts, not thousands of rows
+    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_table->horizontalHeader()->setStretchLastSection(true);
+    m_table->horizontalHeader()->setHighlightSections(false);
+}
+
+void TabEvaluationRuntime::createPlot()
+{
+    m_osziWidget = new OsziWidget(this);
+    m_osziWidget->setObjectName(QStringLiteral("osziWidget"));
+    m_osziWidget->setMinimumHeight(140);
+    m_osziWidget->setHorizontalLineCount(2);
+    m_osziWidget->setVerticalMarkerCount(2);
+    m_osziWidget->installEventFilter(this);
+    m_timeScrollBar = new QScrollBar(Qt::Horizontal, this);
+    m_timeScrollBar->hide();
+}
+
+void TabEvaluationRuntime::createLayout()
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(6, 6, 6, 6);
+    layout->addLayout(createSensorButtons());
+    createTable();
+    createPlot();
+    auto *middle = new QHBoxLayout;
+    middle->addWidget(m_table, 3);
+    middle->addLayout(createSummaries(), 1);
+    layout->addLayout(middle, 1);
+    layout->addWidget(m_osziWidget, 1);
+    layout->addWidget(m_timeScrollBar);
+}
+
+void TabEvaluationRuntime::connectWidgets()
+{
+    for (QAbstractButton *button : m_sensorButtons)
+        connect(button, &QAbstractButton::toggled, this, &TabEvaluationRuntime::onSensorButtonToggled);
+    for (QDoubleSpinBox *spinBox : {m_spinBoxStartValue, m_spinBoxStopValue})
+        connect(spinBox, qOverload<double>(&QDoubleSpinBox::valueChanged), this,
+                &TabEvaluationRuntime::onStartStopSpinBoxChanged);
+    connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &TabEvaluationRuntime::onCurrentRowChanged);
+    connect(m_table, &QTableView::clicked, this, &TabEvaluationRuntime::onTable_clicked);
+    connect(m_osziWidget, &OsziWidget::mouseAtX, m_osziWidget, &OsziWidget::showMouseMarker);
+    connect(m_osziWidget, &OsziWidget::mouseReleased, m_osziWidget, &OsziWidget::hideMouseMarker);
+    connect(m_timeScrollBar, &QScrollBar::valueChanged, m_osziWidget, &OsziWidget::setStartIndex);
+    connect(&m_refreshTimer, &QTimer::timeout, this, &TabEvaluationRuntime::onRefreshTimer_timeout);
+}
+
+void TabEvaluationRuntime::retranslateUi()
+{
+    m_labelStartValue->setText(tr("Startschwelle"));
+    m_labelStopValue->setText(tr("Stoppschwelle"));
+    m_summaryCaptions[0]->setText(tr("Start [s]"));
+    m_summaryCaptions[1]->setText(tr("Dauer [s]"));
+    m_summaryCaptions[2]->setText(tr("Stop [s]"));
+    m_tableModel->retranslate();
+    showSensorNames();
+}
