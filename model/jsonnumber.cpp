@@ -78,10 +78,7 @@ char *writeExponential(char *out, const Digits &digits)
 // Whether the form with an exponent is the one to take for a number that is not a moderate integer.
 bool wantsExponent(const Digits &digits)
 {
-    if (digits.point <= 0)
-        return digits.point <= -4;
-    const int widest = digits.count + (digits.point > 100 ? 6 : 5) + (digits.count > digits.point ? 1 : 0);
-    return digits.point != digits.count && digits.point > widest;
+    return digits.point <= -4 || digits.point > digits.count + 5;
 }
 
 bool isModerateInteger(double positive)

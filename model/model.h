@@ -157,6 +157,7 @@ private:
     // The log lines of these name the caller.
     void announceProjectChanged(const char *function);
     void announceDataChanged(const char *function);
+    void announceOpened(const char *function);
     [[nodiscard]] bool refusesWhileBusy(const char *function) const;
     [[nodiscard]] bool hasMeasurement(int sensor, int measurement, const char *function) const;
     [[nodiscard]] int measurementCount() const;
@@ -178,7 +179,6 @@ private:
     void applySensors(const QVariantMap &fields);
     void applyViewData(const QVariantMap &fields);
     void useDistanceSensors();
-    void announceOpened();
 
     std::array<Channel, kNumSensors> m_channels;
     Channel m_removed;

@@ -135,7 +135,7 @@ bool Model::open(const QString &fileName)
     blockSignals(true);
     apply(*project, QFileInfo(fileName).absoluteFilePath());
     blockSignals(false); // open from here on, whatever they were before
-    announceOpened();
+    announceOpened(Q_FUNC_INFO);
     return true;
 }
 
@@ -287,15 +287,15 @@ void Model::applyViewData(const QVariantMap &fields)
     m_osziMaximum = maximum;
 }
 
-void Model::announceOpened()
+void Model::announceOpened(const char *function)
 {
-    qCDebug(lcModel) << Q_FUNC_INFO << "emitting projectChanged()";
+    qCDebug(lcModel) << function << "emitting projectChanged()";
     emit projectChanged();
-    qCDebug(lcModel) << Q_FUNC_INFO << "emitting dataChanged()";
+    qCDebug(lcModel) << function << "emitting dataChanged()";
     emit dataChanged();
-    qCDebug(lcModel) << Q_FUNC_INFO << "emitting viewDataChanged()";
+    qCDebug(lcModel) << function << "emitting viewDataChanged()";
     emit viewDataChanged();
     discardRemoved();
     setProjectModifiedFlag(false);
-    qCDebug(lcModel) << Q_FUNC_INFO << " END";
+    qCDebug(lcModel) << function << " END";
 }
