@@ -20,7 +20,9 @@ namespace {
 constexpr int kLeft = PlotGeometry::kLeftMargin;
 constexpr int kValueLabelRight = 55;
 constexpr int kTimeLabelShift = 3;
+constexpr int kWidestTimeLabel = 200;
 constexpr int kThickPen = 3;
+constexpr int kDashPeriod = kThickPen * (4 + 2); // a dash of 4 and a gap of 2 pen widths
 constexpr int kLastPhaseWidth = 100;
 constexpr int kEndValueGap = 4; // pixels between the end of the curve and its value
 
@@ -41,15 +43,15 @@ qint64 markerDistance(const OsziScene &scene, const OsziMarker &marker)
 }
 
 /// Centres a name between two distances from the left edge of the plot area, cut off where it does not fit.
-void paintPhaseName(QPainter &painter, const QStaticText &name, qint64 left, qint64 right, int widgetWidth)
+void paintPhaseName(QPainter &painter, const QStaticText &name, qint64 left, qint64 right, const QRect &region)
 {
     const QSize size = roundedUp(name.size());
     const qint64 x = kLeft + left + (right - left - size.width()) / 2;
-    if (right <= left || right <= 0 || x > widgetWidth || x + size.width() < kLeft)
+    if (right <= left || right <= 0 || x > region.right() || x + size.width() < std::max(region.left(), kLeft))
         return;
     painter.save();
     painter.setClipRect(QRect(QPoint(kLeft + int(std::max<qint64>(left, 0)), 0),
-                              QPoint(kLeft - 1 + int(std::min<qint64>(right, widgetWidth)), size.height())),
+                              QPoint(kLeft - 1 + int(std::min<qint64>(right, region.right())), size.height())),
                         Qt::IntersectClip);
     painter.setPen(Qt::black);
     painter.drawStaticText(int(x), 0, name);
@@ -58,7 +60,7 @@ void paintPhaseName(QPainter &painter, const QStaticText &name, qint64 left, qin
 
 } // namespace
 
-void paintValueGrid(QPainter &painter, const OsziScene &scene, LabelCache &labels)
+void paintValueGrid(QPainter &painter, const OsziScene &scene, const QRect &region, LabelCache &labels)
 {
     const PlotGeometry &geometry = scene.geometry;
     const GridLines lines = valueGridLines(geometry, scene.valueGrid);
@@ -69,6 +71,8 @@ void paintValueGrid(QPainter &painter, const OsziScene &scene, LabelCache &label
         const int y = geometry.yOfValue(value);
         painter.setPen(i == 0 ? Qt::black : Qt::gray);
         painter.drawLine(kLeft, y, geometry.width, y);
+        if (region.left() > kValueLabelRight)
+            continue;
         painter.setPen(Qt::black);
         const QStaticText &label = labels.label(locale.toString(value, 'f', decimals), painter.font());
         const QSize size = roundedUp(label.size());
@@ -76,7 +80,7 @@ void paintValueGrid(QPainter &painter, const OsziScene &scene, LabelCache &label
     }
 }
 
-void paintClockGrid(QPainter &painter, const OsziScene &scene, LabelCache &labels)
+void paintClockGrid(QPainter &painter, const OsziScene &scene, const QRect &region, LabelCache &labels)
 {
     const PlotGeometry &geometry = scene.geometry;
     painter.setPen(Qt::black);
@@ -85,6 +89,8 @@ void paintClockGrid(QPainter &painter, const OsziScene &scene, LabelCache &label
     for (qint64 i = lines.first; i <= lines.last; i += lines.stride) {
         const qint64 time = i * scene.clockGrid;
         const int x = geometry.xOfTime(time);
+        if (x > region.right() + kTimeLabelShift || x < region.left() - kWidestTimeLabel)
+            continue;
         painter.setPen(Qt::gray);
         painter.drawLine(x, geometry.margin, x, geometry.bottom());
         painter.setPen(Qt::black);
@@ -151,39 +157,47 @@ QRect endValueRect(const OsziScene &scene, const QFont &font, LabelCache &labels
     return rect;
 }
 
-void paintEndValue(QPainter &painter, const OsziScene &scene, LabelCache &labels)
+QRect paintEndValue(QPainter &painter, const OsziScene &scene, LabelCache &labels)
 {
     const QRect rect = endValueRect(scene, painter.font(), labels);
     if (rect.isEmpty())
-        return;
+        return rect;
     painter.setPen(scene.highlightColor);
     painter.drawStaticText(rect.topLeft(), labels.label(endValueText(scene), painter.font()));
+    return rect;
 }
 
-void paintHorizontalLines(QPainter &painter, const OsziScene &scene)
+void paintHorizontalLines(QPainter &painter, const OsziScene &scene, const QRect &region)
 {
+    // The dashes in sight, in step with those of the whole line.
+    const int left = kLeft + std::max(region.left() - kLeft - kDashPeriod, 0) / kDashPeriod * kDashPeriod;
+    const int right = std::min(scene.geometry.width, region.right() + kDashPeriod);
+    if (left >= right)
+        return;
     for (const OsziLine &line : scene.lines) {
         const int y = scene.geometry.yOfValue(line.value);
-        if (y < -kThickPen || y > scene.geometry.height + kThickPen)
+        if (y < region.top() - kThickPen || y > region.bottom() + kThickPen)
             continue; // also keeps the dasher away from coordinates it cannot handle
         painter.setPen(dashedPen(line.color));
-        painter.drawLine(kLeft, y, scene.geometry.width, y);
+        painter.drawLine(left, y, right, y);
     }
 }
 
-void paintVerticalMarkers(QPainter &painter, const OsziScene &scene)
+void paintVerticalMarkers(QPainter &painter, const OsziScene &scene, const QRect &region)
 {
     for (const OsziMarker &marker : scene.markers) {
         const qint64 distance = markerDistance(scene, marker);
         if (distance <= 0 || distance > scene.geometry.widgetWidth)
             continue;
         const int x = kLeft + int(distance);
+        if (x < region.left() - kThickPen || x > region.right() + kThickPen)
+            continue;
         painter.setPen(dashedPen(marker.color));
         painter.drawLine(x, 0, x, scene.geometry.bottom());
     }
 }
 
-void paintPhaseNames(QPainter &painter, const OsziScene &scene, LabelCache &labels)
+void paintPhaseNames(QPainter &painter, const OsziScene &scene, const QRect &region, LabelCache &labels)
 {
     for (int i = 0; i < scene.markers.size(); ++i) {
         const qint64 right = markerDistance(scene, scene.markers[i]);
@@ -192,7 +206,7 @@ void paintPhaseNames(QPainter &painter, const OsziScene &scene, LabelCache &labe
         const qint64 left = i > 0 ? markerDistance(scene, scene.markers[i - 1]) : 0;
         const bool isLast = i + 1 == scene.markers.size();
         paintPhaseName(painter, labels.label(scene.markers[i].phase, painter.font()), left,
-                       isLast ? left + kLastPhaseWidth : right, scene.geometry.widgetWidth);
+                       isLast ? left + kLastPhaseWidth : right, region);
     }
 }
 

@@ -12,6 +12,7 @@
 namespace {
 
 constexpr QSize kHairLineSize(2, 800);
+constexpr int kSweepPeriod = 200; // milliseconds
 
 int marginFor(const QFont &font)
 {
@@ -58,6 +59,10 @@ OsziWidget::OsziWidget(QWidget *parent)
     setFrameStyle(QFrame::Box | QFrame::Plain);
     setLineWidth(1);
     d->scene.curves.resize(kNumSlots);
+    d->knownCounts.resize(kNumSlots, 0);
+    d->sweepTimer.setSingleShot(true);
+    d->sweepTimer.setInterval(kSweepPeriod);
+    connect(&d->sweepTimer, &QTimer::timeout, this, [this] { d->noticeAllGrowth(this); });
     d->scene.geometry.margin = marginFor(font());
     d->hairLine = createHairLine(this);
     d->mouseReadOut = createMouseReadOut(this);
@@ -81,7 +86,9 @@ void OsziWidget::setCurve(int slot, const SampleList *samples, const QColor &col
     curve->samples = samples;
     curve->color = color;
     curve->shown = shown;
-    update();
+    d->knownCounts[size_t(slot)] = samples ? samples->size() : 0;
+    d->topSlot = samples ? std::max(d->topSlot, slot) : d->topSlot;
+    d->curvesChanged(this);
 }
 
 void OsziWidget::clearCurves()
@@ -91,8 +98,10 @@ void OsziWidget::clearCurves()
         curve.samples = nullptr;
         curve.shown = false;
     }
+    d->topSlot = -1;
+    d->growingSlots.clear();
     hideMouseMarker();
-    update();
+    d->curvesChanged(this);
 }
 
 const SampleList *OsziWidget::curve(int slot) const
@@ -105,15 +114,11 @@ bool OsziWidget::isShown(int slot) const
     return d->scene.isSlot(slot) && d->scene.curves[size_t(slot)].shown;
 }
 
-void OsziWidget::samplesAppended()
-{
-    update();
-}
-
 void OsziWidget::refresh()
 {
     qCDebug(lcPlots) << Q_FUNC_INFO;
-    update();
+    d->countSamples();
+    d->curvesChanged(this);
 }
 
 void OsziWidget::setVerticalMarker(int index, int position, const QColor &color)

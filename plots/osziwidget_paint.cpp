@@ -57,16 +57,26 @@ void OsziWidget::paintEvent(QPaintEvent *event)
     d->followValueGrid(this);
     d->followClockGrid(this);
 
+    const QRect region = event->rect();
     QPainter painter(this);
     drawFrame(&painter);
-    oszipainter::paintValueGrid(painter, d->scene, d->labels);
-    oszipainter::paintClockGrid(painter, d->scene, d->labels);
-    oszipainter::paintCurves(painter, d->scene);
-    oszipainter::paintHighlighted(painter, d->scene, event->rect());
-    oszipainter::paintEndValue(painter, d->scene, d->labels);
-    oszipainter::paintHorizontalLines(painter, d->scene);
-    oszipainter::paintVerticalMarkers(painter, d->scene);
-    oszipainter::paintPhaseNames(painter, d->scene, d->labels);
+    oszipainter::paintValueGrid(painter, d->scene, region, d->labels);
+    oszipainter::paintClockGrid(painter, d->scene, region, d->labels);
+    d->paintCurves(painter, region);
+    oszipainter::paintHighlighted(painter, d->scene, region);
+    const QRect valueRect = oszipainter::paintEndValue(painter, d->scene, d->labels);
+    d->endValueRect = region == rect() ? valueRect : valueRect | d->endValueRect; // the old one may still be seen
+    oszipainter::paintHorizontalLines(painter, d->scene, region);
+    oszipainter::paintVerticalMarkers(painter, d->scene, region);
+    oszipainter::paintPhaseNames(painter, d->scene, region, d->labels);
+}
+
+void OsziWidget::Private::paintCurves(QPainter &painter, const QRect &region)
+{
+    if (painter.device()->devicePixelRatioF() > 1.0 || !layer.update(scene))
+        oszipainter::paintCurves(painter, scene);
+    else
+        painter.drawImage(region.topLeft(), layer.picture(), region);
 }
 
 void OsziWidget::mousePressEvent(QMouseEvent *event)

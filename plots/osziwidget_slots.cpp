@@ -35,7 +35,7 @@ void OsziWidget::setEnabled(int channel, bool state)
     if (!curve)
         return;
     curve->shown = state;
-    update();
+    d->curvesChanged(this);
 }
 
 void OsziWidget::setEnabled(int channel)
@@ -55,7 +55,7 @@ void OsziWidget::setAllEnabled(bool state)
     qCDebug(lcPlots) << Q_FUNC_INFO << "state=" << state;
     for (OsziCurve &curve : d->scene.curves)
         curve.shown = state;
-    update();
+    d->curvesChanged(this);
 }
 
 void OsziWidget::setStartIndex(int start)
@@ -176,7 +176,7 @@ void OsziWidget::setChannelOffset(int channel, double offset)
     if (!curve || !std::isfinite(offset))
         return;
     curve->channelOffset = offset;
-    update();
+    d->curvesChanged(this);
 }
 
 void OsziWidget::clearChannelOffsets()
@@ -184,7 +184,7 @@ void OsziWidget::clearChannelOffsets()
     qCDebug(lcPlots) << Q_FUNC_INFO;
     for (OsziCurve &curve : d->scene.curves)
         curve.channelOffset = 0.0;
-    update();
+    d->curvesChanged(this);
 }
 
 void OsziWidget::setAutoChannelOffsets(int time)
@@ -192,7 +192,7 @@ void OsziWidget::setAutoChannelOffsets(int time)
     qCDebug(lcPlots) << Q_FUNC_INFO << "time=" << time;
     for (OsziCurve &curve : d->scene.curves)
         passThroughZero(curve, time / d->scene.geometry.clock);
-    update();
+    d->curvesChanged(this);
 }
 
 void OsziWidget::setAutoChannelOffset(int channel, int time)
@@ -202,7 +202,7 @@ void OsziWidget::setAutoChannelOffset(int channel, int time)
     if (!curve)
         return;
     passThroughZero(*curve, time / d->scene.geometry.clock);
-    update();
+    d->curvesChanged(this);
 }
 
 void OsziWidget::setValueGrid(double grid)

@@ -1,7 +1,6 @@
 #include "plots/plotgeometry.h"
 
 #include <algorithm>
-#include <cmath>
 #include <tuple>
 
 namespace {
@@ -13,14 +12,6 @@ int saturated(qint64 pixels)
 }
 
 } // namespace
-
-int PlotGeometry::yOfValue(double value) const
-{
-    const double y = std::round(double(bottom()) - double(plotHeight()) * (value - minValue) / span());
-    if (!(y < kFarAway))
-        return kFarAway;
-    return int(std::max(y, double(-kFarAway)));
-}
 
 int PlotGeometry::xOfSample(qint64 index) const
 {

@@ -24,6 +24,7 @@ struct PlotGeometry
     [[nodiscard]] int bottom() const { return height - margin; }
     [[nodiscard]] double span() const { return maxValue - minValue; }
 
+    /// The row of a value: rounded, halves away from zero.
     [[nodiscard]] int yOfValue(double value) const;
     [[nodiscard]] int xOfSample(qint64 index) const;
     [[nodiscard]] int xOfTime(qint64 milliseconds) const;
@@ -36,6 +37,18 @@ struct PlotGeometry
     /// The sample under a column; columns left of the plot area count towards the start index.
     [[nodiscard]] qint64 sampleAt(int x) const { return (qint64(x) - kLeftMargin) / zoom + startIndex; }
 };
+
+inline int PlotGeometry::yOfValue(double value) const
+{
+    const double y = double(bottom()) - double(plotHeight()) * (value - minValue) / span();
+    if (!(y < kFarAway))
+        return kFarAway;
+    if (y <= -kFarAway)
+        return -kFarAway;
+    const int whole = int(y);
+    const double rest = y - whole;
+    return whole + int(rest >= 0.5) - int(rest <= -0.5);
+}
 
 [[nodiscard]] bool operator==(const PlotGeometry &a, const PlotGeometry &b);
 [[nodiscard]] inline bool operator!=(const PlotGeometry &a, const PlotGeometry &b)

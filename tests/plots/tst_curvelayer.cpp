@@ -1,0 +1,312 @@
+#include "plots/curvelayer.h"
+#include "plots/linepixels.h"
+#include "plots/oszipainter.h"
+
+#include <QPainter>
+#include <QTest>
+
+#include <cmath>
+#include <deque>
+#include <functional>
+#include <random>
+
+namespace {
+
+using Random = std::mt19937;
+
+int between(Random &random, int low, int high)
+{
+    return std::uniform_int_distribution<int>(low, high)(random);
+}
+
+double real(Random &random, double low, double high)
+{
+    return std::uniform_real_distribution<double>(low, high)(random);
+}
+
+/// A family of random scenes.
+struct Kind
+{
+    int height = 220;
+    int curves = 20;
+    int samples = 400; ///< at most
+    int colors = 1;
+    int largestZoom = 1;
+    double noise = 2.0;
+    double reach = 100.0; ///< values run from -reach / 2 to 1.5 reach around a range of 0 to 100
+    double jumps = 0.0;   ///< share of samples that jump anywhere within reach
+};
+
+/// Curves with the lists they point at.
+struct World
+{
+    OsziScene scene;
+    std::deque<SampleList> lists;
+};
+
+SampleList randomSamples(Random &random, const Kind &kind)
+{
+    SampleList samples;
+    const int count = between(random, 0, 9) == 0 ? between(random, 0, 3) : between(random, 1, kind.samples);
+    const double phase = real(random, 0.0, 6.3);
+    const double center = real(random, 0.2, 0.8) * kind.reach;
+    for (int k = 0; k < count; ++k) {
+        double value = center + 0.4 * kind.reach * std::sin(k / 40.0 + phase) + real(random, -0.5, 0.5) * kind.noise;
+        if (kind.jumps > 0.0 && real(random, 0.0, 1.0) < kind.jumps)
+            value = real(random, -0.5, 1.5) * kind.reach;
+        samples.append(value);
+    }
+    return samples;
+}
+
+void fillGeometry(Random &random, const Kind &kind, PlotGeometry &geometry)
+{
+    geometry.width = between(random, 75, 398);
+    geometry.widgetWidth = geometry.width + 2;
+    geometry.height = kind.height + between(random, -9, 9);
+    geometry.margin = between(random, 0, 20);
+    geometry.minValue = 0.0;
+    geometry.maxValue = 100.0;
+    geometry.zoom = between(random, 1, kind.largestZoom);
+    geometry.startIndex = between(random, -60, kind.samples);
+    if (between(random, 0, 1))
+        geometry.startIndex = 0;
+}
+
+void fillWorld(Random &random, const Kind &kind, World &world)
+{
+    fillGeometry(random, kind, world.scene.geometry);
+    world.scene.curves.resize(size_t(kind.curves) + 3);
+    for (int i = 0; i < kind.curves; ++i) {
+        world.lists.push_back(randomSamples(random, kind));
+        OsziCurve &curve = world.scene.curves[size_t(between(random, 0, kind.curves + 2))];
+        curve.samples = &world.lists.back();
+        curve.shown = between(random, 0, 7) > 0;
+        curve.color = QColor::fromHsv(between(random, 0, kind.colors - 1) * 20, 255, 200);
+        curve.channelOffset = between(random, 0, 2) ? 0.0 : real(random, -20.0, 20.0);
+    }
+    world.scene.offset = between(random, 0, 2) ? 0.0 : real(random, -20.0, 20.0);
+    world.scene.highlighted = between(random, -1, kind.curves);
+}
+
+QImage plainPicture(const OsziScene &scene)
+{
+    QImage image(scene.geometry.widgetWidth, scene.geometry.height, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    oszipainter::paintCurves(painter, scene);
+    return image;
+}
+
+/// "" when equal, else where the first difference is.
+QByteArray difference(const QImage &actual, const QImage &expected)
+{
+    if (actual.size() != expected.size())
+        return "size";
+    for (int y = 0; y < actual.height(); ++y) {
+        for (int x = 0; x < actual.width(); ++x) {
+            if (actual.pixel(x, y) != expected.pixel(x, y))
+                return "column " + QByteArray::number(x) + " row " + QByteArray::number(y);
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Kind)
+
+class TestCurveLayer : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void linesMatchThePainter_data();
+    void linesMatchThePainter();
+    void shortStepsAreTheRunBetweenTheirEnds();
+    void pictureMatchesThePlainOne_data();
+    void pictureMatchesThePlainOne();
+    void keptPictureFollowsTheScene_data();
+    void keptPictureFollowsTheScene();
+    void leavesBlendingToThePainter();
+    void leavesCollapsedPlotsToThePainter();
+};
+
+void TestCurveLayer::linesMatchThePainter_data()
+{
+    QTest::addColumn<int>("dx");
+    QTest::addColumn<int>("farthest");
+
+    QTest::newRow("one column, steps in sight") << 1 << 230;
+    QTest::newRow("one column, far outside") << 1 << 100000;
+    QTest::newRow("one column, as far as it goes") << 1 << PlotGeometry::kFarAway;
+    QTest::newRow("few columns") << 7 << 400;
+    QTest::newRow("few columns, as far as it goes") << 7 << PlotGeometry::kFarAway;
+    QTest::newRow("wide and flat") << 390 << 3;
+    QTest::newRow("wide") << 390 << 3000;
+}
+
+void TestCurveLayer::linesMatchThePainter()
+{
+    QFETCH(int, dx);
+    QFETCH(int, farthest);
+    constexpr int kHeight = 220;
+    Random random(7);
+    QImage expected(400, kHeight, QImage::Format_ARGB32_Premultiplied);
+    QImage actual = expected;
+    for (int round = 0; round < 60; ++round) {
+        const int x = between(random, 0, 399 - dx);
+        const int y1 = between(random, 0, 2) ? between(random, -3, kHeight + 3) : between(random, -farthest, farthest);
+        const int y2 = std::clamp(between(random, -farthest, farthest) / 2 + y1 / 2, -farthest, farthest);
+        expected.fill(Qt::transparent);
+        QPainter painter(&expected);
+        painter.drawLine(x, y1, x + dx, y2);
+        painter.end();
+        actual.fill(Qt::transparent);
+        linepixels::columnsOfLine(x, y1, x + dx, y2, kHeight, [&](int column, int top, int bottom) {
+            for (int y = std::max(top, 0); y <= std::min(bottom, kHeight - 1); ++y)
+                actual.setPixel(column, y, 0xff000000);
+        });
+        const QByteArray where = difference(actual, expected);
+        QVERIFY2(where.isEmpty(), QStringLiteral("%1,%2 to %3,%4").arg(x).arg(y1).arg(x + dx).arg(y2).toUtf8());
+    }
+}
+
+void TestCurveLayer::shortStepsAreTheRunBetweenTheirEnds()
+{
+    for (int step = -128; step <= 128; ++step) {
+        linepixels::columnsOfLine(0, 300, 1, 300 + step, 600, [&](int column, int top, int bottom) {
+            QCOMPARE(top, column == 1 ? 300 + step : std::min(300, 300 + step + 1));
+            QCOMPARE(bottom, column == 1 ? 300 + step : std::max(300, 300 + step - 1));
+        });
+    }
+}
+
+void TestCurveLayer::pictureMatchesThePlainOne_data()
+{
+    QTest::addColumn<Kind>("kind");
+    QTest::addColumn<int>("scenes");
+
+    const auto row = [](const char *name, int scenes, const std::function<void(Kind &)> &change) {
+        Kind kind;
+        change(kind);
+        QTest::newRow(name) << kind << scenes;
+    };
+    row("one colour", 25, [](Kind &) {});
+    row("many curves", 6, [](Kind &k) { k.curves = 300; });
+    row("many colours", 20, [](Kind &k) { k.colors = 12, k.curves = 60; });
+    row("rough", 20, [](Kind &k) { k.noise = 120.0; });
+    row("jumps", 20, [](Kind &k) { k.jumps = 0.1; });
+    row("partly outside", 20, [](Kind &k) { k.reach = 160.0, k.jumps = 0.05; });
+    row("far outside", 20, [](Kind &k) { k.reach = 1e6, k.jumps = 0.3; });
+    row("beyond all pixels", 15, [](Kind &k) { k.reach = 1e300, k.jumps = 0.3; });
+    row("zoom", 30, [](Kind &k) { k.largestZoom = 12, k.jumps = 0.05; });
+    row("large zoom", 20, [](Kind &k) { k.largestZoom = 400, k.jumps = 0.05; });
+    row("zoom, many colours, far outside", 20,
+        [](Kind &k) { k.largestZoom = 5, k.colors = 7, k.reach = 1e5, k.jumps = 0.1; });
+    row("low row", 15, [](Kind &k) { k.height = 60, k.curves = 60; });
+    row("tall row", 12, [](Kind &k) { k.height = 600, k.jumps = 0.05; });
+}
+
+void TestCurveLayer::pictureMatchesThePlainOne()
+{
+    QFETCH(Kind, kind);
+    QFETCH(int, scenes);
+    CurveLayer layer;
+    for (int seed = 0; seed < scenes; ++seed) {
+        Random random{unsigned(seed)};
+        World world;
+        fillWorld(random, kind, world);
+        layer.invalidate();
+        QVERIFY(layer.update(world.scene));
+        const QByteArray where = difference(layer.picture(), plainPicture(world.scene));
+        QVERIFY2(where.isEmpty(), "scene " + QByteArray::number(seed) + ": " + where);
+    }
+}
+
+void TestCurveLayer::keptPictureFollowsTheScene_data()
+{
+    QTest::addColumn<Kind>("kind");
+
+    const auto row = [](const char *name, const std::function<void(Kind &)> &change) {
+        Kind kind;
+        change(kind);
+        QTest::newRow(name) << kind;
+    };
+    row("one colour", [](Kind &) {});
+    row("short curves", [](Kind &k) { k.samples = 30; });
+    row("many colours", [](Kind &k) { k.colors = 12; });
+    row("jumps far outside", [](Kind &k) { k.reach = 1e4, k.jumps = 0.2; });
+    row("zoom", [](Kind &k) { k.largestZoom = 9, k.jumps = 0.1; });
+    row("large zoom", [](Kind &k) { k.largestZoom = 300, k.samples = 20; });
+    row("tall row", [](Kind &k) { k.height = 500, k.curves = 8; });
+}
+
+/// Scrolls, lets curves grow, changes the offset and the highlighted curve: the picture is never drawn from scratch on
+/// demand, and always equal to one that is.
+void TestCurveLayer::keptPictureFollowsTheScene()
+{
+    QFETCH(Kind, kind);
+    Random random{99};
+    for (int sequence = 0; sequence < 5; ++sequence) {
+        World world;
+        fillWorld(random, kind, world);
+        OsziScene &scene = world.scene;
+        CurveLayer layer;
+        QVERIFY(layer.update(scene));
+        for (int step = 0; step < 12; ++step) {
+            for (int grown = between(random, 0, 2); grown > 0; --grown) {
+                OsziCurve &curve = scene.curves[size_t(between(random, 0, int(scene.curves.size()) - 1))];
+                if (!curve.samples)
+                    continue;
+                const int oldCount = curve.samples->size();
+                for (int n = between(random, 1, 20); n > 0; --n)
+                    const_cast<SampleList *>(curve.samples)->append(real(random, -0.2, 1.2) * kind.reach);
+                if (curve.shown && &curve != scene.highlightedCurve())
+                    layer.extend(curve, oldCount);
+            }
+            if (between(random, 0, 3))
+                scene.geometry.startIndex += between(random, -30, 30);
+            if (between(random, 0, 7) == 0)
+                scene.offset += 1.5;
+            if (between(random, 0, 7) == 0)
+                scene.highlighted = between(random, -1, kind.curves);
+            QVERIFY(layer.update(scene));
+            const QByteArray where = difference(layer.picture(), plainPicture(scene));
+            QVERIFY2(where.isEmpty(), QByteArray::number(sequence) + '/' + QByteArray::number(step) + ": " + where);
+        }
+    }
+}
+
+void TestCurveLayer::leavesBlendingToThePainter()
+{
+    Random random{3};
+    World world;
+    fillWorld(random, Kind(), world);
+    CurveLayer layer;
+    QVERIFY(layer.update(world.scene));
+    OsziCurve &curve = world.scene.curves[5];
+    curve = {&world.lists.front(), QColor(0, 0, 255, 128), true, 0.0};
+    layer.invalidate();
+    QVERIFY(!layer.update(world.scene));
+    curve.shown = false;
+    layer.invalidate();
+    QVERIFY(layer.update(world.scene));
+}
+
+void TestCurveLayer::leavesCollapsedPlotsToThePainter()
+{
+    Random random{3};
+    World world;
+    fillWorld(random, Kind(), world);
+    CurveLayer layer;
+    world.scene.geometry.margin = world.scene.geometry.height / 2 + 1;
+    QVERIFY(!layer.update(world.scene));
+    world.scene.geometry.margin = 0;
+    world.scene.geometry.width = PlotGeometry::kLeftMargin;
+    QVERIFY(!layer.update(world.scene));
+}
+
+QTEST_MAIN(TestCurveLayer)
+
+#include "tst_curvelayer.moc"
