@@ -8,6 +8,10 @@
 
 namespace {
 
+// Between these the standard library's notation without an exponent is the one to write.
+constexpr double kLeastPlain = 0.001;
+constexpr double kMostPlain = 9007199254740992.0; // 2^53: above it, it shows digits that are not the shortest
+
 // The shortest digits of a number and the place of its decimal point, counted from the first digit.
 struct Digits
 {
@@ -93,7 +97,9 @@ bool asThousandths(double positive, std::uint64_t &scaled)
     constexpr double kLargest = 1e12;
     if (!(positive < kLargest))
         return false;
-    scaled = static_cast<std::uint64_t>(positive * 1000.0 + 0.5);
+    const double product = positive * 1000.0;
+    scaled = static_cast<std::uint64_t>(product);
+    scaled += product - static_cast<double>(scaled) >= 0.5 ? 1 : 0;
     return static_cast<double>(scaled) / 1000.0 == positive;
 }
 
@@ -126,6 +132,8 @@ char *writeJsonNumber(char *out, double value)
     std::uint64_t scaled = 0;
     if (asThousandths(positive, scaled))
         return writeThousandths(out, scaled);
+    if (positive >= kLeastPlain && positive < kMostPlain)
+        return std::to_chars(out, out + kMaxNumberLength - 1, positive, std::chars_format::fixed).ptr;
     const Digits digits = shortestDigits(positive);
     if (!isModerateInteger(positive) && wantsExponent(digits))
         return writeExponential(out, digits);
