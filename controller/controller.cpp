@@ -93,7 +93,6 @@ void Controller::connectTabs()
     QObject::connect(d->view, &View::terminalSend, this, &Controller::onTerminalSend);
     QObject::connect(d->view, &View::about, this, &Controller::onActionAbout);
     QObject::connect(d->view, &View::progressCancelled, this, &Controller::cancelConnecting);
-    QObject::connect(d->view, &View::offsetChanged, this, &Controller::markModified);
 }
 
 void Controller::connectDevice()

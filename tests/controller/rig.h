@@ -33,6 +33,15 @@ struct Rig
         return QTest::qWaitFor([this] { return bench.model.isConnected() && !isWaitingForDescriptions(); });
     }
 
+    /// At a period that keeps tests short.
+    [[nodiscard]] bool connectQuickly()
+    {
+        if (!connectToBox())
+            return false;
+        emit bench.view.terminalSend(QStringLiteral("t=5"));
+        return QTest::qWaitFor([this] { return bench.model.clock() == 5; });
+    }
+
     /// True once the box has described its sensors or the wait for that is over.
     [[nodiscard]] bool isWaitingForDescriptions() const
     {

@@ -53,7 +53,7 @@ void TestDisturbances::linkLost()
         bench.prompts->whileOpen = [&] { drop(); };
         QVERIFY(rig.connectToBox());
     } else {
-        QVERIFY(rig.connectToBox());
+        QVERIFY(rig.connectQuickly());
         QVERIFY(rig.start());
         QTRY_VERIFY(rig.sent.size() > 3);
     }
@@ -101,7 +101,7 @@ void TestDisturbances::linkLost()
 
     options.sendsProjectDescription = false;
     rig.box.setOptions(options);
-    QVERIFY(rig.connectToBox()); // and on with the day
+    QVERIFY(rig.connectQuickly()); // and on with the day
     const int shots = bench.shots();
     QVERIFY(rig.recordShot(3));
     QCOMPARE(bench.shots(), shots + 1);
@@ -145,16 +145,12 @@ void TestDisturbances::refusedThenAnotherAddress()
 {
     Rig rig;
     rig.box.reboot(); // for a while nobody listens
-    rig.bench.prompts->addresses = {QStringLiteral("127.0.0.1"), std::nullopt};
-    int progress = 0;
+    rig.bench.prompts->addresses = {QStringLiteral("127.0.0.1"), QString()};
     emit rig.bench.view.connectDisconnect();
-    QTRY_COMPARE(rig.bench.prompts->addressDialogs, 1);
-    progress += rig.bench.view.isProgressShown() ? 1 : 0;
     QTRY_COMPARE(rig.bench.prompts->addressDialogs, 2);
     QCOMPARE(rig.bench.prompts->messages.size(), std::size_t(2));
     QCOMPARE(rig.bench.prompts->mostOpenAtOnce, 1);
     QVERIFY(!rig.bench.view.isProgressShown());
-    QCOMPARE(progress, 1);
 }
 
 void TestDisturbances::cancelledAttempt()
@@ -166,7 +162,7 @@ void TestDisturbances::cancelledAttempt()
     QVERIFY(!rig.bench.model.isConnected());
     QVERIFY(!rig.bench.view.isProgressShown());
     QCOMPARE(rig.bench.prompts->addressDialogs, 0);
-    QVERIFY(rig.connectToBox());
+    QVERIFY(rig.connectQuickly());
 }
 
 void TestDisturbances::invalidAddressIsNotUsed()
@@ -175,7 +171,7 @@ void TestDisturbances::invalidAddressIsNotUsed()
     rig.bench.prompts->addresses = {QStringLiteral("1.2.3.4 ; x")};
     rig.bench.controller.connectionError(QAbstractSocket::NetworkError);
     QVERIFY(!rig.bench.view.isProgressShown());
-    QVERIFY(rig.connectToBox()); // still the configured one
+    QVERIFY(rig.connectQuickly()); // still the configured one
 }
 
 void TestDisturbances::misbehaviour_data()
@@ -194,9 +190,8 @@ void TestDisturbances::misbehaviour()
     options.longLines = kind == "long lines";
     options.burst = kind == "burst" ? 20000 : 0;
     Rig rig(options);
-    QVERIFY(rig.connectToBox());
+    QVERIFY(rig.connectQuickly());
     QCOMPARE(rig.bench.controller.areValuesInThousandths(), kind == "undescribed");
-    emit rig.bench.view.terminalSend(QStringLiteral("t=1"));
     QVERIFY(rig.start());
     QTRY_VERIFY(rig.sent.size() > 40 + options.burst);
     emit rig.bench.view.startStopRecording();
@@ -211,8 +206,7 @@ void TestDisturbances::droppedAfterBytes()
     BoxOptions options;
     options.dropAfter = 3000;
     Rig rig(options);
-    QVERIFY(rig.connectToBox());
-    emit rig.bench.view.terminalSend(QStringLiteral("t=1"));
+    QVERIFY(rig.connectQuickly());
     QVERIFY(rig.start());
     QTRY_COMPARE(rig.bench.prompts->addressDialogs, 1);
     QVERIFY(!rig.bench.controller.isRecordingRunning());
@@ -244,7 +238,7 @@ void TestDisturbances::projectDescriptionOnConnection()
     options.sendsProjectDescription = true;
     Rig rig(options);
     rig.bench.prompts->answers = {QMessageBox::Yes};
-    QVERIFY(rig.connectToBox());
+    QVERIFY(rig.connectQuickly());
     QTRY_COMPARE(rig.bench.prompts->questions.size(), std::size_t(1));
     QVERIFY(!rig.bench.model.projectData().name.isEmpty());
     QVERIFY(rig.recordShot(3));
@@ -253,7 +247,7 @@ void TestDisturbances::projectDescriptionOnConnection()
 void TestDisturbances::lineFeedThatNeverComes()
 {
     Rig rig;
-    QVERIFY(rig.connectToBox());
+    QVERIFY(rig.connectQuickly());
     QVERIFY(rig.start());
     QTRY_VERIFY(rig.sent.size() > 2);
     (void)rig.box.sendRaw(QByteArray(2 * 1024 * 1024, 'x')); // may be cut off by the program hanging up
@@ -266,7 +260,7 @@ void TestDisturbances::lineFeedThatNeverComes()
 void TestDisturbances::descriptionsInARow()
 {
     Rig rig;
-    QVERIFY(rig.connectToBox());
+    QVERIFY(rig.connectQuickly());
     rig.bench.prompts->answers = std::deque<QMessageBox::StandardButton>(1000, QMessageBox::No);
     const QByteArray description =
         "<deviceDescription hardwareVersion=\"1\"/><projectDescription projectName=\"x\"/>\n";
@@ -282,8 +276,7 @@ void TestDisturbances::samplesDuringSave()
 {
     const QString file = m_folder.filePath(QStringLiteral("live.vnt"));
     Rig rig;
-    QVERIFY(rig.connectToBox());
-    emit rig.bench.view.terminalSend(QStringLiteral("t=1"));
+    QVERIFY(rig.connectQuickly());
     QVERIFY(rig.start());
     QTRY_VERIFY(rig.bench.samples(0, 0).size() > 10);
     rig.bench.prompts->saveNames = {file};

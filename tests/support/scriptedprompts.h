@@ -24,7 +24,7 @@ public:
     std::deque<QMessageBox::StandardButton> answers;
     std::deque<QString> openNames;
     std::deque<QString> saveNames;
-    std::deque<std::optional<QString>> addresses;
+    std::deque<QString> addresses; ///< an empty one rejects the dialog
     /// Runs while a dialog is up, as the event loop of a real one would.
     std::function<void()> whileOpen;
 
@@ -68,7 +68,10 @@ public:
     std::optional<QString> askAddress(const QString &) override
     {
         ++addressDialogs;
-        return answer(addresses, std::optional<QString>());
+        const QString address = answer(addresses, QString());
+        if (address.isEmpty())
+            return std::nullopt;
+        return address;
     }
 
 private:

@@ -121,7 +121,8 @@ def main():
     parser.add_argument("--period", type=int, default=100, help="ms, until the client chooses another")
     arguments = parser.parse_args()
     with socket.create_server((arguments.address, arguments.port)) as server:
-        print("listening on", *server.getsockname()[:2], flush=True)
+        address, port = server.getsockname()[:2]
+        print(f"listening on {address} {port}", flush=True)
         while True:
             client, _ = server.accept()
             with client:
