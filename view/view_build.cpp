@@ -81,7 +81,6 @@ void View::Private::createToolBar()
     toolBar->setMovable(false);
     toolBar->setContextMenuPolicy(Qt::PreventContextMenu); // it would offer to hide the bar for good
     toolBar->setIconSize(QSize(36, 36));
-    toolBar->setContentsMargins(6, 5, 6, 6); // room for fingers, and the line below stays whole
     toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     actions.fillToolBar(toolBar);
     menu = new QMenu(q);
