@@ -1,6 +1,7 @@
 #include "view/streamedit.h"
 
 #include <QElapsedTimer>
+#include <QScrollBar>
 
 #include <algorithm>
 
@@ -9,6 +10,18 @@ namespace {
 constexpr int kLongestInterval = 1000;
 // Showing text may take a tenth of the time at most.
 constexpr int kIntervalPerCost = 10;
+// Appending to a full field costs five times as much for each line as filling it anew, since it drops the oldest
+// lines one by one.
+constexpr int kCostOfAppending = 5;
+
+/// The last lines of a text that has more of them.
+QString lastLines(const QString &text, int lines)
+{
+    int start = text.size();
+    for (int i = 0; i < lines && start >= 0; ++i)
+        start = start > 0 ? text.lastIndexOf(QLatin1Char('\n'), start - 1) : -1;
+    return text.mid(start + 1);
+}
 
 } // namespace
 
@@ -39,8 +52,23 @@ void StreamEdit::flush()
         return;
     QElapsedTimer cost;
     cost.start();
-    appendPlainText(text);
+    const int lines = text.count(QLatin1Char('\n')) + 1;
+    if (lines * kCostOfAppending < maximumBlockCount())
+        appendPlainText(text);
+    else
+        fillAnew(text, lines);
     m_interval = std::clamp(static_cast<int>(cost.elapsed()) * kIntervalPerCost, kShortestInterval, kLongestInterval);
+}
+
+void StreamEdit::fillAnew(const QString &text, int lines)
+{
+    QScrollBar *bar = verticalScrollBar();
+    const int position = bar->value();
+    const bool following = position == bar->maximum();
+    const int kept = std::min(maximumBlockCount() - lines, document()->isEmpty() ? 0 : blockCount());
+    const QString old = kept > 0 ? lastLines(toPlainText(), kept) + QLatin1Char('\n') : QString();
+    setPlainText(old + text);
+    bar->setValue(following ? bar->maximum() : position);
 }
 
 void StreamEdit::showEvent(QShowEvent *event)

@@ -35,6 +35,7 @@ protected:
 
 private:
     void startFlush();
+    void fillAnew(const QString &text, int lines);
 
     Source m_source;
     QTimer m_timer;

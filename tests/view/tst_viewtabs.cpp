@@ -25,6 +25,8 @@ private slots:
     void terminalShowsDirectionAndControlCharacters_data();
     void terminalShowsDirectionAndControlCharacters();
     void terminalIsBounded();
+    void terminalKeepsOrderHoweverManyComeAtOnce_data();
+    void terminalKeepsOrderHoweverManyComeAtOnce();
     void terminalSendsAndRemembers();
     void historyStopsAtItsEnds();
     void loggerIsBounded();
@@ -80,6 +82,34 @@ void TestViewTabs::terminalIsBounded()
     tab.addSent(QStringLiteral("verworfen"));
     QTest::mouseClick(tab.findChild<QPushButton *>(QStringLiteral("buttonClearTerminal")), Qt::LeftButton);
     QCOMPARE(tab.plainText(), QString());
+}
+
+void TestViewTabs::terminalKeepsOrderHoweverManyComeAtOnce_data()
+{
+    // Lines that are shown together; many are shown in another way than a few.
+    QTest::addColumn<QVector<int>>("batches");
+    constexpr int kAll = TabTerminal::kMaximumLines;
+    QTest::newRow("few, many, few") << QVector<int>{3, kAll / 2, 4};
+    QTest::newRow("many into an empty field") << QVector<int>{kAll / 2};
+    QTest::newRow("many into a full field") << QVector<int>{kAll, kAll / 3, 1, kAll / 2, 2};
+    QTest::newRow("one short of all") << QVector<int>{2, kAll - 1};
+    QTest::newRow("all") << QVector<int>{2, kAll, 1};
+    QTest::newRow("more than all") << QVector<int>{2, kAll + 1};
+}
+
+void TestViewTabs::terminalKeepsOrderHoweverManyComeAtOnce()
+{
+    QFETCH(QVector<int>, batches);
+    TabTerminal tab;
+    QStringList expected;
+    for (int count : batches) {
+        for (int i = 0; i < count; ++i) {
+            tab.addReceived(QString::number(expected.size()));
+            expected << QStringLiteral("< %1").arg(expected.size());
+        }
+        const QStringList newest = expected.mid(std::max(0, expected.size() - TabTerminal::kMaximumLines));
+        QCOMPARE(tab.plainText().split(QLatin1Char('\n')), newest);
+    }
 }
 
 void TestViewTabs::terminalSendsAndRemembers()
