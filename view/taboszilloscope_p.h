@@ -92,6 +92,7 @@ struct TabOszilloscope::Private
     void zoomTime(int x, int steps);
     void dragTime(int pixels);
     void stepTime(int tenths);
+    void holdBack();
     void scrollReleased();
     void plotResized();
     void zoomValue(OsziRow *row, int y, int steps);
@@ -163,6 +164,7 @@ struct TabOszilloscope::Private
     bool pointed = false; ///< the slots are as seenRevision says
     quint64 seenRevision = 0;
     int longest = 0;            ///< samples of the longest curve of row 1, but for the newest
+    bool heldBack = false;      ///< the user moved back by hand, be it by one sample: new samples do not pull the view
     int lastSamples = 0;        ///< samples of the longest curve when the scroll bar was last set up
     bool growing = false;       ///< the scroll bar is being set up because samples came
     int uncorrectedNewest = -1; ///< the measurement that has not yet reached the time of the y correction

@@ -48,7 +48,8 @@ void TabOszilloscope::updateOsziSlider()
     const osziaxes::ScrollState state = osziaxes::scrollState(samples, visible);
     // Many samples may have come since: whoever would have followed the first of them is not left behind.
     const int next = d->growing ? std::min(samples, d->lastSamples + 1) : samples;
-    const bool follows = osziaxes::followsEnd(d->scrollBar->value(), next, visible) && !d->zoom->isSliderDown();
+    const bool held = d->heldBack || d->zoom->isSliderDown();
+    const bool follows = !held && osziaxes::followsEnd(d->scrollBar->value(), next, visible);
     d->lastSamples = samples;
     d->scrollBar->setEnabled(state.enabled);
     d->scrollBar->setRange(0, state.maximum);
@@ -64,6 +65,7 @@ void TabOszilloscope::Private::scrollReleased()
 {
     const bool atEnd = scrollBar->value() >= scrollBar->maximum() - osziaxes::kFollowDistance;
     q->updateOsziSlider();
+    heldBack = false;
     if (atEnd) // of the range as it was while the handle was held
         scrollBar->setValue(scrollBar->maximum());
 }
@@ -98,11 +100,18 @@ void TabOszilloscope::Private::dragTime(int pixels)
 {
     const qint64 start = qint64(dragStartIndex) - pixels / zoom->value();
     scrollBar->setValue(static_cast<int>(std::clamp<qint64>(start, 0, std::numeric_limits<int>::max())));
+    holdBack();
 }
 
 void TabOszilloscope::Private::stepTime(int tenths)
 {
     scrollBar->setValue(scrollBar->value() + tenths * std::max(visibleSamples() / 10, 1));
+    holdBack();
+}
+
+void TabOszilloscope::Private::holdBack()
+{
+    heldBack = scrollBar->sliderPosition() < scrollBar->maximum();
 }
 
 // --- Value axis of one row ---

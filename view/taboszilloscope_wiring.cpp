@@ -55,6 +55,11 @@ void TabOszilloscope::Private::connectInput(int position)
 
 void TabOszilloscope::Private::connectControls()
 {
+    connect(scrollBar, &QScrollBar::actionTriggered, q, [this] { holdBack(); });
+    connect(scrollBar, &QScrollBar::valueChanged, q, [this](int start) {
+        if (start >= scrollBar->maximum())
+            heldBack = false;
+    });
     connect(scrollBar, &QScrollBar::sliderReleased, q, [this] { scrollReleased(); });
     connect(zoom, &QSlider::valueChanged, q, [this](int value) { applyZoom(value); });
     connect(clockGridAuto, &QCheckBox::toggled, q, [this] { updateEnabled(); });
@@ -146,6 +151,7 @@ void TabOszilloscope::Private::retranslateUi()
     retranslateMarkers();
     retranslateMeasurements();
     showSampleRate();
+    showSensorNames();
     showLock();
 }
 

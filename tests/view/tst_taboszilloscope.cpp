@@ -30,6 +30,7 @@ private slots:
     void followsNewestSamples_data();
     void followsNewestSamples();
     void burstIsTakenOverAtTheEndOfTheTurn();
+    void stepBackByHandIsNotUndone();
     void heldScrollBarStays();
     void shortCurvesNeedNoScrolling();
     void yCorrection();
@@ -248,6 +249,29 @@ void TestTabOszilloscope::burstIsTakenOverAtTheEndOfTheTurn()
     bench.grow(7);
     bench.model.emitDataChanged(); // the next turn acts at once again
     QCOMPARE(bar->value(), 2507 - bench.visible());
+}
+
+void TestTabOszilloscope::stepBackByHandIsNotUndone()
+{
+    OsziBench bench;
+    bench.addShot(2000);
+    bench.find<QSlider>("sliderTimeZoom")->setValue(50); // a step is a sample, far less than the distance that follows
+    auto *bar = bench.find<QScrollBar>("scrollBarOszi");
+    bar->setValue(bar->maximum());
+    const int end = bar->maximum();
+    const auto grow = [&bench] {
+        bench.grow(1);
+        bench.model.emitDataChanged();
+    };
+    bar->triggerAction(QAbstractSlider::SliderSingleStepSub);
+    grow();
+    QCOMPARE(bar->value(), end - 1);
+    QTest::keyClick(bench.tab.row(0), Qt::Key_Left);
+    grow();
+    QCOMPARE(bar->value(), end - 2);
+    QTest::keyClick(bench.tab.row(0), Qt::Key_End);
+    grow();
+    QCOMPARE(bar->value(), end + 3);
 }
 
 void TestTabOszilloscope::heldScrollBarStays()

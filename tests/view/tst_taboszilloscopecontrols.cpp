@@ -9,6 +9,7 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QSlider>
+#include <QTemporaryDir>
 #include <QtTest>
 
 #include <functional>
@@ -47,6 +48,7 @@ private slots:
     void rangeBoxes_data();
     void rangeBoxes();
     void rangesFromOutside();
+    void settingsSurviveSaveAndOpen();
     void offsetsReachTheModel();
     void lockCloses();
     void hiddenSensorLeavesItsHeight();
@@ -262,6 +264,33 @@ void TestTabOszilloscopeControls::rangesFromOutside()
     QCOMPARE(bench.tab.row(2)->minValue(), -9000.0);
     QCOMPARE(bench.tab.row(3)->maxValue(), 255.0);
     QCOMPARE(bench.model.osziMaximum(3), 255.0); // cannot be shown: what is shown counts
+}
+
+void TestTabOszilloscopeControls::settingsSurviveSaveAndOpen()
+{
+    QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("shots.vnt"));
+    OsziBench saved;
+    saved.addShot(40);
+    saved.find<QDoubleSpinBox>("maxSpinBox", 5)->setValue(1234.5);
+    saved.find<QDoubleSpinBox>("minSpinBox", 5)->setValue(-0.25);
+    saved.find<QDoubleSpinBox>("offsetSpinBox", 1)->setValue(3.5);
+    saved.model.setVerticalMarkerAbsolute(2, 30);
+    saved.model.setMarkersAbsolute(true);
+    QVERIFY(saved.model.save(file));
+
+    OsziBench opened;
+    opened.addShot(10);
+    opened.addShot(10);
+    QVERIFY(opened.model.open(file));
+    QCOMPARE(opened.shown(), QVector<int>{1});
+    QCOMPARE(opened.tab.row(4)->curve(0)->size(), 40);
+    QCOMPARE(opened.find<QDoubleSpinBox>("maxSpinBox", 5)->value(), 1234.5);
+    QCOMPARE(opened.tab.row(4)->minValue(), -0.25);
+    QCOMPARE(opened.tab.row(0)->offset(), 3.5);
+    QVERIFY(opened.find<QCheckBox>("checkBoxMarkerAbsolute")->isChecked());
+    QCOMPARE(opened.find<QDoubleSpinBox>("markerSpinBox", 3)->value(), 3.0);
+    QVERIFY(!opened.model.isProjectModified());
 }
 
 void TestTabOszilloscopeControls::offsetsReachTheModel()
