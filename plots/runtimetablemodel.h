@@ -34,6 +34,7 @@ public:
     /// Announces only what differs from the rows before.
     void setRows(const std::vector<RuntimeRow> &rows);
     [[nodiscard]] int numShots() const { return static_cast<int>(m_rows.size()); }
+    [[nodiscard]] const std::vector<RuntimeRow> &rows() const { return m_rows; }
     /// Announces that all texts are in another language.
     void retranslate();
 

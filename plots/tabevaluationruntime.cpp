@@ -35,16 +35,23 @@ std::optional<qint64> pauseBetween(const QDateTime &from, const QDateTime &to)
     return from.isValid() && to.isValid() ? std::optional(from.secsTo(to)) : std::nullopt;
 }
 
-std::vector<RuntimeRow> rowsOf(const Model &model, const std::vector<ShotRuntime> &results)
+// Time stamps seldom change, and taking the difference of two local times is slow.
+bool hasTimestamps(const std::vector<RuntimeRow> &rows, size_t first, const QDateTime &from, const QDateTime &to)
+{
+    return first + 1 < rows.size() && rows[first].timestamp == from && rows[first + 1].timestamp == to;
+}
+
+std::vector<RuntimeRow> rowsOf(const Model &model, const std::vector<ShotRuntime> &results,
+                               const std::vector<RuntimeRow> &before)
 {
     std::vector<RuntimeRow> rows;
     rows.reserve(results.size());
-    for (const ShotRuntime &result : results) {
+    for (const ShotRuntime &result : results)
         rows.push_back({result, model.timestamp(static_cast<int>(rows.size())), std::nullopt});
-        if (rows.size() > 1) {
-            RuntimeRow &previous = rows[rows.size() - 2];
-            previous.pause = pauseBetween(previous.timestamp, rows.back().timestamp);
-        }
+    for (size_t i = 0; i + 1 < rows.size(); ++i) {
+        const QDateTime &from = rows[i].timestamp;
+        const QDateTime &to = rows[i + 1].timestamp;
+        rows[i].pause = hasTimestamps(before, i, from, to) ? before[i].pause : pauseBetween(from, to);
     }
     return rows;
 }
@@ -219,7 +226,7 @@ void TabEvaluationRuntime::updateTable()
     const RuntimeCache::Work work = cache.refresh(shotsOf(m_currentSensor), criteria(), m_model->structureRevision());
     qCDebug(lcPlots).noquote().nospace() << Q_FUNC_INFO << " shots=" << cache.results().size()
                                          << " scanned=" << work.scanned << " extended=" << work.extended;
-    m_tableModel->setRows(rowsOf(*m_model, cache.results()));
+    m_tableModel->setRows(rowsOf(*m_model, cache.results(), m_tableModel->rows()));
     showSummaries(cache.results());
     if (m_chosenShot >= m_tableModel->numShots())
         followNewestShot();

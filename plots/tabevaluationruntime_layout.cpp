@@ -18,7 +18,8 @@ namespace {
 constexpr double kLargestThreshold = 1e6;
 constexpr int kSummaryHeight = 60; // pixels
 constexpr int kRowHeight = 30;     // pixels
-constexpr int kWidestTable = 900;  // pixels that its columns can use; the box plots get the rest
+constexpr int kWidestSpinBox = 220;
+constexpr int kWidestTable = 900; // pixels that its columns can use; the box plots get the rest
 
 } // namespace
 
@@ -46,6 +47,7 @@ QDoubleSpinBox *TabEvaluationRuntime::createThresholdSpinBox(const QString &name
     spinBox->setRange(-kLargestThreshold, kLargestThreshold);
     spinBox->setAlignment(Qt::AlignCenter);
     spinBox->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    spinBox->setMaximumWidth(kWidestSpinBox);
     return spinBox;
 }
 
@@ -58,6 +60,7 @@ QLayout *TabEvaluationRuntime::createSummaries()
     m_spinBoxStopValue = createThresholdSpinBox(QStringLiteral("spinBoxStopValue"));
     auto *thresholds = new QGridLayout;
     thresholds->setHorizontalSpacing(10);
+    thresholds->setColumnStretch(2, 1);
     thresholds->addWidget(m_labelStartValue, 0, 0);
     thresholds->addWidget(m_spinBoxStartValue, 0, 1);
     thresholds->addWidget(m_labelStopValue, 1, 0);

@@ -1,0 +1,437 @@
+#include "model/model.h"
+#include "plots/boxwhiskerswidget.h"
+#include "plots/osziwidget.h"
+#include "plots/runtimetablemodel.h"
+#include "plots/tabevaluationruntime.h"
+
+#include <QAbstractButton>
+#include <QDoubleSpinBox>
+#include <QLabel>
+#include <QRegularExpression>
+#include <QTableView>
+#include <QTranslator>
+#include <QtTest>
+
+#include <memory>
+
+namespace {
+
+using Doubles = QVector<double>;
+
+/// `high` samples of 300, then `low` samples of 50, then `rest` samples of 300.
+SampleList shotOf(int high, int low, int rest)
+{
+    return SampleList(high, 300.0) + SampleList(low, 50.0) + SampleList(rest, 300.0);
+}
+
+void append(Model &model, const SampleList &samples, const QDateTime &timestamp = {})
+{
+    for (int sensor = 0; sensor < kNumSensors; ++sensor) {
+        const int shot = model.appendMeasurement(sensor);
+        for (const double value : samples)
+            QVERIFY(model.appendSample(sensor, shot, value + sensor));
+    }
+    model.setTimestamp(model.numChannels(0) - 1, timestamp);
+}
+
+} // namespace
+
+class TabEvaluationRuntimeTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void tableShowsShots();
+    void tableAnnouncesOnlyWhatChanged();
+    void summariesGetTheirLists();
+    void worksWithoutShotsAndWithEmptyOnes();
+    void withoutModelItSaysSo();
+    void sensorsHaveTheirOwnThresholds();
+    void sensorSwitchIsLogged();
+    void offsetCounts();
+    void chosenShotIsDrawn();
+    void plotShowsThresholdsAndWholeCurve();
+    void plotSurvivesRemovalItWasNotToldOf();
+    void choiceIsForgottenWithItsShot();
+    void followsTheModelOnlyWhileShown();
+    void samplesAreCoalesced();
+    void buttonsNameTheSensors();
+    void textsFollowTheLanguage();
+
+private:
+    [[nodiscard]] QString cell(int row, int column) const;
+    [[nodiscard]] QStringList rowTexts(int row) const;
+    [[nodiscard]] Doubles summary(const char *name) const;
+    template <typename Widget>
+    [[nodiscard]] Widget *child(const char *name) const
+    {
+        return m_page->findChild<Widget *>(QLatin1String(name));
+    }
+    void chooseSensor(int sensor);
+
+    std::unique_ptr<Model> m_model;
+    std::unique_ptr<TabEvaluationRuntime> m_page;
+};
+
+void TabEvaluationRuntimeTest::initTestCase()
+{
+    qputenv("TZ", "UTC");
+}
+
+void TabEvaluationRuntimeTest::init()
+{
+    m_model = std::make_unique<Model>(QString());
+    m_page = std::make_unique<TabEvaluationRuntime>();
+    m_page->setModel(m_model.get());
+    for (int sensor = 0; sensor < kNumSensors; ++sensor)
+        m_page->setThresholds(sensor, 100.0, 100.0);
+}
+
+void TabEvaluationRuntimeTest::cleanup()
+{
+    m_page.reset();
+    m_model.reset();
+}
+
+QString TabEvaluationRuntimeTest::cell(int row, int column) const
+{
+    const QAbstractItemModel *table = child<QTableView>("tableRuntime")->model();
+    return table->index(row, column).data().toString();
+}
+
+QStringList TabEvaluationRuntimeTest::rowTexts(int row) const
+{
+    QStringList texts;
+    for (int column = 0; column < RuntimeTableModel::NumColumns; ++column)
+        texts << cell(row, column);
+    return texts;
+}
+
+Doubles TabEvaluationRuntimeTest::summary(const char *name) const
+{
+    return child<BoxWhiskersWidget>(name)->sortedValues();
+}
+
+void TabEvaluationRuntimeTest::chooseSensor(int sensor)
+{
+    child<QAbstractButton>(qPrintable(QStringLiteral("sensorButton%1").arg(sensor)))->setChecked(true);
+}
+
+void TabEvaluationRuntimeTest::tableShowsShots()
+{
+    const QDateTime start(QDate(2026, 3, 9), QTime(23, 59, 50), Qt::UTC);
+    append(*m_model, shotOf(12, 100, 47), start);
+    append(*m_model, shotOf(20, 130, 0), start.addMSecs(29900));
+    append(*m_model, shotOf(9, 0, 0)); // never falls below; no time stamp
+    m_page->update();
+
+    const QAbstractItemModel *table = child<QTableView>("tableRuntime")->model();
+    QCOMPARE(table->rowCount(), 5);
+    QStringList headers;
+    for (int column = 1; column < table->columnCount(); ++column)
+        headers << table->headerData(column, Qt::Horizontal).toString();
+    QCOMPARE(headers.join(QLatin1Char('|')),
+             QStringLiteral("timestamp|Start [s]|Dauer [s]|Stop [s]|Gesamtdauer [s]|Pause [s]"));
+
+    const auto row = [this](int index) { return rowTexts(index).join(QLatin1Char('|')); };
+    QCOMPARE(row(0), QStringLiteral("0|2026/03/09 23:59:50|1.2|9.9|11.1|15|29"));
+    QCOMPARE(row(1), QStringLiteral("1|2026/03/10 00:00:19|2|12.9|14.9|15|"));
+    QCOMPARE(row(2), QStringLiteral("2||-0.1|0|-0.1|0|"));
+    QCOMPARE(row(3), QStringLiteral("Mittelwert||1.03333|7.6|8.63333|10|29"));
+    QCOMPARE(row(4), QStringLiteral("Sigma||0.865384|5.51181|6.36728|7.07107|0"));
+
+    m_model->setTimestamp(2, start.addSecs(60));
+    m_page->update();
+    QCOMPARE(cell(1, RuntimeTableModel::Pause), QStringLiteral("30"));
+    QCOMPARE(cell(2, RuntimeTableModel::Pause), QString());
+    QCOMPARE(cell(3, RuntimeTableModel::Pause), QStringLiteral("29.5"));
+}
+
+void TabEvaluationRuntimeTest::tableAnnouncesOnlyWhatChanged()
+{
+    RuntimeTableModel table;
+    std::vector<RuntimeRow> rows(4);
+    table.setRows(rows);
+    QSignalSpy changed(&table, &RuntimeTableModel::dataChanged);
+    QSignalSpy inserted(&table, &RuntimeTableModel::rowsInserted);
+    table.setRows(rows);
+    QCOMPARE(changed.count(), 0);
+
+    rows[3].runtime.count = 70;
+    table.setRows(rows);
+    QCOMPARE(changed.count(), 1);
+    QCOMPARE(changed.takeFirst().at(0).toModelIndex().row(), 3);
+
+    rows.push_back({});
+    table.setRows(rows);
+    QCOMPARE(inserted.takeFirst().at(1).toInt(), 4); // in front of the two extra rows
+    QCOMPARE(table.rowCount(), 7);
+    rows.resize(1);
+    table.setRows(rows);
+    QCOMPARE(table.rowCount(), 3);
+    QCOMPARE(table.index(1, RuntimeTableModel::Total).data().toString(), QStringLiteral("0"));
+}
+
+void TabEvaluationRuntimeTest::summariesGetTheirLists()
+{
+    append(*m_model, shotOf(10, 20, 5));
+    append(*m_model, shotOf(30, 1, 24)); // start and stop coincide
+    append(*m_model, shotOf(4, 0, 0));
+    m_page->update();
+    QCOMPARE(summary("boxStart"), Doubles({-0.1, 1.0, 3.0}));
+    QCOMPARE(summary("boxDuration"), Doubles({1.9}));
+    QCOMPARE(summary("boxStop"), Doubles({-0.1, 2.9, 3.0}));
+    for (const char *name : {"boxStart", "boxDuration", "boxStop"}) {
+        QCOMPARE(child<BoxWhiskersWidget>(name)->axisMinimum(), 0.0);
+        QCOMPARE(child<BoxWhiskersWidget>(name)->axisMaximum(), 5.5);
+        QCOMPARE(child<BoxWhiskersWidget>(name)->height(), 60);
+    }
+}
+
+void TabEvaluationRuntimeTest::worksWithoutShotsAndWithEmptyOnes()
+{
+    m_page->resize(900, 600);
+    m_page->show();
+    m_page->update();
+    QCOMPARE(child<QTableView>("tableRuntime")->model()->rowCount(), 2);
+    QCOMPARE(cell(0, RuntimeTableModel::Start), QString());
+    QCOMPARE(m_page->shownShot(), -1);
+    QCOMPARE(m_page->grab().isNull(), false);
+
+    append(*m_model, {});
+    m_page->update();
+    QCOMPARE(rowTexts(0).mid(2), QStringList({QStringLiteral("-0.1"), QStringLiteral("0"), QStringLiteral("-0.1"),
+                                              QStringLiteral("0"), QString()}));
+    QCOMPARE(m_page->grab().isNull(), false);
+}
+
+void TabEvaluationRuntimeTest::withoutModelItSaysSo()
+{
+    const QRegularExpression needsModel(
+        QStringLiteral(R"(ERROR: model is not set!  \(model==nullptr\)!  -> set model before calling this!)"));
+    TabEvaluationRuntime page;
+    QTest::ignoreMessage(QtDebugMsg, needsModel);
+    page.update();
+    QTest::ignoreMessage(QtDebugMsg, needsModel);
+    page.updateOszi();
+    QTest::ignoreMessage(QtDebugMsg,
+                         QRegularExpression(QStringLiteral(R"(ERROR: model is not set!  \(model==nullptr\)!$)")));
+    m_page->setModel(nullptr);
+    append(*m_model, shotOf(1, 1, 1));
+    m_page->update(); // still has the model it had
+    QCOMPARE(cell(0, 0), QStringLiteral("0"));
+
+    m_model.reset();
+    m_page->resize(400, 400);
+    QVERIFY(!m_page->grab().isNull());
+    QTest::ignoreMessage(QtDebugMsg, needsModel);
+    m_page->updateTable();
+}
+
+void TabEvaluationRuntimeTest::sensorsHaveTheirOwnThresholds()
+{
+    append(*m_model, {300, 200, 100, 50, 10, 50, 100, 200, 300});
+    m_page->update();
+    QTest::ignoreMessage(QtDebugMsg,
+                         QRegularExpression(QStringLiteral("onStartStopSpinBoxChanged.*start=250 stop=100$")));
+    child<QDoubleSpinBox>("spinBoxStartValue")->setValue(250.0);
+    child<QDoubleSpinBox>("spinBoxStopValue")->setValue(20.0);
+    QCOMPARE(rowTexts(0).mid(2, 3), QStringList({QStringLiteral("0.1"), QStringLiteral("0.3"), QStringLiteral("0.4")}));
+
+    chooseSensor(3);
+    QCOMPARE(m_page->currentSensor(), 3);
+    QCOMPARE(child<QDoubleSpinBox>("spinBoxStartValue")->value(), 100.0);
+    QCOMPARE(cell(0, RuntimeTableModel::Start), QStringLiteral("0.3")); // 53 is the first below 100
+    chooseSensor(0);
+    QCOMPARE(child<QDoubleSpinBox>("spinBoxStopValue")->value(), 20.0);
+    QCOMPARE(m_page->startThreshold(0), 250.0);
+    QCOMPARE(m_page->stopThreshold(3), 100.0);
+    QCOMPARE(cell(0, RuntimeTableModel::Start), QStringLiteral("0.1"));
+}
+
+void TabEvaluationRuntimeTest::sensorSwitchIsLogged()
+{
+    m_page->setThresholds(4, 1.0, 2.5);
+    const auto expect = [](const QString &pattern) { QTest::ignoreMessage(QtDebugMsg, QRegularExpression(pattern)); };
+    expect(QStringLiteral("^void TabEvaluationRuntime::onSensorButtonToggled\\(\\) currentSensor=0$"));
+    expect(QStringLiteral("^stopvalue 0 =100$"));
+    expect(QStringLiteral("^stopvalue 4 =2.5$"));
+    expect(QStringLiteral("^void TabEvaluationRuntime::onSensorButtonToggled\\(\\) \\*currentSensor=4$"));
+    expect(QStringLiteral("^\\*stopvalue 4 =2.5$"));
+    chooseSensor(4);
+}
+
+void TabEvaluationRuntimeTest::offsetCounts()
+{
+    append(*m_model, shotOf(10, 20, 5));
+    m_model->setOffset(0, 60.0); // lifts the dip to 110
+    m_page->update();
+    QCOMPARE(cell(0, RuntimeTableModel::Start), QStringLiteral("-0.1"));
+    QCOMPARE(child<OsziWidget>("osziWidget")->offset(), 60.0);
+}
+
+void TabEvaluationRuntimeTest::chosenShotIsDrawn()
+{
+    append(*m_model, shotOf(1, 2, 3));
+    append(*m_model, shotOf(4, 5, 6));
+    append(*m_model, shotOf(7, 8, 9));
+    m_page->update();
+    const OsziWidget *plot = child<OsziWidget>("osziWidget");
+    QCOMPARE(*plot->curve(0), shotOf(7, 8, 9)); // the newest until one is chosen
+
+    QTest::ignoreMessage(QtDebugMsg, QRegularExpression(QStringLiteral(" row=1  col=2$")));
+    m_page->onCellClicked(1, 2);
+    QCOMPARE(*plot->curve(0), shotOf(4, 5, 6));
+    QTableView *table = child<QTableView>("tableRuntime");
+    table->setCurrentIndex(table->model()->index(0, 3));
+    QCOMPARE(*plot->curve(0), shotOf(1, 2, 3));
+    m_page->onCellClicked(3, 0); // the mean is no shot
+    QCOMPARE(m_page->shownShot(), 0);
+
+    append(*m_model, shotOf(1, 1, 1));
+    m_page->update();
+    QCOMPARE(m_page->shownShot(), 0);
+    chooseSensor(2);
+    QCOMPARE(plot->curve(0)->at(0), 302.0);
+}
+
+void TabEvaluationRuntimeTest::plotShowsThresholdsAndWholeCurve()
+{
+    append(*m_model, shotOf(5, 5, 5));
+    m_page->update();
+    const OsziWidget *plot = child<OsziWidget>("osziWidget");
+    QVERIFY(plot->minValue() < 50.0 && plot->minValue() > 0.0);
+    QVERIFY(plot->maxValue() > 300.0 && plot->maxValue() < 350.0);
+    for (const auto &[start, stop] :
+         {std::pair(-400.0, 900.0), std::pair(2000.0, 1000.0), std::pair(-9000.0, -8000.0)}) {
+        child<QDoubleSpinBox>("spinBoxStartValue")->setValue(start);
+        child<QDoubleSpinBox>("spinBoxStopValue")->setValue(stop);
+        QVERIFY(plot->minValue() < std::min({start, stop, 50.0}));
+        QVERIFY(plot->maxValue() > std::max({start, stop, 300.0}));
+    }
+}
+
+// Signals stay blocked where a deletion fails half-way; the sanitizer would report what is drawn after that.
+void TabEvaluationRuntimeTest::plotSurvivesRemovalItWasNotToldOf()
+{
+    append(*m_model, shotOf(50, 50, 50));
+    append(*m_model, shotOf(60, 60, 60));
+    m_page->resize(900, 600);
+    m_page->show();
+    m_page->update();
+    m_model->blockSignals(true);
+    QVERIFY(m_model->deleteChannel(1));
+    QVERIFY(m_model->deleteChannel(0));
+    m_model->discardRemoved();
+    QVERIFY(!m_page->grab().isNull());
+    QTest::mouseMove(child<OsziWidget>("osziWidget"), QPoint(100, 50));
+    m_page->onCellClicked(1, 1);
+    m_model->blockSignals(false);
+    m_model->emitDataChanged();
+    QTRY_COMPARE(child<QTableView>("tableRuntime")->model()->rowCount(), 2);
+    QCOMPARE(child<OsziWidget>("osziWidget")->curve(0), nullptr);
+}
+
+void TabEvaluationRuntimeTest::choiceIsForgottenWithItsShot()
+{
+    for (int shot = 0; shot < 4; ++shot)
+        append(*m_model, shotOf(shot + 1, 1, 1));
+    m_page->update();
+    QTableView *table = child<QTableView>("tableRuntime");
+    table->setCurrentIndex(table->model()->index(3, 0));
+    QVERIFY(m_model->deleteChannel(3));
+    QVERIFY(m_model->deleteChannel(2));
+    m_page->update();
+    QVERIFY(!table->selectionModel()->hasSelection());
+    append(*m_model, shotOf(9, 9, 9));
+    m_page->update();
+    QCOMPARE(*child<OsziWidget>("osziWidget")->curve(0), shotOf(9, 9, 9)); // the newest again
+}
+
+void TabEvaluationRuntimeTest::followsTheModelOnlyWhileShown()
+{
+    const QAbstractItemModel *table = child<QTableView>("tableRuntime")->model();
+    append(*m_model, shotOf(5, 5, 5));
+    m_model->emitDataChanged();
+    QTest::qWait(3 * TabEvaluationRuntime::kRefreshInterval);
+    QCOMPARE(table->rowCount(), 2);
+    m_page->show();
+    QCOMPARE(table->rowCount(), 3);
+    append(*m_model, shotOf(6, 6, 6));
+    m_model->emitDataChanged();
+    QCOMPARE(table->rowCount(), 3); // not at once
+    QTRY_COMPARE(table->rowCount(), 4);
+    m_page->hide();
+    m_model->clearData();
+    QTest::qWait(3 * TabEvaluationRuntime::kRefreshInterval);
+    QCOMPARE(table->rowCount(), 4);
+}
+
+void TabEvaluationRuntimeTest::samplesAreCoalesced()
+{
+    append(*m_model, {});
+    m_page->show();
+    m_page->update();
+    QSignalSpy changes(child<QTableView>("tableRuntime")->model(), &QAbstractItemModel::dataChanged);
+    for (int i = 0; i < 1000; ++i) {
+        QVERIFY(m_model->appendSample(0, 0, i < 500 ? 300.0 : 50.0));
+        m_model->emitDataChanged();
+    }
+    QTRY_COMPARE(cell(0, RuntimeTableModel::Start), QStringLiteral("50"));
+    QCOMPARE(cell(0, RuntimeTableModel::Stop), QStringLiteral("99.9"));
+    QCOMPARE(changes.count(), 1);
+    QCOMPARE(child<OsziWidget>("osziWidget")->curve(0)->size(), 1000);
+}
+
+void TabEvaluationRuntimeTest::buttonsNameTheSensors()
+{
+    m_model->setSensorName(1, QStringLiteral("Druck & Weg"));
+    m_page->update();
+    QCOMPARE(child<QAbstractButton>("sensorButton0")->text(), QStringLiteral("Sensor 1"));
+    QCOMPARE(child<QAbstractButton>("sensorButton1")->text(), QStringLiteral("Druck && Weg"));
+
+    m_model->setSensorName(1, QString(300, QLatin1Char('x')));
+    m_page->resize(700, 500);
+    m_page->show();
+    QVERIFY(child<QAbstractButton>("sensorButton1")->text().endsWith(QChar(0x2026)));
+    QCOMPARE(child<QAbstractButton>("sensorButton1")->toolTip().size(), 300);
+    QCOMPARE(m_page->width(), 700);
+}
+
+namespace {
+
+class Shouting : public QTranslator
+{
+public:
+    using QTranslator::QTranslator;
+    [[nodiscard]] bool isEmpty() const override { return false; }
+    [[nodiscard]] QString translate(const char *, const char *text, const char *, int) const override
+    {
+        return QString::fromUtf8(text).toUpper();
+    }
+};
+
+} // namespace
+
+void TabEvaluationRuntimeTest::textsFollowTheLanguage()
+{
+    Shouting translator;
+    QCoreApplication::installTranslator(&translator);
+    QCoreApplication::sendPostedEvents();
+    QCOMPARE(cell(1, 0), QStringLiteral("SIGMA"));
+    QStringList labels;
+    const QList<QLabel *> found = m_page->findChildren<QLabel *>();
+    for (const QLabel *label : found)
+        labels << label->text();
+    QVERIFY(labels.contains(QStringLiteral("STOPPSCHWELLE")));
+    QVERIFY(labels.contains(QStringLiteral("DAUER [S]")));
+    QCOMPARE(child<QAbstractButton>("sensorButton0")->text(), QStringLiteral("SENSOR 1"));
+    QCoreApplication::removeTranslator(&translator);
+}
+
+QTEST_MAIN(TabEvaluationRuntimeTest)
+#include "tst_tabevaluationruntime.moc"
