@@ -51,6 +51,7 @@ OsziRow::OsziRow(int position, QWidget *parent)
 
     auto *params = new QWidget(this);
     params->setObjectName(QStringLiteral("osziParamsWidget") + number);
+    params->setProperty("osziParams", true); // for the tab's sheet, which must not touch the labels in the plot
     createBoxes(params);
     layOut(params);
     connectBoxes();

@@ -30,25 +30,25 @@ const int kLargestMilliseconds = 24 * 60 * 60 * 1000;
 /// What makes five rows and all controls fit a small laptop: the application's sheet, but tighter.
 QString compactSheet()
 {
-    return QStringLiteral(
-               "QLabel, QCheckBox, QLineEdit, QSpinBox, QDoubleSpinBox {font-size: 16px;}"
-               "QSpinBox, QDoubleSpinBox {min-height: 32px; padding: 0px;}"
-               "QPushButton {min-height: 34px; min-width: 44px;}"
-               "QPushButton#lockButton {min-width: 56px;}"
-               "QPushButton#lockButton:checked {background-color: #B3261E;}"
-               "QCheckBox {spacing: 4px; padding: 1px;}"
-               "QCheckBox::indicator {width: 24px; height: 24px;}"
-               "QWidget#osziRows {background-color: white;}"
-               "OsziRow QLabel {font-size: 13px; min-height: 15px; max-height: 18px;}"
-               "OsziRow QLabel#osziTitle {font-size: 14px; font-weight: bold;}"
-               "OsziRow QDoubleSpinBox {font-size: 15px; min-height: 25px; min-width: 70px;}"
-               "OsziRow QDoubleSpinBox::up-button, OsziRow QDoubleSpinBox::down-button {width: 24px; height: 25px;}"
-               "QScrollBar:horizontal {min-height: 34px;}"
-               "QSlider {min-height: 32px;}"
-               "QSlider::groove:horizontal {height: 8px; border-radius: 4px; background-color: #D5D5D5;}"
-               "QSlider::handle:horizontal {width: 28px; margin: -10px 0px; border-radius: 14px;"
-               " background-color: %1;}"
-               "QSlider::handle:horizontal:focus {border: 3px solid black;}")
+    return QStringLiteral("QLabel, QCheckBox, QLineEdit, QSpinBox, QDoubleSpinBox {font-size: 16px;}"
+                          "QSpinBox, QDoubleSpinBox {min-height: 32px; padding: 0px;}"
+                          "QPushButton {min-height: 34px; min-width: 44px;}"
+                          "QPushButton#lockButton {min-width: 56px;}"
+                          "QPushButton#lockButton:checked {background-color: #B3261E;}"
+                          "QCheckBox {spacing: 4px; padding: 1px;}"
+                          "QCheckBox::indicator {width: 24px; height: 24px;}"
+                          "QWidget#osziRows {background-color: white;}"
+                          "*[osziParams=true] QLabel {font-size: 13px; min-height: 15px; max-height: 18px;}"
+                          "*[osziParams=true] QLabel#osziTitle {font-size: 14px; font-weight: bold;}"
+                          "*[osziParams=true] QDoubleSpinBox {font-size: 15px; min-height: 25px; min-width: 70px;}"
+                          "*[osziParams=true] QDoubleSpinBox::up-button, *[osziParams=true] QDoubleSpinBox::down-button"
+                          " {width: 24px; height: 25px;}"
+                          "QScrollBar:horizontal {min-height: 34px;}"
+                          "QSlider {min-height: 32px;}"
+                          "QSlider::groove:horizontal {height: 8px; border-radius: 4px; background-color: #D5D5D5;}"
+                          "QSlider::handle:horizontal {width: 28px; margin: -10px 0px; border-radius: 14px;"
+                          " background-color: %1;}"
+                          "QSlider::handle:horizontal:focus {border: 3px solid black;}")
         .arg(theme::colorPrimary);
 }
 

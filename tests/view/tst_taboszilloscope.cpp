@@ -410,6 +410,8 @@ void TestTabOszilloscope::readOutIsMirrored()
     QCOMPARE(readOuts(0), 2);
     QCOMPARE(readOuts(1), 0);
     QCOMPARE(readOuts(4), 2);
+    const auto *hairLine = bench.tab.row(0)->findChild<QLabel *>(QStringLiteral("hairLine"));
+    QCOMPARE(hairLine->size(), QSize(2, 800)); // whole, whatever the tab's sheet says about labels
     QTest::mouseRelease(bench.tab.row(0), Qt::LeftButton, Qt::NoModifier, {200, 30});
     QCOMPARE(readOuts(0) + readOuts(4), 0);
 }
