@@ -3,7 +3,6 @@
 #include "app/theme.h"
 #include "view/actionicon.h"
 #include "view/ipaddressdialog.h"
-#include "view/logging.h"
 
 #include <QCoreApplication>
 #include <QFileDialog>
@@ -150,7 +149,6 @@ std::optional<QString> DialogPrompts::askAddress(const QString &current)
     IPAddressDialog dialog(current, m_isValid, m_window);
     if (dialog.exec() == QDialog::Accepted)
         return dialog.address();
-    qCDebug(lcView) << "dialog rejected";
     return std::nullopt;
 }
 
