@@ -13,8 +13,8 @@ namespace {
 
 constexpr int kWidestSample = 10; // pixels
 constexpr int kUsualCount = 200;  // samples that the time axis has room for while there are none
-const QColor kStartColor(Qt::darkGreen);
-const QColor kStopColor(Qt::red);
+constexpr Qt::GlobalColor kStartColor = Qt::darkGreen;
+constexpr Qt::GlobalColor kStopColor = Qt::red;
 
 int markerPosition(int index, int clock)
 {
