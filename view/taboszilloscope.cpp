@@ -44,6 +44,7 @@ void TabOszilloscope::setModel(Model *model)
     connect(model, &Model::projectChanged, this, &TabOszilloscope::onModel_projectChanged);
     connect(model, &Model::dataChanged, this, &TabOszilloscope::onModel_dataChanged);
     connect(model, &Model::viewDataChanged, this, &TabOszilloscope::onModel_viewDataChanged);
+    connect(model, &QObject::destroyed, this, &TabOszilloscope::clearSlots);
     onModel_viewDataChanged();
     onModel_projectChanged();
     onModel_dataChanged();

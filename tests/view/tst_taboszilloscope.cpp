@@ -54,6 +54,13 @@ void TestTabOszilloscope::withoutMeasurements()
     QCOMPARE(bench.shown(), QVector<int>());
 
     TabOszilloscope alone;
+    {
+        Model shortLived{QString()};
+        (void)shortLived.appendMeasurement(0);
+        alone.setModel(&shortLived);
+        QVERIFY(alone.row(0)->curve(0));
+    }
+    QVERIFY(!alone.row(0)->curve(0));
     alone.setModel(nullptr);
     alone.onModel_dataChanged();
     alone.onModel_projectChanged();
