@@ -1,34 +1,74 @@
 #include "plots/columnmasks.h"
 
+#include "plots/vectorclones.h"
+
 #include <QImage>
 #include <QtAlgorithms>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
-constexpr int kBits = 64;
+constexpr unsigned kBits = 64;
 
 /// The bits from..to of a word, 0 <= from <= to <= 63.
-quint64 bits(int from, int to)
+quint64 bits(unsigned from, unsigned to)
 {
     return (~quint64(0) << from) & (~quint64(0) >> (kBits - 1 - to));
 }
 
-/// Counts the set bits that follow each other from `row` on.
-int runLength(const quint64 *words, int row, int rows)
+/// Takes the fresh pixels that are free and leaves only those; false when there are none.
+VENTARO_VECTOR_CLONES
+bool takeFree(quint64 *fresh, quint64 *taken, int words)
 {
-    int end = row;
-    while (end < rows) {
-        const quint64 free = ~(words[end / kBits] >> (end % kBits));
-        const int run = free ? int(qCountTrailingZeroBits(free)) : kBits;
-        const int inWord = kBits - end % kBits;
-        end += std::min(run, inWord);
-        if (run < inWord)
-            break;
+    quint64 any = 0;
+    for (int i = 0; i < words; ++i) {
+        const quint64 before = taken[i];
+        const quint64 free = fresh[i] & ~before;
+        fresh[i] = free;
+        taken[i] = before | free;
+        any |= free;
     }
-    return std::min(end, rows) - row;
+    return any != 0;
 }
+
+/// Walks through the runs of set bits in a column.
+class Runs
+{
+public:
+    Runs(const quint64 *words, unsigned rows)
+        : m_words(words)
+        , m_rows(rows)
+    {}
+
+    /// The next run, or an empty interval at the end.
+    RowInterval next()
+    {
+        const unsigned top = find(0);
+        if (top >= m_rows)
+            return {};
+        const unsigned end = find(~quint64(0));
+        return {int(top), int(std::min(end, m_rows)) - 1};
+    }
+
+private:
+    /// The first row from here on whose bit differs from those of `skipped`.
+    unsigned find(quint64 skipped)
+    {
+        while (m_row < m_rows) {
+            const quint64 rest = (m_words[m_row / kBits] ^ skipped) >> (m_row % kBits);
+            if (rest)
+                return m_row += qCountTrailingZeroBits(rest);
+            m_row = (m_row / kBits + 1) * kBits;
+        }
+        return m_row;
+    }
+
+    const quint64 *m_words;
+    unsigned m_rows;
+    unsigned m_row = 0;
+};
 
 } // namespace
 
@@ -92,27 +132,19 @@ void ColumnMasks::paintBlock(QImage &picture, int left, QRgb color, int block)
 {
     const size_t firstWord = size_t(block) * kBlock * size_t(m_words);
     quint64 *fresh = &m_fresh[firstWord];
-    quint64 *taken = &m_taken64[firstWord];
-    const int words = kBlock * m_words;
-    quint64 any = 0;
-    for (int i = 0; i < words; ++i) {
-        fresh[i] &= ~taken[i];
-        taken[i] |= fresh[i];
-        any |= fresh[i];
-    }
-    if (!any)
+    if (!takeFree(fresh, &m_taken64[firstWord], kBlock * m_words))
         return;
-    const int stride = picture.bytesPerLine() / int(sizeof(QRgb));
+    const qptrdiff stride = picture.bytesPerLine() / qptrdiff(sizeof(QRgb));
     auto *pixels = reinterpret_cast<QRgb *>(picture.bits()) + left + block * kBlock;
-    for (int i = 0; i < words; ++i) {
-        if (!fresh[i])
-            continue;
-        const int column = i / m_words;
-        m_stale[size_t(block * kBlock + column)] = 1;
-        QRgb *at = pixels + column + qptrdiff(i % m_words) * kBits * stride;
-        for (quint64 rest = fresh[i]; rest; rest &= rest - 1)
-            at[qptrdiff(qCountTrailingZeroBits(rest)) * stride] = color;
-        fresh[i] = 0;
+    for (int column = 0; column < kBlock; ++column, ++pixels) {
+        quint64 any = 0;
+        for (int word = 0; word < m_words; ++word, ++fresh) {
+            any |= *fresh;
+            QRgb *at = pixels + word * qptrdiff(kBits) * stride;
+            for (quint64 rest = std::exchange(*fresh, 0); rest; rest &= rest - 1)
+                at[qptrdiff(qCountTrailingZeroBits(rest)) * stride] = color;
+        }
+        m_stale[size_t(block * kBlock + column)] |= quint8(any != 0);
     }
 }
 
@@ -129,20 +161,11 @@ void ColumnMasks::settle(std::vector<int> &changed)
 
 RowInterval ColumnMasks::longestRun(int column) const
 {
-    const quint64 *words = &m_taken64[size_t(column) * size_t(m_words)];
+    Runs runs(&m_taken64[size_t(column) * size_t(m_words)], unsigned(m_rows));
     RowInterval longest;
-    int row = 0;
-    while (row < m_rows) {
-        const quint64 rest = words[row / kBits] >> (row % kBits);
-        if (!rest) {
-            row = (row / kBits + 1) * kBits;
-            continue;
-        }
-        row += int(qCountTrailingZeroBits(rest));
-        const int length = runLength(words, row, m_rows);
-        if (length > longest.bottom - longest.top + 1)
-            longest = {row, row + length - 1};
-        row += length;
+    for (RowInterval run = runs.next(); run.top <= run.bottom; run = runs.next()) {
+        if (run.bottom - run.top > longest.bottom - longest.top)
+            longest = run;
     }
     return longest;
 }

@@ -28,48 +28,59 @@ VENTARO_INLINE bool isOnTakenPixels(const Job &job, int first)
     return open == 0;
 }
 
-/// The rows of kBlock + 1 samples, all inside the widget when the result is Simple.
+/// Turns kBlock + 1 samples into rows; these are good unless the block lies outside or leaves the widget. The loops
+/// keep to one width of number each, or they would not become vectors.
 VENTARO_INLINE BlockRows rowsOfBlock(const Job &job, const Rows &rows, int first, int *y)
 {
+    constexpr double kAlmostHalf = 0.49999999999999994; // rounds halves up and what lies just below them down
     const double *samples = job.samples + first;
     const double end = rows.rows - 0.5;
-    int inside = 1;
-    int above = 1;
-    int below = 1;
+    double exact[kBlock + 1];
+    qint64 leaves = 0;
+    qint64 notAbove = 0;
+    qint64 notBelow = 0;
     for (int i = 0; i <= kBlock; ++i) {
         const double value = samples[i] + job.offset + job.channelOffset;
-        const double exact = rows.bottom - rows.height * (value - rows.minValue) / rows.span;
-        above &= int(exact < -2.0);
-        below &= int(exact > end + 2.0);
-        inside &= int(exact >= 0.0) & int(exact < end);
-        const double known = exact >= 0.0 && exact < end ? exact : 0.0;
-        const int whole = int(known);
-        y[i] = whole + int(known - whole >= 0.5);
+        exact[i] = rows.bottom - rows.height * (value - rows.minValue) / rows.span;
     }
-    int steepest = 0;
+    for (int i = 0; i <= kBlock; ++i) {
+        leaves |= qint64(!(exact[i] >= 0.0)) | qint64(!(exact[i] < end));
+        notAbove |= qint64(!(exact[i] < -2.0));
+        notBelow |= qint64(!(exact[i] > end + 2.0));
+    }
+    if (leaves)
+        return notAbove && notBelow ? BlockRows::Irregular : BlockRows::Outside;
+    for (int i = 0; i <= kBlock; ++i)
+        y[i] = int(exact[i] + kAlmostHalf);
+    return BlockRows::Simple;
+}
+
+/// The runs from each row to the next without the last; false when a step is too steep for that.
+VENTARO_INLINE bool runsOfRows(const int *y, int *top, int *end)
+{
+    int tooSteep = 0;
     for (int i = 0; i < kBlock; ++i) {
-        const int step = y[i + 1] > y[i] ? y[i + 1] - y[i] : y[i] - y[i + 1];
-        steepest = step > steepest ? step : steepest;
+        const int step = y[i + 1] - y[i];
+        tooSteep |= int(step > kSimpleStep) | int(step < -kSimpleStep);
+        top[i] = y[i] + (step < 0 ? step + 1 : 0);
+        end[i] = y[i] + (step > 0 ? step : 1);
     }
-    if (above | below)
-        return BlockRows::Outside;
-    return inside && steepest <= kSimpleStep ? BlockRows::Simple : BlockRows::Irregular;
+    return !tooSteep;
 }
 
 template <int Words>
-VENTARO_INLINE void markRuns(const Rows &rows, int first, const int *y)
+VENTARO_INLINE void markRuns(const Rows &rows, int first, const int *top, const int *end)
 {
-    quint64 *fresh = rows.fresh + qptrdiff(first) * Words;
+    quint64 runs[kBlock * Words]; // apart, so that nothing has to be assumed about what the pointers share
     for (int i = 0; i < kBlock; ++i) {
-        const int from = y[i];
-        const int to = y[i + 1];
-        const int top = from <= to ? from : to + 1;
-        const int bottom = from >= to ? from : to - 1;
-        const quint64 *above = rows.rowsBelow + qptrdiff(top) * Words;
-        const quint64 *through = rows.rowsBelow + qptrdiff(bottom + 1) * Words;
+        const quint64 *above = rows.rowsBelow + qptrdiff(top[i]) * Words;
+        const quint64 *through = rows.rowsBelow + qptrdiff(end[i]) * Words;
         for (int word = 0; word < Words; ++word)
-            fresh[i * Words + word] |= above[word] ^ through[word];
+            runs[i * Words + word] = above[word] ^ through[word];
     }
+    quint64 *fresh = rows.fresh + qptrdiff(first) * Words;
+    for (int i = 0; i < kBlock * Words; ++i)
+        fresh[i] |= runs[i];
 }
 
 template <int Words>
@@ -77,16 +88,20 @@ VENTARO_INLINE int markBlocksOf(const Job &job, const Rows &rows)
 {
     int open = 0;
     int y[kBlock + 1];
+    int top[kBlock];
+    int end[kBlock];
     for (int block = job.firstBlock; block < job.endBlock; ++block) {
         const int first = block * kBlock;
         if (isOnTakenPixels(job, first))
             continue;
         const BlockRows kind = rowsOfBlock(job, rows, first, y);
-        if (kind == BlockRows::Irregular)
-            job.openBlocks[open++] = block;
-        if (kind != BlockRows::Simple)
+        if (kind == BlockRows::Outside)
             continue;
-        markRuns<Words>(rows, first, y);
+        if (kind == BlockRows::Irregular || !runsOfRows(y, top, end)) {
+            job.openBlocks[open++] = block;
+            continue;
+        }
+        markRuns<Words>(rows, first, top, end);
         rows.freshBlocks[block] = 1;
     }
     return open;

@@ -16,8 +16,8 @@ constexpr int kTallest = 8192; // rows
 constexpr int kWidest = 32768; // columns
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 // How many curves are added before the taken pixels are looked at again: often at first, when every curve takes many.
-constexpr int kFirstPatience = 4;
-constexpr int kLastPatience = 128;
+constexpr int kFirstPatience = 8;
+constexpr int kLastPatience = 1024;
 
 } // namespace
 
@@ -115,7 +115,7 @@ void CurveRaster::settle()
 {
     paintFresh();
     m_sinceSettled = 0;
-    m_patience = std::min(2 * m_patience, kLastPatience);
+    m_patience = std::min(4 * m_patience, kLastPatience);
     m_changed.clear();
     m_masks.settle(m_changed);
     const int zoom = m_geometry.zoom;

@@ -61,14 +61,15 @@ void OsziWidget::Private::noticeGrowth(OsziWidget *widget, int slot)
     }
     if (!curve.shown)
         return;
-    widget->update(grownRect(curve, oldCount));
-    if (slot != scene.highlighted) {
+    QRect changed = grownRect(curve, oldCount);
+    if (slot == scene.highlighted) {
+        changed |= endValueRect;
+        endValueRect = oszipainter::endValueRect(scene, widget->font(), labels);
+        changed |= endValueRect;
+    } else {
         layer.extend(curve, oldCount);
-        return;
     }
-    widget->update(endValueRect);
-    endValueRect = oszipainter::endValueRect(scene, widget->font(), labels);
-    widget->update(endValueRect);
+    widget->update(changed); // one rectangle: the painter is slow where it has to clip to several
 }
 
 /// The columns from a curve's old end to its new one; empty when none is in view.

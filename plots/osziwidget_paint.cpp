@@ -59,6 +59,7 @@ void OsziWidget::paintEvent(QPaintEvent *event)
 
     const QRect region = event->rect();
     QPainter painter(this);
+    painter.setClipRect(region); // clips nothing more, but lets the painter draw thin lines in one piece
     drawFrame(&painter);
     oszipainter::paintValueGrid(painter, d->scene, region, d->labels);
     oszipainter::paintClockGrid(painter, d->scene, region, d->labels);
