@@ -7,7 +7,9 @@
 namespace {
 
 constexpr int kLeft = PlotGeometry::kLeftMargin;
-constexpr size_t kAhead = 8; // curves whose samples are fetched while others are drawn
+constexpr size_t kAhead = 12;          // curves whose samples are fetched while others are drawn
+constexpr qint64 kMostFetched = 64;    // samples; the processor follows longer reads by itself
+constexpr qint64 kSamplesPerFetch = 8; // what comes with one fetch
 // Up to this zoom a segment's last pixel is always the first of the next one, so that a moved picture needs no repair
 // where segments were cut.
 constexpr int kLargestZoomMoved = 128;
@@ -69,7 +71,7 @@ bool CurveLayer::collectCurves(const OsziScene &scene)
     for (const OsziCurve &curve : scene.curves) {
         if (!curve.shown || !curve.samples || &curve == highlighted)
             continue;
-        m_curves.push_back(&curve);
+        m_curves.push_back({&curve, curve.samples->constData()});
         m_drawable = m_drawable && curve.color.alpha() == 255;
     }
     return m_drawable;
@@ -94,7 +96,7 @@ bool CurveLayer::scrollTo(const OsziScene &scene)
     const int lastColumn = m_raster.columns() - 1;
     if (samples > 0) {
         // The last column in view had only the ends of segments; now the next ones begin there.
-        draw(scene, (visible - int(samples)) * zoom, lastColumn);
+        draw(scene, (visible - int(samples)) * zoom / ColumnMasks::kBlock * ColumnMasks::kBlock, lastColumn);
         if (anyEndsAt(scene.geometry.startIndex))
             draw(scene, 0, 0);
     } else {
@@ -123,32 +125,45 @@ void CurveLayer::clearColumns(int firstColumn, int lastColumn)
         std::memset(reinterpret_cast<QRgb *>(m_picture.scanLine(y)) + kLeft + firstColumn, 0, bytes);
 }
 
-/// Draws columns anew from the top-most curve down.
+/// Draws columns anew from the top-most curve down. The curves' samples lie all over the memory: where only a few of
+/// each are needed, waiting for them would cost the most.
 void CurveLayer::draw(const OsziScene &scene, int firstColumn, int lastColumn)
 {
     clearColumns(firstColumn, lastColumn);
     m_raster.begin(m_picture, firstColumn, lastColumn);
-    const qint64 firstSample = std::max<qint64>(scene.geometry.startIndex + m_raster.samplesInView().first, 0);
+    const SampleSpan inView = m_raster.samplesInView();
+    const qint64 first = std::max<qint64>(scene.geometry.startIndex + inView.first, 0);
+    const qint64 last = first + std::min(inView.last - inView.first, kMostFetched);
     for (size_t i = m_curves.size(); i-- > 0;) {
         if (i >= kAhead)
-            fetch(m_curves[i - kAhead]->samples->constData() + firstSample);
-        addToRaster(scene, *m_curves[i]);
+            fetchSamples(m_curves[i - kAhead], first, last);
+        addToRaster(scene, m_curves[i]);
     }
     m_raster.finish();
 }
 
-void CurveLayer::addToRaster(const OsziScene &scene, const OsziCurve &curve)
+void CurveLayer::fetchSamples(const Drawn &drawn, qint64 first, qint64 last)
 {
+    fetch(drawn.curve->samples);
+    fetch(drawn.samples - 1); // the list's head
+    for (qint64 sample = first; sample <= last; sample += kSamplesPerFetch)
+        fetch(drawn.samples + sample);
+}
+
+void CurveLayer::addToRaster(const OsziScene &scene, Drawn &drawn)
+{
+    const OsziCurve &curve = *drawn.curve;
+    drawn.samples = curve.samples->constData();
     const SampleSpan span = visibleSpan(scene.geometry, curve.samples->size());
     if (!span.isEmpty())
-        m_raster.add({curve.samples->constData(), span, scene.offset, curve.channelOffset, curve.color.rgba()});
+        m_raster.add({drawn.samples, span, scene.offset, curve.channelOffset, curve.color.rgba()});
 }
 
 /// Whether a curve has its last sample there, so that nothing of it is drawn any more from there on.
 bool CurveLayer::anyEndsAt(int sample) const
 {
     return std::any_of(m_curves.begin(), m_curves.end(),
-                       [=](const OsziCurve *curve) { return curve->samples->size() - 1 == sample; });
+                       [=](const Drawn &drawn) { return drawn.curve->samples->size() - 1 == sample; });
 }
 
 void CurveLayer::extend(const OsziCurve &curve, int oldCount)
@@ -169,12 +184,12 @@ void CurveLayer::drawExtensions(const OsziScene &scene)
             continue;
         const int firstColumn = int(from) * geometry.zoom;
         const int lastColumn = int(to) * geometry.zoom;
-        if (&curve != m_curves.back()) {
+        if (&curve != m_curves.back().curve) {
             draw(scene, firstColumn, lastColumn);
             continue;
         }
         m_raster.begin(m_picture, firstColumn, lastColumn); // nothing lies over it
-        addToRaster(scene, curve);
+        addToRaster(scene, m_curves.back());
         m_raster.finish();
     }
     m_extensions.clear();

@@ -23,6 +23,12 @@ public:
     [[nodiscard]] const QImage &picture() const { return m_picture; }
 
 private:
+    struct Drawn
+    {
+        const OsziCurve *curve;
+        const double *samples; ///< where they were last seen: only good for fetching them ahead
+    };
+
     [[nodiscard]] bool collectCurves(const OsziScene &scene);
     [[nodiscard]] bool scrollTo(const OsziScene &scene);
     void moveColumns(int pixels);
@@ -30,7 +36,8 @@ private:
     void clearColumns(int firstColumn, int lastColumn);
     [[nodiscard]] bool anyEndsAt(int sample) const;
     void drawExtensions(const OsziScene &scene);
-    void addToRaster(const OsziScene &scene, const OsziCurve &curve);
+    static void fetchSamples(const Drawn &drawn, qint64 first, qint64 last);
+    void addToRaster(const OsziScene &scene, Drawn &drawn);
 
     CurveRaster m_raster;
     QImage m_picture;
@@ -45,6 +52,6 @@ private:
         const OsziCurve *curve;
         int oldCount;
     };
-    std::vector<Extension> m_extensions;     ///< not drawn yet
-    std::vector<const OsziCurve *> m_curves; ///< shown, not highlighted, with samples; in slot order
+    std::vector<Extension> m_extensions; ///< not drawn yet
+    std::vector<Drawn> m_curves;         ///< shown, not highlighted, with samples; in slot order
 };

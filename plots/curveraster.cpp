@@ -97,7 +97,8 @@ void CurveRaster::add(const RasterCurve &curve)
     const int shared = last == end ? last - 1 : last;
     addBlocks(curve, first, shared);
     if (shared < last)
-        addLine(shared, m_geometry.yOfValue(drawnValue(curve, shared)), m_geometry.yOfValue(drawnValue(curve, last)));
+        addLastSegment(shared, m_geometry.yOfValue(drawnValue(curve, shared)),
+                       m_geometry.yOfValue(drawnValue(curve, last)));
 }
 
 void CurveRaster::finish()
@@ -159,9 +160,11 @@ double CurveRaster::drawnValue(const RasterCurve &curve, int sample) const
 void CurveRaster::addBlocks(const RasterCurve &curve, int first, int last)
 {
     constexpr int kBlock = curvekernel::kBlock;
+    const bool marking = m_geometry.zoom == 1 && m_masks.words() <= ColumnMasks::kFastWords;
     curvekernel::Job job;
-    job.firstBlock = (first + kBlock - 1) / kBlock;
-    job.endBlock = last / kBlock;
+    // The kernel marks whole blocks: the columns of these have to be wanted.
+    job.firstBlock = (std::max(first, marking ? m_firstColumn : 0) + kBlock - 1) / kBlock;
+    job.endBlock = std::min(last, marking ? m_lastColumn + 1 : last) / kBlock;
     if (job.firstBlock >= job.endBlock) {
         addSegments(curve, first, last);
         return;
@@ -172,7 +175,7 @@ void CurveRaster::addBlocks(const RasterCurve &curve, int first, int last)
     job.bandLow = m_bandLow.data();
     job.bandHigh = m_bandHigh.data();
     job.openBlocks = m_openBlocks.data();
-    const int open = markWholeBlocks(job);
+    const int open = marking ? markWholeBlocks(job) : findOpenBlocks(job);
     for (int i = 0; i < open; ++i)
         addSegments(curve, m_openBlocks[size_t(i)] * kBlock, (m_openBlocks[size_t(i)] + 1) * kBlock);
     addSegments(curve, first, job.firstBlock * kBlock);
@@ -181,9 +184,6 @@ void CurveRaster::addBlocks(const RasterCurve &curve, int first, int last)
 
 int CurveRaster::markWholeBlocks(const curvekernel::Job &job)
 {
-    const bool wholeWidth = m_firstColumn == 0 && m_lastColumn == m_masks.columns() - 1;
-    if (m_geometry.zoom > 1 || m_masks.words() > ColumnMasks::kFastWords || !wholeWidth)
-        return findOpenBlocks(job);
     curvekernel::Rows rows;
     rows.bottom = m_geometry.bottom();
     rows.height = m_geometry.plotHeight();
@@ -203,25 +203,49 @@ void CurveRaster::addSegments(const RasterCurve &curve, int first, int last)
         return value >= m_bandLow[size_t(sample)] && value <= m_bandHigh[size_t(sample)];
     };
     double from = first < last ? drawnValue(curve, first) : 0.0;
+    int y = 0;
+    bool known = false; // y is the row of `from`
     for (int sample = first; sample < last; ++sample) {
         const double to = drawnValue(curve, sample + 1);
-        if (!isOnTakenPixels(sample, from) || !isOnTakenPixels(sample + 1, to))
-            addSegment(sample, m_geometry.yOfValue(from), m_geometry.yOfValue(to));
+        const bool open = !isOnTakenPixels(sample, from) || !isOnTakenPixels(sample + 1, to);
+        if (open) {
+            const int y1 = known ? y : m_geometry.yOfValue(from);
+            y = m_geometry.yOfValue(to);
+            addSegment(sample, y1, y);
+        }
+        known = open;
         from = to;
     }
+}
+
+/// Whether a segment is just the run of rows from its first to its second end, with the second in the next column.
+bool CurveRaster::isSimple(int y1, int y2) const
+{
+    const int rows = m_masks.rows();
+    const bool inside = y1 >= 0 && y1 < rows && y2 >= 0 && y2 < rows;
+    return m_geometry.zoom == 1 && inside && std::abs(y2 - y1) <= curvekernel::kSimpleStep;
+}
+
+void CurveRaster::mark(int column, int top, int bottom)
+{
+    if (column >= m_firstColumn && column <= m_lastColumn)
+        m_masks.mark(column, top, bottom);
 }
 
 /// A segment whose end pixel the next one begins with.
 void CurveRaster::addSegment(int sample, int y1, int y2)
 {
-    const int rows = m_masks.rows();
-    const bool inside = y1 >= 0 && y1 < rows && y2 >= 0 && y2 < rows;
-    if (m_geometry.zoom > 1 || !inside || std::abs(y2 - y1) > curvekernel::kSimpleStep) {
+    if (isSimple(y1, y2))
+        mark(sample, std::min(y1, y2 + 1), std::max(y1, y2 - 1));
+    else
         addLine(sample, y1, y2);
-        return;
-    }
-    if (sample >= m_firstColumn && sample <= m_lastColumn)
-        m_masks.mark(sample, std::min(y1, y2 + 1), std::max(y1, y2 - 1));
+}
+
+void CurveRaster::addLastSegment(int sample, int y1, int y2)
+{
+    addSegment(sample, y1, y2);
+    if (isSimple(y1, y2))
+        mark(sample + 1, y2, y2);
 }
 
 /// A segment with both its ends.
@@ -233,7 +257,7 @@ void CurveRaster::addLine(int sample, int y1, int y2)
                                   column -= kLeft;
                                   top = std::max(top, 0);
                                   bottom = std::min(bottom, m_masks.rows() - 1);
-                                  if (top <= bottom && column >= m_firstColumn && column <= m_lastColumn)
-                                      m_masks.mark(column, top, bottom);
+                                  if (top <= bottom)
+                                      mark(column, top, bottom);
                               });
 }

@@ -50,10 +50,13 @@ private:
     void paintFresh();
 
     void addBlocks(const RasterCurve &curve, int first, int last);
-    /// Lists the blocks left over in m_openBlocks; returns their number.
+    /// Lists the blocks left over; returns their number.
     [[nodiscard]] int markWholeBlocks(const curvekernel::Job &job);
     void addSegments(const RasterCurve &curve, int first, int last);
     void addSegment(int sample, int y1, int y2);
+    void addLastSegment(int sample, int y1, int y2);
+    [[nodiscard]] bool isSimple(int y1, int y2) const;
+    void mark(int column, int top, int bottom);
     void addLine(int sample, int y1, int y2);
     [[nodiscard]] double drawnValue(const RasterCurve &curve, int sample) const;
 
