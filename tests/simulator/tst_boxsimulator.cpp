@@ -1,0 +1,409 @@
+#include "device/messages.h"
+#include "simulator/boxsimulator.h"
+#include "simulator/boxtexts.h"
+#include "simulator/commandline.h"
+
+#include <QElapsedTimer>
+#include <QLoggingCategory>
+#include <QSignalSpy>
+#include <QTcpSocket>
+#include <QTest>
+
+namespace {
+
+BoxOptions quick()
+{
+    BoxOptions options;
+    options.cycleSeconds = 0.2;
+    options.rebootPause = 20;
+    return options;
+}
+
+// A simulator and a plain client of it.
+class Setup
+{
+public:
+    explicit Setup(const BoxOptions &options = quick())
+        : box(options)
+    {
+        listening = box.listen();
+        client.connectToHost(box.address(), box.port());
+        listening =
+            QTest::qWaitFor([this] { return box.hasClient() && client.state() == QAbstractSocket::ConnectedState; });
+        QObject::connect(&box, &BoxSimulator::sampleSent, &client,
+                         [this](const QByteArray &line) { sent.append(line); });
+    }
+
+    void send(const QByteArray &commands)
+    {
+        client.write(commands);
+        client.flush();
+    }
+    // All that arrived up to a text, or up to a time-out without it.
+    [[nodiscard]] QByteArray receiveUntil(const QByteArray &text)
+    {
+        (void)QTest::qWaitFor([&] {
+            received += client.readAll();
+            return received.contains(text);
+        });
+        return received;
+    }
+    [[nodiscard]] QByteArray ask(const QByteArray &commands, const QByteArray &until)
+    {
+        received.clear();
+        send(commands);
+        return receiveUntil(until);
+    }
+    [[nodiscard]] bool waitForClose()
+    {
+        return QTest::qWaitFor([this] {
+            received += client.readAll();
+            return client.state() == QAbstractSocket::UnconnectedState;
+        });
+    }
+
+    BoxSimulator box;
+    QTcpSocket client;
+    QByteArray received;
+    QList<QByteArray> sent;
+    bool listening = false;
+};
+
+int countSamples(const QByteArray &bytes)
+{
+    int count = 0;
+    for (const QByteArray &line : bytes.split('\n')) {
+        const QString text = QString::fromLatin1(line);
+        if (classify(text) == MessageKind::Sample
+            && parseSampleLine(text).value_or(SampleLine()).numFields == kNumSensors + 1)
+            ++count;
+    }
+    return count;
+}
+
+} // namespace
+
+class TestBoxSimulator : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QLoggingCategory::setFilterRules(QStringLiteral("ventaro.simulator*=false")); }
+    void answersCommands_data();
+    void answersCommands();
+    void answersAValueRequest();
+    void joinsACommandFromSegments();
+    void streamsARun();
+    void neverDrifts();
+    void changesThePeriodInARun();
+    void playsTheCycleFromTheStart();
+    void repeatsTheCycle();
+    void sendsThousandthsWithoutADescription();
+    void keepsSilent();
+    void mixesInGarbageAndLongLines();
+    void dropsTheLinkAfterBytes_data();
+    void dropsTheLinkAfterBytes();
+    void burstsOnRequest();
+    void dropsAClientThatDoesNotRead();
+    void reboots();
+    void servesTheNewestClient();
+    void stopsTheRunWithTheLink();
+    void survivesUnknownInput();
+    void parsesTheCommandLine_data();
+    void parsesTheCommandLine();
+};
+
+void TestBoxSimulator::answersCommands_data()
+{
+    QTest::addColumn<QByteArray>("command");
+    QTest::addColumn<QByteArray>("answer");
+    QTest::newRow("stop") << QByteArray("run=0\n") << QByteArray("run=0\n");
+    QTest::newRow("shortest period") << QByteArray("t=1\n") << QByteArray("t=1\n");
+    QTest::newRow("longest period") << QByteArray("t=1000\n") << QByteArray("t=1000\n");
+    QTest::newRow("period 0") << QByteArray("t=0\n") << QByteArray();
+    QTest::newRow("period too long") << QByteArray("t=1001\n") << QByteArray();
+    QTest::newRow("no period") << QByteArray("t=abc\n") << QByteArray();
+    QTest::newRow("device") << QByteArray("deviceDescription\n") << deviceDescriptionLine(false);
+    QTest::newRow("sensors") << QByteArray("sensorDescription\n") << sensorDescriptionLine();
+    QTest::newRow("list") << QByteArray("list\n") << listBlock();
+    QTest::newRow("carriage return") << QByteArray("t=5\r\n") << QByteArray("t=5\n");
+    QTest::newRow("unknown") << QByteArray("format c:\n") << QByteArray();
+    QTest::newRow("empty") << QByteArray("\n\n \n") << QByteArray();
+}
+
+void TestBoxSimulator::answersCommands()
+{
+    QFETCH(QByteArray, command);
+    QFETCH(QByteArray, answer);
+    Setup setup;
+    QVERIFY(setup.listening);
+    QCOMPARE(setup.ask(command + "t=77\n", "t=77\n"), answer + "t=77\n");
+    QCOMPARE(setup.box.receivedCommands().last(), QStringLiteral("t=77"));
+    QCOMPARE(setup.box.period(), 77);
+}
+
+void TestBoxSimulator::answersAValueRequest()
+{
+    Setup setup;
+    const QByteArray answer = setup.ask("1\n1\nt=5\n", "t=5\n");
+    QCOMPARE(countSamples(answer), 2);
+    QVERIFY(setup.sent.first() != setup.sent.last());
+    QVERIFY(!setup.box.isRunning());
+}
+
+void TestBoxSimulator::joinsACommandFromSegments()
+{
+    Setup setup;
+    for (const char *segment : {"t", "=2", "5", "\nru", "n=0\n"}) {
+        setup.send(segment);
+        QTest::qWait(2); // lets the segment arrive on its own
+    }
+    QCOMPARE(setup.receiveUntil("run=0\n"), QByteArray("t=25\nrun=0\n"));
+}
+
+void TestBoxSimulator::streamsARun()
+{
+    Setup setup;
+    QSignalSpy running(&setup.box, &BoxSimulator::runningChanged);
+    setup.send("t=1\nrun=1\n");
+    QVERIFY(QTest::qWaitFor([&setup] { return setup.sent.size() >= 50; }));
+    const QByteArray all = setup.ask("run=0\n", "run=0\n");
+    QCOMPARE(running.size(), 2);
+    QVERIFY(all.startsWith("t=1\nrun=1\n"));
+    QCOMPARE(all, "t=1\nrun=1\n" + setup.sent.join() + "run=0\n");
+    QCOMPARE(setup.box.shot(), 1);
+    const auto settled = setup.sent.size();
+    QTest::qWait(5);
+    QCOMPARE(setup.sent.size(), settled);
+}
+
+// Work that holds up the event loop delays samples, but the next look at the clock makes up for all of them.
+void TestBoxSimulator::neverDrifts()
+{
+    Setup setup;
+    setup.send("t=1\nrun=1\n");
+    QVERIFY(QTest::qWaitFor([&setup] { return !setup.sent.isEmpty(); }));
+    QElapsedTimer elapsed;
+    elapsed.start();
+    for (int i = 0; i < 5; ++i) {
+        QTest::qSleep(15);
+        const qint64 before = elapsed.elapsed();
+        QVERIFY(QTest::qWaitFor([&] { return setup.sent.size() >= before; }, 100));
+        QVERIFY(setup.sent.size() <= elapsed.elapsed() + 20); // 20: what was due before the stop-watch here ran
+    }
+}
+
+void TestBoxSimulator::changesThePeriodInARun()
+{
+    Setup setup;
+    setup.send("t=1000\nrun=1\n");
+    QVERIFY(QTest::qWaitFor([&setup] { return setup.sent.size() == 1; }));
+    setup.send("t=1\n");
+    QVERIFY(QTest::qWaitFor([&setup] { return setup.sent.size() > 20; }, 900));
+}
+
+void TestBoxSimulator::playsTheCycleFromTheStart()
+{
+    Setup setup;
+    setup.send("t=5\nrun=1\n");
+    QVERIFY(QTest::qWaitFor([&setup] { return setup.sent.size() >= 60; }));
+    const MouldCycle cycle(1, 0.2);
+    for (int i = 0; i < 60; ++i)
+        QCOMPARE(setup.sent.at(i), sampleLine(static_cast<quint64>(i), cycle.valuesAt(1, i * 0.005), false));
+}
+
+void TestBoxSimulator::repeatsTheCycle()
+{
+    BoxOptions options = quick();
+    options.repeatCycles = true;
+    Setup setup(options);
+    setup.send("t=1\nrun=1\n");
+    QVERIFY(QTest::qWaitFor([&setup] { return setup.sent.size() >= 450; }));
+    int closed = 0; // how often the mould went from open to closed
+    bool wasOpen = true;
+    for (const QByteArray &line : qAsConst(setup.sent)) {
+        const double position = parseSampleLine(QString::fromLatin1(line)).value_or(SampleLine()).values.back();
+        closed += wasOpen && position < 50.0 ? 1 : 0;
+        wasOpen = position > 200.0 || (wasOpen && position >= 50.0);
+    }
+    QVERIFY2(closed >= 2, qPrintable(QString::number(closed)));
+}
+
+void TestBoxSimulator::sendsThousandthsWithoutADescription()
+{
+    BoxOptions options = quick();
+    options.describesSensors = false;
+    Setup setup(options);
+    QCOMPARE(setup.ask("sensorDescription\nt=5\n", "t=5\n"), QByteArray("t=5\n"));
+    const QByteArray line = setup.ask("1\n", "\n");
+    QVERIFY(!line.contains('.'));
+    const auto sample = parseSampleLine(QString::fromLatin1(line), 1000.0);
+    QVERIFY(sample);
+    QVERIFY(sample->values[4] > 300.0 && sample->values[4] < 350.0);
+}
+
+void TestBoxSimulator::keepsSilent()
+{
+    BoxOptions options = quick();
+    options.silent = true;
+    Setup setup(options);
+    setup.send("t=5\ndeviceDescription\nrun=1\n1\n");
+    QVERIFY(QTest::qWaitFor([&setup] { return setup.box.receivedCommands().size() == 4; }));
+    QTest::qWait(12); // two periods
+    QCOMPARE(setup.client.bytesAvailable(), 0);
+    setup.box.setOptions(quick());
+    QVERIFY(setup.receiveUntil(";").contains(';'));
+}
+
+void TestBoxSimulator::mixesInGarbageAndLongLines()
+{
+    BoxOptions options = quick();
+    options.garbage = true;
+    options.longLines = true;
+    Setup setup(options);
+    setup.send("t=1\nrun=1\n");
+    QVERIFY(QTest::qWaitFor([&setup] { return setup.sent.size() >= 30; }));
+    const QByteArray all = setup.ask("run=0\n", "run=0\n");
+    QCOMPARE(countSamples(all), setup.sent.size());
+    QCOMPARE(all.count('\n'), 3 + 2 * setup.sent.size() + (setup.sent.size() + 9) / 10);
+}
+
+void TestBoxSimulator::dropsTheLinkAfterBytes_data()
+{
+    QTest::addColumn<int>("bytes");
+    for (const int bytes : {0, 3, 500, 100000})
+        QTest::addRow("%d", bytes) << bytes;
+}
+
+void TestBoxSimulator::dropsTheLinkAfterBytes()
+{
+    QFETCH(int, bytes);
+    BoxOptions options = quick();
+    options.dropAfter = bytes;
+    options.burst = 5000;
+    Setup setup(options);
+    QSignalSpy gone(&setup.box, &BoxSimulator::clientDisconnected);
+    setup.send("t=1\nrun=1\n");
+    QVERIFY(setup.waitForClose());
+    QCOMPARE(setup.received.size(), bytes);
+    QCOMPARE(gone.size(), 1);
+    QVERIFY(!setup.box.isRunning());
+    setup.client.connectToHost(setup.box.address(), setup.box.port());
+    QTRY_VERIFY(setup.box.hasClient()); // the next link is served again
+}
+
+void TestBoxSimulator::burstsOnRequest()
+{
+    constexpr int kLines = 50000;
+    Setup setup;
+    setup.box.burst(kLines);
+    const QByteArray last = QByteArray::number(kLines - 1) + ';';
+    const QByteArray all = setup.receiveUntil('\n' + last);
+    QVERIFY(all.contains('\n' + last));
+    QCOMPARE(setup.sent.size(), kLines);
+    QCOMPARE(countSamples(setup.receiveUntil(setup.sent.last())), kLines);
+}
+
+void TestBoxSimulator::dropsAClientThatDoesNotRead()
+{
+    Setup setup;
+    setup.client.setReadBufferSize(1);
+    QSignalSpy gone(&setup.box, &BoxSimulator::clientDisconnected);
+    setup.box.burst(1000000); // waits for the client, and so needs no memory
+    QTest::qWait(5);
+    QVERIFY(setup.sent.size() < 1000000);
+    QCOMPARE(gone.size(), 0);
+    for (int i = 0; i < 40 && gone.isEmpty(); ++i)
+        setup.box.sendRaw(QByteArray(1024 * 1024, 'x'));
+    QCOMPARE(gone.size(), 1);
+    QVERIFY(!setup.box.hasClient());
+}
+
+void TestBoxSimulator::reboots()
+{
+    Setup setup;
+    const quint16 port = setup.box.port();
+    setup.send("t=1\nrun=1\nreboot\nlist\n");
+    QVERIFY(setup.waitForClose());
+    QVERIFY(!setup.box.isListening());
+    QVERIFY(!setup.box.isRunning());
+    QVERIFY(!setup.box.receivedCommands().contains(QStringLiteral("list")));
+    QTRY_VERIFY(setup.box.isListening());
+    QCOMPARE(setup.box.port(), port);
+    setup.client.connectToHost(setup.box.address(), port);
+    QTRY_VERIFY(setup.box.hasClient());
+    QCOMPARE(setup.ask("t=5\n", "t=5\n"), QByteArray("t=5\n"));
+}
+
+void TestBoxSimulator::servesTheNewestClient()
+{
+    Setup setup;
+    QTcpSocket second;
+    second.connectToHost(setup.box.address(), setup.box.port());
+    QVERIFY(setup.waitForClose());
+    QTRY_COMPARE(second.state(), QAbstractSocket::ConnectedState);
+    second.write("t=50\n");
+    QTRY_COMPARE(second.bytesAvailable(), 5);
+    QCOMPARE(second.readAll(), QByteArray("t=50\n"));
+    QVERIFY(setup.received.isEmpty());
+}
+
+void TestBoxSimulator::stopsTheRunWithTheLink()
+{
+    Setup setup;
+    QSignalSpy running(&setup.box, &BoxSimulator::runningChanged);
+    (void)setup.ask("run=1\n", "run=1\n");
+    setup.client.disconnectFromHost();
+    QTRY_VERIFY(!setup.box.hasClient());
+    QCOMPARE(running.size(), 2);
+    setup.client.connectToHost(setup.box.address(), setup.box.port());
+    QTRY_VERIFY(setup.box.hasClient());
+    (void)setup.ask("run=1\nrun=1\n", "run=1\n");
+    QTRY_COMPARE(setup.box.shot(), 3);
+}
+
+void TestBoxSimulator::survivesUnknownInput()
+{
+    Setup setup;
+    QByteArray noise;
+    quint32 state = 1;
+    for (int i = 0; i < 100000; ++i) {
+        state = state * 1664525u + 1013904223u;
+        noise += static_cast<char>(state >> 24);
+    }
+    noise.replace("run=1", "").replace("reboot", "");
+    setup.send(noise + '\n' + QByteArray(200000, 'a'));
+    setup.send("\nt=10\nrun=0\n");
+    QVERIFY(setup.receiveUntil("t=10\nrun=0\n").contains("t=10\nrun=0\n"));
+}
+
+void TestBoxSimulator::parsesTheCommandLine_data()
+{
+    QTest::addColumn<QString>("arguments");
+    QTest::addColumn<bool>("valid");
+    for (const char *valid : {"", "--port 0", "--port 65535 --address 0.0.0.0", "--address ::1", "--seed 4294967295",
+                              "--cycle 2.5 --repeat", "--burst 1000 --drop-after 0 --silence --garbage --long-lines",
+                              "--project-description --no-sensor-description --reboot-pause 5"})
+        QTest::newRow(valid) << QString::fromLatin1(valid) << true;
+    for (const char *invalid :
+         {"--port 65536", "--port -1", "--port x", "--port", "--port 1.5", "--address nowhere", "--seed -1",
+          "--cycle 0", "--cycle nan", "--burst -1", "--drop-after x", "--drop-after -1", "--unknown", "extra"})
+        QTest::newRow(invalid) << QString::fromLatin1(invalid) << false;
+}
+
+void TestBoxSimulator::parsesTheCommandLine()
+{
+    QFETCH(QString, arguments);
+    const CommandLine line =
+        parseCommandLine(QStringList(QStringLiteral("box")) + arguments.split(QLatin1Char(' '), Qt::SkipEmptyParts));
+    QTEST(line.error.isEmpty(), "valid");
+    if (arguments.contains(QLatin1String("--burst 1000"))) {
+        QCOMPARE(line.box.burst, 1000);
+        QCOMPARE(line.box.dropAfter, 0);
+        QVERIFY(line.box.silent && line.box.garbage && line.box.longLines);
+        QCOMPARE(line.port, 2222);
+    }
+}
+
+QTEST_GUILESS_MAIN(TestBoxSimulator)
+#include "tst_boxsimulator.moc"

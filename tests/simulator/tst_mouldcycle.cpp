@@ -1,0 +1,210 @@
+#include "device/messages.h"
+#include "simulator/boxtexts.h"
+#include "simulator/mouldcycle.h"
+
+#include <QTest>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+enum Signal { Cavity, Injection, Melt, Mould, Position };
+
+constexpr double kStep = 0.001; // seconds
+
+double valueAt(const MouldCycle &cycle, int signal, double time, int shot = 1)
+{
+    return cycle.idealValuesAt(shot, time).at(static_cast<size_t>(signal));
+}
+
+double timeOfPeak(const MouldCycle &cycle, int signal)
+{
+    double best = 0.0;
+    for (double t = 0.0; t < cycle.seconds(); t += kStep) {
+        if (valueAt(cycle, signal, t) > valueAt(cycle, signal, best))
+            best = t;
+    }
+    return best;
+}
+
+} // namespace
+
+class TestMouldCycle : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void hasItsPhasesInOrder_data();
+    void hasItsPhasesInOrder();
+    void isShapedLikeAMouldCycle();
+    void hasNoJumps();
+    void staysWithinTheSensorsLimits();
+    void isRepeatable();
+    void variesFromShotToShot();
+    void carriesTheAnnouncedNoise();
+    void describesItselfInTheGrammar();
+    void writesSampleLines_data();
+    void writesSampleLines();
+    void writesOnlyNonsenseAsGarbage();
+};
+
+void TestMouldCycle::hasItsPhasesInOrder_data()
+{
+    QTest::addColumn<double>("seconds");
+    QTest::addColumn<double>("length");
+    QTest::newRow("usual") << 12.0 << 12.0;
+    QTest::newRow("short") << 0.1 << 0.1;
+    QTest::newRow("zero") << 0.0 << 1.0;
+    QTest::newRow("no number") << std::nan("") << 1.0;
+}
+
+void TestMouldCycle::hasItsPhasesInOrder()
+{
+    QFETCH(double, seconds);
+    QFETCH(double, length);
+    for (int shot = 0; shot < 50; ++shot) {
+        const PhaseEnds ends = MouldCycle(7, seconds).phaseEnds(shot);
+        QVERIFY(0.0 < ends.closing && ends.closing < ends.injection && ends.injection < ends.holding);
+        QVERIFY(ends.holding < ends.cooling && ends.cooling < ends.opening);
+        QCOMPARE(ends.opening, length);
+    }
+}
+
+void TestMouldCycle::isShapedLikeAMouldCycle()
+{
+    const MouldCycle cycle(1, 12.0);
+    const PhaseEnds ends = cycle.phaseEnds(1);
+    QVERIFY(std::abs(timeOfPeak(cycle, Cavity) - ends.injection) < 0.01);
+    QVERIFY(std::abs(timeOfPeak(cycle, Injection) - ends.injection) < 0.01);
+    const double plateau = valueAt(cycle, Cavity, (ends.injection + ends.holding) / 2.0);
+    QVERIFY(plateau > 0.5 * valueAt(cycle, Cavity, ends.injection)
+            && plateau < 0.9 * valueAt(cycle, Cavity, ends.injection));
+    QVERIFY(valueAt(cycle, Cavity, ends.closing) < 1.0); // nothing is injected into an open mould
+    QVERIFY(valueAt(cycle, Cavity, ends.cooling) < 1.0); // nor is it opened under pressure
+    QVERIFY(valueAt(cycle, Position, 0.0) > 300.0);
+    QVERIFY(valueAt(cycle, Position, ends.holding) < 0.1);
+    QVERIFY(valueAt(cycle, Position, ends.opening) > 300.0);
+    QVERIFY(timeOfPeak(cycle, Melt) < timeOfPeak(cycle, Mould));
+    for (double t = ends.holding; t + 0.1 < ends.cooling; t += 0.1) {
+        QVERIFY(valueAt(cycle, Cavity, t + 0.1) < valueAt(cycle, Cavity, t));
+        QVERIFY(valueAt(cycle, Melt, t + 0.1) < valueAt(cycle, Melt, t));
+    }
+}
+
+void TestMouldCycle::hasNoJumps()
+{
+    const MouldCycle cycle(1, 12.0);
+    for (double t = 0.0; t < 2.0 * cycle.seconds(); t += kStep) {
+        for (int signal = 0; signal < kNumSensors; ++signal) {
+            const double step = std::abs(valueAt(cycle, signal, t + kStep) - valueAt(cycle, signal, t));
+            QVERIFY2(step < 5.0, qPrintable(QStringLiteral("signal %1 at %2 s: %3").arg(signal).arg(t).arg(step)));
+        }
+    }
+}
+
+void TestMouldCycle::staysWithinTheSensorsLimits()
+{
+    const auto &sensors = simulatedSensors();
+    for (int shot = 0; shot < 100; ++shot) {
+        const MouldCycle cycle(static_cast<quint32>(shot * 31), 12.0);
+        for (double t = -1.0; t < 30.0; t += 0.05) {
+            const SampleValues values = cycle.valuesAt(shot, t);
+            for (size_t i = 0; i < values.size(); ++i)
+                QVERIFY(values.at(i) >= sensors.at(i).minimum && values.at(i) <= sensors.at(i).maximum);
+        }
+    }
+}
+
+void TestMouldCycle::isRepeatable()
+{
+    QVERIFY(MouldCycle(5, 12.0).valuesAt(3, 2.5) == MouldCycle(5, 12.0).valuesAt(3, 2.5));
+    QVERIFY(MouldCycle(5, 12.0).valuesAt(3, 2.5) != MouldCycle(6, 12.0).valuesAt(3, 2.5));
+    QVERIFY(MouldCycle(5, 12.0).valuesAt(3, 2.5) != MouldCycle(5, 12.0).valuesAt(4, 2.5));
+    QVERIFY(MouldCycle(5, 12.0).valuesAt(3, 2.5) != MouldCycle(5, 12.0).valuesAt(3, 2.501));
+}
+
+void TestMouldCycle::variesFromShotToShot()
+{
+    const MouldCycle cycle(1, 12.0);
+    double lowest = 1e9;
+    double highest = 0.0;
+    for (int shot = 1; shot <= 50; ++shot) {
+        const double plateau = valueAt(cycle, Injection, 4.0, shot);
+        lowest = std::min(lowest, plateau);
+        highest = std::max(highest, plateau);
+    }
+    QVERIFY(highest / lowest > 1.04 && highest / lowest < 1.09);
+}
+
+void TestMouldCycle::carriesTheAnnouncedNoise()
+{
+    const MouldCycle cycle(1, 12.0);
+    for (size_t i = 0; i < kNumSensors; ++i) {
+        double sum = 0.0;
+        double squares = 0.0;
+        constexpr int kSamples = 4000;
+        for (int n = 0; n < kSamples; ++n) {
+            const double noise = cycle.valuesAt(1, n * kStep).at(i) - cycle.idealValuesAt(1, n * kStep).at(i);
+            sum += noise;
+            squares += noise * noise;
+        }
+        const double announced = simulatedSensors().at(i).noise;
+        QVERIFY(std::abs(sum / kSamples) < 0.1 * announced);
+        QVERIFY(std::abs(std::sqrt(squares / kSamples) / announced - 1.0) < 0.1);
+    }
+}
+
+void TestMouldCycle::describesItselfInTheGrammar()
+{
+    for (const QByteArray &line : {deviceDescriptionLine(true), sensorDescriptionLine()}) {
+        QVERIFY(line.size() <= 1023);
+        QCOMPARE(line.indexOf('\n'), line.size() - 1);
+    }
+    const DeviceDescription device = parseDeviceDescription(QString::fromLatin1(deviceDescriptionLine(true)));
+    QCOMPARE(device.numGroups, 1);
+    QCOMPARE(device.groups.size(), 1);
+    QCOMPARE(device.groups.first().channels.size(), kNumSensors);
+    QVERIFY(!parseProjectDescription(QString::fromLatin1(deviceDescriptionLine(false))));
+    const auto project = parseProjectDescription(QString::fromLatin1(deviceDescriptionLine(true)));
+    QVERIFY(project);
+    QCOMPARE(project->data.closingForce, 850);
+    QCOMPARE(project->data.injectionTime, 1.2);
+    QVERIFY(!project->phases.back().isEmpty());
+    SensorDescription description;
+    applySensorDescription(parseSensorDescription(QString::fromLatin1(sensorDescriptionLine())), description);
+    QCOMPARE(description.sensorGroup(0).sensorName(Injection), QStringLiteral("Einspritzdruck"));
+    QCOMPARE(description.sensorGroup(0).sensorUnit(Melt), QStringLiteral("°C"));
+    QCOMPARE(description.sensorGroup(0).sensorMaximum(Position), 350.0);
+}
+
+void TestMouldCycle::writesSampleLines_data()
+{
+    QTest::addColumn<bool>("thousandths");
+    QTest::addColumn<QByteArray>("line");
+    QTest::newRow("units") << false << QByteArray("7;1.500;-0.250;0.000;123.457;1000.000\n");
+    QTest::newRow("thousandths") << true << QByteArray("7;1500;-250;0;123457;1000000\n");
+}
+
+void TestMouldCycle::writesSampleLines()
+{
+    QFETCH(bool, thousandths);
+    QTEST(sampleLine(7, {1.5, -0.25, 0.0, 123.4567, 1000.0}, thousandths), "line");
+}
+
+void TestMouldCycle::writesOnlyNonsenseAsGarbage()
+{
+    const QVector<MessageKind> harmless{MessageKind::Other, MessageKind::ClockEcho};
+    for (quint64 i = 0; i < 50; ++i) {
+        for (const QByteArray &line : {garbageLine(i), overlongLine(i)}) {
+            QCOMPARE(line.indexOf('\n'), line.size() - 1);
+            for (int start = 0; start < line.size(); start += 1023)
+                QVERIFY(harmless.contains(classify(QString::fromLatin1(line.mid(start, 1023)))));
+            QVERIFY(!parseClockEcho(QString::fromLatin1(line)));
+        }
+        QVERIFY(overlongLine(i).size() > 1023);
+    }
+}
+
+QTEST_APPLESS_MAIN(TestMouldCycle)
+#include "tst_mouldcycle.moc"
