@@ -1,10 +1,11 @@
 #include "device/mesotraconnector.h"
+#include "tests/device/link.h"
+#include "tests/support/logcapture.h"
 
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QLoggingCategory>
 #include <QSignalSpy>
-#include <QTcpServer>
 #include <QTcpSocket>
 #include <QTest>
 #include <QTimer>
@@ -14,8 +15,6 @@
 
 namespace {
 
-const QString kLoopback = QStringLiteral("127.0.0.1");
-
 QStringList texts(std::initializer_list<const char *> latin1)
 {
     QStringList list;
@@ -24,104 +23,13 @@ QStringList texts(std::initializer_list<const char *> latin1)
     return list;
 }
 
-QStringList *capturedLog = nullptr;
-
-void captureLog(QtMsgType, const QMessageLogContext &, const QString &text)
-{
-    if (capturedLog)
-        capturedLog->append(text);
-}
-
 // Everything logged during its lifetime, the device category switched on.
-class LogCapture
+class DeviceLog : public LogCapture
 {
 public:
-    LogCapture()
-    {
-        capturedLog = &m_lines;
-        m_previous = qInstallMessageHandler(captureLog);
-        QLoggingCategory::setFilterRules(QStringLiteral("ventaro.device.debug=true"));
-    }
-    ~LogCapture()
-    {
-        qInstallMessageHandler(m_previous);
-        QLoggingCategory::setFilterRules(QStringLiteral("ventaro.device.debug=false"));
-        capturedLog = nullptr;
-    }
-    Q_DISABLE_COPY(LogCapture)
-    [[nodiscard]] bool contains(const QString &text) const { return m_lines.join(QLatin1Char('\n')).contains(text); }
-
-private:
-    QStringList m_lines;
-    QtMessageHandler m_previous = nullptr;
-};
-
-// A connector, a server that it is connected to, and what the connector said.
-class Link
-{
-public:
-    Link()
-        : connector(std::make_unique<MesotraConnector>(listen(server)))
-    {
-        QObject::connect(connector.get(), &MesotraConnector::messageReceived, &context,
-                         [this](const QString &message) { record(message); });
-        QObject::connect(connector.get(), &MesotraConnector::connected, &context,
-                         [this] { record(QStringLiteral("[up]")); });
-        QObject::connect(connector.get(), &MesotraConnector::disconnected, &context,
-                         [this] { record(QStringLiteral("[down]")); });
-        QObject::connect(connector.get(), &MesotraConnector::error, &context,
-                         [this](QAbstractSocket::SocketError e) { record(QStringLiteral("[error %1]").arg(e)); });
-    }
-    ~Link() { connector.reset(); }
-    Q_DISABLE_COPY(Link)
-
-    [[nodiscard]] bool open()
-    {
-        connector->connect(kLoopback);
-        return QTest::qWaitFor([this] { return takePeer() && connector->isConnected(); });
-    }
-    void send(const QByteArray &bytes)
-    {
-        peer->write(bytes);
-        peer->flush();
-    }
-    [[nodiscard]] bool waitFor(const QString &last)
-    {
-        return QTest::qWaitFor([this, &last] { return !events.isEmpty() && events.last() == last; }, 20000);
-    }
-    [[nodiscard]] QByteArray receivedBytes(int count)
-    {
-        (void)QTest::qWaitFor([this, count] { return peer->bytesAvailable() >= count; });
-        return peer->readAll();
-    }
-    static quint16 listen(QTcpServer &server)
-    {
-        server.listen(QHostAddress::LocalHost);
-        return server.serverPort();
-    }
-
-    QTcpServer server;
-    std::unique_ptr<MesotraConnector> connector;
-    QTcpSocket *peer = nullptr;
-    QStringList events;
-    std::function<void(const QString &)> reaction;
-
-private:
-    bool takePeer()
-    {
-        while (server.hasPendingConnections())
-            peer = server.nextPendingConnection();
-        return peer != nullptr;
-    }
-    void record(const QString &event)
-    {
-        events.append(event);
-        const auto current = reaction; // a copy: a reaction may replace itself
-        if (current)
-            current(event);
-    }
-
-    QObject context;
+    DeviceLog() { QLoggingCategory::setFilterRules(QStringLiteral("ventaro.device.debug=true")); }
+    ~DeviceLog() { QLoggingCategory::setFilterRules(QStringLiteral("ventaro.device.debug=false")); }
+    Q_DISABLE_COPY_MOVE(DeviceLog)
 };
 
 QByteArray numberedLines(int count)
@@ -267,7 +175,7 @@ void TestMesotraConnector::sendsCommands()
 
 void TestMesotraConnector::sendsNothingWhileClosed()
 {
-    LogCapture log;
+    DeviceLog log;
     MesotraConnector connector;
     QSignalSpy written(&connector, &MesotraConnector::written);
     connector.setClock(QStringLiteral("100ms"));
@@ -288,7 +196,7 @@ void TestMesotraConnector::reboots()
 {
     Link link;
     QVERIFY(link.open());
-    LogCapture log;
+    DeviceLog log;
     QVERIFY(link.connector->reboot());
     QVERIFY(log.contains(QStringLiteral("MesotraConnector::reboot()")));
     QVERIFY(log.contains(QStringLiteral("TODO: check result!")));
@@ -298,10 +206,10 @@ void TestMesotraConnector::reportsARefusedConnection()
 {
     Link link;
     link.server.close();
-    link.connector->connect(kLoopback);
+    link.connector->connect(Link::loopback());
     QVERIFY(link.waitFor(QStringLiteral("[error %1]").arg(QAbstractSocket::ConnectionRefusedError)));
     QCOMPARE(link.events.size(), 1);
-    QCOMPARE(link.connector->hostAddress(), kLoopback);
+    QCOMPARE(link.connector->hostAddress(), Link::loopback());
     QVERIFY(!link.connector->write(QStringLiteral("1\n")));
 }
 
@@ -309,7 +217,7 @@ void TestMesotraConnector::dropsAnEndlessLine()
 {
     Link link;
     QVERIFY(link.open());
-    LogCapture log;
+    DeviceLog log;
     link.send("first\n" + QByteArray(2 * MesotraConnector::kMaxUnterminated, 'x'));
     QVERIFY(link.waitFor(QStringLiteral("[error %1]").arg(QAbstractSocket::UnknownSocketError)));
     QCOMPARE(link.events, texts({"[up]", "first\n", "[down]"}) + link.events.mid(3));
@@ -402,7 +310,7 @@ void TestMesotraConnector::reconnectsFromASlot()
             return;
         link.reaction = nullptr;
         QTest::qWait(5);
-        link.connector->connect(kLoopback);
+        link.connector->connect(Link::loopback());
     };
     link.send("x\n");
     QTRY_VERIFY(link.events.contains(QStringLiteral("x\n")));
@@ -447,7 +355,7 @@ void TestMesotraConnector::isDeletedFromASlot()
         if (event == trigger)
             link.connector.reset();
     };
-    link.connector->connect(kLoopback);
+    link.connector->connect(Link::loopback());
     QTRY_VERIFY(link.server.hasPendingConnections());
     link.peer = link.server.nextPendingConnection();
     link.send("x\ny\n");
@@ -483,7 +391,7 @@ void TestMesotraConnector::forgetsTheErrorOfAnAbortedAttempt()
     QSignalSpy connected(&connector, &MesotraConnector::connected);
     for (const char *unreachable : {"127.255.255.254", "nosuchhost.invalid", "", "nosuchhost.invalid"}) {
         connector.connect(QString::fromLatin1(unreachable));
-        connector.connect(kLoopback);
+        connector.connect(Link::loopback());
     }
     QVERIFY(connected.wait());
     QTest::qWait(10);
@@ -496,7 +404,7 @@ void TestMesotraConnector::survivesConnectingAnywhereAtAnyTime()
 {
     Link link;
     for (int i = 0; i < 200; ++i) {
-        link.connector->connect(i % 3 == 0 ? QStringLiteral("nosuchhost.invalid") : kLoopback);
+        link.connector->connect(i % 3 == 0 ? QStringLiteral("nosuchhost.invalid") : Link::loopback());
         if (i % 2 == 0)
             QCoreApplication::processEvents();
         if (i % 5 == 0)

@@ -26,10 +26,11 @@ public:
     explicit Setup(const BoxOptions &options = quick())
         : box(options)
     {
-        (void)box.listen();
+        const bool listening = box.listen();
         client.connectToHost(box.address(), box.port());
-        listening =
-            QTest::qWaitFor([this] { return box.hasClient() && client.state() == QAbstractSocket::ConnectedState; });
+        connected = listening && QTest::qWaitFor([this] {
+                        return box.hasClient() && client.state() == QAbstractSocket::ConnectedState;
+                    });
         QObject::connect(&box, &BoxSimulator::sampleSent, &client,
                          [this](const QByteArray &line) { sent.append(line); });
     }
