@@ -134,7 +134,8 @@ void Demonstration::recordSlowShot()
     options.burst = options.burst / 2; // the rest comes in real time
     m_box.setOptions(options);
     trigger("actionStartRecording");
-    waitFor([&] { return samplesOfNewestShot() > options.burst + 100; }, QStringLiteral("live samples"));
+    waitFor([&] { return m_controller.isRecordingRunning() && samplesOfNewestShot() > options.burst + 20; },
+            QStringLiteral("live samples"));
     picture(QStringLiteral("recording"));
     m_view.resize(kDesktop);
     runEvents(150);
