@@ -19,7 +19,9 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 
+#include <algorithm>
 #include <atomic>
+#include <chrono>
 #include <thread>
 
 namespace {
@@ -27,8 +29,9 @@ namespace {
 constexpr int kShots = 1000;
 constexpr int kSamplesPerShot = 600;
 constexpr int kLinesPerRun = 100000;
+constexpr int kLiveLines = 3000; // one a millisecond
 
-/// Sends sample lines on demand as fast as the socket takes them, from a thread of its own.
+/// Sends sample lines on demand from a thread of its own: as fast as the socket takes them, or one a millisecond.
 class LineSource
 {
 public:
@@ -46,7 +49,12 @@ public:
     Q_DISABLE_COPY_MOVE(LineSource)
 
     [[nodiscard]] quint16 port() const { return m_port; }
-    void sendRun() { m_demand.release(); }
+    void sendRun(int lines, bool live)
+    {
+        m_lines = lines;
+        m_live = live;
+        m_demand.release();
+    }
 
 private:
     void run()
@@ -66,22 +74,32 @@ private:
 
     void send(QTcpSocket &socket)
     {
+        QElapsedTimer timer;
+        timer.start();
         QByteArray lines;
-        for (int i = 0; i < kLinesPerRun; ++i) {
+        for (int i = 0; i < m_lines && !m_stop; ++i) {
             const QByteArray value = QByteArray::number(20.0 + (i % 977) * 0.125, 'f', 3);
             lines += QByteArray::number(i) + ';' + value + ';' + value + ";37.250;41.125;-3.875\n";
-            if (lines.size() > 60000 || i + 1 == kLinesPerRun) {
-                socket.write(lines);
-                while (socket.bytesToWrite() > 0 && !m_stop)
-                    socket.waitForBytesWritten(100);
-                lines.clear();
-            }
+            if (m_live || lines.size() > 60000 || i + 1 == m_lines)
+                flush(socket, lines);
+            while (m_live && timer.elapsed() < i)
+                std::this_thread::sleep_for(std::chrono::microseconds(200));
         }
+    }
+
+    void flush(QTcpSocket &socket, QByteArray &lines)
+    {
+        socket.write(lines);
+        while (socket.bytesToWrite() > 0 && !m_stop)
+            socket.waitForBytesWritten(100);
+        lines.clear();
     }
 
     QSemaphore m_listening;
     QSemaphore m_demand;
     std::atomic<bool> m_stop{false};
+    int m_lines = 0;
+    bool m_live = false;
     quint16 m_port = 0;
     std::thread m_thread; // last: it uses the others
 };
@@ -112,44 +130,86 @@ int samplesOfNewestShot(const Model &model)
     return samples ? samples->size() : 0;
 }
 
-void ingest(benchmark::State &state)
+/// The program connected to a source of lines, its window on the oscilloscope tab, a recording running.
+struct Program
 {
-    QLoggingCategory::setFilterRules(state.range(0) ? QStringLiteral("ventaro.*.debug=true")
-                                                    : QStringLiteral("ventaro.*.debug=false"));
-    LineSource source;
-    Model model{QString()};
-    fill(model);
-    View view(&model);
-    ControllerOptions options;
-    options.deviceAddress = QStringLiteral("127.0.0.1");
-    options.port = source.port();
-    Controller controller(&model, &view, options);
-    view.resize(1280, 800);
-    view.tabs()->setCurrentWidget(view.tabOszi());
-    view.show();
-    controller.onActionConnect();
-    runEventsUntil([&] { return controller.isRecordingRunning(); });
+    Program()
+        : view(&model)
+        , controller(&model, &view, optionsFor(source.port()))
+    {
+        fill(model);
+        view.resize(1280, 800);
+        view.tabs()->setCurrentWidget(view.tabOszi());
+        view.show();
+        controller.onActionConnect();
+        runEventsUntil([this] { return controller.isRecordingRunning(); });
+        runEventsUntil([timer = startedTimer()] { return timer.elapsed() > 500; }); // the first paint of all shots
+    }
 
-    int expected = 0;
-    qint64 longestTurn = 0; // ms
-    for (auto _ : state) {
-        expected += kLinesPerRun;
-        source.sendRun();
+    static QElapsedTimer startedTimer()
+    {
+        QElapsedTimer timer;
+        timer.start();
+        return timer;
+    }
+
+    static ControllerOptions optionsFor(quint16 port)
+    {
+        ControllerOptions options;
+        options.deviceAddress = QStringLiteral("127.0.0.1");
+        options.port = port;
+        return options;
+    }
+
+    /// Runs events until the lines are in the model; returns the longest time between two turns of the loop, in ms.
+    double take(int lines, bool live)
+    {
+        const int expected = samplesOfNewestShot(model) + lines;
+        qint64 longest = 0; // ns
         QElapsedTimer turn;
+        source.sendRun(lines, live);
         runEventsUntil([&] {
-            if (turn.isValid())
-                longestTurn = std::max(longestTurn, turn.elapsed());
+            longest = turn.isValid() ? std::max(longest, turn.nsecsElapsed()) : 0;
             turn.start();
             return samplesOfNewestShot(model) >= expected;
         });
+        complete = complete && samplesOfNewestShot(model) == expected;
+        return static_cast<double>(longest) / 1e6;
     }
-    if (samplesOfNewestShot(model) != expected)
+
+    LineSource source;
+    Model model{QString()};
+    View view;
+    Controller controller;
+    bool complete = true;
+};
+
+void measure(benchmark::State &state, int lines, bool live)
+{
+    QLoggingCategory::setFilterRules(state.range(0) ? QStringLiteral("ventaro.*.debug=true")
+                                                    : QStringLiteral("ventaro.*.debug=false"));
+    Program program;
+    double longest = 0.0;
+    for (auto _ : state)
+        longest = std::max(longest, program.take(lines, live));
+    if (!program.complete)
         state.SkipWithError("samples were lost");
-    state.SetItemsProcessed(state.iterations() * kLinesPerRun);
-    state.counters["longest_turn_ms"] = static_cast<double>(longestTurn);
+    state.SetItemsProcessed(state.iterations() * lines);
+    state.counters["longest_turn_ms"] = longest;
 }
 
-BENCHMARK(ingest)->ArgName("logging")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond)->Iterations(5)->UseRealTime();
+void burst(benchmark::State &state)
+{
+    measure(state, kLinesPerRun, false);
+}
+
+void live(benchmark::State &state)
+{
+    measure(state, kLiveLines, true);
+}
+
+BENCHMARK(burst)->ArgName("logging")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond)->Iterations(5)->UseRealTime();
+BENCHMARK(live)->ArgName("logging")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond)->Iterations(1)->UseRealTime();
 
 } // namespace
 

@@ -120,7 +120,7 @@ void Controller::connectDevice()
 
 void Controller::hideUnavailableActions()
 {
-    for (const char *name : {"actionOpenBlackBox", "actionImportBlackBox", "actionFirmwareUpdate"}) {
+    for (const char *name : {"actionOpenBlackBox", "actionFirmwareUpdate"}) {
         if (auto *action = d->view->findChild<QAction *>(QLatin1String(name)))
             action->setVisible(false);
     }

@@ -11,7 +11,7 @@
 
 namespace {
 
-const QString kProjectSuffix = QStringLiteral(".vnt");
+constexpr QLatin1String kProjectSuffix(".vnt");
 
 QString projectFilter()
 {
@@ -137,7 +137,7 @@ QString Controller::askProjectFileToSave()
     QString fileName = d->prompt([this] { return d->view->askSaveFile(tr("Projekt speichern"), projectFilter()); });
     if (fileName.isEmpty() || hasSuffix(fileName))
         return fileName;
-    fileName += QLatin1String(".vnt");
+    fileName += kProjectSuffix;
     if (!QFileInfo::exists(fileName))
         return fileName;
     // The file dialog could only ask about the name as it was typed.

@@ -53,6 +53,8 @@ QMessageBox::StandardButton escapeAnswer(QMessageBox::StandardButtons buttons)
         return QMessageBox::Cancel;
     if (buttons.testFlag(QMessageBox::No))
         return QMessageBox::No;
+    if (buttons.testFlag(QMessageBox::Save))
+        return QMessageBox::Save; // a box closed in passing must not throw data away
     QMessageBox::StandardButton last = QMessageBox::NoButton;
     for (const AnswerText &answer : kAnswers) {
         if (buttons.testFlag(answer.button))

@@ -37,7 +37,7 @@ private:
 void fillMessageBox(QMessageBox &box, const QString &title, const QString &text, QMessageBox::StandardButtons buttons);
 /// The large panel that the application's sheet means: 800 x 600 pixels at least, a white icon beside the text.
 void makePanel(QMessageBox &box, const QString &iconFile);
-/// "Abbrechen" if it is among the buttons, else "Nein", else the last.
+/// "Abbrechen" if it is among the buttons, else "Nein", else "Speichern", else the last.
 [[nodiscard]] QMessageBox::StandardButton escapeAnswer(QMessageBox::StandardButtons buttons);
 /// The ending of the first pattern in a file filter's entry: "csv" for "CSV (*.csv)"; empty if there is none.
 [[nodiscard]] QString filterSuffix(const QString &nameFilter);

@@ -13,7 +13,7 @@ public:
     virtual ~UserPrompts() = default;
 
     /// Buttons carry the texts "Speichern", "Verwerfen", "Abbrechen", "Ja", "Nein", "OK". Closing the box answers
-    /// with the escape button: Abbrechen if there is one, else Nein, else the last of the list.
+    /// with the escape button: Abbrechen if there is one, else Nein, else Speichern, else the last of the list.
     [[nodiscard]] virtual QMessageBox::StandardButton ask(const QString &title, const QString &text,
                                                           QMessageBox::StandardButtons buttons) = 0;
     virtual void inform(const QString &title, const QString &text) = 0;

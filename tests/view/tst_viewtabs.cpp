@@ -281,7 +281,8 @@ void TestViewTabs::escapeAnswers_data()
     QTest::newRow("cancel") << int(QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel)
                             << int(QMessageBox::Cancel);
     QTest::newRow("no") << int(QMessageBox::Yes | QMessageBox::No) << int(QMessageBox::No);
-    QTest::newRow("the last") << int(QMessageBox::Save | QMessageBox::Discard) << int(QMessageBox::Discard);
+    QTest::newRow("nothing is thrown away") << int(QMessageBox::Save | QMessageBox::Discard) << int(QMessageBox::Save);
+    QTest::newRow("the last") << int(QMessageBox::Ok | QMessageBox::Discard) << int(QMessageBox::Ok);
     QTest::newRow("the only one") << int(QMessageBox::Ok) << int(QMessageBox::Ok);
 }
 
