@@ -84,8 +84,13 @@ void ColumnMasks::resize(int columns, int rows)
     m_freshBlocks.assign(blocks, 0);
     m_stale.assign(blocks * kBlock, 0);
     m_taken.assign(blocks * kBlock, RowInterval());
-    if (!sameRows)
-        makeRowsBelow();
+    if (sameRows)
+        return;
+    makeRowsBelow();
+    m_usedWords.resize(size_t(kBlock) * size_t(m_words));
+    m_columnOfWord.resize(m_usedWords.size());
+    for (size_t word = 0; word < m_columnOfWord.size(); ++word)
+        m_columnOfWord[word] = int(word) / m_words;
 }
 
 void ColumnMasks::makeRowsBelow()
@@ -132,19 +137,27 @@ void ColumnMasks::paintBlock(QImage &picture, int left, QRgb color, int block)
 {
     const size_t firstWord = size_t(block) * kBlock * size_t(m_words);
     quint64 *fresh = &m_fresh[firstWord];
-    if (!takeFree(fresh, &m_taken64[firstWord], kBlock * m_words))
+    const int words = kBlock * m_words;
+    if (!takeFree(fresh, &m_taken64[firstWord], words))
         return;
+    // Listed without a branch: which words hold something cannot be foretold.
+    int used = 0;
+    for (int i = 0; i < words; ++i) {
+        m_usedWords[size_t(used)] = i;
+        used += int(fresh[i] != 0);
+    }
     const qptrdiff stride = picture.bytesPerLine() / qptrdiff(sizeof(QRgb));
     auto *pixels = reinterpret_cast<QRgb *>(picture.bits()) + left + block * kBlock;
-    for (int column = 0; column < kBlock; ++column, ++pixels) {
-        quint64 any = 0;
-        for (int word = 0; word < m_words; ++word, ++fresh) {
-            any |= *fresh;
-            QRgb *at = pixels + word * qptrdiff(kBits) * stride;
-            for (quint64 rest = std::exchange(*fresh, 0); rest; rest &= rest - 1)
-                at[qptrdiff(qCountTrailingZeroBits(rest)) * stride] = color;
-        }
-        m_stale[size_t(block * kBlock + column)] |= quint8(any != 0);
+    for (int i = 0; i < used; ++i) {
+        const int word = m_usedWords[size_t(i)];
+        const int column = m_columnOfWord[size_t(word)];
+        m_stale[size_t(block * kBlock + column)] = 1;
+        QRgb *at = pixels + column + (word - column * m_words) * qptrdiff(kBits) * stride;
+        quint64 rest = std::exchange(fresh[word], 0);
+        do {
+            at[qptrdiff(qCountTrailingZeroBits(rest)) * stride] = color;
+            rest &= rest - 1;
+        } while (rest);
     }
 }
 

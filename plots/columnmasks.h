@@ -61,4 +61,6 @@ private:
     std::vector<quint8> m_stale; ///< a byte a column: painted since settle()
     std::vector<RowInterval> m_taken;
     std::vector<quint64> m_rowsBelow;
+    std::vector<int> m_columnOfWord; ///< of each word of a block
+    std::vector<int> m_usedWords;    ///< in paintBlock()
 };

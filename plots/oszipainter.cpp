@@ -106,8 +106,12 @@ void paintCurves(QPainter &painter, const OsziScene &scene)
         if (span.isEmpty() || &curve == highlighted)
             continue;
         painter.setPen(QPen(curve.color, 1));
-        for (qint64 k = span.first + 1; k <= span.last; ++k)
-            painter.drawLine(scene.pointOf(curve, k - 1), scene.pointOf(curve, k));
+        QPoint from = scene.pointOf(curve, span.first);
+        for (qint64 k = span.first + 1; k <= span.last; ++k) {
+            const QPoint to = scene.pointOf(curve, k);
+            painter.drawLine(from, to);
+            from = to;
+        }
     }
 }
 
