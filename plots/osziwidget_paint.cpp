@@ -74,7 +74,9 @@ void OsziWidget::paintEvent(QPaintEvent *event)
 
 void OsziWidget::Private::paintCurves(QPainter &painter, const QRect &region)
 {
-    if (painter.device()->devicePixelRatioF() > 1.0 || !layer.update(scene))
+    // Scaled, as on a display with small pixels, lines get thicker: that is the painter's business.
+    const bool pixelForPixel = painter.deviceTransform().type() <= QTransform::TxTranslate;
+    if (!pixelForPixel || !layer.update(scene))
         oszipainter::paintCurves(painter, scene);
     else
         painter.drawImage(region.topLeft(), layer.picture(), region);

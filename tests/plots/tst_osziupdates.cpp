@@ -1,0 +1,190 @@
+#include "plots/osziwidget.h"
+
+#include <QCoreApplication>
+#include <QImage>
+#include <QPainter>
+#include <QScreen>
+#include <QTest>
+#include <QWindow>
+
+#include <deque>
+#include <random>
+
+namespace {
+
+constexpr int kCurves = 12;
+constexpr int kHighlighted = 7;
+using Random = std::mt19937;
+
+double real(Random &random, double low, double high)
+{
+    return std::uniform_real_distribution<double>(low, high)(random);
+}
+
+int between(Random &random, int low, int high)
+{
+    return std::uniform_int_distribution<int>(low, high)(random);
+}
+
+void grow(Random &random, SampleList &samples, int count)
+{
+    for (; count > 0; --count)
+        samples.append(real(random, 60.0, 200.0) + (between(random, 0, 40) ? 0.0 : 2000.0));
+}
+
+} // namespace
+
+/// What stands on the screen after small updates is what a paint of the whole plot shows.
+class TestOsziUpdates : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void growthShows_data();
+    void growthShows();
+    void unexpectedGrowthShowsSoon();
+    void scrollingShows();
+    void paintsTheSameWithAndWithoutKeptPicture_data();
+    void paintsTheSameWithAndWithoutKeptPicture();
+
+private:
+    [[nodiscard]] QImage onScreen() const
+    {
+        return m_plot->screen()->grabWindow(m_plot->winId()).toImage().convertToFormat(QImage::Format_RGB32);
+    }
+    [[nodiscard]] QImage paintedAnew() const { return m_plot->grab().toImage().convertToFormat(QImage::Format_RGB32); }
+    void forcePlainPainting();
+
+    Random m_random{5};
+    std::deque<SampleList> m_lists;
+    SampleList m_farAway{1e9, 1e9, 1e9};
+    OsziWidget *m_plot = nullptr;
+};
+
+/// A busy plot on the screen.
+void TestOsziUpdates::init()
+{
+    m_plot = new OsziWidget;
+    m_plot->setStyleSheet(QStringLiteral("OsziWidget { background-color: white; }"));
+    m_plot->resize(500, 220);
+    m_plot->setVerticalMarkerCount(2);
+    m_plot->setVerticalMarker(0, 150, Qt::darkGreen);
+    m_plot->setVerticalMarker(1, 300, Qt::darkBlue);
+    m_plot->setPhaseName(0, QStringLiteral("Einspritzzeit"));
+    m_plot->setPhaseName(1, QStringLiteral("Nachdruckzeit"));
+    m_plot->setHorizontalLineCount(1);
+    m_plot->setHorizontalLine(0, 120.0, Qt::darkRed);
+    m_lists.clear();
+    for (int slot = 0; slot < kCurves; ++slot) {
+        m_lists.emplace_back();
+        grow(m_random, m_lists.back(), between(m_random, 20, 500));
+        m_plot->setCurve(slot, &m_lists.back(), slot % 2 ? Qt::black : Qt::blue, true);
+    }
+    m_lists[kHighlighted].resize(30);
+    m_plot->highlightSingle(kHighlighted);
+    m_plot->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_plot));
+    QCoreApplication::processEvents();
+}
+
+void TestOsziUpdates::cleanup()
+{
+    delete m_plot;
+}
+
+/// A curve that needs blending, though nothing of it is in sight.
+void TestOsziUpdates::forcePlainPainting()
+{
+    m_plot->setCurve(9000, &m_farAway, QColor(0, 0, 0, 127), true);
+}
+
+void TestOsziUpdates::growthShows_data()
+{
+    QTest::addColumn<int>("slot");
+    QTest::addColumn<int>("zoom");
+    QTest::addColumn<int>("start");
+
+    QTest::newRow("highlighted") << kHighlighted << 1 << 0;
+    QTest::newRow("highlighted, zoomed") << kHighlighted << 4 << 0;
+    QTest::newRow("highlighted, scrolled") << kHighlighted << 1 << 40;
+    QTest::newRow("highlighted, large zoom") << kHighlighted << 150 << 29;
+    QTest::newRow("top-most") << kCurves - 1 << 1 << 0;
+    QTest::newRow("top-most, zoomed") << kCurves - 1 << 3 << 10;
+}
+
+void TestOsziUpdates::growthShows()
+{
+    QFETCH(int, slot);
+    QFETCH(int, zoom);
+    QFETCH(int, start);
+    SampleList &samples = m_lists[size_t(slot)];
+    samples.resize(30);
+    m_plot->setZoom(zoom);
+    m_plot->setStartIndex(start);
+    m_plot->refresh();
+    QCoreApplication::processEvents();
+    for (int frame = 0; frame < 25; ++frame) {
+        grow(m_random, samples, between(m_random, 1, 30));
+        m_plot->samplesAppended();
+        QCoreApplication::processEvents();
+        QCOMPARE(onScreen(), paintedAnew());
+    }
+}
+
+void TestOsziUpdates::unexpectedGrowthShowsSoon()
+{
+    for (const int slot : {2, 4})
+        m_lists[size_t(slot)].resize(20);
+    m_plot->refresh();
+    QCoreApplication::processEvents();
+    for (const int slot : {2, 4}) {
+        grow(m_random, m_lists[size_t(slot)], 60);
+        m_plot->samplesAppended();
+        const QImage before = onScreen();
+        QTRY_VERIFY_WITH_TIMEOUT(onScreen() != before, 2000);
+        QCOMPARE(onScreen(), paintedAnew());
+    }
+}
+
+void TestOsziUpdates::scrollingShows()
+{
+    for (const int start : {5, 6, 30, 29, 500, 20, -10, 0}) {
+        m_plot->setStartIndex(start);
+        QCoreApplication::processEvents();
+        const QImage scrolled = onScreen();
+        m_plot->refresh();
+        QCOMPARE(scrolled, paintedAnew());
+    }
+}
+
+void TestOsziUpdates::paintsTheSameWithAndWithoutKeptPicture_data()
+{
+    QTest::addColumn<int>("zoom");
+    QTest::addColumn<double>("scale");
+
+    QTest::newRow("zoom 1") << 1 << 1.0;
+    QTest::newRow("zoom 6") << 6 << 1.0;
+    QTest::newRow("two device pixels a pixel") << 1 << 2.0;
+}
+
+void TestOsziUpdates::paintsTheSameWithAndWithoutKeptPicture()
+{
+    QFETCH(int, zoom);
+    QFETCH(double, scale);
+    m_plot->setZoom(zoom);
+    const auto rendered = [&] {
+        QImage image((m_plot->size() * scale).expandedTo(QSize(1, 1)), QImage::Format_RGB32);
+        image.setDevicePixelRatio(scale);
+        m_plot->render(&image);
+        return image;
+    };
+    const QImage quick = rendered();
+    forcePlainPainting();
+    QCOMPARE(quick, rendered());
+}
+
+QTEST_MAIN(TestOsziUpdates)
+
+#include "tst_osziupdates.moc"
