@@ -2,6 +2,7 @@
 
 #include "device/logging.h"
 #include "device/samplingperiod.h"
+#include "device/scptransfer.h"
 
 #include <QElapsedTimer>
 #include <QPointer>
@@ -21,7 +22,8 @@ constexpr qint64 kReadBufferSize = qint64{64} * 1024 * 1024; // half an hour of 
 } // namespace
 
 MesotraConnector::MesotraConnector(quint16 port)
-    : m_port(port)
+    : m_scp(std::make_unique<ScpTransfer>())
+    , m_port(port)
 {
     createSocket();
 }
@@ -166,6 +168,12 @@ bool MesotraConnector::reboot()
     (void)write(QStringLiteral("reboot\n")); // the box goes away without an answer either way
     qCDebug(lcDevice) << Q_FUNC_INFO << "TODO: check result!";
     return true;
+}
+
+bool MesotraConnector::transferUpdateFile(const QString &fileName)
+{
+    qCDebug(lcDevice) << Q_FUNC_INFO << fileName;
+    return m_scp->upload(m_hostAddress, fileName) == ScpOutcome::Done;
 }
 
 void MesotraConnector::setPaused(bool paused)

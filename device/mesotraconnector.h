@@ -5,7 +5,10 @@
 #include <QString>
 #include <QVector>
 
+#include <memory>
+
 class QTcpSocket;
+class ScpTransfer;
 
 /// The program's only channel to the measuring box: sends text commands over TCP and cuts what arrives into lines.
 /// Works asynchronously but for the wait of up to 100 ms for the bytes of each command to be written.
@@ -43,6 +46,11 @@ public:
     void setClock(const QString &label);
     /// False if not connected; otherwise true, whatever became of the bytes.
     bool reboot();
+    /// Uploads one local file to the box at hostAddress() with the SCP tool; returns when that is over, with events
+    /// processed meanwhile. False if it failed, which scp() has reported to the user.
+    [[nodiscard]] bool transferUpdateFile(const QString &fileName);
+    /// Moves files from and to the box. Lives as long as the connector.
+    [[nodiscard]] ScpTransfer &scp() const { return *m_scp; }
     /// While paused, lines and the end of the link wait in the socket, whose buffer is bounded; then the box itself
     /// has to wait. Nothing is lost and the order never changes.
     void setPaused(bool paused);
@@ -85,6 +93,7 @@ private:
     void deliverLine();
     void dropEndlessLine();
 
+    std::unique_ptr<ScpTransfer> m_scp;
     QTcpSocket *m_socket = nullptr;
     QString m_hostAddress;
     Pending m_pending;

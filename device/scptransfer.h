@@ -1,0 +1,60 @@
+#pragma once
+
+#include "device/scpcommand.h"
+#include "device/scpprocess.h"
+#include "device/scpresult.h"
+
+#include <functional>
+#include <memory>
+
+/// Moves files between this computer and the box with the SCP tool, one transfer at a time. Works synchronously, with
+/// events processed meanwhile.
+class ScpTransfer
+{
+public:
+    /// How transfers are done; the address of an account is that of the call.
+    struct Options
+    {
+        QString toolFile; ///< empty: "winscp/winscp.com" in the program's folder
+        QString user;
+        QString password;
+        ScpTimeouts timeouts;
+    };
+    /// What the device layer cannot do itself; unset parts are left out.
+    struct Surroundings
+    {
+        std::function<void(const ScpMessage &)> report; ///< shows a message box; may return late
+        std::function<void(bool)> setWaiting;           ///< wait cursor on, and off again on every path
+    };
+
+    /// Without a process the tool runs as a child process.
+    explicit ScpTransfer(std::unique_ptr<ScpProcess> process = nullptr);
+
+    void setOptions(const Options &options) { m_options = options; }
+    void setSurroundings(const Surroundings &surroundings) { m_surroundings = surroundings; }
+
+    /// Fetches a data directory of the box ("dir-20240305") into an existing local folder.
+    ScpOutcome fetch(const QString &address, const QString &directory, const QString &workingDirectory);
+    /// Puts a local file onto the box.
+    ScpOutcome upload(const QString &address, const QString &fileName);
+    /// True while the tool runs or is being started or ended.
+    [[nodiscard]] bool isRunning() const { return m_running; }
+    /// Ends the tool, if it runs.
+    void cancel();
+    /// Shows the message for a date that names no directory.
+    ScpOutcome refuseDate(const QString &date) const;
+
+private:
+    [[nodiscard]] ScpAccount account(const QString &address) const;
+    /// False, and reported, if a transfer runs or there is nobody to log in to.
+    [[nodiscard]] bool isReady(const QString &address) const;
+    [[nodiscard]] ScpOutcome run(const QString &arguments, const QString &workingDirectory, bool logsDirectory);
+    [[nodiscard]] ScpResult runTool(const ScpCommand &command);
+    ScpOutcome refuse(const QString &text) const;
+    void report(const ScpMessage &message) const;
+
+    std::unique_ptr<ScpProcess> m_process;
+    Options m_options;
+    Surroundings m_surroundings;
+    bool m_running = false;
+};
