@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr QLatin1String kProjectSuffix(".vnt");
+const QLatin1String kProjectSuffix(".vnt");
 
 QString projectFilter()
 {
