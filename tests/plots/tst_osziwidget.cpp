@@ -24,6 +24,58 @@ constexpr int kIntMax = std::numeric_limits<int>::max();
 Q_DECLARE_METATYPE(Step)
 Q_DECLARE_METATYPE(Reading)
 
+namespace {
+
+void addRow(const char *name, const Reading &reading, double expected, const Step &step)
+{
+    QTest::newRow(name) << step << reading << expected;
+}
+
+void addRangeRows()
+{
+    const Reading minimum = &OsziWidget::minValue;
+    const Reading maximum = &OsziWidget::maxValue;
+    addRow("minimum", minimum, 254.9, [](OsziWidget &w) { w.setMinValue(254.9); });
+    addRow("minimum at the maximum", minimum, 0.0, [](OsziWidget &w) { w.setMinValue(254.9999); });
+    addRow("minimum not a number", minimum, 0.0, [](OsziWidget &w) { w.setMinValue(kNan); });
+    addRow("minimum infinite", minimum, 0.0, [](OsziWidget &w) { w.setMinValue(-kInf); });
+    addRow("maximum", maximum, 0.001, [](OsziWidget &w) { w.setMaxValue(0.001); });
+    addRow("maximum at the minimum", maximum, 255.0, [](OsziWidget &w) { w.setMaxValue(0.0001); });
+    addRow("maximum infinite", maximum, 255.0, [](OsziWidget &w) { w.setMaxValue(kInf); });
+}
+
+void addTimeAxisRows()
+{
+    const Reading zoom = &OsziWidget::zoom;
+    const Reading clock = &OsziWidget::clock;
+    const Reading clockGrid = &OsziWidget::clockGrid;
+    addRow("zoom", zoom, 4, [](OsziWidget &w) { w.setZoom(4); });
+    addRow("zoom 0", zoom, 1, [](OsziWidget &w) { w.setZoom(0); });
+    addRow("zoom 0.5", zoom, 1, [](OsziWidget &w) { w.setZoom(0.5); });
+    addRow("zoom is rounded", zoom, 3, [](OsziWidget &w) { w.setZoom(2.5); });
+    addRow("zoom beyond int", zoom, kIntMax, [](OsziWidget &w) { w.setZoom(1e20); });
+    addRow("zoom not a number", zoom, 1, [](OsziWidget &w) { w.setZoom(kNan); });
+    addRow("clock", clock, 100, [](OsziWidget &w) { w.setClock(100); });
+    addRow("clock 0", clock, 1, [](OsziWidget &w) { w.setClock(0); });
+    addRow("clock grid at the clock", clockGrid, 20, [](OsziWidget &w) { w.setClock(20), w.setClockGrid(20); });
+    addRow("clock grid below the clock", clockGrid, 100, [](OsziWidget &w) { w.setClock(20), w.setClockGrid(19); });
+}
+
+void addOtherRows()
+{
+    const Reading valueGrid = &OsziWidget::valueGrid;
+    addRow("value grid", valueGrid, 12.5, [](OsziWidget &w) { w.setValueGrid(12.5); });
+    addRow("value grid 0", valueGrid, 50.0, [](OsziWidget &w) { w.setValueGrid(0.0); });
+    addRow("value grid not a number", valueGrid, 50.0, [](OsziWidget &w) { w.setValueGrid(kNan); });
+    addRow("automatic value grid starts over", valueGrid, 1.0, [](OsziWidget &w) { w.setValueGridAuto(true); });
+    addRow("automatic value grid off", valueGrid, 50.0, [](OsziWidget &w) { w.setValueGridAuto(false); });
+    addRow("offset", &OsziWidget::offset, -3.5, [](OsziWidget &w) { w.setOffset(-3.5); });
+    addRow("offset not a number", &OsziWidget::offset, 0.0, [](OsziWidget &w) { w.setOffset(kNan); });
+    addRow("start index is not checked", &OsziWidget::startIndex, -5, [](OsziWidget &w) { w.setStartIndex(-5); });
+}
+
+} // namespace
+
 class TestOsziWidget : public QObject
 {
     Q_OBJECT
@@ -84,66 +136,9 @@ void TestOsziWidget::settersKeepWhatMakesSense_data()
     QTest::addColumn<Step>("step");
     QTest::addColumn<Reading>("reading");
     QTest::addColumn<double>("expected");
-
-    const auto row = [](const char *name, const Step &step, const Reading &reading, double expected) {
-        QTest::newRow(name) << step << reading << expected;
-    };
-    const Reading minimum = &OsziWidget::minValue;
-    const Reading maximum = &OsziWidget::maxValue;
-    const Reading zoom = &OsziWidget::zoom;
-    const Reading clock = &OsziWidget::clock;
-    const Reading clockGrid = &OsziWidget::clockGrid;
-    const Reading valueGrid = &OsziWidget::valueGrid;
-    row(
-        "minimum", [](OsziWidget &w) { w.setMinValue(254.9); }, minimum, 254.9);
-    row(
-        "minimum at the maximum", [](OsziWidget &w) { w.setMinValue(254.9999); }, minimum, 0.0);
-    row(
-        "minimum not a number", [](OsziWidget &w) { w.setMinValue(kNan); }, minimum, 0.0);
-    row(
-        "minimum infinite", [](OsziWidget &w) { w.setMinValue(-kInf); }, minimum, 0.0);
-    row(
-        "maximum", [](OsziWidget &w) { w.setMaxValue(0.001); }, maximum, 0.001);
-    row(
-        "maximum at the minimum", [](OsziWidget &w) { w.setMaxValue(0.0001); }, maximum, 255.0);
-    row(
-        "maximum infinite", [](OsziWidget &w) { w.setMaxValue(kInf); }, maximum, 255.0);
-    row(
-        "zoom", [](OsziWidget &w) { w.setZoom(4); }, zoom, 4);
-    row(
-        "zoom 0", [](OsziWidget &w) { w.setZoom(0); }, zoom, 1);
-    row(
-        "zoom 0.5", [](OsziWidget &w) { w.setZoom(0.5); }, zoom, 1);
-    row(
-        "zoom is rounded", [](OsziWidget &w) { w.setZoom(2.5); }, zoom, 3);
-    row(
-        "zoom beyond int", [](OsziWidget &w) { w.setZoom(1e20); }, zoom, kIntMax);
-    row(
-        "zoom not a number", [](OsziWidget &w) { w.setZoom(kNan); }, zoom, 1);
-    row(
-        "clock", [](OsziWidget &w) { w.setClock(100); }, clock, 100);
-    row(
-        "clock 0", [](OsziWidget &w) { w.setClock(0); }, clock, 1);
-    row(
-        "clock grid at the clock", [](OsziWidget &w) { w.setClock(20), w.setClockGrid(20); }, clockGrid, 20);
-    row(
-        "clock grid below the clock", [](OsziWidget &w) { w.setClock(20), w.setClockGrid(19); }, clockGrid, 100);
-    row(
-        "value grid", [](OsziWidget &w) { w.setValueGrid(12.5); }, valueGrid, 12.5);
-    row(
-        "value grid 0", [](OsziWidget &w) { w.setValueGrid(0.0); }, valueGrid, 50.0);
-    row(
-        "value grid not a number", [](OsziWidget &w) { w.setValueGrid(kNan); }, valueGrid, 50.0);
-    row(
-        "automatic value grid starts over", [](OsziWidget &w) { w.setValueGridAuto(true); }, valueGrid, 1.0);
-    row(
-        "automatic value grid off", [](OsziWidget &w) { w.setValueGridAuto(false); }, valueGrid, 50.0);
-    row(
-        "offset", [](OsziWidget &w) { w.setOffset(-3.5); }, &OsziWidget::offset, -3.5);
-    row(
-        "offset not a number", [](OsziWidget &w) { w.setOffset(kNan); }, &OsziWidget::offset, 0.0);
-    row(
-        "start index is not checked", [](OsziWidget &w) { w.setStartIndex(-5); }, &OsziWidget::startIndex, -5);
+    addRangeRows();
+    addTimeAxisRows();
+    addOtherRows();
 }
 
 void TestOsziWidget::settersKeepWhatMakesSense()
