@@ -1,54 +1,125 @@
 #include "view/tabblackbox.h"
 
+#include "kit/progressindicator.h"
 #include "view/logging.h"
-#include "view/tabstyle.h"
+#include "view/tabblackbox_p.h"
 
 #include <QEvent>
-#include <QHBoxLayout>
 #include <QLabel>
-#include <QListWidget>
 #include <QPushButton>
-#include <QVBoxLayout>
+#include <QTableView>
 
-struct TabBlackBox::Private
+// --- What the user does ----------------------------------------------------------------------------------------
+
+TabBlackBox::Private::Private(TabBlackBox *tab)
+    : q(tab)
+    , files(&days)
+{}
+
+void TabBlackBox::Private::connectButtons()
 {
-    QStringList entries;
-    QLabel *heading = nullptr;
-    QLabel *count = nullptr;
-    QPushButton *request = nullptr;
-    QListWidget *days = nullptr;
-
-    void updateCount() const;
-};
-
-void TabBlackBox::Private::updateCount() const
-{
-    count->setText(entries.isEmpty() ? tr("Noch keine Liste geladen") : tr("Einträge: %1").arg(entries.size()));
+    QObject::connect(request, &QPushButton::clicked, q, &TabBlackBox::listRequested);
+    QObject::connect(fetch, &QPushButton::clicked, q, &TabBlackBox::fetchClicked);
+    QObject::connect(openFolder, &QPushButton::clicked, q, &TabBlackBox::openLocalFolderClicked);
+    QObject::connect(import, &QPushButton::clicked, q, [this] { emit q->importClicked(days.selectedFiles()); });
+    const auto selects = [this](const QPushButton *button, BlackBoxDays::Selection selection) {
+        QObject::connect(button, &QPushButton::clicked, q, [this, selection] { days.select(selection); });
+    };
+    selects(selectAll, BlackBoxDays::Selection::All);
+    selects(selectNone, BlackBoxDays::Selection::None);
+    selects(selectNew, BlackBoxDays::Selection::New);
 }
+
+void TabBlackBox::Private::connectTables()
+{
+    QObject::connect(&days, &QAbstractItemModel::dataChanged, q, [this] { updateState(); });
+    QObject::connect(&days, &QAbstractItemModel::modelReset, q, [this] { restoreChosenDay(); });
+    QObject::connect(&days, &QAbstractItemModel::rowsInserted, q, [this] { restoreChosenDay(); });
+    QObject::connect(dayTable->selectionModel(), &QItemSelectionModel::currentRowChanged, q,
+                     [this](const QModelIndex &current) {
+                         if (current.isValid())
+                             showDay(current.row());
+                     });
+}
+
+void TabBlackBox::Private::chooseDay(int row)
+{
+    dayTable->setCurrentIndex(days.index(row, 0));
+    showDay(row);
+}
+
+/// Rows have moved or gone: the files shown stay those of the same day.
+void TabBlackBox::Private::restoreChosenDay()
+{
+    int row = 0;
+    while (row < days.rowCount() && days.days().at(row).date != chosenDay)
+        ++row;
+    if (row < days.rowCount())
+        chooseDay(row);
+    else
+        showDay(-1);
+}
+
+void TabBlackBox::Private::showDay(int row)
+{
+    files.setDay(row);
+    if (files.day() >= 0)
+        chosenDay = days.days().at(row).date;
+    if (files.rowCount() > 0)
+        fileTable->setCurrentIndex(files.index(0, 0));
+    updateState();
+}
+
+// --- What is shown ---------------------------------------------------------------------------------------------
+
+void TabBlackBox::Private::updateState()
+{
+    const bool idle = total == 0;
+    const bool anyDay = days.rowCount() > 0;
+    const int wanted = days.selectedFiles().size();
+    request->setEnabled(idle && listAllowed);
+    openFolder->setEnabled(idle);
+    fetch->setEnabled(idle && !days.selectedDates().isEmpty());
+    import->setEnabled(idle && wanted > 0);
+    import->setText(wanted > 0 ? tr("&Importieren (%1)").arg(wanted) : tr("&Importieren"));
+    for (QPushButton *button : {selectAll, selectNone, selectNew})
+        button->setEnabled(anyDay);
+    updateHeadings();
+}
+
+void TabBlackBox::Private::updateHeadings()
+{
+    const int count = loggedDays(entries).size();
+    daysHeading->setText(count > 0 ? tr("Tage auf der Box: %1").arg(count) : tr("Tage auf der Box"));
+    if (files.day() < 0)
+        filesHeading->setText(tr("Dateien"));
+    else if (chosenDay.isValid())
+        filesHeading->setText(tr("Dateien vom %1").arg(chosenDay.toString(QStringLiteral("dd.MM.yyyy"))));
+    else
+        filesHeading->setText(tr("Lokale Dateien"));
+}
+
+void TabBlackBox::Private::showProgress()
+{
+    if (total > 0) {
+        indicator->setPercent(done > 0 ? static_cast<int>(qint64(done) * 100 / total) : ProgressIndicator::kTurning);
+        indicator->startAnimation();
+        progress->setText(tr("%1 von %2").arg(done).arg(total));
+    } else {
+        indicator->stopAnimation();
+        progress->clear();
+    }
+}
+
+// --- The tab ---------------------------------------------------------------------------------------------------
 
 TabBlackBox::TabBlackBox(QWidget *parent)
     : QWidget(parent)
-    , d(std::make_unique<Private>())
+    , d(std::make_unique<Private>(this))
 {
-    d->heading = new QLabel(this);
-    tabstyle::makeHeading(d->heading);
-    d->count = new QLabel(this);
-    d->request = new QPushButton(this);
-    d->request->setObjectName(QStringLiteral("buttonList"));
-    tabstyle::makeLarge(d->request, QStringLiteral("refresh.png"));
-    d->days = new QListWidget(this);
-    d->days->setObjectName(QStringLiteral("listWidgetDays"));
-    d->days->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    d->days->setUniformItemSizes(true);
-    auto *row = new QHBoxLayout;
-    row->addWidget(d->request);
-    row->addWidget(d->count);
-    row->addStretch(1);
-    auto *column = new QVBoxLayout(this);
-    column->addWidget(d->heading);
-    column->addLayout(row);
-    column->addWidget(d->days, 1);
-    connect(d->request, &QPushButton::clicked, this, &TabBlackBox::listRequested);
+    d->createLayout();
+    d->connectButtons();
+    d->connectTables();
     retranslateUi();
 }
 
@@ -58,9 +129,8 @@ void TabBlackBox::setList(const QStringList &entries)
 {
     qCDebug(lcView) << Q_FUNC_INFO << entries.size();
     d->entries = entries;
-    d->days->clear();
-    d->days->addItems(entries);
-    d->updateCount();
+    d->days.setEntries(entries);
+    d->updateState();
 }
 
 QStringList TabBlackBox::list() const
@@ -70,7 +140,55 @@ QStringList TabBlackBox::list() const
 
 void TabBlackBox::setListButtonEnabled(bool enabled)
 {
-    d->request->setEnabled(enabled);
+    d->listAllowed = enabled;
+    d->updateState();
+}
+
+QStringList TabBlackBox::selectedDates() const
+{
+    return d->days.selectedDates();
+}
+
+QStringList TabBlackBox::selectedFiles() const
+{
+    return d->days.selectedFiles();
+}
+
+void TabBlackBox::setTransferProgress(int done, int total)
+{
+    qCDebug(lcView) << Q_FUNC_INFO << done << total;
+    d->total = std::max(0, total);
+    d->done = std::clamp(done, 0, d->total);
+    d->showProgress();
+    d->updateState();
+}
+
+void TabBlackBox::addFetchedFiles(const QString &date, const QStringList &absoluteFiles)
+{
+    qCDebug(lcView) << Q_FUNC_INFO << date << absoluteFiles.size();
+    const QDate day = QDate::fromString(date, QStringLiteral("dd.MM.yyyy"));
+    if (!day.isValid()) {
+        qCDebug(lcView) << "ERROR: no date!" << date;
+        return;
+    }
+    d->chooseDay(d->days.setFiles(day, absoluteFiles));
+}
+
+void TabBlackBox::addLocalFiles(const QStringList &files)
+{
+    qCDebug(lcView) << Q_FUNC_INFO << files.size();
+    d->chooseDay(d->days.setFiles({}, files));
+}
+
+void TabBlackBox::setImportedFiles(const QStringList &absoluteFiles)
+{
+    d->days.setImported(absoluteFiles);
+}
+
+void TabBlackBox::setResult(const QString &text)
+{
+    qCDebug(lcView) << Q_FUNC_INFO << text;
+    d->result->setText(text);
 }
 
 void TabBlackBox::changeEvent(QEvent *event)
@@ -82,9 +200,23 @@ void TabBlackBox::changeEvent(QEvent *event)
 
 void TabBlackBox::retranslateUi()
 {
-    d->heading->setText(tr("Aufzeichnungen der Box"));
     d->request->setText(tr("&Liste laden"));
     d->request->setToolTip(tr("Die Box nach den Tagen fragen, die sie aufgezeichnet hat"));
-    d->days->setAccessibleName(tr("Aufgezeichnete Tage"));
-    d->updateCount();
+    d->selectAll->setText(tr("&Alle"));
+    d->selectAll->setToolTip(tr("Alle Tage auswählen"));
+    d->selectNone->setText(tr("&Keine"));
+    d->selectNone->setToolTip(tr("Keinen Tag auswählen"));
+    d->selectNew->setText(tr("&Nur neue"));
+    d->selectNew->setToolTip(tr("Die Tage auswählen, von denen noch nichts geladen ist"));
+    d->fetch->setText(tr("&Holen"));
+    d->fetch->setToolTip(tr("Die Dateien der ausgewählten Tage von der Box kopieren"));
+    d->openFolder->setText(tr("&Ordner öffnen …"));
+    d->openFolder->setToolTip(tr("Dateien der Box aus einem Ordner dieses Rechners nehmen"));
+    d->import->setToolTip(tr("Die ausgewählten Dateien als Messungen in das Projekt übernehmen"));
+    d->dayTable->setAccessibleName(tr("Aufgezeichnete Tage"));
+    d->fileTable->setAccessibleName(tr("Dateien des Tages"));
+    d->days.retranslate();
+    d->files.retranslate();
+    d->showProgress();
+    d->updateState();
 }

@@ -5,7 +5,8 @@
 
 #include <memory>
 
-/// The tab "BlackBox": the days that the box has logged.
+/// The tab "BlackBox": left the days that the box has logged, right the files of the chosen day. Only asks for what
+/// the user wants; whoever listens does it and reports back.
 class TabBlackBox : public QWidget
 {
     Q_OBJECT
@@ -14,14 +15,37 @@ public:
     explicit TabBlackBox(QWidget *parent = nullptr);
     ~TabBlackBox() override;
 
-    /// The entries of the box's list block, as received.
+    /// The entries of the box's list block, as received. Entries that are no day "dir-yyyymmdd" are not shown.
     void setList(const QStringList &entries);
     [[nodiscard]] QStringList list() const;
     void setListButtonEnabled(bool enabled);
 
+    /// The ticked days, dd.mm.yyyy, as they stand in the tab: newest first.
+    [[nodiscard]] QStringList selectedDates() const;
+    /// The ticked files, absolute, in the order in which they were recorded.
+    [[nodiscard]] QStringList selectedFiles() const;
+
+    /// "3 von 7" and a ring that fills up; what would start something is disabled meanwhile. 0 of 0: nothing is under
+    /// way.
+    void setTransferProgress(int done, int total);
+    /// The logger files of a day (dd.mm.yyyy) are on this computer now: all of them, also those of before. A text that
+    /// is no date is logged and ignored.
+    void addFetchedFiles(const QString &date, const QStringList &absoluteFiles);
+    /// Logger files of a local folder, absolute. Shown above the days.
+    void addLocalFiles(const QStringList &files);
+    /// The files whose measurements the project holds.
+    void setImportedFiles(const QStringList &absoluteFiles);
+    /// How the last import went; stays until the next.
+    void setResult(const QString &text);
+
 signals:
     /// The user wants the list of the box.
     void listRequested();
+    /// The user wants the data of selectedDates(), of at least one day.
+    void fetchClicked();
+    void openLocalFolderClicked();
+    /// The user wants these files, at least one, absolute, in this order.
+    void importClicked(const QStringList &files);
 
 protected:
     void changeEvent(QEvent *event) override;

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+
+/// A small turning ring that says "at work"; or a ring that fills up, with the percentage in it. Takes its colours
+/// from the theme in force. Costs nothing while it is hidden or at rest: its timer runs only while it turns in sight.
+class ProgressIndicator : public QWidget
+{
+    Q_OBJECT
+
+public:
+    static constexpr int kTurning = -1; ///< no percentage is known
+
+    explicit ProgressIndicator(QWidget *parent = nullptr);
+
+    [[nodiscard]] bool isAnimated() const { return m_animated; }
+    /// 0 to 100, or kTurning.
+    [[nodiscard]] int percent() const { return m_percent; }
+    /// True while the timer runs.
+    [[nodiscard]] bool isTimerRunning() const { return m_timer.isActive(); }
+    /// At rest it shows nothing but keeps its place.
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+public slots:
+    void startAnimation();
+    void stopAnimation();
+    /// Takes the nearest value of 0 to 100; a negative one counts as kTurning.
+    void setPercent(int percent);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+
+private:
+    void updateTimer();
+    void turn();
+
+    QTimer m_timer;
+    int m_angle = 0; ///< degrees, clockwise from the top
+    int m_percent = kTurning;
+    bool m_animated = false;
+};

@@ -1,0 +1,94 @@
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QDate>
+#include <QStringList>
+#include <QVector>
+
+/// How far the data of a day, or a file, have come.
+enum class BlackBoxState { New, Fetched, Imported };
+
+/// A logger file on this computer.
+struct BlackBoxFile
+{
+    QString path; ///< absolute
+    qint64 size = 0;
+    bool ticked = true; ///< wanted for the import
+    bool imported = false;
+};
+
+/// A day that the box has logged, or the files of local folders: those have no date.
+struct BlackBoxDay
+{
+    QDate date;
+    QVector<BlackBoxFile> files;
+    bool fetched = false;
+    bool ticked = false; ///< wanted, as long as there are no files to tick
+
+    [[nodiscard]] BlackBoxState state() const;
+    /// Checked if everything is ticked that is not imported yet.
+    [[nodiscard]] Qt::CheckState checkState() const;
+    [[nodiscard]] bool holdsUnimported() const;
+    /// Ticks the files that are not imported yet, or all if there are none of these; or takes every tick away.
+    void tick(bool on);
+};
+
+/// The days of a list of the box, newest first. An entry "dir-yyyymmdd" stands for a day; other entries, dates that do
+/// not exist and repetitions are left out.
+[[nodiscard]] QVector<QDate> loggedDays(const QStringList &entries);
+
+/// The days of the BlackBox tab as table rows: local files first, then the days, newest first.
+class BlackBoxDays : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum Column { DayColumn, FilesColumn, StateColumn, NumColumns };
+
+    using QAbstractTableModel::QAbstractTableModel;
+
+    /// Takes over the box's list. Days of which files are here stay, listed or not; so do the ticks.
+    void setEntries(const QStringList &entries);
+    /// Replaces the files of a day; adds the day if the list did not have it. Files keep their ticks; new ones are
+    /// ticked unless they are imported. An invalid date means local files: these are added to those known.
+    /// Returns the row.
+    int setFiles(const QDate &date, const QStringList &absoluteFiles);
+    /// Marks the files named as imported, all others as not imported. A file that becomes imported loses its tick.
+    void setImported(const QStringList &absoluteFiles);
+
+    enum class Selection { None, All, New };
+    /// Ticks all days, none, or those of which nothing has been fetched.
+    void select(Selection selection);
+    /// Ticks a single file or takes its tick away. Rows or files out of range are ignored.
+    void tickFile(int row, int file, bool on);
+
+    [[nodiscard]] const QVector<BlackBoxDay> &days() const { return m_days; }
+    /// Wanted days, as rows stand: dd.mm.yyyy. Local files are on no day.
+    [[nodiscard]] QStringList selectedDates() const;
+    /// Wanted files in the order in which they were recorded: oldest day first; local files last.
+    [[nodiscard]] QStringList selectedFiles() const;
+    /// Announces that all texts are in another language.
+    void retranslate();
+
+    [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
+    [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
+    bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
+    [[nodiscard]] Qt::ItemFlags flags(const QModelIndex &index) const override;
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
+                                      int role = Qt::DisplayRole) const override;
+
+private:
+    [[nodiscard]] int rowOf(const QDate &date) const;
+    [[nodiscard]] QString text(const BlackBoxDay &day, int column) const;
+    void announceRow(int row);
+    void announceAll();
+
+    QVector<BlackBoxDay> m_days;
+    QStringList m_imported;
+};
+
+/// "neu", "geladen", "importiert".
+[[nodiscard]] QString stateText(BlackBoxState state);
+/// Bold for what is new, grey for what is imported: a role of a table cell, or nothing.
+[[nodiscard]] QVariant stateLook(BlackBoxState state, int role);
