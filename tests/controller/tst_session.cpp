@@ -70,6 +70,8 @@ private slots:
     void independentBox();
 
 private:
+    static void expectSame(const Snapshot &after, const Snapshot &before);
+
     QTemporaryDir m_folder;
 };
 
@@ -91,6 +93,21 @@ void TestSession::connectingDescribesTheBox()
     QTest::qWait(200); // both waits are over
     QVERIFY(!rig.bench.controller.areValuesInThousandths());
     QVERIFY(rig.bench.prompts->messages.empty());
+}
+
+void TestSession::expectSame(const Snapshot &after, const Snapshot &before)
+{
+    for (std::size_t sensor = 0; sensor < kNumSensors; ++sensor) {
+        QVERIFY(before.samples[sensor].size() == 2 && before.samples[sensor][1].size() > 40);
+        QVERIFY(sameBits(after.samples[sensor], before.samples[sensor]));
+    }
+    QCOMPARE(after.project, before.project);
+    QCOMPARE(after.comment, before.comment);
+    QCOMPARE(after.clock, 1);
+    QCOMPARE(after.picture, before.picture);
+    QCOMPARE(after.offsets, before.offsets);
+    QCOMPARE(after.markers, before.markers);
+    QCOMPARE(after.names, before.names);
 }
 
 void TestSession::fromBoxToProjectAndBack()
@@ -127,18 +144,7 @@ void TestSession::fromBoxToProjectAndBack()
     QCOMPARE(bench.shots(), 0);
     bench.prompts->openNames = {file};
     emit bench.view.openProject();
-    const Snapshot after(bench.model);
-    for (std::size_t sensor = 0; sensor < kNumSensors; ++sensor) {
-        QVERIFY(before.samples[sensor].size() == 2 && before.samples[sensor][1].size() > 40);
-        QVERIFY(sameBits(after.samples[sensor], before.samples[sensor]));
-    }
-    QCOMPARE(after.project, before.project);
-    QCOMPARE(after.comment, before.comment);
-    QCOMPARE(after.clock, 1);
-    QCOMPARE(after.picture, before.picture);
-    QCOMPARE(after.offsets, before.offsets);
-    QCOMPARE(after.markers, before.markers);
-    QCOMPARE(after.names, before.names);
+    expectSame(Snapshot(bench.model), before);
     QVERIFY(bench.slotsMatchModel());
     QCOMPARE(bench.prompts->unexpected, 0);
 }
