@@ -6,10 +6,11 @@
 #   install_packages.sh lint    the same and the linters of tools/lint.sh
 set -euo pipefail
 
-packages=(cmake ninja-build g++ python3 qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n rapidjson-dev)
+packages=(cmake ninja-build g++ python3 qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n rapidjson-dev
+    openssh-client sshpass)
 case ${1:-test} in
 run) [ -z "${WAYLAND_DISPLAY:-}" ] || [ -n "${DISPLAY:-}" ] || packages+=(qtwayland5) ;;
-test) packages+=(clang-format) ;;
+test) packages+=(clang-format libnss-wrapper openssh-server) ;;
 lint) packages+=(clang-format clang-tidy clazy) ;;
 *) echo "usage: $0 [run|test|lint]" >&2 && exit 2 ;;
 esac
@@ -38,6 +39,11 @@ quiet_apt() {
 echo "Installing ${missing[*]}"
 # The list of packages may be out of date or absent; a failed update alone need not stop the installation.
 quiet_apt update || echo "apt-get update failed" >>"$log"
+# The tests start an SSH server of their own; none is to run as a service because of them.
+case " ${missing[*]} " in *" openssh-server "*)
+    "${as_root[@]}" mkdir -p /etc/ssh && "${as_root[@]}" touch /etc/ssh/sshd_not_to_be_run
+    ;;
+esac
 quiet_apt install --yes --no-install-recommends "${missing[@]}" || {
     tail -n 40 "$log" >&2
     echo "FAILED: installing ${missing[*]}" >&2
