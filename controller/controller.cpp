@@ -46,6 +46,7 @@ Controller::Controller(Model *model, View *view, const ControllerOptions &option
     connectUserActions();
     connectTabs();
     connectDevice();
+    connectTransfers(options);
     hideUnavailableActions();
     d->view->setAddressValidator(isValidHostAddress);
     d->view->setDeviceAddress(d->address);
@@ -103,7 +104,7 @@ void Controller::connectDevice()
     QObject::connect(connector, &MesotraConnector::messageReceived, this, &Controller::onMessageReceived);
     QObject::connect(connector, &MesotraConnector::written, d->view, &View::terminalSent);
     QObject::connect(connector, &MesotraConnector::error, this, [this](QAbstractSocket::SocketError error) {
-        if (d->linkWanted)
+        if (d->linkWanted && !waitForRestart(error))
             connectionError(error);
     });
 
@@ -168,7 +169,7 @@ void Controller::hideProgressWhenIdle()
 
 bool Controller::isOccupied() const
 {
-    return d->openPrompts > 0 || d->view->isAsking() || d->model->isBusy();
+    return d->openPrompts > 0 || d->fetching || d->view->isAsking() || d->model->isBusy();
 }
 
 bool Controller::refuseWhileOccupied()
@@ -176,6 +177,14 @@ bool Controller::refuseWhileOccupied()
     if (!isOccupied())
         return false;
     qCDebug(lcController) << "refused: a dialog is open or a file is being read or written";
+    d->view->showStatus(tr("Bitte warten, bis der laufende Vorgang beendet ist."));
+    return true;
+}
+
+bool Controller::refuseWhileConnecting()
+{
+    if (!d->view->isProgressShown())
+        return false;
     d->view->showStatus(tr("Bitte warten, bis der laufende Vorgang beendet ist."));
     return true;
 }
@@ -192,11 +201,6 @@ void Controller::onActionAbout()
 }
 
 void Controller::onImportBlackBox()
-{
-    qCDebug(lcController) << Q_FUNC_INFO;
-}
-
-void Controller::onFirmwareUpdate()
 {
     qCDebug(lcController) << Q_FUNC_INFO;
 }

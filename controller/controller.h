@@ -1,17 +1,22 @@
 #pragma once
 
+#include "device/scpprocess.h"
+
 #include <QAbstractSocket>
 #include <QObject>
 #include <QString>
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 class MesotraConnector;
 class Model;
+class QDir;
 class View;
 class SensorDescription;
 struct ReceivedProject;
+struct ScpMessage;
 
 /// What the controller takes from outside, so that a test need not wait or use the real port.
 struct ControllerOptions
@@ -20,6 +25,10 @@ struct ControllerOptions
     quint16 port = 2222;
     int deviceDescriptionTimeout = 500; ///< ms
     int sensorDescriptionTimeout = 700; ///< ms
+    QString scpToolFile;                ///< empty: "winscp/winscp.com" beside the program
+    ScpTimeouts scpTimeouts;
+    QString temporaryDirectory = QStringLiteral("tmp-blackbox-dir"); ///< for what is fetched; created when missing
+    int restartWait = 3000; ///< ms; how long the firmware dialog waits for a connection
 };
 
 /// Joins the user's actions, the device link and the data. Created last, deleted first; the model and the view must
@@ -45,6 +54,9 @@ public:
     [[nodiscard]] bool areValuesInThousandths() const;
     /// Owned by the controller.
     [[nodiscard]] MesotraConnector *connector() const;
+    /// Copies the "*.bb" files of a folder into another one, over those of the same name. The copies, absolute and
+    /// sorted by name; what could not be copied is in the log only.
+    QStringList copyLocalDirToTmpDir(const QString &localDirectory, const QDir &temporaryDirectory);
 
 public slots:
     void onNewProject();
@@ -67,6 +79,8 @@ public slots:
     void onTabOszi_markerChangedRelative(int index, int pos_ms);
     void onTabOszi_checkBoxMarkerAbsClicked(bool absolute);
     void onTabBlackBox_listClicked();
+    void onTabBlackBox_fetchBlackBoxDataClicked();
+    void onTabBlackBox_openLocalFolderClicked();
     void onTerminalSend(const QString &line);
     void onMessageReceived(const QString &message);
     void handleValueMessage(const QString &message);
@@ -87,6 +101,17 @@ private:
     void hideProgressWhenIdle();
     [[nodiscard]] bool isOccupied() const;
     [[nodiscard]] bool refuseWhileOccupied();
+    [[nodiscard]] bool refuseWhileConnecting();
+
+    void connectTransfers(const ControllerOptions &options);
+    void showTransferMessage(const ScpMessage &message);
+    [[nodiscard]] std::optional<QDir> temporaryDirectory();
+    [[nodiscard]] QStringList fetchDates(const QStringList &dates, const QDir &target);
+    void offerFetched(const QStringList &dates, const QDir &target);
+    [[nodiscard]] bool cancelFetch();
+    [[nodiscard]] bool isBoxRestarting() const;
+    [[nodiscard]] bool waitForRestart(QAbstractSocket::SocketError error);
+    void reconnectAfterRestart();
 
     void dispatch(const QString &message);
     void handleClockEcho(const QString &message);

@@ -41,6 +41,9 @@ void Controller::connectTo(const QString &address, const QString &progressText)
 
 void Controller::cancelConnecting()
 {
+    if (cancelFetch())
+        return;
+    d->sinceRestart.invalidate();
     leaveDevice();
     d->view->hideProgress();
     d->view->showStatus(tr("Verbindungsaufbau abgebrochen."));
@@ -59,6 +62,8 @@ void Controller::onConnected()
 {
     qCDebug(lcController) << Q_FUNC_INFO;
     d->view->hideProgress();
+    d->linkWanted = true; // the firmware dialog connects too
+    d->sinceRestart.invalidate();
     d->deferredError.reset();
     d->model->blockSignals(false);
     d->model->setConnected(true);
@@ -115,7 +120,8 @@ void Controller::onTimerWaitForSensorDescription_timeout()
 void Controller::connectionError(QAbstractSocket::SocketError error)
 {
     qCDebug(lcController) << Q_FUNC_INFO << error;
-    d->view->hideProgress();
+    if (!d->fetching) // whose progress is shown
+        d->view->hideProgress();
     if (isOccupied() || QApplication::activeModalWidget()) {
         d->deferredError = error; // one dialog at a time
         d->deferredTimer.start(0);

@@ -39,6 +39,8 @@ struct Controller::Private
         , view(v)
         , connector(o.port)
         , address(o.deviceAddress)
+        , temporaryDirectory(o.temporaryDirectory)
+        , restartWait(o.restartWait)
     {}
 
     Model *model;
@@ -56,6 +58,14 @@ struct Controller::Private
     QTimer listTimer;
     bool linkWanted = false; ///< errors of a link that the user gave up are of no interest
     std::optional<QAbstractSocket::SocketError> deferredError;
+
+    // --- Transfers and restart of the box ---
+    QString temporaryDirectory;
+    int restartWait; ///< ms
+    bool fetching = false;
+    bool fetchCancelled = false;
+    QElapsedTimer sinceRestart; ///< since the box was told to restart; invalid: not waited for
+    QTimer reconnectTimer;
 
     // --- Lines of the box ---
     std::deque<QString> heldLines;

@@ -70,17 +70,17 @@ void ScpTransfer::cancel()
 
 ScpAccount ScpTransfer::account(const QString &address) const
 {
-    return {m_options.user, m_options.password, address};
+    return {m_options.user, m_options.password, address.isEmpty() ? m_options.defaultAddress : address};
 }
 
 bool ScpTransfer::isReady(const QString &address) const
 {
     if (m_running)
         (void)refuse(ScpTexts::tr("Es läuft schon eine Übertragung. Bitte warten, bis sie beendet ist."));
-    else if (address.isEmpty())
+    else if (account(address).address.isEmpty())
         (void)refuse(ScpTexts::tr("Die Adresse der Box ist noch nicht bekannt. Bitte zuerst verbinden."));
     else if (!isUsableAccount(account(address)))
-        (void)refuse(ScpTexts::tr("Keine gültige Adresse: %1").arg(address));
+        (void)refuse(ScpTexts::tr("Keine gültige Adresse: %1").arg(account(address).address));
     else
         return true;
     return false;

@@ -18,6 +18,7 @@ public:
         QString toolFile; ///< empty: "winscp/winscp.com" in the program's folder
         QString user;
         QString password;
+        QString defaultAddress; ///< of the box while none is known
         ScpTimeouts timeouts;
     };
     /// What the device layer cannot do itself; unset parts are left out.

@@ -4,7 +4,7 @@
 #include "view/actionicon.h"
 #include "view/ipaddressdialog.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QPushButton>
@@ -101,10 +101,16 @@ void makePanel(QMessageBox &box, const QString &iconFile)
     }
 }
 
+QWidget *DialogPrompts::window() const
+{
+    QWidget *dialog = QApplication::activeModalWidget();
+    return dialog ? dialog : m_window.data();
+}
+
 QMessageBox::StandardButton DialogPrompts::run(const QString &title, const QString &text,
                                                QMessageBox::StandardButtons buttons, const QString &iconFile)
 {
-    QMessageBox box(m_window);
+    QMessageBox box(window());
     fillMessageBox(box, title, text, buttons);
     makePanel(box, iconFile);
     box.exec();
@@ -130,7 +136,7 @@ void DialogPrompts::warn(const QString &title, const QString &text)
 
 QString DialogPrompts::openFileName(const QString &title, const QString &folder, const QString &filter)
 {
-    QFileDialog dialog(m_window, title, folder);
+    QFileDialog dialog(window(), title, folder);
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::ExistingFile);
     prepare(dialog, filter);
@@ -139,10 +145,18 @@ QString DialogPrompts::openFileName(const QString &title, const QString &folder,
 
 QString DialogPrompts::saveFileName(const QString &title, const QString &folder, const QString &filter)
 {
-    QFileDialog dialog(m_window, title, folder);
+    QFileDialog dialog(window(), title, folder);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     prepare(dialog, filter);
+    return chosenFile(dialog);
+}
+
+QString DialogPrompts::openFolder(const QString &title, const QString &folder)
+{
+    QFileDialog dialog(window(), title, folder);
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
     return chosenFile(dialog);
 }
 

@@ -21,12 +21,16 @@ public:
     void warn(const QString &title, const QString &text) override;
     [[nodiscard]] QString openFileName(const QString &title, const QString &folder, const QString &filter) override;
     [[nodiscard]] QString saveFileName(const QString &title, const QString &folder, const QString &filter) override;
+    [[nodiscard]] QString openFolder(const QString &title, const QString &folder) override;
     [[nodiscard]] std::optional<QString> askAddress(const QString &current) override;
     void setAddressValidator(std::function<bool(const QString &)> isValid) override;
 
 private:
     [[nodiscard]] QMessageBox::StandardButton run(const QString &title, const QString &text,
                                                   QMessageBox::StandardButtons buttons, const QString &iconFile);
+
+    /// What a dialog opens over: the dialog that is up already, or the window.
+    [[nodiscard]] QWidget *window() const;
 
     QPointer<QWidget> m_window;
     std::function<bool(const QString &)> m_isValid;

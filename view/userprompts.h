@@ -21,6 +21,8 @@ public:
     /// Empty: cancelled.
     [[nodiscard]] virtual QString openFileName(const QString &title, const QString &folder, const QString &filter) = 0;
     [[nodiscard]] virtual QString saveFileName(const QString &title, const QString &folder, const QString &filter) = 0;
+    /// An existing folder; empty: cancelled.
+    [[nodiscard]] virtual QString openFolder(const QString &title, const QString &folder) = 0;
     /// The reconnect dialog; nothing if it was rejected. The answer looks like an IPv4 address or a host name.
     [[nodiscard]] virtual std::optional<QString> askAddress(const QString &current) = 0;
     /// What askAddress() lets through; who has no use for it ignores it.

@@ -65,6 +65,7 @@ public:
     /// File dialogs start in the last folder and remember the one chosen. Empty: cancelled.
     [[nodiscard]] QString askOpenFile(const QString &title, const QString &filter);
     [[nodiscard]] QString askSaveFile(const QString &title, const QString &filter);
+    [[nodiscard]] QString askFolder(const QString &title);
     [[nodiscard]] std::optional<QString> askAddress(const QString &current);
     /// Which texts askAddress() lets through; until it is called every text that is not blank.
     void setAddressValidator(std::function<bool(const QString &)> isValid);

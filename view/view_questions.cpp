@@ -123,6 +123,15 @@ QString View::askSaveFile(const QString &title, const QString &filter)
     return file;
 }
 
+QString View::askFolder(const QString &title)
+{
+    qCDebug(lcView) << Q_FUNC_INFO << title;
+    const QString folder = d->oneAtATime(QString(), [&] { return d->prompts->openFolder(title, d->lastDir); });
+    if (!folder.isEmpty())
+        d->lastDir = folder;
+    return folder;
+}
+
 std::optional<QString> View::askAddress(const QString &current)
 {
     qCDebug(lcView) << Q_FUNC_INFO << current;

@@ -24,6 +24,7 @@ public:
     std::deque<QMessageBox::StandardButton> answers;
     std::deque<QString> openNames;
     std::deque<QString> saveNames;
+    std::deque<QString> folders;
     std::deque<QString> addresses; ///< an empty one rejects the dialog
     /// Runs while a dialog is up, as the event loop of a real one would.
     std::function<void()> whileOpen;
@@ -64,6 +65,11 @@ public:
     {
         fileDialogs << title + QLatin1Char('|') + filter;
         return answer(saveNames, QString());
+    }
+    QString openFolder(const QString &title, const QString &) override
+    {
+        fileDialogs << title;
+        return answer(folders, QString());
     }
     std::optional<QString> askAddress(const QString &) override
     {
