@@ -154,16 +154,16 @@ void CurveLayer::addToRaster(const OsziScene &scene, Drawn &drawn)
 {
     const OsziCurve &curve = *drawn.curve;
     drawn.samples = curve.samples->constData();
-    const SampleSpan span = visibleSpan(scene.geometry, curve.samples->size());
+    const SampleSpan span = drawnSpan(scene, curve);
     if (!span.isEmpty())
-        m_raster.add({drawn.samples, span, scene.offset, curve.channelOffset, curve.color.rgba()});
+        m_raster.add({drawn.samples, curve.shift, span, scene.offset, curve.channelOffset, curve.color.rgba()});
 }
 
 /// Whether a curve has its last sample there, so that nothing of it is drawn any more from there on.
 bool CurveLayer::anyEndsAt(int sample) const
 {
     return std::any_of(m_curves.begin(), m_curves.end(),
-                       [=](const Drawn &drawn) { return drawn.curve->samples->size() - 1 == sample; });
+                       [=](const Drawn &drawn) { return drawn.curve->end() - 1 == sample; });
 }
 
 void CurveLayer::extend(const OsziCurve &curve, int oldCount)
@@ -177,9 +177,8 @@ void CurveLayer::drawExtensions(const OsziScene &scene)
     const PlotGeometry &geometry = scene.geometry;
     for (const Extension &extension : m_extensions) {
         const OsziCurve &curve = *extension.curve;
-        const qint64 from = std::max<qint64>(qint64(extension.oldCount) - 1 - geometry.startIndex, 0);
-        const qint64 to =
-            std::min<qint64>(qint64(curve.samples->size()) - 1 - geometry.startIndex, geometry.visibleSamples());
+        const qint64 from = std::max<qint64>(qint64(extension.oldCount) + curve.shift - 1 - geometry.startIndex, 0);
+        const qint64 to = std::min<qint64>(curve.end() - 1 - geometry.startIndex, geometry.visibleSamples());
         if (to <= from)
             continue;
         const int firstColumn = int(from) * geometry.zoom;

@@ -153,7 +153,7 @@ void CurveRaster::updateBands(int firstSample, int lastSample)
 
 double CurveRaster::drawnValue(const RasterCurve &curve, int sample) const
 {
-    return curve.samples[qint64(m_geometry.startIndex) + sample] + curve.offset + curve.channelOffset;
+    return curve.samples[qint64(m_geometry.startIndex) - curve.shift + sample] + curve.offset + curve.channelOffset;
 }
 
 /// The segments from sample `first` to sample `last`: whole blocks by the kernel, the rest one by one.
@@ -169,7 +169,7 @@ void CurveRaster::addBlocks(const RasterCurve &curve, int first, int last)
         addSegments(curve, first, last);
         return;
     }
-    job.samples = curve.samples + m_geometry.startIndex;
+    job.samples = curve.samples + (qint64(m_geometry.startIndex) - curve.shift);
     job.offset = curve.offset;
     job.channelOffset = curve.channelOffset;
     job.bandLow = m_bandLow.data();

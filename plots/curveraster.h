@@ -16,7 +16,8 @@ struct Job;
 struct RasterCurve
 {
     const double *samples = nullptr; ///< sample 0
-    SampleSpan span;                 ///< samples whose joining segments are drawn; at least two
+    int shift = 0;                   ///< index at which it stands
+    SampleSpan span;                 ///< indices whose joining segments are drawn; at least two
     double offset = 0.0;             ///< added to every sample first
     double channelOffset = 0.0;      ///< added second
     QRgb color = 0;                  ///< opaque

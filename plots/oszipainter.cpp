@@ -139,7 +139,7 @@ QString endValueText(const OsziScene &scene)
     const OsziCurve *curve = scene.highlightedCurve();
     if (!curve || drawnSpan(scene, *curve).isEmpty())
         return {};
-    const int last = curve->samples->size() - 1;
+    const qint64 last = curve->end() - 1;
     if (last > scene.geometry.lastVisibleIndex())
         return {};
     return QString::number(scene.drawnValue(*curve, last), 'f', labelDecimals(scene.geometry.span()) + 1);
@@ -151,7 +151,7 @@ QRect endValueRect(const OsziScene &scene, const QFont &font, LabelCache &labels
     if (text.isEmpty())
         return {};
     const OsziCurve &curve = *scene.highlightedCurve();
-    const QPoint end = scene.pointOf(curve, curve.samples->size() - 1);
+    const QPoint end = scene.pointOf(curve, curve.end() - 1);
     QRect rect(QPoint(end.x() + kEndValueGap, 0), roundedUp(labels.label(text, font).size()));
     if (rect.right() >= scene.geometry.widgetWidth)
         rect.moveRight(std::min(end.x() - kEndValueGap, scene.geometry.widgetWidth - 1));

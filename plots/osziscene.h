@@ -17,6 +17,10 @@ struct OsziCurve
     QColor color = Qt::black;
     bool shown = false;
     double channelOffset = 0.0; ///< added to this curve's samples only
+    int shift = 0;              ///< index at which sample 0 stands
+
+    /// Where the curve ends: one behind the index of the last sample.
+    [[nodiscard]] qint64 end() const { return qint64(samples->size()) + shift; }
 };
 
 /// A dashed horizontal reference line.
@@ -55,10 +59,10 @@ struct OsziScene
     {
         return isSlot(highlighted) ? &curves[size_t(highlighted)] : nullptr;
     }
-    /// The value drawn for a sample.
+    /// The value drawn at an index where the curve has a sample.
     [[nodiscard]] double drawnValue(const OsziCurve &curve, qint64 index) const
     {
-        return curve.samples->at(int(index)) + offset + curve.channelOffset;
+        return curve.samples->at(int(index - curve.shift)) + offset + curve.channelOffset;
     }
     [[nodiscard]] QPoint pointOf(const OsziCurve &curve, qint64 index) const
     {
@@ -66,8 +70,9 @@ struct OsziScene
     }
 };
 
-/// The segments to draw of a slot: none when it is hidden or empty.
+/// The segments to draw of a slot, by index: none when it is hidden or empty.
 [[nodiscard]] inline SampleSpan drawnSpan(const OsziScene &scene, const OsziCurve &curve)
 {
-    return curve.shown && curve.samples ? visibleSpan(scene.geometry, curve.samples->size()) : SampleSpan();
+    return curve.shown && curve.samples ? visibleSpan(scene.geometry, curve.samples->size(), curve.shift)
+                                        : SampleSpan();
 }

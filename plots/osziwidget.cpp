@@ -8,6 +8,7 @@
 #include <QTransform>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -89,6 +90,22 @@ void OsziWidget::setCurve(int slot, const SampleList *samples, const QColor &col
     d->knownCounts[size_t(slot)] = samples ? samples->size() : 0;
     d->topSlot = samples ? std::max(d->topSlot, slot) : d->topSlot;
     d->curvesChanged(this);
+}
+
+void OsziWidget::setCurvePlace(int slot, int shift, double channelOffset)
+{
+    OsziCurve *curve = d->slotAt(slot);
+    if (!curve || !std::isfinite(channelOffset))
+        return;
+    curve->shift = shift;
+    curve->channelOffset = channelOffset;
+    d->curvesChanged(this);
+}
+
+PlotGeometry OsziWidget::plotGeometry() const
+{
+    d->measure(this);
+    return d->scene.geometry;
 }
 
 void OsziWidget::clearCurves()

@@ -8,6 +8,8 @@
 
 #include <memory>
 
+struct PlotGeometry;
+
 /// The plot: curves over a common value axis and a common time axis, with grids, reference lines, markers, phase
 /// names, one highlighted curve and a mouse read-out. Points at sample lists and owns none: whoever removes samples
 /// clears or re-points the slots first.
@@ -28,10 +30,13 @@ public:
     using QFrame::setDisabled;
     using QFrame::setEnabled;
 
-    /// Points a slot at a list (nullptr empties it). Keeps the slot's channel offset. A slot outside
+    /// Points a slot at a list (nullptr empties it). Keeps the slot's place. A slot outside
     /// 0 to kNumSlots - 1 is ignored.
     void setCurve(int slot, const SampleList *samples, const QColor &color, bool shown);
-    /// Empties all slots (samples and shown flag); channel offsets stay.
+    /// Where a slot's curve stands: its sample 0 at index `shift` (the time axis begins with index 0), its values
+    /// higher by `channelOffset`. Both stay until they are set again.
+    void setCurvePlace(int slot, int shift, double channelOffset);
+    /// Empties all slots (samples and shown flag); their places stay.
     void clearCurves();
     [[nodiscard]] const SampleList *curve(int slot) const;
     [[nodiscard]] bool isShown(int slot) const;
@@ -98,6 +103,9 @@ public slots:
     void setHighlightColor(const QColor &color);
 
 protected:
+    /// Where values and samples lie in the widget, as of now.
+    [[nodiscard]] PlotGeometry plotGeometry() const;
+
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;

@@ -76,8 +76,8 @@ void OsziWidget::Private::noticeGrowth(OsziWidget *widget, int slot)
 QRect OsziWidget::Private::grownRect(const OsziCurve &curve, int oldCount) const
 {
     const PlotGeometry &geometry = scene.geometry;
-    const qint64 first = std::max<qint64>(oldCount - 1, geometry.startIndex);
-    const qint64 last = std::min<qint64>(curve.samples->size() - 1, geometry.lastVisibleIndex());
+    const qint64 first = std::max<qint64>(qint64(oldCount) + curve.shift - 1, geometry.startIndex);
+    const qint64 last = std::min<qint64>(curve.end() - 1, geometry.lastVisibleIndex());
     if (last < first)
         return {};
     const int left = geometry.xOfSample(first) - kPenReach;

@@ -110,7 +110,7 @@ void OsziWidget::showMouseMarker(int x)
     const OsziScene &scene = d->scene;
     const OsziCurve *curve = scene.highlightedCurve();
     const qint64 index = scene.geometry.sampleAt(x);
-    if (!curve || !curve->samples || index < 0 || index >= curve->samples->size()) {
+    if (!curve || !curve->samples || index < curve->shift || index >= curve->end()) {
         hideMouseMarker();
         return;
     }

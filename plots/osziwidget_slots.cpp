@@ -12,8 +12,8 @@ constexpr double kSmallestRange = 0.0001; // value units between the lower and t
 /// channelOffset that lets a curve pass through zero at a sample; the slot keeps its own where there is no such sample.
 void passThroughZero(OsziCurve &curve, qint64 index)
 {
-    if (curve.samples && index >= 0 && index < curve.samples->size())
-        curve.channelOffset = -curve.samples->at(int(index));
+    if (curve.samples && index >= curve.shift && index < curve.end())
+        curve.channelOffset = -curve.samples->at(int(index - curve.shift));
 }
 
 } // namespace

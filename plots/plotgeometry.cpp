@@ -42,12 +42,13 @@ bool operator==(const PlotGeometry &a, const PlotGeometry &b)
     return key(a) == key(b);
 }
 
-SampleSpan visibleSpan(const PlotGeometry &geometry, int count)
+SampleSpan visibleSpan(const PlotGeometry &geometry, int count, int shift)
 {
     SampleSpan span;
-    if (count - 1 <= geometry.startIndex)
+    const qint64 last = qint64(count) - 1 + shift;
+    if (last <= geometry.startIndex)
         return span;
-    span.first = std::max(geometry.startIndex, 0);
-    span.last = std::min<qint64>(count - 1, geometry.lastVisibleIndex());
+    span.first = std::max(geometry.startIndex, shift);
+    span.last = std::min(last, geometry.lastVisibleIndex());
     return span;
 }

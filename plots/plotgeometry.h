@@ -64,5 +64,6 @@ struct SampleSpan
     [[nodiscard]] bool isEmpty() const { return last <= first; } ///< fewer than two samples make no segment
 };
 
-/// What is drawn of a curve of `count` samples: nothing unless it reaches beyond the start index.
-[[nodiscard]] SampleSpan visibleSpan(const PlotGeometry &geometry, int count);
+/// What is drawn of a curve of `count` samples, the first of which stands at index `shift`: nothing unless it reaches
+/// beyond the start index. Indices, not samples.
+[[nodiscard]] SampleSpan visibleSpan(const PlotGeometry &geometry, int count, int shift = 0);

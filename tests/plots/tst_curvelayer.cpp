@@ -34,6 +34,7 @@ struct Kind
     int largestZoom = 1;
     double noise = 2.0;
     double reach = 100.0; ///< values run from -reach / 2 to 1.5 reach around a range of 0 to 100
+    int shift = 0;        ///< largest shift either way
     double jumps = 0.0;   ///< share of samples that jump anywhere within reach
 };
 
@@ -83,6 +84,7 @@ void fillWorld(Random &random, const Kind &kind, World &world)
         curve.samples = &world.lists.back();
         curve.shown = between(random, 0, 7) > 0;
         curve.color = QColor::fromHsv(between(random, 0, kind.colors - 1) * 20, 255, 200);
+        curve.shift = between(random, -kind.shift, kind.shift);
         curve.channelOffset = between(random, 0, 2) ? 0.0 : real(random, -20.0, 20.0);
     }
     world.scene.offset = between(random, 0, 2) ? 0.0 : real(random, -20.0, 20.0);
@@ -200,6 +202,8 @@ void TestCurveLayer::pictureMatchesThePlainOne_data()
     row("partly outside", 20, [](Kind &k) { k.reach = 160.0, k.jumps = 0.05; });
     row("far outside", 20, [](Kind &k) { k.reach = 1e6, k.jumps = 0.3; });
     row("beyond all pixels", 15, [](Kind &k) { k.reach = 1e300, k.jumps = 0.3; });
+    row("shifted", 20, [](Kind &k) { k.shift = 150, k.jumps = 0.02; });
+    row("shifted, zoom", 20, [](Kind &k) { k.shift = 90, k.largestZoom = 12; });
     row("zoom", 30, [](Kind &k) { k.largestZoom = 12, k.jumps = 0.05; });
     row("large zoom", 20, [](Kind &k) { k.largestZoom = 400, k.jumps = 0.05; });
     row("zoom, many colours, far outside", 20,
@@ -237,6 +241,7 @@ void TestCurveLayer::keptPictureFollowsTheScene_data()
     row("short curves", [](Kind &k) { k.samples = 30; });
     row("many colours", [](Kind &k) { k.colors = 12; });
     row("jumps far outside", [](Kind &k) { k.reach = 1e4, k.jumps = 0.2; });
+    row("shifted", [](Kind &k) { k.shift = 150; });
     row("zoom", [](Kind &k) { k.largestZoom = 9, k.jumps = 0.1; });
     row("large zoom", [](Kind &k) { k.largestZoom = 300, k.samples = 20; });
     row("tall row", [](Kind &k) { k.height = 500, k.curves = 8; });

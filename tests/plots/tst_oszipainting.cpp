@@ -1,6 +1,7 @@
 #include "plots/osziwidget.h"
 
 #include <QImage>
+#include <QLabel>
 #include <QTest>
 
 namespace {
@@ -57,6 +58,7 @@ private slots:
     void backgroundComesFromTheStyleSheet();
     void gridLinesAndLabels();
     void curvesJoinTheirSamples();
+    void shiftedCurveIsTheScrolledOne();
     void highlightedIsOnTop();
     void endValueStaysInside_data();
     void endValueStaysInside();
@@ -132,6 +134,29 @@ void TestOsziPainting::curvesJoinTheirSamples()
     QVERIFY(!occurs(image, QRect(131, 0, 300, kHeight), Qt::blue));
     m_plot->setDisabled(0);
     QVERIFY(!occurs(picture(*m_plot), QRect(0, 0, kWidth, kHeight), Qt::blue));
+}
+
+/// Every index of the time axis shows the sample that a curve without a shift has there when the view starts earlier.
+void TestOsziPainting::shiftedCurveIsTheScrolledOne()
+{
+    const SampleList samples{0.1, 0.9, 0.3, 0.5, 0.2, 0.7, 0.6};
+    m_plot->setZoom(9);
+    m_plot->highlightSingle(1);
+    m_plot->setCurve(0, &samples, Qt::blue, true);
+    m_plot->setCurve(1, &samples, Qt::red, true);
+    m_plot->setChannelOffset(1, 0.2);
+    m_plot->setStartIndex(-3);
+    const QImage scrolled = picture(*m_plot);
+    m_plot->setStartIndex(0);
+    QVERIFY(picture(*m_plot) != scrolled);
+    m_plot->setCurvePlace(0, 3, 0.0);
+    m_plot->setCurvePlace(1, 3, 0.2);
+    QCOMPARE(picture(*m_plot), scrolled);
+
+    m_plot->showMouseMarker(70 + 9 * 4);
+    QCOMPARE(m_plot->findChild<QLabel *>(QStringLiteral("mouseReadOut"))->text(), QStringLiteral("1.1"));
+    m_plot->showMouseMarker(70 + 9 * 2); // the curve begins behind
+    QVERIFY(m_plot->findChild<QLabel *>(QStringLiteral("mouseReadOut"))->isHidden());
 }
 
 void TestOsziPainting::highlightedIsOnTop()
