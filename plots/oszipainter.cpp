@@ -24,7 +24,10 @@ constexpr int kWidestTimeLabel = 200;
 constexpr int kThickPen = 3;
 constexpr int kDashPeriod = kThickPen * (4 + 2); // a dash of 4 and a gap of 2 pen widths
 constexpr int kLastPhaseWidth = 100;
-constexpr int kEndValueGap = 4; // pixels between the end of the curve and its value
+constexpr int kEndValueGap = 4;   // pixels between the end of the curve and its value
+constexpr int kEndValueRaise = 6; // pixels between a line through the end and its value
+constexpr int kValueLabelLeft = 2;
+constexpr int kValueLabelRoom = kLeft - 3 - kValueLabelLeft; // pixels, up to the time axis
 
 QPen dashedPen(const QColor &color)
 {
@@ -34,6 +37,24 @@ QPen dashedPen(const QColor &color)
 QSize roundedUp(const QSizeF &size)
 {
     return {qCeil(size.width()), qCeil(size.height())};
+}
+
+/// A label too long for its place goes on to the right, and is drawn smaller before it would reach the axis: a sign or
+/// a digit cut off would make it another number.
+void paintValueLabel(QPainter &painter, const QStaticText &label, int y)
+{
+    const QSize size = roundedUp(label.size());
+    if (size.width() <= kValueLabelRoom) {
+        const int left = std::max(kValueLabelLeft, kValueLabelRight - size.width());
+        painter.drawStaticText(left, y - size.height() / 2, label);
+        return;
+    }
+    const double scale = double(kValueLabelRoom) / size.width();
+    painter.save();
+    painter.translate(kValueLabelLeft, y - size.height() * scale / 2);
+    painter.scale(scale, scale);
+    painter.drawStaticText(0, 0, label);
+    painter.restore();
 }
 
 /// Pixels from the left edge of the plot area to a marker; not positive for markers that are not drawn.
@@ -71,12 +92,10 @@ void paintValueGrid(QPainter &painter, const OsziScene &scene, const QRect &regi
         const int y = geometry.yOfValue(value);
         painter.setPen(i == 0 ? Qt::black : Qt::gray);
         painter.drawLine(kLeft, y, geometry.width, y);
-        if (region.left() > kValueLabelRight)
+        if (region.left() >= kLeft)
             continue;
         painter.setPen(Qt::black);
-        const QStaticText &label = labels.label(locale.toString(value, 'f', decimals), painter.font());
-        const QSize size = roundedUp(label.size());
-        painter.drawStaticText(kValueLabelRight - size.width(), y - size.height() / 2, label);
+        paintValueLabel(painter, labels.label(locale.toString(value, 'f', decimals), painter.font()), y);
     }
 }
 
@@ -153,11 +172,14 @@ QRect endValueRect(const OsziScene &scene, const QFont &font, LabelCache &labels
     const OsziCurve &curve = *scene.highlightedCurve();
     const QPoint end = scene.pointOf(curve, curve.end() - 1);
     QRect rect(QPoint(end.x() + kEndValueGap, 0), roundedUp(labels.label(text, font).size()));
-    if (rect.right() >= scene.geometry.widgetWidth)
+    int top = end.y() - rect.height() / 2;
+    if (rect.right() >= scene.geometry.widgetWidth) { // left of the end, where the curve would strike it through
         rect.moveRight(std::min(end.x() - kEndValueGap, scene.geometry.widgetWidth - 1));
+        top = end.y() - kEndValueRaise - rect.height();
+        top = top < 0 ? end.y() + kEndValueRaise : top;
+    }
     rect.moveLeft(std::max(rect.left(), 0));
-    const int lowest = std::max(scene.geometry.height - rect.height(), 0);
-    rect.moveTop(std::clamp(end.y() - rect.height() / 2, 0, lowest));
+    rect.moveTop(std::clamp(top, 0, std::max(scene.geometry.height - rect.height(), 0)));
     return rect;
 }
 

@@ -57,6 +57,8 @@ private slots:
     void cleanup();
     void backgroundComesFromTheStyleSheet();
     void gridLinesAndLabels();
+    void longValueLabelsAreWhole_data();
+    void longValueLabelsAreWhole();
     void curvesJoinTheirSamples();
     void shiftedCurveIsTheScrolledOne();
     void highlightedIsOnTop();
@@ -117,6 +119,33 @@ void TestOsziPainting::gridLinesAndLabels()
     const QRect timeLabel(OsziWidget::kLeftMargin + 98, kHeight - m_margin + 2, 30, m_margin - 4);
     QVERIFY(inkIn(image, timeLabel) > 20);
     QCOMPARE(inkIn(image, leftLabel.translated(0, 40)), 0);
+}
+
+void TestOsziPainting::longValueLabelsAreWhole_data()
+{
+    QTest::addColumn<double>("limit");
+    QTest::newRow("moved to the right") << 8e4;
+    QTest::newRow("drawn smaller") << 8e7;
+}
+
+/// The label below zero begins with its sign, a low stroke, and neither touches the edge or the axis.
+void TestOsziPainting::longValueLabelsAreWhole()
+{
+    QFETCH(double, limit);
+    m_plot->setStyleSheet(m_plot->styleSheet() + QStringLiteral("OsziWidget { font-size: 18px; }"));
+    m_plot->setMaxValue(limit);
+    m_plot->setMinValue(-limit);
+    m_plot->setValueGrid(limit);
+    const QImage image = picture(*m_plot);
+    for (const bool negative : {false, true}) {
+        const int y = negative ? kHeight - m_margin : m_margin;
+        QCOMPARE(inkIn(image, QRect(1, y - 9, 1, 18)), 0);
+        QCOMPARE(inkIn(image, QRect(68, y - 9, 2, 18)), 0);
+        int left = 2;
+        while (left < 60 && inkIn(image, QRect(left, y - 9, 1, 18)) == 0)
+            ++left;
+        QCOMPARE(inkIn(image, QRect(left + 1, y - 9, 1, 18)) <= 3, negative);
+    }
 }
 
 void TestOsziPainting::curvesJoinTheirSamples()
@@ -182,8 +211,9 @@ void TestOsziPainting::endValueStaysInside_data()
     QTest::addColumn<QRect>("where");
 
     QTest::newRow("right of the end") << 200 << 0.5 << true << QRect(275, 100, 60, 40);
-    QTest::newRow("left of it at the right edge") << 528 << 0.5 << true << QRect(530, 105, 55, 10);
-    QTest::newRow("end out of view") << 530 << 0.5 << false << QRect(530, 105, 55, 10);
+    QTest::newRow("on the curve at the right edge") << 528 << 0.5 << true << QRect(555, 95, 35, 18);
+    QTest::newRow("below it where there is no room above") << 528 << 1.05 << true << QRect(555, 21, 35, 14);
+    QTest::newRow("end out of view") << 530 << 0.5 << false << QRect(555, 95, 35, 18);
     QTest::newRow("above") << 200 << 7.0 << true << QRect(275, 1, 60, 20);
     QTest::newRow("below") << 200 << -7.0 << true << QRect(275, 220, 60, 18);
 }
