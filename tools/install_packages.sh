@@ -8,6 +8,7 @@ set -euo pipefail
 
 packages=(cmake ninja-build g++ python3 qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n rapidjson-dev
     openssh-client sshpass)
+packages+=(qt5-image-formats-plugins) # to save pictures as TIFF
 case ${1:-test} in
 run) [ -z "${WAYLAND_DISPLAY:-}" ] || [ -n "${DISPLAY:-}" ] || packages+=(qtwayland5) ;;
 test) packages+=(clang-format libnss-wrapper openssh-server) ;;

@@ -147,7 +147,8 @@ void TestViewExport::saveOszi_data()
     QTest::addColumn<QString>("chosen");
     QTest::addColumn<bool>("works");
     QTest::newRow("png") << QStringLiteral("o.png") << true;
-    QTest::newRow("bmp") << QStringLiteral("o.bmp") << true;
+    for (const QString &offered : {QStringLiteral("o.bmp"), QStringLiteral("o.jpg"), QStringLiteral("o.tif")})
+        QTest::newRow(qPrintable(offered)) << offered << true;
     QTest::newRow("unknown format") << QStringLiteral("o.xyz") << false;
     QTest::newRow("no suffix") << QStringLiteral("o") << false;
     QTest::newRow("no such folder") << QStringLiteral("missing/o.png") << false;
