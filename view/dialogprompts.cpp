@@ -7,14 +7,19 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QGridLayout>
+#include <QHeaderView>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScreen>
+#include <QTreeView>
 
 namespace {
 
 constexpr QSize kPanelSize(800, 600);
 constexpr int kButtonRowHeight = 84;
 constexpr QSize kIconSize(72, 72);
+constexpr QSize kFileDialogSize(1000, 660);
+constexpr int kFileColumns[] = {330, 120, 120, 190}; // name, size, type, date
 
 struct AnswerText
 {
@@ -32,8 +37,21 @@ constexpr AnswerText kAnswers[] = {
     {QMessageBox::Cancel, QT_TRANSLATE_NOOP("DialogPrompts", "Abbrechen")},
 };
 
+/// With large fonts Qt's own sizes cut off folders, file sizes and dates.
+void makeRoomy(QFileDialog &dialog)
+{
+    dialog.resize(kFileDialogSize.boundedTo(dialog.screen()->availableSize()));
+    const auto *list = dialog.findChild<QTreeView *>(QStringLiteral("treeView")); // none in a platform's own dialog
+    if (!list)
+        return;
+    int column = 0;
+    for (const int width : kFileColumns)
+        list->header()->resizeSection(column++, width);
+}
+
 void prepare(QFileDialog &dialog, const QString &filter)
 {
+    makeRoomy(dialog);
     dialog.setNameFilters(filter.split(QStringLiteral(";;")));
     const auto useSuffix = [&dialog](const QString &selected) { dialog.setDefaultSuffix(filterSuffix(selected)); };
     QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, useSuffix);
