@@ -4,6 +4,7 @@
 #include "controller/controller_p.h"
 #include "controller/logging.h"
 #include "device/hostaddress.h"
+#include "device/samplingperiod.h"
 #include "model/model.h"
 #include "view/tabblackbox.h"
 #include "view/taboszilloscope.h"
@@ -49,6 +50,7 @@ Controller::Controller(Model *model, View *view, const ControllerOptions &option
     connectTransfers(options);
     hideUnavailableActions();
     d->view->setAddressValidator(isValidHostAddress);
+    d->view->tabOszi()->setSamplingPeriods(samplingPeriodLabels());
     d->view->setDeviceAddress(d->address);
 }
 
@@ -89,6 +91,7 @@ void Controller::connectTabs()
     QObject::connect(oszi, &TabOszilloscope::markerChangedRelative, this, &Controller::onTabOszi_markerChangedRelative);
     QObject::connect(oszi, &TabOszilloscope::checkBoxMarkerAbsClicked, this,
                      &Controller::onTabOszi_checkBoxMarkerAbsClicked);
+    QObject::connect(oszi, &TabOszilloscope::samplingPeriodChosen, this, &Controller::onTabOszi_samplingPeriodChosen);
 
     QObject::connect(d->view->tabBlackBox(), &TabBlackBox::listRequested, this, &Controller::onTabBlackBox_listClicked);
     QObject::connect(d->view, &View::terminalSend, this, &Controller::onTerminalSend);

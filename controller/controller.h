@@ -78,6 +78,7 @@ public slots:
     void onTabOszi_markerChangedAbsolute(int index, int pos_ms);
     void onTabOszi_markerChangedRelative(int index, int pos_ms);
     void onTabOszi_checkBoxMarkerAbsClicked(bool absolute);
+    void onTabOszi_samplingPeriodChosen(const QString &label);
     void onTabBlackBox_listClicked();
     void onTabBlackBox_fetchBlackBoxDataClicked();
     void onTabBlackBox_openLocalFolderClicked();
@@ -138,6 +139,7 @@ private:
     void connectTo(const QString &address, const QString &progressText);
     void cancelConnecting();
     void leaveDevice();
+    void matchBoxToProject();
     void reportConnectionError(QAbstractSocket::SocketError error);
     void offerReconnect();
 

@@ -2,6 +2,7 @@
 #include "controller/controller_p.h"
 #include "controller/logging.h"
 #include "device/hostaddress.h"
+#include "device/samplingperiod.h"
 #include "model/model.h"
 #include "view/tabblackbox.h"
 #include "view/view.h"
@@ -56,6 +57,39 @@ void Controller::leaveDevice()
     d->connector.disconnectFromHost();
 }
 
+// --- The sampling period ---------------------------------------------------------------------------------------
+
+void Controller::onTabOszi_samplingPeriodChosen(const QString &label)
+{
+    qCDebug(lcController) << Q_FUNC_INFO << label;
+    if (refuseWhileOccupied() || label == samplingPeriodLabel(d->model->clock()))
+        return;
+    if (d->recordingRunning) {
+        d->view->showStatus(tr("Die Abtastrate lässt sich nicht ändern, solange eine Aufzeichnung läuft."));
+        return;
+    }
+    // A project has one period for all its measurements: those stored would be drawn over another time.
+    const QString question = tr("Die vorhandenen Messungen erhalten die Zeitachse der neuen Abtastrate. Fortfahren?");
+    if (d->model->numChannels(0) > 0
+        && !d->prompt([&] { return d->view->askYesNo(tr("Abtastrate ändern"), question); }))
+        return;
+    d->connector.setClock(label); // takes effect with the answer of the box
+}
+
+/// A project that came in has a period of its own: what is recorded into it must be sampled with that.
+void Controller::matchBoxToProject()
+{
+    const int clock = d->model->clock();
+    if (!d->connector.isConnected() || clock == d->boxClock)
+        return;
+    const QString label = samplingPeriodLabel(clock);
+    if (label.isEmpty())
+        d->view->showStatus(tr("Achtung: Das Projekt ist mit %1 ms je Wert aufgezeichnet, die Box misst mit %2 ms.")
+                                .arg(clock)
+                                .arg(d->boxClock));
+    d->connector.setClock(label);
+}
+
 // --- What the link reports -------------------------------------------------------------------------------------
 
 void Controller::onConnected()
@@ -69,6 +103,7 @@ void Controller::onConnected()
     d->model->setConnected(true);
     d->model->emitAppStateChanged();
     d->connector.setClock(QStringLiteral("100ms"));
+    d->boxClock = 100;
     if (d->model->clock() != 100)
         markModified();
     d->model->setClock(100);

@@ -105,6 +105,7 @@ void Controller::handleClockEcho(const QString &message)
     d->model->blockSignals(false);
     if (*clock != d->model->clock())
         markModified();
+    d->boxClock = *clock;
     d->model->setClock(*clock);
     d->view->tabOszi()->setClock(*clock, *clock * 100);
 }

@@ -58,6 +58,7 @@ struct Controller::Private
     QTimer listTimer;
     bool linkWanted = false; ///< errors of a link that the user gave up are of no interest
     std::optional<QAbstractSocket::SocketError> deferredError;
+    int boxClock = 0; ///< ms, the sampling period that the box was last asked for or has reported
 
     // --- Transfers and restart of the box ---
     QString temporaryDirectory;

@@ -169,6 +169,7 @@ void Controller::showDeviceState()
     d->view->setConnected(d->model->isConnected());
     if (d->recordingRunning)
         d->view->setRecordingRunning(true);
+    matchBoxToProject();
 }
 
 // --- Quit ------------------------------------------------------------------------------------------------------

@@ -6,6 +6,7 @@
 #include "view/taboszilloscope_p.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QEvent>
 #include <QLabel>
 #include <QScrollBar>
@@ -41,6 +42,7 @@ void TabOszilloscope::setModel(Model *model)
         clearSlots();
         return;
     }
+    connect(model, &Model::appStateChanged, this, [this] { d->updateEnabled(); });
     connect(model, &Model::projectChanged, this, &TabOszilloscope::onModel_projectChanged);
     connect(model, &Model::dataChanged, this, &TabOszilloscope::onModel_dataChanged);
     connect(model, &Model::viewDataChanged, this, &TabOszilloscope::onModel_viewDataChanged);
@@ -190,9 +192,29 @@ void TabOszilloscope::setClock(int clock, int clockGrid)
         d->applyYCorrection();
 }
 
+void TabOszilloscope::setSamplingPeriods(const QStringList &labels)
+{
+    qCDebug(lcView) << Q_FUNC_INFO << labels;
+    const QSignalBlocker blocker(d->sampleRate);
+    d->sampleRate->clear();
+    for (const QString &label : labels)
+        d->sampleRate->addItem(QString(label).replace(QLatin1String("ms"), QLatin1String(" ms")), label);
+    d->showSampleRate();
+}
+
+void TabOszilloscope::Private::chooseSampleRate(int index)
+{
+    const QString label = sampleRate->itemData(index).toString();
+    showSampleRate();
+    qCDebug(lcView) << "emit samplingPeriodChosen(QString)" << label;
+    emit q->samplingPeriodChosen(label);
+}
+
 void TabOszilloscope::Private::showSampleRate()
 {
-    sampleRate->setText(TabOszilloscope::tr("%1 ms").arg(clock));
+    const QString text = TabOszilloscope::tr("%1 ms").arg(clock);
+    sampleRate->setCurrentIndex(sampleRate->findText(text));
+    sampleRate->setPlaceholderText(text); // seen where it is none of those on offer
 }
 
 void TabOszilloscope::Private::showSensorNames()

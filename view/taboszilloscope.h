@@ -33,6 +33,8 @@ public:
     /// The sampling period, and the largest clock grid offered (100 times the period).
     /// A clock below 1 is ignored.
     void setClock(int clock, int clockGrid);
+    /// The sampling periods on offer while a box is connected, as labels: "100ms" stands for 100 milliseconds.
+    void setSamplingPeriods(const QStringList &labels);
     /// Colour of a marker's line and button; invalid for an index outside 0 to 3.
     [[nodiscard]] static QColor markerColor(int index);
     /// Limits of a row's range boxes / the range shown, kept in the model as well. Only group 0 exists; ends that are
@@ -48,6 +50,8 @@ signals:
     void markerChangedRelative(int index, int pos_ms);
     void checkBoxMarkerAbsClicked(bool absolute);
     void deleteMeasurements(const QString &range);
+    /// The user wants this sampling period; the tab goes on showing the one in force until setClock().
+    void samplingPeriodChosen(const QString &label);
 
 public slots:
     void update();

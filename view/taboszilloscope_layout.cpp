@@ -7,6 +7,7 @@
 #include "view/taboszilloscope_p.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QIcon>
@@ -35,6 +36,8 @@ QString compactSheet()
                           "QPushButton {min-height: 34px; min-width: 44px;}"
                           "QPushButton#lockButton {min-width: 56px;}"
                           "QPushButton#lockButton:checked {background-color: #B3261E;}"
+                          "QComboBox {font-size: 16px; min-height: 28px; padding: 0px 2px;}"
+                          "QComboBox QAbstractItemView::item {min-height: 34px;}"
                           "QCheckBox {spacing: 4px; padding: 1px;}"
                           "QCheckBox::indicator {width: 24px; height: 24px;}"
                           "QWidget#osziRows {background-color: white;}"
@@ -234,8 +237,11 @@ QWidget *TabOszilloscope::Private::createSampleRate(QWidget *parent)
     auto *frame = new QFrame(parent);
     frame->setObjectName(QStringLiteral("frameSampleRate"));
     sampleRateCaption = new QLabel(frame);
-    sampleRate = new QLabel(frame);
-    sampleRate->setObjectName(QStringLiteral("clockLabel"));
+    sampleRateCaption->setObjectName(QStringLiteral("clockLabel"));
+    sampleRate = new QComboBox(frame);
+    sampleRate->setObjectName(QStringLiteral("comboBoxClock"));
+    sampleRate->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    sampleRateCaption->setBuddy(sampleRate);
     QHBoxLayout *layout = groupLayout(frame);
     layout->addWidget(sampleRateCaption);
     layout->addWidget(sampleRate);

@@ -14,6 +14,7 @@ class OsziDoubleSpinBox;
 class OsziRowInput;
 class OsziSpinBox;
 class QCheckBox;
+class QComboBox;
 class QFrame;
 class QHBoxLayout;
 class QLineEdit;
@@ -67,6 +68,7 @@ struct TabOszilloscope::Private
     void showLock();
     void showSensor(int position, bool shown);
     void showSampleRate();
+    void chooseSampleRate(int index);
     void showSensorNames();
     void showCounter();
 
@@ -143,7 +145,7 @@ struct TabOszilloscope::Private
     OsziSpinBox *yCorrectionTime = nullptr;
 
     QLabel *sampleRateCaption = nullptr;
-    QLabel *sampleRate = nullptr;
+    QComboBox *sampleRate = nullptr;
 
     QLabel *counterCaption = nullptr;
     QLabel *counter = nullptr;

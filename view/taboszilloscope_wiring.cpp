@@ -5,6 +5,7 @@
 #include "view/taboszilloscope_p.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QFrame>
 #include <QIcon>
 #include <QLineEdit>
@@ -46,7 +47,10 @@ void TabOszilloscope::Private::connectInput(int position)
     connect(input, &OsziRowInput::valueDragged, q, [this, row](int pixels) { dragValue(row, pixels); });
     connect(input, &OsziRowInput::timeStepped, q, [this](int tenths) { stepTime(tenths); });
     connect(input, &OsziRowInput::valueStepped, q, [this, row](int tenths) { stepValue(row, tenths); });
-    connect(input, &OsziRowInput::jumpedToStart, q, [this] { scrollBar->setValue(0); });
+    connect(input, &OsziRowInput::jumpedToStart, q, [this] {
+        scrollBar->setValue(0);
+        holdBack();
+    });
     connect(input, &OsziRowInput::jumpedToEnd, q, [this] { scrollBar->setValue(scrollBar->maximum()); });
     connect(input, &OsziRowInput::fitRequested, q, [this, position] { fitValue(position); });
     connect(input, &OsziRowInput::cancelled, q, [this] { armMarker(-1, false); });
@@ -64,6 +68,7 @@ void TabOszilloscope::Private::connectControls()
     connect(zoom, &QSlider::valueChanged, q, [this](int value) { applyZoom(value); });
     connect(clockGridAuto, &QCheckBox::toggled, q, [this] { updateEnabled(); });
     connect(lockButton, &QPushButton::toggled, q, [this] { showLock(); });
+    connect(sampleRate, qOverload<int>(&QComboBox::activated), q, [this](int index) { chooseSampleRate(index); });
     for (int i = 0; i < Model::kNumMarkers; ++i) {
         const Marker &marker = markers.at(static_cast<size_t>(i));
         connect(marker.button, &QPushButton::toggled, q, [this, i](bool armed) { armMarker(i, armed); });
@@ -94,6 +99,7 @@ void TabOszilloscope::Private::updateEnabled()
     markerFrame->setEnabled(open);
     yCorrection->setEnabled(open);
     yCorrectionTime->setEnabled(open);
+    sampleRate->setEnabled(open && model && model->isConnected());
     for (QWidget *control : {static_cast<QWidget *>(allMeasurements), static_cast<QWidget *>(displayed),
                              static_cast<QWidget *>(highlight)})
         control->setEnabled(any);
@@ -148,6 +154,9 @@ void TabOszilloscope::Private::retranslateUi()
     yCorrectionTime->setToolTip(TabOszilloscope::tr("Zeit, zu der jede Kurve durch null geht"));
     yCorrectionTime->setAccessibleName(TabOszilloscope::tr("Zeit der y Korrektur"));
     sampleRateCaption->setText(TabOszilloscope::tr("Abtastrate"));
+    sampleRate->setToolTip(
+        TabOszilloscope::tr("Zeit zwischen zwei Messwerten; wählbar, solange die Box verbunden ist"));
+    sampleRate->setAccessibleName(sampleRateCaption->text());
     retranslateMarkers();
     retranslateMeasurements();
     showSampleRate();

@@ -3,6 +3,7 @@
 #include "view/tabproject.h"
 #include "view/tabterminal.h"
 
+#include <QComboBox>
 #include <QProcess>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -67,6 +68,7 @@ private slots:
     void disconnectStopsTheBox();
     void quitStopsTheBox();
     void terminalSendsAndShows();
+    void samplingPeriodIsChosenAndMatched();
     void independentBox();
 
 private:
@@ -207,6 +209,37 @@ void TestSession::terminalSendsAndShows()
     QCOMPARE(text.count(QStringLiteral("t=5")), 2); // what went out and its echo
     QVERIFY(text.contains(QStringLiteral("<sensorDescription")));
     QVERIFY(!text.contains(QStringLiteral("early")));
+}
+
+/// The user chooses the period of the project; a project that replaces it brings its own, which the box then takes.
+void TestSession::samplingPeriodIsChosenAndMatched()
+{
+    Rig rig;
+    Bench &bench = rig.bench;
+    auto *periods = bench.view.findChild<QComboBox *>(QStringLiteral("comboBoxClock"));
+    QVERIFY(periods && periods->count() == 11 && !periods->isEnabled());
+    QVERIFY(rig.connectToBox());
+    QVERIFY(periods->isEnabled());
+    const auto choose = [&](const char *text) {
+        periods->setCurrentText(QLatin1String(text));
+        emit periods->activated(periods->currentIndex());
+    };
+    choose("5 ms");
+    QTRY_COMPARE(bench.model.clock(), 5);
+    QCOMPARE(periods->currentText(), QStringLiteral("5 ms"));
+    QVERIFY(rig.start());
+    choose("1 ms"); // refused
+    QVERIFY(rig.stopAfter(3));
+    bench.prompts->answers = {QMessageBox::No, QMessageBox::Yes};
+    choose("20 ms");
+    QCOMPARE(periods->currentText(), QStringLiteral("5 ms"));
+    choose("10 ms");
+    QTRY_COMPARE(bench.model.clock(), 10);
+    QCOMPARE(rig.box.receivedCommands().filter(QStringLiteral("t=")),
+             (QStringList{QStringLiteral("t=100"), QStringLiteral("t=5"), QStringLiteral("t=10")}));
+    bench.model.setProjectModifiedFlag(false);
+    emit bench.view.newProject();
+    QTRY_COMPARE(rig.box.receivedCommands().constLast(), QStringLiteral("t=100"));
 }
 
 void TestSession::independentBox()
