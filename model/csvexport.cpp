@@ -1,14 +1,15 @@
 #include "model/csvexport.h"
 
+#include "model/germannumber.h"
 #include "model/indexcheck.h"
 #include "model/pacer.h"
 
 #include <QIODevice>
-#include <QLocale>
+
+#include <array>
+#include <cstring>
 
 namespace {
-
-constexpr int kSignificantDigits = 6;
 
 class CsvWriter
 {
@@ -20,22 +21,22 @@ public:
 
     void line(const QString &text)
     {
-        m_buffer += text.toUtf8();
-        m_buffer += '\n';
-        flushIfFull();
+        put(text.toUtf8());
+        put("\n");
     }
 
     void measurement(int number, const SampleRun &run)
     {
-        m_buffer += QByteArrayLiteral("data ") + QByteArray::number(number) + ';';
+        put("data " + QByteArray::number(number) + ';');
         for (int i = 0; i < run.count && !m_failed; ++i) {
             if (i > 0)
-                m_buffer += ';';
-            m_buffer += m_german.toString(run.samples->at(i), 'g', kSignificantDigits).toUtf8();
+                m_buffer[m_used++] = ';';
+            char *end = writeGermanNumber(m_buffer.data() + m_used, run.samples->at(i));
+            m_used = static_cast<std::size_t>(end - m_buffer.data());
             flushIfFull();
             m_pacer.advance(1);
         }
-        m_buffer += '\n';
+        put("\n");
         m_pacer.advance(1);
     }
 
@@ -46,24 +47,40 @@ public:
     }
 
 private:
-    static constexpr int kBufferSize = 65536;
+    static constexpr std::size_t kFull = 65536;
+    static constexpr std::size_t kRoom = kMaxGermanNumberLength + 1; // a number and its separator
+
+    void put(const QByteArray &text)
+    {
+        const auto size = static_cast<std::size_t>(text.size());
+        if (m_used + size > kFull)
+            flush();
+        if (size > kFull) {
+            m_failed = m_failed || m_target.write(text) != text.size();
+            return;
+        }
+        std::memcpy(m_buffer.data() + m_used, text.constData(), size);
+        m_used += size;
+        flushIfFull();
+    }
 
     void flushIfFull()
     {
-        if (m_buffer.size() >= kBufferSize)
+        if (m_used >= kFull)
             flush();
     }
 
     void flush()
     {
-        m_failed = m_failed || m_target.write(m_buffer) != m_buffer.size();
-        m_buffer.resize(0); // keeps its memory
+        const auto size = static_cast<qint64>(m_used);
+        m_failed = m_failed || m_target.write(m_buffer.data(), size) != size;
+        m_used = 0;
     }
 
     QIODevice &m_target;
     Pacer &m_pacer;
-    const QLocale m_german{QLocale::German};
-    QByteArray m_buffer;
+    std::array<char, kFull + kRoom> m_buffer;
+    std::size_t m_used = 0; ///< below kFull between two calls
     bool m_failed = false;
 };
 

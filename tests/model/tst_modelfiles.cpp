@@ -320,7 +320,7 @@ void TestModelFiles::keepsSamplesThatArriveWhileSaving()
 void TestModelFiles::livesWhileWorking()
 {
     Model model{QString()};
-    addMeasurements(model, 40, 1000);
+    addMeasurements(model, 40, 8000);
     QVector<int> progress;
     QElapsedTimer timer;
     qint64 longestGap = 0;
@@ -338,8 +338,8 @@ void TestModelFiles::livesWhileWorking()
     };
     work([&] { return model.save(path("long.vnt")); });
     work([&] { return model.saveCsv(path("long.csv")); });
-    QVERIFY(progress.size() > 2);
     work([&] { return model.open(path("long.vnt")); });
+    QVERIFY(progress.size() > 2);
     QVERIFY2(longestGap < 2000, qPrintable(QString::number(longestGap))); // wide: the machine may be busy
 }
 
