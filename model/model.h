@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/blackboxfile.h"
 #include "model/devicedescription.h"
 #include "model/projectdata.h"
 #include "model/samplelist.h"
@@ -41,7 +42,8 @@ public:
     static constexpr int kNumPhases = 5;
     static constexpr int kNumImages = 5;
 
-    /// Called from the long loops of open(), save() and saveCsv(), about every 20 ms, with the progress in percent.
+    /// Called from the long loops of open(), save(), saveCsv() and addBlackBoxFile(), about every 20 ms, with the
+    /// progress in percent.
     using Yield = std::function<void(int percent)>;
 
     /// Opens the project file unless the name is empty.
@@ -116,6 +118,7 @@ public:
     void setClock(int milliseconds); ///< takes the nearest value in range
     static constexpr int kMaxClock = 3600000;
 
+    /// The logger files that were imported, absolute; not part of the project file.
     [[nodiscard]] QStringList fileList() const { return m_fileList; }
     void setFileList(const QStringList &files);
 
@@ -126,7 +129,8 @@ public:
     void setProjectModifiedFlag(bool modified);
     [[nodiscard]] QString currentFile() const { return m_currentFile; }
     void setCurrentFile(const QString &absolutePath);
-    /// True while open(), save() or saveCsv() runs: no second one, no deletion and no quit may start then.
+    /// True while open(), save(), saveCsv() or addBlackBoxFile() runs: no second one, no deletion and no quit may start
+    /// then.
     [[nodiscard]] bool isBusy() const { return m_busy; }
     /// Ends a recording on the side of the data: gives back the memory that the newest measurements have not used.
     void endRecording();
@@ -136,6 +140,11 @@ public:
     [[nodiscard]] bool open(const QString &fileName);
     [[nodiscard]] bool save(const QString &fileName);
     [[nodiscard]] bool saveCsv(const QString &fileName);
+    /// Appends what a logger file of the box recorded as one measurement, unless the file tells of none, and takes over
+    /// what it says about the sensors. Goes on the fileList(). False if it is no regular file or cannot be read.
+    [[nodiscard]] bool addBlackBoxFile(const QString &fileName);
+    /// What the last addBlackBoxFile() could not take over.
+    [[nodiscard]] BlackBoxLosses blackBoxLosses() const { return m_blackBoxLosses; }
     /// Replaces QCoreApplication::processEvents() as what the long loops call.
     void setYield(const Yield &yield);
 
@@ -173,6 +182,8 @@ private:
     [[nodiscard]] bool writeFile(const QString &fileName, bool asProject);
     [[nodiscard]] std::optional<OpenedProject> readFile(QFile &file);
     void apply(OpenedProject &project, const QString &absolutePath);
+    [[nodiscard]] std::optional<BlackBoxDocument> readBlackBoxFile(QFile &file);
+    void apply(BlackBoxDocument &document);
     void applyDescription(const QVariantMap &fields);
     void applyChannel(int sensor, std::optional<Channel> &channel);
     void applyLabels(const QVariantMap &fields);
@@ -198,6 +209,7 @@ private:
     QString m_firmwareVersion;
     QString m_currentFile;
     QStringList m_fileList;
+    BlackBoxLosses m_blackBoxLosses;
     std::array<double, kNumSensors> m_osziMinimum{};
     std::array<double, kNumSensors> m_osziMaximum{};
     int m_mesotraType = 0;
