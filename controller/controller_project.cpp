@@ -156,6 +156,12 @@ bool Controller::saveTo(const QString &fileName)
     }
     for (const auto &edit : std::exchange(d->heldEdits, {}))
         applyEdit(edit);
+    if (saved && !d->model->isProjectMetaSaved())
+        d->prompt([this] {
+            d->view->showWarning(tr("Das Projekt ist gespeichert, aber Grenzen, Schwellen, Bezeichnungen und "
+                                    "Zeitstempel der Auswertung konnten nicht gespeichert werden!"),
+                                 tr("Problem"));
+        });
     if (saved)
         d->view->showStatus(tr("Projekt gespeichert: %1").arg(fileName));
     else

@@ -40,6 +40,7 @@ void Model::clear()
     m_fileList.clear();
     m_projectModified = false;
     m_clock = 100;
+    m_meta = ProjectMeta();
     resetColors();
     resetOffsets();
     resetPhaseNames();

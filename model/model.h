@@ -3,12 +3,12 @@
 #include "model/blackboxfile.h"
 #include "model/devicedescription.h"
 #include "model/projectdata.h"
+#include "model/projectmeta.h"
 #include "model/samplelist.h"
 #include "model/sensordescription.h"
 #include "model/verticalmarkers.h"
 
 #include <QColor>
-#include <QDateTime>
 #include <QObject>
 #include <QPixmap>
 #include <QStringList>
@@ -54,6 +54,9 @@ public:
     [[nodiscard]] int numChannels(int sensor) const;
     /// nullptr if an index is out of range (not logged).
     [[nodiscard]] const SampleList *measurement(int sensor, int measurement) const;
+    /// A number that no other measurement of this model has or had; 0 if an index is out of range (not logged). While
+    /// it is the same, samples have been appended to the measurement but none changed.
+    [[nodiscard]] quint64 measurementId(int sensor, int measurement) const;
     /// Appends one empty measurement to one sensor; returns its index, -1 for a bad sensor. Emits nothing.
     int appendMeasurement(int sensor);
     /// Appends one sample; a number that is not finite counts as 0. False for indices out of range. Emits nothing.
@@ -71,9 +74,17 @@ public:
     /// Refused while the model is busy, like clear() and deleteChannel().
     void clearData();
 
-    /// Not part of the project file. A null date-time for a measurement without one.
+    /// Kept beside the project file, like the labels. A null date-time for a measurement without one.
     [[nodiscard]] QDateTime timestamp(int measurement) const;
     void setTimestamp(int measurement, const QDateTime &timestamp);
+    /// What the user calls a measurement; empty for one without a label.
+    [[nodiscard]] QString shotLabel(int measurement) const;
+    /// Cuts the label after ProjectMeta::kLongestLabel characters; emits projectChanged().
+    void setShotLabel(int measurement, const QString &label);
+
+    /// Settings of the evaluation, labels and time stamps; written beside the project file with every save().
+    [[nodiscard]] const ProjectMeta &projectMeta() const { return m_meta; }
+    void setProjectMeta(const ProjectMeta &meta); ///< emits projectChanged()
 
     // --- Display settings that belong to the project -----------------------------------------------------------
     [[nodiscard]] double offset(int sensor) const;
@@ -139,6 +150,8 @@ public:
     // --- Files -------------------------------------------------------------------------------------------------
     [[nodiscard]] bool open(const QString &fileName);
     [[nodiscard]] bool save(const QString &fileName);
+    /// False if the last save() wrote the project, but not the file beside it.
+    [[nodiscard]] bool isProjectMetaSaved() const { return m_metaSaved; }
     [[nodiscard]] bool saveCsv(const QString &fileName);
     /// Appends what a logger file of the box recorded as one measurement, unless the file tells of none, and takes over
     /// what it says about the sensors. Goes on the fileList(). False if it is no regular file or cannot be read.
@@ -190,10 +203,14 @@ private:
     void applySensors(const QVariantMap &fields);
     void applyViewData(const QVariantMap &fields);
     void useDistanceSensors();
+    [[nodiscard]] ShotChecks shotChecks() const;
+    void openMeta(const QString &projectFile);
 
     std::array<Channel, kNumSensors> m_channels;
+    std::array<std::vector<quint64>, kNumSensors> m_ids; // one a measurement
+    quint64 m_lastId = 0;
     Channel m_removed;
-    std::vector<QDateTime> m_timestamps;
+    ProjectMeta m_meta;
     quint64 m_structureRevision = 0;
     quint64 m_changes = 0; // counts what makes a project file that is being written out of date
     std::array<double, kNumSensors> m_offsets{};
@@ -218,5 +235,6 @@ private:
     bool m_projectModified = false;
     bool m_connected = false;
     bool m_busy = false;
+    bool m_metaSaved = true;
     Yield m_yield;
 };

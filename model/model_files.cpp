@@ -11,6 +11,24 @@
 
 #include <new>
 
+namespace {
+
+bool saveMeta(const QString &projectFile, const ProjectMeta &meta, const ShotChecks &checks)
+{
+    const QString fileName = metaFileName(projectFile);
+    if (meta.isBlank() && !QFileInfo::exists(fileName))
+        return true;
+    try {
+        if (replaceFile(fileName, [&](QIODevice &target) { return writeProjectMeta(target, meta, checks); }))
+            return true;
+    } catch (const std::bad_alloc &) {
+    }
+    qCDebug(lcModel).noquote().nospace() << "ERROR: could not write file:" << fileName;
+    return false;
+}
+
+} // namespace
+
 // Small values are copied, samples are not: what arrives while they are written belongs to the next file.
 ProjectDocument Model::toDocument() const
 {
@@ -53,8 +71,11 @@ bool Model::save(const QString &fileName)
     if (refusesWhileBusy(Q_FUNC_INFO))
         return false;
     const quint64 changesBefore = m_changes;
+    const ProjectMeta meta = m_meta;
+    const ShotChecks checks = shotChecks();
     if (!writeFile(fileName, true))
         return false;
+    m_metaSaved = saveMeta(fileName, meta, checks);
     const bool isUpToDate = m_changes == changesBefore;
     setCurrentFile(QFileInfo(fileName).absoluteFilePath());
     announceProjectChanged(Q_FUNC_INFO);

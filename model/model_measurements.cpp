@@ -28,6 +28,14 @@ const SampleList *Model::measurement(int sensor, int measurement) const
     return at(measurement) < channel.size() ? channel[at(measurement)].get() : nullptr;
 }
 
+quint64 Model::measurementId(int sensor, int measurement) const
+{
+    if (sensor < 0 || sensor >= kNumSensors || measurement < 0)
+        return 0;
+    const std::vector<quint64> &ids = m_ids[at(sensor)];
+    return at(measurement) < ids.size() ? ids[at(measurement)] : 0;
+}
+
 int Model::measurementCount() const
 {
     const auto longest = std::max_element(m_channels.begin(), m_channels.end(),
@@ -41,6 +49,7 @@ int Model::appendMeasurement(int sensor)
         return -1;
     Channel &channel = m_channels[at(sensor)];
     channel.push_back(std::make_unique<SampleList>());
+    m_ids[at(sensor)].push_back(++m_lastId);
     ++m_structureRevision;
     ++m_changes;
     return static_cast<int>(channel.size()) - 1;
@@ -63,14 +72,15 @@ bool Model::deleteChannel(int measurement)
     qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " measurement=" << measurement;
     if (refusesWhileBusy(Q_FUNC_INFO) || !isIndex(measurement, at(measurementCount()), Q_FUNC_INFO))
         return false;
-    for (Channel &channel : m_channels) {
+    for (std::size_t sensor = 0; sensor < m_channels.size(); ++sensor) {
+        Channel &channel = m_channels[sensor];
         if (at(measurement) >= channel.size())
             continue;
         m_removed.push_back(std::move(channel[at(measurement)]));
         channel.erase(channel.begin() + measurement);
+        m_ids[sensor].erase(m_ids[sensor].begin() + measurement);
     }
-    if (at(measurement) < m_timestamps.size())
-        m_timestamps.erase(m_timestamps.begin() + measurement);
+    m_meta.removeShot(measurement);
     ++m_structureRevision;
     ++m_changes;
     return true;
@@ -90,7 +100,10 @@ void Model::clearData()
         std::move(channel.begin(), channel.end(), std::back_inserter(m_removed));
         channel.clear();
     }
-    m_timestamps.clear();
+    for (std::vector<quint64> &ids : m_ids)
+        ids.clear();
+    m_meta.labels.clear();
+    m_meta.timestamps.clear();
     ++m_structureRevision;
     ++m_changes;
     announceDataChanged(Q_FUNC_INFO);
@@ -139,21 +152,4 @@ double Model::maximumValue(int sensor, int measurement) const
         return 0.0;
     const SampleList &samples = *m_channels[at(sensor)][at(measurement)];
     return samples.isEmpty() ? kNoMaximum : *std::max_element(samples.cbegin(), samples.cend());
-}
-
-QDateTime Model::timestamp(int measurement) const
-{
-    if (!isIndex(measurement, at(measurementCount()), Q_FUNC_INFO))
-        return {};
-    return at(measurement) < m_timestamps.size() ? m_timestamps[at(measurement)] : QDateTime();
-}
-
-void Model::setTimestamp(int measurement, const QDateTime &timestamp)
-{
-    qCDebug(lcModel) << Q_FUNC_INFO << measurement << timestamp;
-    if (!isIndex(measurement, at(measurementCount()), Q_FUNC_INFO))
-        return;
-    if (at(measurement) >= m_timestamps.size())
-        m_timestamps.resize(at(measurement) + 1);
-    m_timestamps[at(measurement)] = timestamp;
 }

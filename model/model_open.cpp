@@ -179,10 +179,10 @@ void Model::apply(OpenedProject &project, const QString &absolutePath)
         useDistanceSensors();
     for (std::size_t sensor = 0; sensor < project.channels.size(); ++sensor)
         applyChannel(static_cast<int>(sensor), project.channels[sensor]);
-    m_timestamps.resize(m_channels[0].size());
     applyLabels(fields);
     applySensors(fields);
     applyViewData(fields);
+    openMeta(absolutePath);
 }
 
 void Model::applyDescription(const QVariantMap &fields)
@@ -225,6 +225,9 @@ void Model::applyChannel(int sensor, std::optional<Channel> &channel)
     for (const auto &samples : *channel)
         qCDebug(lcModel).noquote().nospace() << "jValues.size()=" << samples->size();
     m_channels[at(sensor)] = std::move(*channel);
+    m_ids[at(sensor)].resize(m_channels[at(sensor)].size());
+    for (quint64 &id : m_ids[at(sensor)])
+        id = ++m_lastId;
     ++m_structureRevision;
 }
 

@@ -1,91 +1,139 @@
 #include "view/tabevaluation.h"
 
+#include "app/theme.h"
+#include "model/model.h"
+#include "plots/tabevaluationruntime.h"
 #include "view/logging.h"
-#include "view/shottable.h"
-#include "view/tabstyle.h"
 
+#include <QButtonGroup>
 #include <QEvent>
-#include <QHeaderView>
-#include <QLabel>
-#include <QTableView>
-#include <QVBoxLayout>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QStackedWidget>
 
-struct TabEvaluation::Private
+#include <algorithm>
+
+namespace {
+
+QString pageButtonSheet()
 {
-    ShotTable *shots = nullptr;
-    QLabel *heading = nullptr;
-    QTableView *table = nullptr;
-
-    void createTable(QWidget *tab);
-    void updateHeading() const;
-};
-
-void TabEvaluation::Private::createTable(QWidget *tab)
-{
-    table = new QTableView(tab);
-    table->setObjectName(QStringLiteral("tableShots"));
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table->setAlternatingRowColors(true);
-    table->setWordWrap(false);
-    table->verticalHeader()->hide();
-    table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    table->verticalHeader()->setDefaultSectionSize(36);
-    table->horizontalHeader()->setMinimumSectionSize(60);
-    table->setStyleSheet(QStringLiteral("QHeaderView {font-size: 16px;}"));
+    return QStringLiteral("QPushButton {background-color: %1; color: %2; border: 0px; border-radius: 0px;"
+                          " border-bottom: 4px solid %3; font: bold 16px; min-height: 40px; padding: 0px 6px;}"
+                          "QPushButton:checked {background-color: %4; color: %5; border-bottom-color: %5;}"
+                          "QPushButton:hover, QPushButton:focus {color: %5; border-bottom-color: %5;}"
+                          "QPushButton:focus {border: 1px dotted %2; border-bottom: 4px solid %5;}")
+        .arg(theme::colorLight, theme::colorDark, theme::colorMedium, theme::colorBackground, theme::colorPrimary);
 }
 
-void TabEvaluation::Private::updateHeading() const
-{
-    const int count = shots ? shots->rowCount() : 0;
-    heading->setText(count == 0 ? tr("Noch keine Messungen") : tr("Messungen: %1").arg(count));
-}
+} // namespace
 
 TabEvaluation::TabEvaluation(QWidget *parent)
     : QWidget(parent)
-    , d(std::make_unique<Private>())
+    , m_stack(new QStackedWidget(this))
 {
-    d->heading = new QLabel(this);
-    tabstyle::makeHeading(d->heading);
-    d->createTable(this);
-    auto *column = new QVBoxLayout(this);
-    column->addWidget(d->heading);
-    column->addWidget(d->table, 1);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    createButtons();
+    layout->addWidget(m_stack, 1);
+    createPages();
     retranslateUi();
 }
 
-TabEvaluation::~TabEvaluation() = default;
-
-void TabEvaluation::setModel(const Model *model)
+void TabEvaluation::createButtons()
 {
-    d->shots = new ShotTable(model, this);
-    d->table->setModel(d->shots);
-    for (int column = ShotTable::FirstSensorColumn; column < ShotTable::NumColumns; ++column)
-        d->table->horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
-    d->table->setColumnWidth(ShotTable::NumberColumn, 60);
-    d->table->setColumnWidth(ShotTable::TimeColumn, 150);
-    connect(d->shots, &QAbstractItemModel::modelReset, this, [this] { d->updateHeading(); });
-    connect(d->shots, &QAbstractItemModel::rowsInserted, this, [this] { d->updateHeading(); });
-    d->updateHeading();
+    auto *group = new QButtonGroup(this);
+    auto *row = new QHBoxLayout;
+    row->setSpacing(2);
+    for (int page = 0; page < kNumPages; ++page) {
+        auto *button = new QPushButton(this);
+        button->setObjectName(QStringLiteral("pageButton%1").arg(page));
+        button->setStyleSheet(pageButtonSheet());
+        button->setCheckable(true);
+        button->setAutoDefault(false);
+        button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        button->hide();
+        group->addButton(button, page);
+        row->addWidget(button);
+        m_buttons[static_cast<std::size_t>(page)] = button;
+        connect(button, &QAbstractButton::clicked, this, [this, page] { showPage(static_cast<Page>(page)); });
+    }
+    static_cast<QVBoxLayout *>(layout())->addLayout(row);
 }
 
-void TabEvaluation::updateData()
+void TabEvaluation::createPages()
 {
-    if (d->shots && isVisible())
-        d->shots->refresh();
+    m_runtimePage = new TabEvaluationRuntime(m_stack);
+    connect(m_runtimePage, &TabEvaluationRuntime::thresholdsChanged, this,
+            &TabEvaluation::onRuntimePage_thresholdsChanged);
+    addPage(Page::Runtime, m_runtimePage);
+    const auto first = std::find_if(m_pages.begin(), m_pages.end(), [](const QWidget *page) { return page; });
+    showPage(static_cast<Page>(std::distance(m_pages.begin(), first)));
 }
 
-void TabEvaluation::updateDescription()
+void TabEvaluation::addPage(Page page, QWidget *widget)
 {
-    if (d->shots)
-        emit d->shots->headerDataChanged(Qt::Horizontal, 0, d->shots->columnCount() - 1);
+    m_pages[static_cast<std::size_t>(page)] = widget;
+    m_stack->addWidget(widget);
+    button(page)->show();
 }
 
-void TabEvaluation::showEvent(QShowEvent *event)
+void TabEvaluation::setModel(Model *model)
 {
-    QWidget::showEvent(event);
-    if (d->shots)
-        d->shots->refresh();
+    qCDebug(lcView) << Q_FUNC_INFO;
+    if (!model)
+        return;
+    if (m_model)
+        m_model->disconnect(this);
+    m_model = model;
+    connect(model, &Model::projectChanged, this, &TabEvaluation::onModel_projectChanged);
+    m_runtimePage->setModel(model);
+    onModel_projectChanged();
 }
+
+TabEvaluation::Page TabEvaluation::currentPage() const
+{
+    const auto current = std::find(m_pages.begin(), m_pages.end(), m_stack->currentWidget());
+    return static_cast<Page>(std::distance(m_pages.begin(), current));
+}
+
+void TabEvaluation::showPage(Page page)
+{
+    qCDebug(lcView) << Q_FUNC_INFO << static_cast<int>(page);
+    QWidget *widget = m_pages[static_cast<std::size_t>(page)];
+    if (!widget)
+        return;
+    button(page)->setChecked(true);
+    m_stack->setCurrentWidget(widget);
+}
+
+// --- Thresholds ------------------------------------------------------------------------------------------------
+
+void TabEvaluation::onModel_projectChanged()
+{
+    for (int sensor = 0; sensor < kNumSensors; ++sensor) {
+        const SensorMeta &meta = m_model->projectMeta().sensors[static_cast<std::size_t>(sensor)];
+        if (meta.startThreshold != m_runtimePage->startThreshold(sensor)
+            || meta.stopThreshold != m_runtimePage->stopThreshold(sensor))
+            m_runtimePage->setThresholds(sensor, meta.startThreshold, meta.stopThreshold);
+    }
+}
+
+void TabEvaluation::onRuntimePage_thresholdsChanged()
+{
+    qCDebug(lcView) << Q_FUNC_INFO;
+    if (!m_model)
+        return;
+    ProjectMeta meta = m_model->projectMeta();
+    for (int sensor = 0; sensor < kNumSensors; ++sensor) {
+        meta.sensors[static_cast<std::size_t>(sensor)].startThreshold = m_runtimePage->startThreshold(sensor);
+        meta.sensors[static_cast<std::size_t>(sensor)].stopThreshold = m_runtimePage->stopThreshold(sensor);
+    }
+    m_model->setProjectMeta(meta);
+    m_model->setProjectModifiedFlag(true);
+}
+
+// --- Texts -----------------------------------------------------------------------------------------------------
 
 void TabEvaluation::changeEvent(QEvent *event)
 {
@@ -96,7 +144,8 @@ void TabEvaluation::changeEvent(QEvent *event)
 
 void TabEvaluation::retranslateUi()
 {
-    d->table->setAccessibleName(tr("Messungen mit kleinstem und größtem Wert je Sensor"));
-    d->updateHeading();
-    updateDescription();
+    button(Page::Dashboard)->setText(tr("Übersicht"));
+    button(Page::Values)->setText(tr("Auswertung 1/3: Werte"));
+    button(Page::Runtime)->setText(tr("Auswertung 2/3: Laufzeit"));
+    button(Page::Overlay)->setText(tr("Auswertung 3/3: Überlagerung"));
 }

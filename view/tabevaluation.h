@@ -2,32 +2,48 @@
 
 #include <QWidget>
 
-#include <memory>
+#include <array>
 
 class Model;
+class QAbstractButton;
+class QStackedWidget;
+class TabEvaluationRuntime;
 
-/// The tab "Auswertung": a table of the shots with the extremes of each sensor. Works only while it is shown.
+/// The tab "Auswertung": a row of buttons and the page that the chosen one opens. The pages follow the model by
+/// themselves; the tab keeps the thresholds of the runtime page where the project keeps them.
 class TabEvaluation : public QWidget
 {
     Q_OBJECT
 
 public:
-    explicit TabEvaluation(QWidget *parent = nullptr);
-    ~TabEvaluation() override;
+    enum class Page { Dashboard, Values, Runtime, Overlay };
+    static constexpr int kNumPages = 4;
 
-    void setModel(const Model *model);
-    /// The model's measurements changed; next to nothing while the tab is hidden.
-    void updateData();
-    /// The model's sensor names changed.
-    void updateDescription();
+    explicit TabEvaluation(QWidget *parent = nullptr);
+
+    /// Not owned; nullptr changes nothing.
+    void setModel(Model *model);
+    [[nodiscard]] Page currentPage() const;
+    /// Nothing happens for a page that does not exist.
+    void showPage(Page page);
 
 protected:
     void changeEvent(QEvent *event) override;
-    void showEvent(QShowEvent *event) override;
+
+private slots:
+    void onModel_projectChanged();
+    void onRuntimePage_thresholdsChanged();
 
 private:
+    void createButtons();
+    void createPages();
+    void addPage(Page page, QWidget *widget);
     void retranslateUi();
+    [[nodiscard]] QAbstractButton *button(Page page) const { return m_buttons[static_cast<std::size_t>(page)]; }
 
-    struct Private;
-    std::unique_ptr<Private> d;
+    Model *m_model = nullptr;
+    std::array<QAbstractButton *, kNumPages> m_buttons{};
+    std::array<QWidget *, kNumPages> m_pages{}; // nullptr: not there, its button is hidden
+    QStackedWidget *m_stack = nullptr;
+    TabEvaluationRuntime *m_runtimePage = nullptr;
 };

@@ -4,7 +4,6 @@
 #include "view/logging.h"
 #include "view/sidetabs.h"
 #include "view/tabdatalogger.h"
-#include "view/tabevaluation.h"
 #include "view/tabhome.h"
 #include "view/taboszilloscope.h"
 #include "view/tabproject.h"
@@ -219,8 +218,6 @@ void View::Private::refreshData()
         tabHome->updateFromModel();
     else if (shown == tabSensors)
         tabSensors->updateValues();
-    else if (shown == tabEvaluation)
-        tabEvaluation->updateData();
 }
 
 void View::Private::refreshProject()
@@ -229,7 +226,6 @@ void View::Private::refreshProject()
     projectPending = false;
     tabHome->updateFromModel();
     tabSensors->updateDescription();
-    tabEvaluation->updateDescription();
     tabLogger->setSensorNames(sensorNames(model->sensorDescription()));
     refreshFileLabel();
 }

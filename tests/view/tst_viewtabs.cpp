@@ -2,7 +2,6 @@
 #include "view/dialogprompts.h"
 #include "view/inputhistory.h"
 #include "view/ipaddressdialog.h"
-#include "view/shottable.h"
 #include "view/tabdatalogger.h"
 #include "view/tabproject.h"
 #include "view/tabterminal.h"
@@ -35,7 +34,6 @@ private slots:
     void phaseEditNamesThePhase();
     void boxPage_data();
     void boxPage();
-    void shotTableFollowsTheModel();
     void escapeAnswers_data();
     void escapeAnswers();
     void suffixOfFilter_data();
@@ -241,37 +239,6 @@ void TestViewTabs::boxPage()
     TabWebConfig tab;
     tab.setAddress(address);
     QCOMPARE(tab.findChild<QPushButton *>(QStringLiteral("buttonOpenWebPage"))->isEnabled(), !url.isEmpty());
-}
-
-void TestViewTabs::shotTableFollowsTheModel()
-{
-    Model model{QString()};
-    ShotTable table(&model);
-    const auto cell = [&](int row, int column) { return table.index(row, column).data().toString(); };
-    const auto addShot = [&](double value) {
-        for (int sensor = 0; sensor < kNumSensors; ++sensor)
-            model.appendSample(sensor, model.appendMeasurement(sensor), value + sensor);
-        table.refresh();
-    };
-    addShot(1.0);
-    model.appendMeasurement(0);
-    table.refresh();
-    QCOMPARE(table.rowCount(), 2);
-    QCOMPARE(cell(1, 2), QStringLiteral("–")); // without a sample
-    QCOMPARE(cell(0, 6), QStringLiteral("5 … 5"));
-    model.appendSample(0, 1, 8.0);
-    model.appendSample(0, 1, -3.0);
-    QCOMPARE(cell(1, 2), QStringLiteral("-3 … 8"));
-    model.appendSample(0, 1, 9.0); // grows on from what was looked at
-    QCOMPARE(cell(1, 2), QStringLiteral("-3 … 9"));
-    QVERIFY(model.deleteChannel(0));
-    QCOMPARE(cell(1, 2), QStringLiteral("–")); // the row is gone, the table does not know yet
-    table.refresh();
-    QCOMPARE(table.rowCount(), 1);
-    QCOMPARE(cell(0, 2), QStringLiteral("-3 … 9"));
-    QVERIFY(model.deleteChannel(0));
-    addShot(20.0);
-    QCOMPARE(cell(0, 2), QStringLiteral("20 … 20"));
 }
 
 void TestViewTabs::escapeAnswers_data()
