@@ -27,7 +27,8 @@ public:
     }
     [[nodiscard]] QString text() const
     {
-        return QString::fromLocal8Bit(m_kept) + (m_isCut ? QStringLiteral("\n[...]") : QString());
+        const QString text = QString::fromLocal8Bit(m_kept).replace(QLatin1String("\r\n"), QLatin1String("\n"));
+        return text + (m_isCut ? QStringLiteral("\n[...]") : QString());
     }
 
 private:

@@ -21,7 +21,6 @@ namespace {
 
 constexpr int kDefaultPort = 22;
 constexpr int kHighestPort = 65535;
-constexpr int kWrongPassword = 5; // exit code of sshpass
 
 int fail(const QString &text)
 {
@@ -75,8 +74,6 @@ int transfer(const TransferScript &script, int port)
     process.waitForFinished(-1);
     if (process.exitStatus() != QProcess::NormalExit)
         return fail(QStringLiteral("the transfer was ended"));
-    if (process.exitCode() == kWrongPassword)
-        return fail(QStringLiteral("Access denied for user ") + script.user);
     return process.exitCode() == 0 ? 0 : 1;
 }
 

@@ -1,0 +1,157 @@
+#pragma once
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTemporaryDir>
+#include <QtTest>
+
+#include <crypt.h>
+#include <csignal>
+#include <unistd.h>
+
+/// The box's side of a file transfer: an SSH server on this machine with an account of its own, which sees nothing but
+/// a folder of the test. Neither accounts nor settings of the machine are changed: who exists is told to the server
+/// alone. Link crypt.
+class SshServer
+{
+public:
+    SshServer(const QString &user, const QString &password)
+        : m_user(user)
+        , m_password(password)
+    {}
+    ~SshServer()
+    {
+        killSessions();
+        m_server.terminate();
+        m_server.waitForFinished(3000);
+    }
+    Q_DISABLE_COPY_MOVE(SshServer)
+
+    /// What this machine lacks; empty: nothing.
+    [[nodiscard]] static QString whatIsMissing()
+    {
+        if (::geteuid() != 0)
+            return QStringLiteral("only root may confine an SSH server to a folder");
+        for (const QString &program :
+             {sshd(), QStringLiteral("ssh-keygen"), QStringLiteral("sshpass"), QStringLiteral("sftp")}) {
+            if (QStandardPaths::findExecutable(program).isEmpty())
+                return program + QStringLiteral(" is not installed");
+        }
+        return {};
+    }
+
+    [[nodiscard]] bool start()
+    {
+        if (!QDir().mkpath(QStringLiteral("/run/sshd")) || !makeFiles())
+            return false;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral("libnss_wrapper.so"));
+        for (const char *table : {"passwd", "shadow", "group"})
+            environment.insert(QStringLiteral("NSS_WRAPPER_") + QString::fromLatin1(table).toUpper(), file(table));
+        m_server.setProcessEnvironment(environment);
+        m_server.setStandardErrorFile(file("log"));
+        m_server.start(sshd(), {QStringLiteral("-D"), QStringLiteral("-e"), QStringLiteral("-f"), file("config")});
+        return m_server.waitForStarted() && QTest::qWaitFor([this] { return answers(); });
+    }
+
+    [[nodiscard]] int port() const { return m_port; }
+    /// "/media/usbstick" of the box.
+    [[nodiscard]] QDir stick() const { return QDir(file("root/media/usbstick")); }
+    /// Makes a file below the stick, with its folders; the account may write there.
+    void write(const QString &name, const QByteArray &content, const QDateTime &time = {}) const
+    {
+        QDir().mkpath(QFileInfo(stick().filePath(name)).path());
+        QFile target(stick().filePath(name));
+        QVERIFY(target.open(QIODevice::WriteOnly));
+        target.write(content);
+        if (time.isValid())
+            QVERIFY(target.setFileTime(time, QFileDevice::FileModificationTime));
+    }
+    /// Ends all connections at once, as a box does that loses its power.
+    void killSessions() const
+    {
+        if (m_server.processId() > 0)
+            killChildren(QString::number(m_server.processId()));
+    }
+
+private:
+    static constexpr int kAccount = 65534; ///< owns nothing
+
+    [[nodiscard]] static QString sshd() { return QStringLiteral("/usr/sbin/sshd"); }
+    [[nodiscard]] QString file(const char *name) const { return m_folder.filePath(QString::fromLatin1(name)); }
+    void writeFile(const char *name, const QString &content) const
+    {
+        QFile target(file(name));
+        if (target.open(QIODevice::WriteOnly))
+            target.write(content.toUtf8());
+    }
+
+    static void killChildren(const QString &process)
+    {
+        QFile children(QStringLiteral("/proc/%1/task/%1/children").arg(process));
+        if (!children.open(QIODevice::ReadOnly))
+            return;
+        for (const QByteArray &child : children.readAll().simplified().split(' ')) {
+            if (child.toInt() <= 1)
+                continue;
+            killChildren(QString::fromLatin1(child)); // the privileged half and the one that serves
+            ::kill(child.toInt(), SIGKILL);
+        }
+    }
+
+    [[nodiscard]] bool makeFiles()
+    {
+        QTcpServer probe;
+        if (!m_folder.isValid() || !probe.listen(QHostAddress::LocalHost))
+            return false;
+        m_port = probe.serverPort();
+        // Whoever is confined to a folder may not own it.
+        QFile::setPermissions(m_folder.path(), QFileDevice::Permissions(0x7755));
+        stick().mkpath(QStringLiteral("data"));
+        for (const QString &folder : {stick().path(), stick().filePath(QStringLiteral("data"))})
+            (void)::chown(folder.toUtf8().constData(), kAccount, kAccount); // else the upload fails, which is noticed
+        writeAccounts();
+        writeConfig();
+        return QProcess::execute(QStringLiteral("ssh-keygen"),
+                                 {QStringLiteral("-q"), QStringLiteral("-t"), QStringLiteral("ed25519"),
+                                  QStringLiteral("-N"), QString(), QStringLiteral("-f"), file("key")})
+               == 0;
+    }
+
+    void writeAccounts() const
+    {
+        const QString hash = QString::fromLatin1(::crypt(m_password.toUtf8().constData(), "$6$ventarotest"));
+        writeFile("passwd", QStringLiteral("root:x:0:0::/root:/bin/sh\nsshd:x:102:65534::/run/sshd:/bin/false\n"
+                                           "%1:x:%2:%2::/:/bin/sh\n")
+                                .arg(m_user)
+                                .arg(kAccount));
+        writeFile("shadow", QStringLiteral("%1:%2:19000:0:99999:7:::\n").arg(m_user, hash));
+        writeFile("group", QStringLiteral("root:x:0:\nnogroup:x:%1:\n").arg(kAccount));
+    }
+
+    void writeConfig() const
+    {
+        writeFile("config", QStringLiteral("ListenAddress 127.0.0.1\nPort %1\nHostKey %2\nPidFile none\nUsePAM no\n"
+                                           "PasswordAuthentication yes\nPubkeyAuthentication no\n"
+                                           "KbdInteractiveAuthentication no\nChrootDirectory %3\n"
+                                           "Subsystem sftp internal-sftp\nForceCommand internal-sftp\n")
+                                .arg(QString::number(m_port), file("key"), file("root")));
+    }
+
+    [[nodiscard]] bool answers() const
+    {
+        QTcpSocket socket;
+        socket.connectToHost(QHostAddress(QHostAddress::LocalHost), static_cast<quint16>(m_port));
+        return socket.waitForConnected(100);
+    }
+
+    QString m_user;
+    QString m_password;
+    QTemporaryDir m_folder{QStringLiteral("/run/ventaro-ssh-XXXXXX")}; ///< nobody but root may write on its way
+    QProcess m_server;
+    int m_port = 0;
+};
