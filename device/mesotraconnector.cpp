@@ -94,9 +94,15 @@ void MesotraConnector::dropLink()
         onDisconnected();
 }
 
+// A socket that is still connecting is open too, but would keep the bytes and send them whenever the link comes up.
+bool MesotraConnector::isReady() const
+{
+    return m_socket->isOpen() && m_socket->state() == QAbstractSocket::ConnectedState;
+}
+
 bool MesotraConnector::write(const QString &text)
 {
-    if (m_socket->isOpen() && m_socket->write(text.toLocal8Bit()) != -1) {
+    if (isReady() && m_socket->write(text.toLocal8Bit()) != -1) {
         emit written(text);
         return true;
     }
@@ -107,7 +113,7 @@ bool MesotraConnector::write(const QString &text)
 // Waiting on a socket that is still connecting would end the attempt.
 void MesotraConnector::waitForWritten()
 {
-    if (m_socket->state() == QAbstractSocket::ConnectedState && m_socket->bytesToWrite() > 0)
+    if (isReady() && m_socket->bytesToWrite() > 0)
         m_socket->waitForBytesWritten(kWriteTimeout);
 }
 
@@ -151,7 +157,7 @@ void MesotraConnector::requestSensorDescription()
 
 void MesotraConnector::setClock(const QString &label)
 {
-    if (!m_socket->isOpen())
+    if (!isReady())
         return;
     qCDebug(lcDevice) << Q_FUNC_INFO << label;
     const QString command = samplingPeriodCommand(label);

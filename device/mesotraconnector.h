@@ -34,7 +34,7 @@ public:
     void disconnectFromHost();
     [[nodiscard]] bool isConnected() const { return m_connected; }
     [[nodiscard]] QString hostAddress() const { return m_hostAddress; }
-    /// False (and a log line) if the socket is not open or refuses the bytes.
+    /// False (and a log line) without a link, also while it is being made, or if the socket refuses the bytes.
     bool write(const QString &text);
 
     void calibrate();                ///< "1\n": asks for a single value line
@@ -83,6 +83,7 @@ private:
         QVector<QAbstractSocket::SocketError> errors;
     };
 
+    [[nodiscard]] bool isReady() const;
     void createSocket();
     void sendCommand(const QString &command);
     void waitForWritten();

@@ -190,6 +190,10 @@ void TestMesotraConnector::sendsNothingWhileClosed()
     QVERIFY(written.isEmpty());
     QVERIFY(!connector.isConnected());
     QVERIFY(connector.hostAddress().isEmpty());
+    connector.connect(Link::loopback()); // what is written on the way must not go out when the link comes up
+    connector.setClock(QStringLiteral("100ms"));
+    QVERIFY(!log.contains(QStringLiteral("setClock")));
+    QVERIFY(!connector.write(QStringLiteral("run=1\n")));
 }
 
 void TestMesotraConnector::reboots()
