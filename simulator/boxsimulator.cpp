@@ -169,8 +169,10 @@ void BoxSimulator::startRun()
     m_running = true;
     m_nextTime = 0.0;
     m_burstLeft = m_options.burst;
-    answer("run=1\n");
     emit runningChanged(true);
+    answer("run=1\n");
+    if (!m_running)
+        return; // that was the last byte of the link
     restartClock();
     m_timer.start(std::min(m_period, kLongestTick));
     sendDueSamples();
@@ -230,6 +232,8 @@ void BoxSimulator::burst(int lines)
 
 void BoxSimulator::sendBurstSamples()
 {
+    if (m_options.silent)
+        m_burstLeft = 0;
     if (m_burstLeft <= 0 || m_sendingBurst)
         return;
     m_sendingBurst = true; // writing may report written bytes at once

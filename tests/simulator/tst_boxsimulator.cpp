@@ -272,7 +272,7 @@ void TestBoxSimulator::mixesInGarbageAndLongLines()
 void TestBoxSimulator::dropsTheLinkAfterBytes_data()
 {
     QTest::addColumn<int>("bytes");
-    for (const int bytes : {0, 3, 500, 100000})
+    for (const int bytes : {0, 3, 7, 10, 500, 100000})
         QTest::addRow("%d", bytes) << bytes;
 }
 
@@ -284,11 +284,13 @@ void TestBoxSimulator::dropsTheLinkAfterBytes()
     options.burst = 5000;
     Setup setup(options);
     QSignalSpy gone(&setup.box, &BoxSimulator::clientDisconnected);
+    QSignalSpy running(&setup.box, &BoxSimulator::runningChanged);
     setup.send("t=1\nrun=1\n");
     QVERIFY(setup.waitForClose());
     QCOMPARE(setup.received.size(), bytes);
     QCOMPARE(gone.size(), 1);
     QVERIFY(!setup.box.isRunning());
+    QVERIFY(running.isEmpty() || !running.last().first().toBool());
     setup.client.connectToHost(setup.box.address(), setup.box.port());
     QTRY_VERIFY(setup.box.hasClient()); // the next link is served again
 }
