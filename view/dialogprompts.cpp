@@ -90,6 +90,7 @@ QString filterSuffix(const QString &nameFilter)
 void fillMessageBox(QMessageBox &box, const QString &title, const QString &text, QMessageBox::StandardButtons buttons)
 {
     box.setWindowTitle(title);
+    box.setTextFormat(Qt::PlainText); // what the user typed and what the box sent stays as it is
     box.setText(text);
     // The platform's order would tear apart what reads as "save, discard, cancel".
     for (const AnswerText &answer : kAnswers) {
