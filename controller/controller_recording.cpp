@@ -175,6 +175,8 @@ bool Controller::deleteRange(const QString &range)
 /// leaves the same measurements as deleting `first` again and again, but moves each of those behind only once.
 int Controller::deleteMeasurements(qint64 first, qint64 count)
 {
+    if (count <= 0)
+        return 0; // a span that runs backwards
     const qint64 existing = first < 0 ? 0 : std::clamp<qint64>(measurementCount(*d->model) - first, 0, count);
     int removed = 0;
     for (qint64 index = first + existing - 1; index >= first && existing > 0; --index) {
