@@ -9,6 +9,8 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
+#include <utility>
+
 namespace {
 
 const QLatin1String kProjectSuffix(".vnt");
@@ -99,7 +101,11 @@ void Controller::openFile(const QString &fileName)
         const LineHold hold(d->holds, d->connector, d->resumeTimer);
         opened = d->model->open(fileName);
     }
-    d->heldEdits.clear(); // they were meant for the project that is gone
+    const auto edits = std::exchange(d->heldEdits, {});
+    for (const auto &edit : edits) {
+        if (!opened) // otherwise they were meant for the project that is gone
+            applyEdit(edit);
+    }
     if (d->model->structureRevision() != structure)
         d->series.clear();
     showDeviceState();

@@ -25,6 +25,7 @@ private slots:
     void openWithUnsavedChanges_data();
     void openWithUnsavedChanges();
     void openFails();
+    void editsDuringFailedOpenAreKept();
     void recordingGoesOnInTheNextProject_data();
     void recordingGoesOnInTheNextProject();
     void secondActionIsRefusedWhileSaving();
@@ -199,6 +200,25 @@ void TestProjects::openFails()
              QStringLiteral("Cannot open file ") + path(QStringLiteral("gone %1 %2.vnt")) + QStringLiteral(" !."));
     QCOMPARE(bench.firstSamples(), QVector<double>{1});
     QCOMPARE(bench.controller.seriesIndex(0), 0);
+}
+
+void TestProjects::editsDuringFailedOpenAreKept()
+{
+    QFile broken(path(QStringLiteral("broken.vnt")));
+    QVERIFY(broken.open(QIODevice::WriteOnly));
+    broken.write("{\"sensor1\":[[" + QByteArray("1.5,").repeated(300000));
+    broken.close();
+    Bench bench;
+    bench.prompts->openNames = {broken.fileName()};
+    bool edited = false;
+    bench.model.setYield([&](int) {
+        if (!std::exchange(edited, true))
+            bench.controller.onTabProject_onPhaseEditChanged(1, QStringLiteral("umbenannt"));
+    });
+    emit bench.view.openProject();
+    QVERIFY(edited);
+    QCOMPARE(bench.prompts->warnings.size(), std::size_t(1));
+    QCOMPARE(bench.model.phaseName(1), QStringLiteral("umbenannt"));
 }
 
 void TestProjects::recordingGoesOnInTheNextProject_data()
