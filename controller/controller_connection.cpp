@@ -46,7 +46,6 @@ void Controller::cancelConnecting()
         return;
     d->sinceRestart.invalidate();
     leaveDevice();
-    d->view->hideProgress();
     d->view->showStatus(tr("Verbindungsaufbau abgebrochen."));
 }
 
@@ -55,6 +54,7 @@ void Controller::leaveDevice()
     d->linkWanted = false;
     d->deferredError.reset();
     d->connector.disconnectFromHost();
+    d->view->hideProgress(); // of an attempt that may have been under way
 }
 
 // --- The sampling period ---------------------------------------------------------------------------------------

@@ -16,7 +16,8 @@ private slots:
     void errors_data();
     void errors();
     void refusedThenAnotherAddress();
-    void cancelledAttempt();
+    void attemptGivenUp_data();
+    void attemptGivenUp();
     void invalidAddressIsNotUsed();
     void misbehaviour_data();
     void misbehaviour();
@@ -169,16 +170,35 @@ void TestDisturbances::refusedThenAnotherAddress()
     QVERIFY(!rig.bench.view.isProgressShown());
 }
 
-void TestDisturbances::cancelledAttempt()
+void TestDisturbances::attemptGivenUp_data()
 {
+    QTest::addColumn<QByteArray>("how");
+    for (const char *how : {"cancelled", "new project", "quit"})
+        QTest::newRow(how) << QByteArray(how);
+}
+
+void TestDisturbances::attemptGivenUp()
+{
+    QFETCH(QByteArray, how);
     Rig rig;
+    rig.bench.recordShots(1);
+    rig.bench.prompts->answers = {QMessageBox::Discard};
     emit rig.bench.view.connectDisconnect();
-    emit rig.bench.view.progressCancelled();
+    if (how == "cancelled")
+        emit rig.bench.view.progressCancelled();
+    else if (how == "quit")
+        emit rig.bench.view.quit();
+    else
+        emit rig.bench.view.newProject();
+    QVERIFY(!rig.bench.view.isProgressShown());
     QTest::qWait(100);
     QVERIFY(!rig.bench.model.isConnected());
-    QVERIFY(!rig.bench.view.isProgressShown());
     QCOMPARE(rig.bench.prompts->addressDialogs, 0);
-    QVERIFY(rig.connectQuickly());
+    emit rig.bench.view.connectDisconnect();
+    emit rig.bench.view.startStopRecording(); // too early: must not take effect when the link comes up
+    QTRY_VERIFY(rig.bench.model.isConnected() && !rig.isWaitingForDescriptions());
+    QCOMPARE(rig.box.receivedCommands().first(), QStringLiteral("t=100"));
+    QVERIFY(!rig.box.isRunning());
 }
 
 void TestDisturbances::invalidAddressIsNotUsed()
