@@ -21,13 +21,13 @@ constexpr int kMaxListEntries = 100000;
 
 bool Controller::areLinesHeld() const
 {
-    return d->holds > 0 || d->model->isBusy();
+    return d->holds > 0 || d->dispatching || d->model->isBusy();
 }
 
 void Controller::onMessageReceived(const QString &message)
 {
     qCDebug(lcController) << Q_FUNC_INFO;
-    if (areLinesHeld() || d->dispatching || !d->heldLines.empty()) {
+    if (areLinesHeld() || !d->heldLines.empty()) {
         d->heldLines.push_back(message);
         d->connector.setPaused(true);
         if (!d->resumeTimer.isActive())
@@ -164,6 +164,7 @@ void Controller::handleDeviceDescription(const QString &message)
 {
     qCDebug(lcController) << Q_FUNC_INFO;
     d->model->setDeviceDescription(parseDeviceDescription(message));
+    d->model->emitProjectChanged(); // a description of the sensors need not follow
     const std::optional<ReceivedProject> received = parseProjectDescription(message);
     if (!received)
         return;

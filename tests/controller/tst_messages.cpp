@@ -219,8 +219,10 @@ void TestMessages::projectDescription()
     Bench bench;
     bench.prompts->answers = {QMessageBox::StandardButton(answer)};
     const ProjectData before = bench.model.projectData();
+    QSignalSpy changed(&bench.model, &Model::projectChanged);
     bench.say(projectNamed("Deckel"));
     QCOMPARE(bench.model.hardwareVersion(), QStringLiteral("2.1"));
+    QCOMPARE(changed.count(), 1); // the versions are on display
     QTRY_COMPARE(bench.prompts->questions.size(), std::size_t(1));
     QCOMPARE(bench.prompts->questions[0].title, QStringLiteral("Projektbeschreibung empfangen"));
     QCOMPARE(bench.prompts->questions[0].text,
