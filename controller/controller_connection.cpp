@@ -87,6 +87,8 @@ void Controller::matchBoxToProject()
         d->view->showStatus(tr("Achtung: Das Projekt ist mit %1 ms je Wert aufgezeichnet, die Box misst mit %2 ms.")
                                 .arg(clock)
                                 .arg(d->boxClock));
+    else
+        d->boxClock = clock; // the next project may come in before the answer
     d->connector.setClock(label);
 }
 
