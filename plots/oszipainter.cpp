@@ -24,8 +24,9 @@ constexpr int kWidestTimeLabel = 200;
 constexpr int kThickPen = 3;
 constexpr int kDashPeriod = kThickPen * (4 + 2); // a dash of 4 and a gap of 2 pen widths
 constexpr int kLastPhaseWidth = 100;
-constexpr int kEndValueGap = 4;   // pixels between the end of the curve and its value
-constexpr int kEndValueRaise = 6; // pixels between a line through the end and its value
+constexpr int kMostPhaseWidth = 100000; // pixels; longer ones need no care for their names
+constexpr int kEndValueGap = 4;         // pixels between the end of the curve and its value
+constexpr int kEndValueRaise = 6;       // pixels between a line through the end and its value
 constexpr int kValueLabelLeft = 2;
 constexpr int kValueLabelRoom = kLeft - 3 - kValueLabelLeft; // pixels, up to the time axis
 
@@ -231,8 +232,10 @@ void paintPhaseNames(QPainter &painter, const OsziScene &scene, const QRect &reg
             continue;
         const qint64 left = i > 0 ? markerDistance(scene, scene.markers[i - 1]) : 0;
         const bool isLast = i + 1 == scene.markers.size();
-        paintPhaseName(painter, labels.label(scene.markers[i].phase, painter.font()), left,
-                       isLast ? left + kLastPhaseWidth : right, region);
+        const qint64 end = isLast ? left + kLastPhaseWidth : right;
+        const QString name = painter.fontMetrics().elidedText(scene.markers[i].phase, Qt::ElideRight,
+                                                              int(std::min<qint64>(end - left, kMostPhaseWidth)));
+        paintPhaseName(painter, labels.label(name, painter.font()), left, end, region);
     }
 }
 

@@ -16,6 +16,16 @@ constexpr int kHairLineHalf = 400; // pixels
 constexpr int kReadOutRight = 10;  // pixels from the mouse to the read-out
 constexpr int kReadOutAbove = 11;  // pixels between the curve and the read-out
 
+/// Above and right of a point of the curve; a peak near the upper edge or the right end keeps its value in sight.
+QPoint readOutPlace(QPoint point, QSize label, QSize plot)
+{
+    const int right = point.x() + kReadOutRight;
+    const int left = point.x() - kReadOutRight - label.width();
+    const int top = point.y() - label.height() - kReadOutAbove;
+    return {right + label.width() > plot.width() && left >= 0 ? left : right,
+            std::clamp(top, 0, std::max(plot.height() - label.height(), 0))};
+}
+
 } // namespace
 
 void OsziWidget::Private::measure(const OsziWidget *widget)
@@ -121,7 +131,7 @@ void OsziWidget::showMouseMarker(int x)
     d->hairLine->show();
     d->mouseReadOut->setText(QString::number(value, 'g', 6));
     d->mouseReadOut->adjustSize();
-    d->mouseReadOut->move(x + kReadOutRight, y - d->mouseReadOut->height() - kReadOutAbove);
+    d->mouseReadOut->move(readOutPlace({x, y}, d->mouseReadOut->size(), size()));
     d->mouseReadOut->show();
 }
 

@@ -96,6 +96,8 @@ private slots:
     void mouseIsReported();
     void mouseMarkerFollowsTheHighlightedCurve_data();
     void mouseMarkerFollowsTheHighlightedCurve();
+    void mouseReadOutStaysInSight_data();
+    void mouseReadOutStaysInSight();
     void gridsAreAnnouncedOnce();
     void spinBoxesDoNotAnswerForEver();
     void extremeSettingsPaint_data();
@@ -295,6 +297,32 @@ void TestOsziWidget::mouseMarkerFollowsTheHighlightedCurve()
     QCOMPARE(readOut->geometry().bottom() + 1 - hairLine->y(), 400 - 11);
     m_plot->hideMouseMarker();
     QVERIFY(hairLine->isHidden() && readOut->isHidden());
+}
+
+void TestOsziWidget::mouseReadOutStaysInSight_data()
+{
+    QTest::addColumn<double>("value");
+    QTest::addColumn<int>("x");
+    QTest::addColumn<bool>("isRight"); // of the hair line
+    QTest::newRow("above the range") << 900.0 << 81 << true;
+    QTest::newRow("at its upper end") << 255.0 << 81 << true;
+    QTest::newRow("below the range") << -900.0 << 81 << true;
+    QTest::newRow("right edge") << 100.0 << 295 << false;
+}
+
+void TestOsziWidget::mouseReadOutStaysInSight()
+{
+    QFETCH(double, value);
+    QFETCH(int, x);
+    QFETCH(bool, isRight);
+    const SampleList samples(500, value);
+    m_plot->resize(300, 120);
+    m_plot->setCurve(0, &samples, Qt::blue, true);
+    m_plot->highlightSingle(0);
+    m_plot->showMouseMarker(x);
+    const QRect place = m_plot->findChild<QLabel *>(QStringLiteral("mouseReadOut"))->geometry();
+    QVERIFY(m_plot->rect().contains(place));
+    QCOMPARE(isRight ? place.left() - x : x - place.right() - 1, 10);
 }
 
 void TestOsziWidget::gridsAreAnnouncedOnce()
