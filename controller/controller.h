@@ -140,6 +140,7 @@ private:
     void cancelConnecting();
     void leaveDevice();
     void matchBoxToProject();
+    void describeBoxAgain();
     void reportConnectionError(QAbstractSocket::SocketError error);
     void offerReconnect();
 

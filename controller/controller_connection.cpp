@@ -92,6 +92,18 @@ void Controller::matchBoxToProject()
     d->connector.setClock(label);
 }
 
+/// A new project begins with the sensors of the box that is connected, which describes them only once.
+void Controller::describeBoxAgain()
+{
+    if (!d->model->isConnected())
+        return;
+    if (d->deviceDescription)
+        d->model->setDeviceDescription(*d->deviceDescription);
+    if (d->sensorDescription)
+        d->model->setSensorDescription(*d->sensorDescription);
+    d->model->emitProjectChanged();
+}
+
 // --- What the link reports -------------------------------------------------------------------------------------
 
 void Controller::onConnected()
@@ -101,6 +113,8 @@ void Controller::onConnected()
     d->linkWanted = true; // the firmware dialog connects too
     d->sinceRestart.invalidate();
     d->deferredError.reset();
+    d->deviceDescription.reset();
+    d->sensorDescription.reset();
     d->model->blockSignals(false);
     d->model->setConnected(true);
     d->model->emitAppStateChanged();

@@ -139,6 +139,7 @@ void Controller::handleSensorDescription(const QString &message)
     applySensorDescription(parseSensorDescription(message), description);
     d->model->blockSignals(false);
     d->model->setSensorDescription(description);
+    d->sensorDescription = description;
     qCDebug(lcController) << "emit Model::projectChanged()";
     d->model->emitProjectChanged();
     showNewSensorLimits(before, description);
@@ -163,7 +164,8 @@ void Controller::showNewSensorLimits(const SensorDescription &before, const Sens
 void Controller::handleDeviceDescription(const QString &message)
 {
     qCDebug(lcController) << Q_FUNC_INFO;
-    d->model->setDeviceDescription(parseDeviceDescription(message));
+    d->deviceDescription = parseDeviceDescription(message);
+    d->model->setDeviceDescription(*d->deviceDescription);
     d->model->emitProjectChanged(); // a description of the sensors need not follow
     const std::optional<ReceivedProject> received = parseProjectDescription(message);
     if (!received)

@@ -4,6 +4,8 @@
 #include "controller/recordingseries.h"
 #include "device/mesotraconnector.h"
 #include "device/messages.h"
+#include "model/devicedescription.h"
+#include "model/sensordescription.h"
 
 #include <QElapsedTimer>
 #include <QPointer>
@@ -58,6 +60,8 @@ struct Controller::Private
     QTimer listTimer;
     bool linkWanted = false; ///< errors of a link that the user gave up are of no interest
     std::optional<QAbstractSocket::SocketError> deferredError;
+    std::optional<DeviceDescription> deviceDescription; ///< as the connected box gave it, like the next
+    std::optional<SensorDescription> sensorDescription;
     int boxClock = 0; ///< ms, the sampling period that the box was last asked for or has reported
 
     // --- Transfers and restart of the box ---

@@ -63,6 +63,7 @@ void Controller::onNewProject()
     }
     d->model->blockSignals(false);
     d->model->clear();
+    describeBoxAgain();
     d->model->setProjectModifiedFlag(false);
     d->series.clear();
     d->view->reset();

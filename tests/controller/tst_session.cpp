@@ -68,7 +68,7 @@ private slots:
     void disconnectStopsTheBox();
     void quitStopsTheBox();
     void terminalSendsAndShows();
-    void samplingPeriodIsChosenAndMatched();
+    void boxAndProjectStayMatched();
     void independentBox();
 
 private:
@@ -211,8 +211,8 @@ void TestSession::terminalSendsAndShows()
     QVERIFY(!text.contains(QStringLiteral("early")));
 }
 
-/// The user chooses the period of the project; a project that replaces it brings its own, which the box then takes.
-void TestSession::samplingPeriodIsChosenAndMatched()
+/// The user chooses the period of the project; a new one brings its own, which the box takes, and keeps the sensors.
+void TestSession::boxAndProjectStayMatched()
 {
     Rig rig;
     Bench &bench = rig.bench;
@@ -240,6 +240,8 @@ void TestSession::samplingPeriodIsChosenAndMatched()
     bench.model.setProjectModifiedFlag(false);
     emit bench.view.newProject();
     QTRY_COMPARE(rig.box.receivedCommands().constLast(), QStringLiteral("t=100"));
+    QVERIFY(!bench.model.sensorDescription().sensorGroup(0).sensorName(0).isEmpty()); // the box is still the same
+    QVERIFY(!bench.model.hardwareVersion().isEmpty() && !bench.model.isProjectModified());
 }
 
 void TestSession::independentBox()
