@@ -47,7 +47,10 @@ bool copyOver(const QFileInfo &source, const QString &target)
     if (!QFile::copy(source.filePath(), part))
         return false;
     (void)QFile::remove(target); // if that fails, so does the next step
-    return QFile::rename(part, target);
+    const bool replaced = QFile::rename(part, target);
+    if (!replaced)
+        (void)QFile::remove(part); // nothing half done stays
+    return replaced;
 }
 
 /// Shows for its lifetime that a fetch is under way.

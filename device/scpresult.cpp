@@ -11,17 +11,11 @@ struct ScpTexts
     Q_DECLARE_TR_FUNCTIONS(Scp)
 };
 
-/// For a message of HTML. Quotation marks stay, since they mean nothing between tags.
-QString escaped(QString text)
-{
-    return text.replace(QLatin1Char('&'), QLatin1String("&amp;")).replace(QLatin1Char('<'), QLatin1String("&lt;"));
-}
-
 ScpMessage notStarted(const QString &commandLine, const QString &errorText)
 {
     return {ScpTexts::tr("Problem"),
             ScpTexts::tr("The SCP tool could not be started!<br><br>Tool command: %1<br>Error: %2")
-                .arg(escaped(commandLine), escaped(errorText)),
+                .arg(commandLine, errorText),
             false};
 }
 

@@ -91,7 +91,7 @@ void fillMessageBox(QMessageBox &box, const QString &title, const QString &text,
 {
     box.setWindowTitle(title);
     box.setTextFormat(Qt::PlainText); // what the user typed and what the box sent stays as it is
-    box.setText(text);
+    box.setText(QString(text).replace(QLatin1String("<br>"), QLatin1String("\n"))); // the one tag in the texts
     // The platform's order would tear apart what reads as "save, discard, cancel".
     for (const AnswerText &answer : kAnswers) {
         if (!buttons.testFlag(answer.button))

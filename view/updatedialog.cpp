@@ -99,9 +99,10 @@ void UpdateDialog::createWidgets()
 void UpdateDialog::layOut()
 {
     // On the frame and not on the dialog, whose message boxes have a look of their own.
-    m_mainFrame->setStyleSheet(QStringLiteral("QFrame#mainFrame {background-color: %1;}"
-                                              "QPushButton {font-size: 20px; min-height: 50px; padding: 0px 20px;}")
-                                   .arg(theme::colorBackground));
+    m_mainFrame->setStyleSheet(QStringLiteral("QFrame#mainFrame {background-color: %1; border: 3px solid %2;}"
+                                              "QPushButton {font-size: 20px; min-height: 50px; min-width: 130px;"
+                                              " padding: 0px 20px;}")
+                                   .arg(theme::colorBackground, theme::colorPrimary));
     m_title->setStyleSheet(QStringLiteral("QLabel {font: bold 28px; color: %1;}").arg(theme::colorPrimary));
     auto *column = new QVBoxLayout(m_mainFrame);
     column->setContentsMargins(kMargin, kMargin - 8, kMargin, kMargin - 8);
@@ -139,8 +140,6 @@ QLayout *UpdateDialog::buttonRow()
     row->addStretch(1);
     row->addWidget(m_cancel);
     row->addWidget(m_ok);
-    for (QPushButton *button : {m_cancel, m_ok})
-        button->setMinimumWidth(160);
     return row;
 }
 

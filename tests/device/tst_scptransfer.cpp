@@ -132,7 +132,7 @@ void TestScpTransfer::missingTool()
     const ScpMessage message = rig.messages.front();
     QCOMPARE(message.title, QStringLiteral("Problem"));
     const auto begin = QStringLiteral("The SCP tool could not be started!<br><br>Tool command: "
-                                      "\\not\\there\\R&amp;D&lt;1>\\winscp.com /command \"open pi:");
+                                      "\\not\\there\\R&D<1>\\winscp.com /command \"open pi:");
     QCOMPARE(message.text.left(begin.size()), begin);
     QVERIFY(message.text.section(QStringLiteral("\"exit\"<br>Error: "), 1).size() > 5);
     QVERIFY(rig.waits.isEmpty());
