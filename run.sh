@@ -38,7 +38,7 @@ step "release build" build release
 
 if [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     echo "No display: recording off-screen into demo-output/"
-    QT_QPA_PLATFORM=offscreen "$programs/ventaro-demo" demo-output
+    QT_QPA_PLATFORM=offscreen timeout 180 "$programs/ventaro-demo" demo-output
     exit
 fi
 

@@ -12,6 +12,7 @@
 #include <QFontDatabase>
 #include <QIcon>
 #include <QLibraryInfo>
+#include <QLocale>
 #include <QMessageBox>
 #include <QPixmap>
 #include <QSplashScreen>
@@ -68,6 +69,8 @@ void installKitTheme()
 
 void prepareApplication(QApplication &application)
 {
+    // The built-in texts are German, and so are the numbers beside them, whatever the computer speaks.
+    QLocale::setDefault(QLocale(QLocale::German));
     loadFonts();
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     application.setStyleSheet(theme::styleApplication);

@@ -109,6 +109,7 @@ void makePanel(QMessageBox &box, const QString &iconFile)
     box.setIconPixmap(actionIcon(iconFile, theme::qColorBackground).pixmap(kIconSize));
     // The icon is a label too and must not be as wide as the text.
     box.setStyleSheet(QStringLiteral("QLabel#qt_msgboxex_icon_label {min-width: %1px; max-width: %1px;}"
+                                     "QLabel#qt_msgbox_label {padding-right: 24px;}"
                                      "QPushButton {padding: 0px 20px;}")
                           .arg(kIconSize.width() + kIconSize.width() / 2));
     // A message box sets its size by its layout and ignores the minimum in the sheet.

@@ -25,6 +25,15 @@ void writeLog(QtMsgType, const QMessageLogContext &context, const QString &text)
         logFile().write((QLatin1String(context.category) + QLatin1String(": ") + text + QLatin1Char('\n')).toUtf8());
 }
 
+/// Files of an earlier demonstration would be asked about before they are overwritten, and could pass for new ones.
+void removeEarlierRun(QDir folder)
+{
+    const QStringList left = folder.entryList(
+        {QStringLiteral("[0-9][0-9]-*.png"), QStringLiteral("demo.*"), QStringLiteral("terminal.txt")}, QDir::Files);
+    for (const QString &file : left)
+        folder.remove(file);
+}
+
 int demonstrate(const QDir &folder)
 {
     BoxOptions options;
@@ -56,6 +65,7 @@ int main(int argc, char **argv)
         return 2;
     }
     const QDir folder(arguments.at(1));
+    removeEarlierRun(folder);
     logFile().setFileName(folder.filePath(QStringLiteral("ventaro.log")));
     if (!logFile().open(QIODevice::WriteOnly | QIODevice::Truncate))
         QTextStream(stderr) << "the log cannot be written\n";
