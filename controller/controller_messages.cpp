@@ -12,6 +12,8 @@ namespace {
 
 // How often to look whether something that makes lines or questions wait is over.
 constexpr int kRetryInterval = 20;
+// How long no other project description must follow before the user is asked about one, in ms.
+constexpr int kProjectSettled = 100;
 // A list block that never ends must not fill the memory.
 constexpr int kMaxListEntries = 100000;
 
@@ -171,10 +173,9 @@ void Controller::handleDeviceDescription(const QString &message)
     if (!received)
         return;
     qCDebug(lcController) << "Received projectData:" << received->data;
-    // Asked from the event loop, about the newest only: a box that describes its project again and again asks once.
+    // Asked about the newest only, once no other follows: a box that describes its project again and again asks once.
     d->receivedProject = received;
-    if (!d->deferredTimer.isActive())
-        d->deferredTimer.start(0);
+    d->deferredTimer.start(kProjectSettled);
 }
 
 // --- Questions that the box causes -----------------------------------------------------------------------------

@@ -302,9 +302,9 @@ void TestDisturbances::descriptionsInARow()
         "<deviceDescription hardwareVersion=\"1\"/><projectDescription projectName=\"x\"/>\n";
     QVERIFY(rig.box.sendRaw(description.repeated(1000) + "t=25\n"));
     QTRY_COMPARE(rig.bench.model.clock(), 25);
-    QTest::qWait(50);
-    QVERIFY(!rig.bench.prompts->questions.empty());
-    QVERIFY2(rig.bench.prompts->questions.size() <= 20, "a thousand descriptions are not a thousand questions");
+    QTRY_VERIFY(!rig.bench.prompts->questions.empty());
+    QTest::qWait(200);
+    QVERIFY2(rig.bench.prompts->questions.size() <= 3, "a thousand descriptions are not a thousand questions");
     QCOMPARE(rig.bench.prompts->mostOpenAtOnce, 1);
 }
 
