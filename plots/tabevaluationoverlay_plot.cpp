@@ -1,0 +1,207 @@
+#include "model/model.h"
+#include "plots/overlayplot.h"
+#include "plots/tabevaluationoverlay.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QScrollBar>
+#include <QTableView>
+
+#include <algorithm>
+#include <limits>
+#include <optional>
+
+namespace {
+
+constexpr int kWidestSample = 10; // pixels
+constexpr int kUsualCount = 200;  // samples that the time axis has room for while there are none
+constexpr QRgb kFaded = 0xffcdcdcd;
+
+class ValueRange
+{
+public:
+    void include(double low, double high)
+    {
+        m_range =
+            m_range ? std::pair(std::min(m_range->first, low), std::max(m_range->second, high)) : std::pair(low, high);
+    }
+    // With a little room above and below.
+    [[nodiscard]] std::pair<double, double> widened() const
+    {
+        constexpr double kSmallestRoom = 0.001;
+        const auto [low, high] = m_range.value_or(std::pair(0.0, 0.0));
+        const double room = high > low ? std::max(kSmallestRoom, (high - low) / 20.0) : 1.0;
+        return {low - room, high + room};
+    }
+
+private:
+    std::optional<std::pair<double, double>> m_range;
+};
+
+void setValueRange(OsziWidget &plot, double minimum, double maximum)
+{
+    if (!(minimum < plot.minValue()) && !(minimum > plot.minValue()) && !(maximum < plot.maxValue())
+        && !(maximum > plot.maxValue()))
+        return;
+    // Each end must be moved while the other leaves room for it.
+    if (maximum > plot.maxValue()) {
+        plot.setMaxValue(maximum);
+        plot.setMinValue(minimum);
+    } else {
+        plot.setMinValue(minimum);
+        plot.setMaxValue(maximum);
+    }
+}
+
+} // namespace
+
+std::vector<bool> TabEvaluationOverlay::shownShots() const
+{
+    std::vector<bool> shown(m_shots.shots().size());
+    for (size_t i = 0; i < shown.size(); ++i)
+        shown[i] = m_shots.shots()[i]->isPlaced() && !lookOf(static_cast<int>(i)).isHidden;
+    return shown;
+}
+
+void TabEvaluationOverlay::showPlot()
+{
+    const std::vector<bool> shown = shownShots();
+    std::vector<bool> drawn = shown;
+    const int reference = referenceShot();
+    if (reference >= 0 && static_cast<size_t>(reference) < drawn.size())
+        drawn[static_cast<size_t>(reference)] = true;
+    m_shots.place(drawn);
+    m_plot->setOffset(m_model->offset(m_currentSensor));
+    m_plot->setClock(m_model->clock());
+    showCurves(shown);
+    showReference();
+    showMean(shown);
+    showLines();
+    fitValueRange(drawn);
+    fitTimeAxis();
+    m_plot->samplesAppended();
+}
+
+/// Chosen shots keep their colours and lie over the others, which fade. The current one is drawn thick, and can be read
+/// off with the mouse.
+void TabEvaluationOverlay::showCurves(const std::vector<bool> &isShown)
+{
+    const std::vector<bool> selected = selectedShots();
+    const auto both = [&](size_t shot) { return isShown[shot] && selected[shot]; };
+    bool anySelected = false;
+    for (size_t i = 0; i < isShown.size(); ++i)
+        anySelected = anySelected || both(i);
+    std::vector<Slot> wanted;
+    for (const bool onTop : {false, true}) {
+        for (size_t i = 0; i < isShown.size(); ++i) {
+            if (!isShown[i] || both(i) != onTop)
+                continue;
+            const OverlayShot &shot = *m_shots.shots()[i];
+            const QRgb color = anySelected && !onTop ? kFaded : colorOf(static_cast<int>(i)).rgb();
+            wanted.push_back({shot.id, &shot, color, shot.shift, shot.lift});
+        }
+    }
+    if (wanted.size() > OsziWidget::kNumSlots)
+        wanted.erase(wanted.begin(), wanted.end() - OsziWidget::kNumSlots);
+    setSlots(wanted);
+    const int current = currentShot();
+    const bool isThick = current >= 0 && both(static_cast<size_t>(current));
+    const quint64 id = isThick ? m_shots.shots()[static_cast<size_t>(current)]->id : 0;
+    const auto slot = std::find_if(m_slots.begin(), m_slots.end(), [id](const Slot &s) { return s.id == id; });
+    const int highlighted = slot == m_slots.end() ? -1 : static_cast<int>(slot - m_slots.begin());
+    if (highlighted != m_plot->highlighted())
+        m_plot->hideMouseMarker();
+    if (highlighted >= 0)
+        m_plot->setHighlightColor(QColor(slot->color));
+    m_plot->highlightSingle(highlighted);
+}
+
+/// Tells the plot only what differs: every change makes it draw all its curves anew.
+void TabEvaluationOverlay::setSlots(const std::vector<Slot> &wanted)
+{
+    const auto isSame = [](const Slot &a, const Slot &b) {
+        return a.id == b.id && a.shot == b.shot && a.color == b.color && a.shift == b.shift && !(a.lift < b.lift)
+               && !(a.lift > b.lift);
+    };
+    for (size_t i = 0; i < wanted.size(); ++i) {
+        if (i < m_slots.size() && isSame(m_slots[i], wanted[i]))
+            continue;
+        const auto slot = static_cast<int>(i);
+        m_plot->setCurve(slot, &wanted[i].shot->samples, QColor(wanted[i].color), true);
+        m_plot->setCurvePlace(slot, wanted[i].shift, wanted[i].lift);
+    }
+    for (size_t i = wanted.size(); i < m_slots.size(); ++i)
+        m_plot->setCurve(static_cast<int>(i), nullptr, Qt::black, false);
+    m_slots = wanted;
+}
+
+void TabEvaluationOverlay::showReference()
+{
+    const OverlayShot *shot = m_shots.reference();
+    if (shot && shot->isPlaced())
+        m_plot->setReference({&shot->samples, shot->shift, shot->lift, colorOf(referenceShot())});
+    else
+        m_plot->setReference({});
+}
+
+void TabEvaluationOverlay::showMean(const std::vector<bool> &isShown)
+{
+    const bool shows = m_checkMean->isChecked() || m_checkBand->isChecked();
+    const double sigmas = m_checkBand->isChecked() ? m_spinBoxSigmas->value() : 0.0;
+    m_plot->setMean(shows ? &m_shots.meanOf(isShown) : nullptr, m_checkMean->isChecked(), sigmas);
+}
+
+/// What the shots are aligned by: a vertical line where they all stand, and the threshold that they cross there.
+void TabEvaluationOverlay::showLines()
+{
+    const AlignmentRule aligned = rule();
+    const qint64 time = qint64(m_shots.alignedIndex()) * m_model->clock();
+    const bool hasLine = aligned.by != AlignBy::Start && m_shots.alignedIndex() > 0;
+    const qint64 latest = std::numeric_limits<int>::max();
+    m_plot->setVerticalMarker(0, hasLine ? static_cast<int>(std::min(time, latest)) : -1, Qt::darkGreen);
+    m_plot->setHorizontalLineCount(usesThreshold() ? 1 : 0);
+    if (usesThreshold())
+        m_plot->setHorizontalLine(0, aligned.threshold, Qt::darkGreen);
+}
+
+void TabEvaluationOverlay::fitValueRange(const std::vector<bool> &isDrawn)
+{
+    const AlignmentRule aligned = rule();
+    ValueRange range;
+    m_longest = 0;
+    for (size_t i = 0; i < isDrawn.size(); ++i) {
+        const OverlayShot &shot = *m_shots.shots()[i];
+        if (!isDrawn[i] || !shot.isPlaced())
+            continue;
+        const double lift = shot.lift + aligned.offset;
+        range.include(shot.lowest + lift, shot.highest + lift);
+        m_longest = std::max(m_longest, shot.shift + shot.samples.size());
+    }
+    if (usesThreshold())
+        range.include(aligned.threshold, aligned.threshold);
+    if (const double sigmas = m_plot->bandSigmas(); sigmas > 0.0) {
+        for (const MeanBand::Point &point : m_shots.meanOf(shownShots()).points()) {
+            const double reach = sigmas * point.sigma();
+            if (point.count > 0)
+                range.include(point.mean + aligned.offset - reach, point.mean + aligned.offset + reach);
+        }
+    }
+    const auto [minimum, maximum] = range.widened();
+    setValueRange(*m_plot, minimum, maximum);
+}
+
+// The longest curve fills the width; longer ones than fit are scrolled.
+void TabEvaluationOverlay::fitTimeAxis()
+{
+    const int width = m_plot->contentsRect().width() - OsziWidget::kLeftMargin;
+    const int count = m_longest > 0 ? m_longest : kUsualCount;
+    const int zoom = std::clamp(width / count, 1, kWidestSample);
+    const int hidden = std::max(0, count - std::max(0, width) / zoom);
+    if (zoom != m_plot->zoom())
+        m_plot->setZoom(zoom);
+    m_timeScrollBar->setRange(0, hidden);
+    m_timeScrollBar->setPageStep(std::max(1, count - hidden));
+    m_timeScrollBar->setSingleStep(std::max(1, m_timeScrollBar->pageStep() / 10));
+    m_timeScrollBar->setVisible(hidden > 0);
+}
