@@ -2,6 +2,7 @@
 
 #include "app/theme.h"
 #include "model/model.h"
+#include "plots/tabevaluationoverlay.h"
 #include "plots/tabevaluationruntime.h"
 #include "view/logging.h"
 
@@ -67,6 +68,8 @@ void TabEvaluation::createPages()
     connect(m_runtimePage, &TabEvaluationRuntime::thresholdsChanged, this,
             &TabEvaluation::onRuntimePage_thresholdsChanged);
     addPage(Page::Runtime, m_runtimePage);
+    m_overlayPage = new TabEvaluationOverlay(m_stack);
+    addPage(Page::Overlay, m_overlayPage);
     const auto first = std::find_if(m_pages.begin(), m_pages.end(), [](const QWidget *page) { return page; });
     showPage(static_cast<Page>(std::distance(m_pages.begin(), first)));
 }
@@ -88,6 +91,7 @@ void TabEvaluation::setModel(Model *model)
     m_model = model;
     connect(model, &Model::projectChanged, this, &TabEvaluation::onModel_projectChanged);
     m_runtimePage->setModel(model);
+    m_overlayPage->setModel(model);
     onModel_projectChanged();
 }
 

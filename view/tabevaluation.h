@@ -7,6 +7,7 @@
 class Model;
 class QAbstractButton;
 class QStackedWidget;
+class TabEvaluationOverlay;
 class TabEvaluationRuntime;
 
 /// The tab "Auswertung": a row of buttons and the page that the chosen one opens. The pages follow the model by
@@ -46,4 +47,5 @@ private:
     std::array<QWidget *, kNumPages> m_pages{}; // nullptr: not there, its button is hidden
     QStackedWidget *m_stack = nullptr;
     TabEvaluationRuntime *m_runtimePage = nullptr;
+    TabEvaluationOverlay *m_overlayPage = nullptr;
 };
