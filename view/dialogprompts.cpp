@@ -8,9 +8,11 @@
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QHeaderView>
+#include <QLabel>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QScrollArea>
 #include <QTreeView>
 
 namespace {
@@ -20,6 +22,10 @@ constexpr int kButtonRowHeight = 84;
 constexpr QSize kIconSize(72, 72);
 constexpr QSize kFileDialogSize(1000, 660);
 constexpr int kFileColumns[] = {330, 120, 120, 190}; // name, size, type, date
+
+// More text than that scrolls.
+constexpr int kMaxLines = 12;
+constexpr int kMaxCharacters = 500;
 
 struct AnswerText
 {
@@ -47,6 +53,28 @@ void makeRoomy(QFileDialog &dialog)
     int column = 0;
     for (const int width : kFileColumns)
         list->header()->resizeSection(column++, width);
+}
+
+void scrollLongText(QMessageBox &box, QGridLayout &grid)
+{
+    auto *label = box.findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
+    const int index = grid.indexOf(label);
+    if (index < 0 || (box.text().count(QLatin1Char('\n')) < kMaxLines && box.text().size() <= kMaxCharacters))
+        return;
+    int row = 0;
+    int column = 0;
+    int rows = 0;
+    int columns = 0;
+    grid.getItemPosition(index, &row, &column, &rows, &columns);
+    grid.removeWidget(label);
+    auto *area = new QScrollArea(&box);
+    area->setWidget(label);
+    area->setWidgetResizable(true);
+    for (QWidget *part : {area->viewport(), static_cast<QWidget *>(label)})
+        part->setAutoFillBackground(false); // or it is painted in the window's grey
+    label->setWordWrap(true);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    grid.addWidget(area, row, column, rows, columns);
 }
 
 void prepare(QFileDialog &dialog, const QString &filter)
@@ -117,6 +145,7 @@ void makePanel(QMessageBox &box, const QString &iconFile)
         if (auto *icon = box.findChild<QWidget *>(QStringLiteral("qt_msgboxex_icon_label")))
             grid->setAlignment(icon, Qt::AlignVCenter);
         grid->setRowMinimumHeight(0, kPanelSize.height() - kButtonRowHeight);
+        scrollLongText(box, *grid);
         grid->addItem(new QSpacerItem(kPanelSize.width(), 0), grid->rowCount(), 0, 1, grid->columnCount());
     }
 }

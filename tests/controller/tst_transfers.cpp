@@ -1,5 +1,6 @@
 #include "rig.h"
 
+#include "app/theme.h"
 #include "device/mesotraconnector.h"
 #include "device/scptransfer.h"
 #include "tests/support/faketool.h"
@@ -85,11 +86,10 @@ void TestTransfers::fetchesTheDays()
     const LogCapture log;
     transfers.click("buttonFetch");
     QCOMPARE(transfers.tool.arguments().size(), 3);
+    const auto expected = QStringLiteral("open pi:%1@192.168.4.1 -hostkey=* \" \"get -preservetime "
+                                         "/media/usbstick/data/dir-2024030%2\"");
     for (int i = 0; i < 3; ++i)
-        QVERIFY(transfers.tool.arguments().at(i).contains(
-            QStringLiteral(
-                "open pi:ventaro@192.168.4.1 -hostkey=* \" \"get -preservetime /media/usbstick/data/dir-2024030")
-            + QString::number(7 - i)));
+        QVERIFY(transfers.tool.arguments().at(i).contains(expected.arg(theme::devicePassword, QString::number(7 - i))));
     QCOMPARE(transfers.tool.folders(), QVector<QString>(3, QDir(transfers.target()).canonicalPath()).toList());
     QVERIFY(log.contains(QStringLiteral("dirListToFetch:")));
     QCOMPARE(log.count(QStringLiteral("New file:")), 6);
@@ -200,6 +200,7 @@ void TestTransfers::localFolder()
     old.close();
     const LogCapture log;
     const QStringList copied = transfers.bench.controller.copyLocalDirToTmpDir(source.path(), target);
+    QCOMPARE(target.entryList(QDir::Files), QStringList(QStringLiteral("a.bb"))); // nothing half done
     QCOMPARE(copied, QStringList(target.filePath(QStringLiteral("a.bb"))));
     QCOMPARE(log.count(QStringLiteral("file =")), 2);
     QCOMPARE(log.count(QStringLiteral("file could not be copied: b.bb")), 1);

@@ -182,6 +182,17 @@ void TestViewPictures::dialogsFitTheScreen_data()
                           << QStringLiteral("Soll die aktuelle Projektbeschreibung durch die empfangenen Daten "
                                             "überschrieben werden?")
                           << int(QMessageBox::Yes | QMessageBox::No);
+    QTest::newRow("tool") << QStringLiteral("Problem")
+                          << QStringLiteral("The SCP tool could not be started!<br><br>Tool command: "
+                                            "C:\\Program Files\\Ventaro\\winscp\\winscp.com /command \"open "
+                                            "pi:password@192.168.4.1 -hostkey=* \" \"get -preservetime "
+                                            "/media/usbstick/data/dir-20240305\" \"exit\"<br>Error: No such file")
+                          << int(QMessageBox::Ok);
+    QTest::newRow("output")
+        << QStringLiteral("SCP Problem")
+        << QStringLiteral("SCP was NOT successful!!\n\nPlease check output:")
+               + QStringLiteral("Retrieving /media/usbstick/data/dir-20240305/08-00.bb\n").repeated(400)
+        << int(QMessageBox::Ok);
 }
 
 void TestViewPictures::dialogsFitTheScreen()
