@@ -17,7 +17,7 @@ constexpr int kTabHeight = 70;
 constexpr int kTabWidth = 150;
 constexpr int kMarkerWidth = 10;
 constexpr int kPadding = 10;
-constexpr int kLeastHeight = 40; // in a window that is too low for all
+constexpr int kLeastHeight = 34; // in a low window; all nine then fit the smallest one
 
 } // namespace
 
@@ -27,6 +27,11 @@ SideTabBar::SideTabBar(QWidget *parent)
     setUsesScrollButtons(true);
     setDrawBase(false);
     setFocusPolicy(Qt::TabFocus);
+    // Where not all tabs fit; the sheet for tool buttons would draw black arrows on dark grey.
+    setStyleSheet(QStringLiteral("QToolButton {background-color: %1; border: 1px solid %2; min-width: 0px;}"
+                                 "QToolButton::up-arrow {image: url(:/icons/up.png);}"
+                                 "QToolButton::down-arrow {image: url(:/icons/down.png);}")
+                      .arg(theme::colorLight, theme::colorMedium));
 }
 
 QFont SideTabBar::tabFont() const
@@ -63,7 +68,12 @@ void SideTabBar::drawLabel(QPainter &painter, int index) const
 {
     painter.setFont(tabFont());
     painter.setPen(isTabEnabled(index) ? theme::qColorDark : theme::qColorMedium);
-    painter.drawText(labelRect(index), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap, tabText(index));
+    constexpr int kFlags = Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap;
+    const QRect room = labelRect(index);
+    const QFontMetrics metrics(painter.font());
+    const bool fits = metrics.boundingRect(room, kFlags, tabText(index)).height() <= room.height();
+    painter.drawText(room, kFlags,
+                     fits ? tabText(index) : metrics.elidedText(tabText(index), Qt::ElideRight, room.width()));
 }
 
 void SideTabBar::paintEvent(QPaintEvent *)

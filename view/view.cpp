@@ -166,6 +166,13 @@ void View::closeEvent(QCloseEvent *event)
     emit quit();
 }
 
+void View::resizeEvent(QResizeEvent *event)
+{
+    constexpr int kNarrow = 900; // pixels; all buttons with their texts need a little less
+    d->actions.setCompact(d->toolBar, event->size().width() < kNarrow);
+    QMainWindow::resizeEvent(event);
+}
+
 void View::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange)

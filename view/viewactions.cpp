@@ -138,7 +138,7 @@ void ViewActions::addIconButton(QToolBar *bar, QAction *action, const QString &i
     button->setIconSize(bar->iconSize());
     button->setFocusPolicy(Qt::NoFocus);
     QObject::connect(button, &QToolButton::clicked, action, &QAction::trigger);
-    bar->addWidget(button);
+    m_dispensable.append(bar->addWidget(button));
     m_iconButtons.append({button, action});
 }
 
@@ -151,8 +151,15 @@ void ViewActions::fillToolBar(QToolBar *bar)
     addIconButton(bar, newProject, QStringLiteral("file-plus.png"));
     addIconButton(bar, openProject, QStringLiteral("folder-open.png"));
     addIconButton(bar, saveProject, QStringLiteral("content-save.png"));
-    bar->addSeparator();
+    m_dispensable.append(bar->addSeparator());
     bar->addAction(menu);
+}
+
+void ViewActions::setCompact(QToolBar *bar, bool compact) const
+{
+    bar->setToolButtonStyle(compact ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextBesideIcon);
+    for (QAction *action : m_dispensable)
+        action->setVisible(!compact);
 }
 
 void ViewActions::nameToolButtons() const

@@ -25,6 +25,8 @@ public:
     void retranslate() const;
     /// The actions used most, the first three with their text; the menu at the right.
     void fillToolBar(QToolBar *bar);
+    /// In a narrow window the bar keeps what the box and the menu need, as icons; the rest is in the menu.
+    void setCompact(QToolBar *bar, bool compact) const;
     /// What a tool button shows as an icon alone gets its text as accessible name.
     void nameToolButtons() const;
     void fillMenu(QMenu *menu);
@@ -60,4 +62,5 @@ private:
     void retranslateOther() const;
 
     QVector<QPair<QToolButton *, QAction *>> m_iconButtons;
+    QVector<QAction *> m_dispensable; ///< what the tool bar shows in a wide window only
 };

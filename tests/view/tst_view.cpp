@@ -100,6 +100,7 @@ private slots:
     void oneQuestionAtATime();
     void fileDialogsRememberTheFolder();
     void progressIsCentredAndCancels();
+    void toolBarFitsTheWindow();
     void statusMessageOutlivesTips();
     void modifiedMarkIsShown();
     void burstOfChangesIsBundled();
@@ -427,6 +428,25 @@ void TestView::progressIsCentredAndCancels()
     QVERIFY(!bench.view->isProgressShown());
     bench.action("actionConnect")->trigger();
     QCOMPARE(connectDisconnect.count(), 1);
+}
+
+/// However small the window is, the box and the menu can be reached with the mouse.
+void TestView::toolBarFitsTheWindow()
+{
+    const Bench bench;
+    const auto *bar = bench.view->findChild<QToolBar *>(QStringLiteral("toolBar"));
+    bench.view->show();
+    for (const int width : {400, 899, 900, 1280, 400}) {
+        bench.view->resize(width, 400);
+        QCoreApplication::processEvents();
+        for (const char *name : {"actionConnect", "actionCalibrate", "actionStartRecording", "actionMenu"}) {
+            const auto *button = qobject_cast<QToolButton *>(bar->widgetForAction(bench.action(name)));
+            QVERIFY2(button->isVisible() && bar->rect().contains(button->geometry()), name);
+            QVERIFY2(button->toolButtonStyle() == Qt::ToolButtonIconOnly
+                         || button->width() >= button->sizeHint().width(),
+                     name);
+        }
+    }
 }
 
 void TestView::statusMessageOutlivesTips()
