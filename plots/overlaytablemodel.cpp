@@ -12,6 +12,16 @@ bool operator==(const OverlayRow &a, const OverlayRow &b)
            == std::tie(b.color, b.isShown, b.isReference, b.timestamp, b.label, b.deviation);
 }
 
+namespace {
+
+bool isSameButDeviation(const OverlayRow &a, OverlayRow b)
+{
+    b.deviation = a.deviation;
+    return a == b;
+}
+
+} // namespace
+
 OverlayTableModel::OverlayTableModel(QObject *parent)
     : QAbstractTableModel(parent)
 {}
@@ -40,8 +50,10 @@ void OverlayTableModel::setRows(std::vector<OverlayRow> rows)
     const auto [last, newLast] = std::mismatch(m_rows.rbegin(), m_rows.rend(), rows.rbegin());
     const auto firstChanged = static_cast<int>(first - m_rows.begin());
     const auto lastChanged = static_cast<int>(m_rows.rend() - last) - 1;
+    // Announced cells lose what is being typed in them, and while a shot grows its deviation changes all the time.
+    const bool onlyDeviations = std::equal(first, m_rows.end(), newFirst, isSameButDeviation);
     m_rows = std::move(rows);
-    emit dataChanged(index(firstChanged, 0), index(lastChanged, NumColumns - 1));
+    emit dataChanged(index(firstChanged, onlyDeviations ? Deviation : 0), index(lastChanged, NumColumns - 1));
 }
 
 void OverlayTableModel::retranslate()

@@ -315,7 +315,7 @@ void TabEvaluationOverlay::showStatus()
 int TabEvaluationOverlay::currentShot() const
 {
     const int shot = m_sorted->mapToSource(m_table->currentIndex()).row();
-    return static_cast<size_t>(shot + 1) <= m_shots.shots().size() ? shot : -1;
+    return shot < static_cast<int>(m_shots.shots().size()) ? shot : -1;
 }
 
 std::vector<bool> TabEvaluationOverlay::selectedShots() const

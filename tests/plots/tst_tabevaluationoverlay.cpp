@@ -1,0 +1,418 @@
+#include "model/model.h"
+#include "plots/colordelegate.h"
+#include "plots/overlayplot.h"
+#include "plots/overlaytablemodel.h"
+#include "plots/tabevaluationoverlay.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QImage>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTableView>
+#include <QtTest>
+
+#include <memory>
+
+namespace {
+
+using Column = OverlayTableModel::Column;
+
+constexpr QRgb kFaded = 0xffcdcdcd;
+
+void append(Model &model, const SampleList &samples, const QDateTime &timestamp = {})
+{
+    for (int sensor = 0; sensor < kNumSensors; ++sensor) {
+        const int shot = model.appendMeasurement(sensor);
+        for (const double value : samples)
+            QVERIFY(model.appendSample(sensor, shot, value + 1000.0 * sensor));
+    }
+    model.setTimestamp(model.numChannels(0) - 1, timestamp);
+}
+
+SampleList flat(double value)
+{
+    return SampleList(50, value);
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(AlignBy)
+
+class TabEvaluationOverlayTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void tableShowsShots();
+    void ranksByDeviation();
+    void linesUpShots_data();
+    void linesUpShots();
+    void selectedShotsKeepTheirColors();
+    void shownShotsAreDrawn();
+    void meanAndBandAreOfShownShots();
+    void editsReachTheModel();
+    void typingSurvivesAGrowingShot();
+    void colorIsChosenFromAList();
+    void looksStayWithTheirShots();
+    void sensorsHaveTheirOwnThresholds();
+    void followsTheModelOnlyWhileShown();
+    void survivesRemovalItWasNotToldOf();
+    void worksWithAnyNumberOfShots_data();
+    void worksWithAnyNumberOfShots();
+
+private:
+    template <typename Widget>
+    [[nodiscard]] Widget *child(const char *name) const
+    {
+        return m_page->findChild<Widget *>(QLatin1String(name));
+    }
+    [[nodiscard]] QTableView *table() const { return child<QTableView>("tableOverlay"); }
+    [[nodiscard]] QModelIndex cell(int row, int column) const { return table()->model()->index(row, column); }
+    [[nodiscard]] QString text(int row, int column) const { return cell(row, column).data().toString(); }
+    [[nodiscard]] QString status() const { return child<QLabel>("labelStatus")->text(); }
+    [[nodiscard]] OverlayPlot *plot() const { return child<OverlayPlot>("osziWidget"); }
+    [[nodiscard]] bool draws(QRgb color) const;
+    void align(AlignBy by, double threshold = 0.0);
+
+    std::unique_ptr<Model> m_model;
+    std::unique_ptr<TabEvaluationOverlay> m_page;
+};
+
+void TabEvaluationOverlayTest::init()
+{
+    m_model = std::make_unique<Model>(QString());
+    m_page = std::make_unique<TabEvaluationOverlay>();
+    m_page->setModel(m_model.get());
+    m_page->resize(1080, 640);
+    m_page->show();
+}
+
+void TabEvaluationOverlayTest::cleanup()
+{
+    m_page.reset();
+    m_model.reset();
+}
+
+/// Whether the plot has at least a few pixels of exactly this colour.
+bool TabEvaluationOverlayTest::draws(QRgb color) const
+{
+    const QImage image = plot()->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        const auto *row = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+        count += int(std::count(row + OsziWidget::kLeftMargin + 1, row + image.width(), color));
+    }
+    return count > 20;
+}
+
+void TabEvaluationOverlayTest::align(AlignBy by, double threshold)
+{
+    auto *combo = child<QComboBox>("comboAlignment");
+    combo->setCurrentIndex(combo->findData(QPoint(int(by), 0)));
+    child<QDoubleSpinBox>("spinBoxThreshold")->setValue(threshold);
+}
+
+void TabEvaluationOverlayTest::tableShowsShots()
+{
+    append(*m_model, flat(1), QDateTime(QDate(2026, 3, 9), QTime(23, 59, 50)));
+    append(*m_model, {});
+    m_model->setShotLabel(1, QStringLiteral("leer"));
+    m_page->update();
+    QCOMPARE(table()->model()->rowCount(), 2);
+    QCOMPARE(text(0, Column::Timestamp), QStringLiteral("2026/03/09 23:59:50"));
+    QCOMPARE(text(1, Column::Timestamp), QString());
+    QCOMPARE(text(1, Column::Number), QStringLiteral("1"));
+    QCOMPARE(text(1, Column::Label), QStringLiteral("leer"));
+    QCOMPARE(text(0, Column::Deviation), QString());
+    QCOMPARE(status(), QStringLiteral("1 von 2 gezeigt, 1 zu kurz"));
+}
+
+void TabEvaluationOverlayTest::ranksByDeviation()
+{
+    append(*m_model, {5, 5, 5});
+    append(*m_model, {5, 7.25, 5});
+    append(*m_model, {});
+    append(*m_model, {5, 5, -5.5, 900});
+    m_page->update();
+    m_page->setReferenceShot(0);
+    table()->sortByColumn(Column::Deviation, Qt::DescendingOrder);
+    QCOMPARE(text(0, Column::Number), QStringLiteral("3"));
+    QCOMPARE(text(0, Column::Deviation), QStringLiteral("10.5"));
+    QCOMPARE(text(1, Column::Deviation), QStringLiteral("2.25"));
+    QCOMPARE(text(2, Column::Deviation), QStringLiteral("Referenz"));
+    QCOMPARE(text(3, Column::Deviation), QString()); // nothing to compare comes last
+
+    table()->setCurrentIndex(cell(1, Column::Number));
+    auto *button = child<QAbstractButton>("buttonReference");
+    button->click();
+    QCOMPARE(m_page->referenceShot(), 1);
+    QCOMPARE(text(0, Column::Deviation), QStringLiteral("10.5"));
+    QCOMPARE(button->text(), QStringLiteral("Referenz aufheben"));
+    button->click();
+    QCOMPARE(m_page->referenceShot(), -1);
+    QVERIFY(!plot()->reference().samples);
+}
+
+void TabEvaluationOverlayTest::linesUpShots_data()
+{
+    QTest::addColumn<AlignBy>("by");
+    QTest::addColumn<double>("threshold");
+    QTest::addColumn<int>("shift"); // of the first shot
+    QTest::addColumn<double>("lift");
+    QTest::addColumn<QString>("deviation"); // of the second from the first
+
+    // With the offset of 10 the shots are 10 10 19 19 10 and 12 12 12 12 21 21.
+    QTest::newRow("start") << AlignBy::Start << 0.0 << 0 << 0.0 << QStringLiteral("11");
+    QTest::newRow("marker at sample 3") << AlignBy::Marker << 0.0 << 0 << -19.0 << QStringLiteral("18");
+    QTest::newRow("rising") << AlignBy::Rising << 15.0 << 2 << 0.0 << QStringLiteral("2");
+    QTest::newRow("falling, only one does") << AlignBy::Falling << 15.0 << 0 << 0.0 << QString();
+}
+
+void TabEvaluationOverlayTest::linesUpShots()
+{
+    QFETCH(AlignBy, by);
+    QFETCH(double, threshold);
+    append(*m_model, {0, 0, 9, 9, 0});
+    append(*m_model, {2, 2, 2, 2, 11, 11});
+    m_model->setOffset(0, 10.0);
+    m_model->setVerticalMarkerAbsolute(0, 3);
+    m_page->update();
+    m_page->setReferenceShot(0);
+    align(by, threshold);
+    QTEST(plot()->reference().shift, "shift");
+    QTEST(plot()->reference().lift, "lift");
+    QTEST(text(1, Column::Deviation), "deviation");
+    QCOMPARE(status().contains(QStringLiteral("1 ohne Durchgang")), by == AlignBy::Falling);
+    QCOMPARE(plot()->horizontalLineCount(), threshold > 0.0 ? 1 : 0);
+}
+
+void TabEvaluationOverlayTest::selectedShotsKeepTheirColors()
+{
+    for (const double value : {10.0, 50.0, 90.0})
+        append(*m_model, flat(value));
+    m_page->update();
+    const auto colors = [this] {
+        return QVector<bool>{draws(ColorDelegate::colorAt(0).rgb()), draws(ColorDelegate::colorAt(1).rgb()),
+                             draws(ColorDelegate::colorAt(2).rgb()), draws(kFaded)};
+    };
+    QCOMPARE(colors(), QVector<bool>({true, true, true, false}));
+    table()->selectRow(1);
+    QCOMPARE(colors(), QVector<bool>({false, true, false, true}));
+    table()->clearSelection();
+    QCOMPARE(colors(), QVector<bool>({true, true, true, false}));
+    table()->sortByColumn(Column::Number, Qt::DescendingOrder);
+    table()->selectRow(0); // the newest now
+    QCOMPARE(colors(), QVector<bool>({false, false, true, true}));
+    QTest::keyClick(table(), Qt::Key_Space); // where none of the chosen is drawn, the others are not in its shadow
+    QCOMPARE(colors(), QVector<bool>({true, true, false, false}));
+}
+
+void TabEvaluationOverlayTest::shownShotsAreDrawn()
+{
+    for (const double value : {10.0, 50.0, 90.0})
+        append(*m_model, flat(value));
+    m_page->update();
+    QVERIFY(table()->model()->setData(cell(1, Column::Shown), Qt::Unchecked, Qt::CheckStateRole));
+    QVERIFY(!draws(ColorDelegate::colorAt(1).rgb()));
+    QCOMPARE(status(), QStringLiteral("2 von 3 gezeigt"));
+    child<QAbstractButton>("buttonNone")->click();
+    QVERIFY(!draws(ColorDelegate::colorAt(0).rgb()));
+    child<QAbstractButton>("buttonAll")->click();
+    QCOMPARE(status(), QStringLiteral("3 von 3 gezeigt"));
+
+    table()->selectAll();
+    table()->selectionModel()->setCurrentIndex(cell(2, Column::Label), QItemSelectionModel::NoUpdate);
+    QTest::keyClick(table(), Qt::Key_Space);
+    QCOMPARE(status(), QStringLiteral("0 von 3 gezeigt"));
+    QCOMPARE(cell(0, Column::Shown).data(Qt::CheckStateRole).toInt(), int(Qt::Unchecked));
+}
+
+void TabEvaluationOverlayTest::meanAndBandAreOfShownShots()
+{
+    for (const double value : {2, 4, 4, 4, 5, 5, 7, 9, 1000})
+        append(*m_model, flat(value));
+    m_page->update();
+    QVERIFY(table()->model()->setData(cell(8, Column::Shown), Qt::Unchecked, Qt::CheckStateRole));
+    QVERIFY(!plot()->showsMean());
+    child<QCheckBox>("checkMean")->setChecked(true);
+    QVERIFY(plot()->showsMean());
+    QCOMPARE(plot()->bandSigmas(), 0.0);
+    child<QCheckBox>("checkBand")->setChecked(true);
+    child<QDoubleSpinBox>("spinBoxSigmas")->setValue(5.0);
+    // The band reaches from 5 - 5 * 2 to 5 + 5 * 2, and a twentieth of that stays free above and below.
+    QCOMPARE(plot()->minValue(), -6.0);
+    QCOMPARE(plot()->maxValue(), 16.0);
+    QVERIFY(draws(qRgb(0x23, 0x72, 0xa4)));
+}
+
+void TabEvaluationOverlayTest::editsReachTheModel()
+{
+    append(*m_model, flat(1));
+    append(*m_model, flat(2));
+    m_page->update();
+    m_model->setProjectModifiedFlag(false);
+    table()->sortByColumn(Column::Number, Qt::DescendingOrder);
+    table()->setCurrentIndex(cell(0, Column::Label));
+    QTest::keyClick(table(), Qt::Key_F2);
+    auto *edit = table()->findChild<QLineEdit *>();
+    QVERIFY(edit);
+    QTest::keyClicks(edit, QStringLiteral(" Probe 7 "));
+    QTest::keyClick(edit, Qt::Key_Return);
+    QTRY_COMPARE(m_model->shotLabel(1), QStringLiteral("Probe 7"));
+    QCOMPARE(m_model->shotLabel(0), QString());
+    QVERIFY(m_model->isProjectModified());
+    QCOMPARE(text(0, Column::Label), QStringLiteral("Probe 7"));
+
+    m_model->setProjectModifiedFlag(false);
+    QVERIFY(!table()->model()->setData(cell(0, Column::Label), QStringLiteral("Probe 7")));
+    QVERIFY(!m_model->isProjectModified());
+}
+
+void TabEvaluationOverlayTest::typingSurvivesAGrowingShot()
+{
+    append(*m_model, {1, 1, 1});
+    append(*m_model, {1});
+    m_page->update();
+    m_page->setReferenceShot(0);
+    table()->setCurrentIndex(cell(1, Column::Label));
+    QTest::keyClick(table(), Qt::Key_F2);
+    auto *edit = table()->findChild<QLineEdit *>();
+    QVERIFY(edit);
+    QTest::keyClicks(edit, QStringLiteral("hal"));
+    QVERIFY(m_model->appendSample(0, 1, 4.0));
+    m_page->update();
+    QCOMPARE(text(1, Column::Deviation), QStringLiteral("3"));
+    QTest::keyClicks(edit, QStringLiteral("b"));
+    QCOMPARE(edit->text(), QStringLiteral("halb"));
+}
+
+void TabEvaluationOverlayTest::colorIsChosenFromAList()
+{
+    append(*m_model, flat(1));
+    m_page->update();
+    table()->setCurrentIndex(cell(0, Column::Color));
+    QTest::keyClick(table(), Qt::Key_F2);
+    auto *box = table()->viewport()->findChild<QComboBox *>();
+    QVERIFY(box);
+    QCOMPARE(box->currentData().value<QColor>(), ColorDelegate::colorAt(0));
+    box->setCurrentIndex(4);
+    emit box->activated(4);
+    QCOMPARE(cell(0, Column::Color).data(Qt::EditRole).value<QColor>(), ColorDelegate::colorAt(4));
+    table()->clearSelection();
+    QVERIFY(draws(ColorDelegate::colorAt(4).rgb()));
+}
+
+/// Reference, ticks and colours belong to shots, not to rows.
+void TabEvaluationOverlayTest::looksStayWithTheirShots()
+{
+    for (const double value : {1, 2, 3, 4})
+        append(*m_model, flat(value));
+    m_page->update();
+    QVERIFY(table()->model()->setData(cell(2, Column::Shown), Qt::Unchecked, Qt::CheckStateRole));
+    QVERIFY(table()->model()->setData(cell(3, Column::Color), QColor(1, 2, 3)));
+    m_page->setReferenceShot(3);
+    table()->selectRow(2);
+    QVERIFY(m_model->deleteChannel(0));
+    m_model->emitDataChanged();
+    QTRY_COMPARE(table()->model()->rowCount(), 3);
+    QCOMPARE(cell(1, Column::Shown).data(Qt::CheckStateRole).toInt(), int(Qt::Unchecked));
+    QCOMPARE(cell(2, Column::Color).data(Qt::EditRole).value<QColor>(), QColor(1, 2, 3));
+    QCOMPARE(m_page->referenceShot(), 2);
+    QVERIFY(!table()->selectionModel()->hasSelection());
+
+    child<QAbstractButton>("sensorButton3")->setChecked(true);
+    QCOMPARE(m_page->referenceShot(), 2);
+    QCOMPARE(plot()->reference().samples->at(0), 3004.0);
+    m_model->clearData();
+    QTRY_COMPARE(table()->model()->rowCount(), 0);
+    QCOMPARE(m_page->referenceShot(), -1);
+    QVERIFY(!plot()->reference().samples);
+}
+
+void TabEvaluationOverlayTest::sensorsHaveTheirOwnThresholds()
+{
+    append(*m_model, {0, 10, 20});
+    m_page->update();
+    align(AlignBy::Rising, 15.0);
+    QCOMPARE(status(), QStringLiteral("1 von 1 gezeigt"));
+    child<QAbstractButton>("sensorButton1")->setChecked(true);
+    QCOMPARE(m_page->currentSensor(), 1);
+    QCOMPARE(child<QDoubleSpinBox>("spinBoxThreshold")->value(), 0.0);
+    QCOMPARE(status(), QStringLiteral("0 von 1 gezeigt, 1 ohne Durchgang")); // from 1000 up
+    child<QAbstractButton>("sensorButton0")->setChecked(true);
+    QCOMPARE(child<QDoubleSpinBox>("spinBoxThreshold")->value(), 15.0);
+    QCOMPARE(status(), QStringLiteral("1 von 1 gezeigt"));
+}
+
+void TabEvaluationOverlayTest::followsTheModelOnlyWhileShown()
+{
+    append(*m_model, flat(1));
+    m_model->emitDataChanged();
+    QCOMPARE(table()->model()->rowCount(), 0); // changes are gathered
+    QTRY_COMPARE(table()->model()->rowCount(), 1);
+    m_page->hide();
+    append(*m_model, flat(2));
+    m_model->emitDataChanged();
+    QTest::qWait(2 * TabEvaluationOverlay::kRefreshInterval);
+    QCOMPARE(table()->model()->rowCount(), 1);
+    QVERIFY(!plot()->curve(0)); // nor are samples held that may have been removed
+    m_page->show();
+    QCOMPARE(table()->model()->rowCount(), 2);
+    QCOMPARE(*plot()->curve(1), flat(2));
+}
+
+void TabEvaluationOverlayTest::survivesRemovalItWasNotToldOf()
+{
+    append(*m_model, flat(1));
+    append(*m_model, flat(2));
+    m_page->update();
+    m_page->setReferenceShot(1);
+    child<QCheckBox>("checkMean")->setChecked(true);
+    m_model->blockSignals(true);
+    m_model->clearData();
+    m_model->discardRemoved();
+    m_model->blockSignals(false);
+    QVERIFY(draws(ColorDelegate::colorAt(0).rgb()));
+    m_model.reset();
+    QVERIFY(draws(ColorDelegate::colorAt(0).rgb()));
+    align(AlignBy::Rising, 1.0);
+    table()->selectRow(0);
+    child<QAbstractButton>("buttonNone")->click();
+    m_page->update();
+}
+
+void TabEvaluationOverlayTest::worksWithAnyNumberOfShots_data()
+{
+    QTest::addColumn<int>("shots");
+    QTest::addColumn<int>("newestSlot");
+
+    QTest::newRow("none") << 0 << -1;
+    QTest::newRow("one") << 1 << 0;
+    QTest::newRow("more than slots") << OsziWidget::kNumSlots + 5 << OsziWidget::kNumSlots - 1;
+}
+
+void TabEvaluationOverlayTest::worksWithAnyNumberOfShots()
+{
+    QFETCH(int, shots);
+    QFETCH(int, newestSlot);
+    for (int shot = 0; shot < shots; ++shot)
+        append(*m_model, {1.0 * shot, 2.0});
+    child<QCheckBox>("checkBand")->setChecked(true);
+    align(AlignBy::Marker);
+    m_page->update();
+    m_page->setReferenceShot(0);
+    QCOMPARE(table()->model()->rowCount(), shots);
+    QVERIFY(!m_page->grab().isNull());
+    if (newestSlot >= 0)
+        QCOMPARE(plot()->curve(newestSlot)->at(0), 1.0 * (shots - 1));
+}
+
+QTEST_MAIN(TabEvaluationOverlayTest)
+
+#include "tst_tabevaluationoverlay.moc"
