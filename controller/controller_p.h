@@ -58,19 +58,19 @@ struct Controller::Private
     QTimer deviceDescriptionTimer;
     QTimer sensorDescriptionTimer;
     QTimer listTimer;
-    bool linkWanted = false; ///< errors of a link that the user gave up are of no interest
     std::optional<QAbstractSocket::SocketError> deferredError;
     std::optional<DeviceDescription> deviceDescription; ///< as the connected box gave it, like the next
     std::optional<SensorDescription> sensorDescription;
-    int boxClock = 0; ///< ms, the sampling period that the box was last asked for or has reported
+    int boxClock = 0;        ///< ms, the sampling period that the box was last asked for or has reported
+    bool linkWanted = false; ///< errors of a link that the user gave up are of no interest
 
     // --- Transfers and restart of the box ---
     QString temporaryDirectory;
+    QElapsedTimer sinceRestart; ///< since the box was told to restart; invalid: not waited for
+    QTimer reconnectTimer;
     int restartWait; ///< ms
     bool fetching = false;
     bool fetchCancelled = false;
-    QElapsedTimer sinceRestart; ///< since the box was told to restart; invalid: not waited for
-    QTimer reconnectTimer;
 
     // --- Lines of the box ---
     std::deque<QString> heldLines;
@@ -89,8 +89,8 @@ struct Controller::Private
 
     // --- Recording ---
     bool recordingRunning = false;
-    RecordingSeries series;
     bool calibrating = false;
+    RecordingSeries series;
     std::optional<SampleLine> unstoredAnswer; ///< came while calibrating and found no measurement to land in
 
     /// Runs a dialog of the view; counted as open until it has its answer.

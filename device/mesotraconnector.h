@@ -23,7 +23,7 @@ class MesotraConnector : public QObject
 public:
     static constexpr quint16 kDefaultPort = 2222;
     /// As much may arrive without a line feed before the connection is dropped, in bytes.
-    static constexpr qint64 kMaxUnterminated = 1024 * 1024;
+    static constexpr qint64 kMaxUnterminated = qint64{1024} * 1024;
 
     explicit MesotraConnector(quint16 port = kDefaultPort);
     ~MesotraConnector() override;

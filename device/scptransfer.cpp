@@ -111,7 +111,7 @@ ScpResult ScpTransfer::runTool(const ScpCommand &command)
             m_surroundings.setWaiting(on);
     };
     m_running = true;
-    const ScpResult result = m_process->run(command, m_options.timeouts, [&setWaiting] { setWaiting(true); });
+    ScpResult result = m_process->run(command, m_options.timeouts, [&setWaiting] { setWaiting(true); });
     m_running = false;
     setWaiting(false);
     return result;

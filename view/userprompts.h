@@ -26,5 +26,5 @@ public:
     /// The reconnect dialog; nothing if it was rejected. The answer looks like an IPv4 address or a host name.
     [[nodiscard]] virtual std::optional<QString> askAddress(const QString &current) = 0;
     /// What askAddress() lets through; who has no use for it ignores it.
-    virtual void setAddressValidator(std::function<bool(const QString &)> isValid) { (void)isValid; }
+    virtual void setAddressValidator(std::function<bool(const QString &)> /*isValid*/) {}
 };
