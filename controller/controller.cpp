@@ -124,7 +124,7 @@ void Controller::connectDevice()
 
 void Controller::hideUnavailableActions()
 {
-    for (const char *name : {"actionOpenBlackBox", "actionFirmwareUpdate"}) {
+    for (const char *name : {"actionOpenBlackBox"}) {
         if (auto *action = d->view->findChild<QAction *>(QLatin1String(name)))
             action->setVisible(false);
     }

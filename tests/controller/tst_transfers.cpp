@@ -8,6 +8,7 @@
 #include "view/tabblackbox.h"
 #include "view/updatedialog.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QLabel>
 #include <QPushButton>
@@ -231,6 +232,8 @@ void TestTransfers::firmwareAndRestart()
     Bench bench(options);
     emit bench.view.connectDisconnect();
     QTRY_VERIFY(bench.model.isConnected());
+    auto *action = bench.view.findChild<QAction *>(QStringLiteral("actionFirmwareUpdate"));
+    QVERIFY(action && action->isVisible() && action->isEnabled());
     bench.prompts->openNames = {QStringLiteral("/fw/box-8.tgz")};
     bench.prompts->addresses = {QStringLiteral("127.0.0.1")};
     QTimer::singleShot(0, &bench.view, [&] {
@@ -243,7 +246,7 @@ void TestTransfers::firmwareAndRestart()
         QVERIFY(bench.prompts->messages.empty()); // waits until the dialog is closed
         dialog->accept();
     });
-    emit bench.view.firmwareUpdate();
+    action->trigger();
     QTRY_COMPARE(bench.prompts->addressDialogs, 1);
     QCOMPARE(bench.prompts->messages.back().text, QStringLiteral("Die Mesotra Hardware ist nicht mehr erreichbar."));
     QVERIFY(bench.view.isProgressShown());
