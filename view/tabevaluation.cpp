@@ -2,8 +2,11 @@
 
 #include "app/theme.h"
 #include "model/model.h"
+#include "plots/dashboard.h"
+#include "plots/evaluationdata.h"
 #include "plots/tabevaluationoverlay.h"
 #include "plots/tabevaluationruntime.h"
+#include "plots/tabevaluationvalues.h"
 #include "view/logging.h"
 
 #include <QButtonGroup>
@@ -64,14 +67,25 @@ void TabEvaluation::createButtons()
 
 void TabEvaluation::createPages()
 {
+    m_data = new EvaluationData(this);
+    m_dashboard = new Dashboard(m_stack);
+    m_dashboard->setData(m_data);
+    addPage(Page::Dashboard, m_dashboard);
+    m_valuesPage = new TabEvaluationValues(m_stack);
+    m_valuesPage->setData(m_data);
+    addPage(Page::Values, m_valuesPage);
+    connect(m_dashboard, &Dashboard::valuesWanted, this, [this](int sensor) {
+        m_valuesPage->setCurrentSensor(sensor);
+        showPage(Page::Values);
+    });
+    connect(m_dashboard, &Dashboard::runtimesWanted, this, [this] { showPage(Page::Runtime); });
     m_runtimePage = new TabEvaluationRuntime(m_stack);
     connect(m_runtimePage, &TabEvaluationRuntime::thresholdsChanged, this,
             &TabEvaluation::onRuntimePage_thresholdsChanged);
     addPage(Page::Runtime, m_runtimePage);
     m_overlayPage = new TabEvaluationOverlay(m_stack);
     addPage(Page::Overlay, m_overlayPage);
-    const auto first = std::find_if(m_pages.begin(), m_pages.end(), [](const QWidget *page) { return page; });
-    showPage(static_cast<Page>(std::distance(m_pages.begin(), first)));
+    showPage(Page::Dashboard);
 }
 
 void TabEvaluation::addPage(Page page, QWidget *widget)
@@ -90,6 +104,7 @@ void TabEvaluation::setModel(Model *model)
         m_model->disconnect(this);
     m_model = model;
     connect(model, &Model::projectChanged, this, &TabEvaluation::onModel_projectChanged);
+    m_data->setModel(model);
     m_runtimePage->setModel(model);
     m_overlayPage->setModel(model);
     onModel_projectChanged();

@@ -4,11 +4,14 @@
 
 #include <array>
 
+class Dashboard;
+class EvaluationData;
 class Model;
 class QAbstractButton;
 class QStackedWidget;
 class TabEvaluationOverlay;
 class TabEvaluationRuntime;
+class TabEvaluationValues;
 
 /// The tab "Auswertung": a row of buttons and the page that the chosen one opens. The pages follow the model by
 /// themselves; the tab keeps the thresholds of the runtime page where the project keeps them.
@@ -46,6 +49,9 @@ private:
     std::array<QAbstractButton *, kNumPages> m_buttons{};
     std::array<QWidget *, kNumPages> m_pages{}; // nullptr: not there, its button is hidden
     QStackedWidget *m_stack = nullptr;
+    EvaluationData *m_data = nullptr;
+    Dashboard *m_dashboard = nullptr;
+    TabEvaluationValues *m_valuesPage = nullptr;
     TabEvaluationRuntime *m_runtimePage = nullptr;
     TabEvaluationOverlay *m_overlayPage = nullptr;
 };

@@ -1,0 +1,72 @@
+#include "plots/limitfield.h"
+
+#include <QCheckBox>
+#include <QDoubleSpinBox>
+#include <QHBoxLayout>
+#include <QSignalBlocker>
+
+#include <cmath>
+
+namespace {
+
+constexpr double kLargest = 1e9;
+constexpr int kDecimals = 3;
+
+} // namespace
+
+LimitField::LimitField(QWidget *parent)
+    : QWidget(parent)
+    , m_switch(new QCheckBox(this))
+    , m_spinBox(new QDoubleSpinBox(this))
+{
+    m_switch->setStyleSheet(QStringLiteral("QCheckBox::indicator {width: 22px; height: 22px;}"));
+    m_switch->setObjectName(QStringLiteral("switch"));
+    m_spinBox->setObjectName(QStringLiteral("spinBox"));
+    m_spinBox->setDecimals(kDecimals);
+    m_spinBox->setRange(-kLargest, kLargest);
+    m_spinBox->setStepType(QAbstractSpinBox::AdaptiveDecimalStepType);
+    m_spinBox->setAlignment(Qt::AlignCenter);
+    m_spinBox->setKeyboardTracking(false);
+    m_spinBox->setEnabled(false);
+    m_spinBox->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_switch, 2);
+    layout->addWidget(m_spinBox, 3);
+    setFocusProxy(m_switch);
+    connect(m_switch, &QCheckBox::toggled, m_spinBox, &QWidget::setEnabled);
+    connect(m_switch, &QCheckBox::clicked, this, &LimitField::edited);
+    connect(m_spinBox, qOverload<double>(&QDoubleSpinBox::valueChanged), this, &LimitField::edited);
+}
+
+void LimitField::setLimit(const std::optional<double> &limit)
+{
+    const QSignalBlocker blocker(m_spinBox);
+    m_switch->setChecked(limit.has_value());
+    if (limit && *limit != m_spinBox->value())
+        m_spinBox->setValue(*limit);
+}
+
+std::optional<double> LimitField::limit() const
+{
+    return m_switch->isChecked() ? std::optional(m_spinBox->value()) : std::nullopt;
+}
+
+void LimitField::setTitle(const QString &title)
+{
+    m_switch->setText(title);
+    m_spinBox->setAccessibleName(title);
+}
+
+void LimitField::setUnit(const QString &unit)
+{
+    m_spinBox->setSuffix(unit.isEmpty() ? QString() : QLatin1Char(' ') + unit);
+}
+
+void LimitField::setSuggestion(double value)
+{
+    if (m_switch->isChecked() || !std::isfinite(value))
+        return;
+    const QSignalBlocker blocker(m_spinBox);
+    m_spinBox->setValue(value);
+}

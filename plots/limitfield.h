@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QWidget>
+
+#include <optional>
+
+class QCheckBox;
+class QDoubleSpinBox;
+
+/// A number that can be switched off: a check box and a spin box.
+class LimitField : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit LimitField(QWidget *parent = nullptr);
+
+    /// Emits nothing. A number that is being typed is not replaced by an equal one.
+    void setLimit(const std::optional<double> &limit);
+    /// None while it is switched off.
+    [[nodiscard]] std::optional<double> limit() const;
+    void setTitle(const QString &title);
+    void setUnit(const QString &unit);
+    /// What the spin box shows when it is switched on for the first time; it stays off.
+    void setSuggestion(double value);
+
+signals:
+    /// The user changed the number or switched it.
+    void edited();
+
+private:
+    QCheckBox *m_switch = nullptr;
+    QDoubleSpinBox *m_spinBox = nullptr;
+};

@@ -1,0 +1,172 @@
+#include "plots/limitfield.h"
+#include "plots/normalboxwidget.h"
+#include "plots/normaldistributionwidget.h"
+#include "plots/quantitypicker.h"
+#include "plots/quantitytablemodel.h"
+#include "plots/tabevaluationvalues.h"
+#include "plots/trendchart.h"
+
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTableView>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int kRowHeight = 30; // pixels
+constexpr int kNarrowestColumn = 60;
+constexpr int kWidestRightSide = 560;
+constexpr int kLowestBell = 110;
+
+QLabel *newFigure(QWidget *parent, const char *name)
+{
+    auto *label = new QLabel(parent);
+    label->setObjectName(QLatin1String(name));
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+} // namespace
+
+QLayout *TabEvaluationValues::createSensorButtons()
+{
+    auto *group = new QButtonGroup(this);
+    auto *layout = new QHBoxLayout;
+    for (int i = 0; i < kNumSensors; ++i) {
+        auto *button = new QRadioButton(this);
+        button->setObjectName(QStringLiteral("sensorButton%1").arg(i));
+        button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // a long name must not widen the page
+        group->addButton(button, i);
+        layout->addWidget(button);
+        m_sensorButtons[static_cast<std::size_t>(i)] = button;
+    }
+    m_sensorButtons[0]->setChecked(true);
+    connect(group, qOverload<int>(&QButtonGroup::idClicked), this, &TabEvaluationValues::onSensorButton_clicked);
+    return layout;
+}
+
+void TabEvaluationValues::createTable()
+{
+    m_tableModel = new QuantityTableModel(this);
+    m_table = new QTableView(this);
+    m_table->setObjectName(QStringLiteral("tableValues"));
+    m_table->setModel(m_tableModel);
+    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->setTabKeyNavigation(false);
+    m_table->setWordWrap(false);
+    m_table->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    m_table->verticalHeader()->hide();
+    m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    m_table->verticalHeader()->setDefaultSectionSize(kRowHeight);
+    QHeaderView *header = m_table->horizontalHeader();
+    header->setResizeContentsPrecision(0); // what is visible counts, not thousands of rows
+    header->setSectionResizeMode(QHeaderView::ResizeToContents);
+    header->setMinimumSectionSize(kNarrowestColumn);
+    header->setStretchLastSection(true);
+    header->setHighlightSections(false);
+    header->setSectionsClickable(true);
+}
+
+// Which quantity the right side and the trend show, and which ones the table has.
+QLayout *TabEvaluationValues::createChoice()
+{
+    m_labelQuantity = new QLabel(this);
+    m_quantityBox = new QComboBox(this);
+    m_quantityBox->setObjectName(QStringLiteral("comboBoxQuantity"));
+    m_quantityBox->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    m_quantityBox->setMinimumContentsLength(12);
+    m_quantityBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_labelQuantity->setBuddy(m_quantityBox);
+    m_buttonQuantities = new QPushButton(this);
+    m_buttonQuantities->setObjectName(QStringLiteral("buttonQuantities"));
+    m_buttonQuantities->setStyleSheet(QStringLiteral("QPushButton {min-height: 32px; padding: 0px 14px;}"));
+    m_picker = new QuantityPicker(this);
+    auto *layout = new QHBoxLayout;
+    layout->addWidget(m_labelQuantity);
+    layout->addWidget(m_quantityBox, 1);
+    layout->addWidget(m_buttonQuantities);
+    return layout;
+}
+
+QLayout *TabEvaluationValues::createLimits()
+{
+    m_upperLimit = new LimitField(this);
+    m_upperLimit->setObjectName(QStringLiteral("upperLimit"));
+    m_lowerLimit = new LimitField(this);
+    m_lowerLimit->setObjectName(QStringLiteral("lowerLimit"));
+    m_cp = newFigure(this, "labelCp");
+    m_cpk = newFigure(this, "labelCpk");
+    m_outside = newFigure(this, "labelOutside");
+    auto *figures = new QHBoxLayout;
+    figures->addWidget(m_cp);
+    figures->addWidget(m_cpk);
+    figures->addWidget(m_outside, 1, Qt::AlignRight);
+    auto *layout = new QVBoxLayout;
+    layout->setSpacing(2);
+    layout->addWidget(m_lowerLimit);
+    layout->addWidget(m_upperLimit);
+    layout->addLayout(figures);
+    return layout;
+}
+
+QLayout *TabEvaluationValues::createRightSide()
+{
+    m_box = new NormalBoxWidget(this);
+    m_bell = new NormalDistributionWidget(this);
+    m_bell->setMinimumHeight(kLowestBell);
+    auto *layout = new QVBoxLayout;
+    layout->setSpacing(4);
+    layout->addLayout(createChoice());
+    layout->addLayout(createLimits());
+    layout->addWidget(m_box);
+    layout->addWidget(m_bell, 1);
+    return layout;
+}
+
+QLayout *TabEvaluationValues::createLeftSide()
+{
+    createTable();
+    m_chart = new TrendChart(this);
+    m_chart->setObjectName(QStringLiteral("trendChart"));
+    auto *layout = new QVBoxLayout;
+    layout->addWidget(m_table, 1);
+    layout->addWidget(m_chart, 1);
+    return layout;
+}
+
+void TabEvaluationValues::createLayout()
+{
+    auto *rightSide = new QWidget(this);
+    QLayout *right = createRightSide();
+    right->setContentsMargins(0, 0, 0, 0);
+    rightSide->setLayout(right);
+    rightSide->setMaximumWidth(kWidestRightSide);
+    auto *middle = new QHBoxLayout;
+    middle->setSpacing(12);
+    middle->addLayout(createLeftSide(), 3);
+    middle->addWidget(rightSide, 2);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(6, 6, 6, 6);
+    layout->addLayout(createSensorButtons());
+    layout->addLayout(middle, 1);
+}
+
+void TabEvaluationValues::connectWidgets()
+{
+    connect(m_table->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            &TabEvaluationValues::onTable_currentChanged);
+    connect(m_table->horizontalHeader(), &QHeaderView::sectionClicked, this,
+            &TabEvaluationValues::onHeader_sectionClicked);
+    connect(m_quantityBox, qOverload<int>(&QComboBox::activated), this, &TabEvaluationValues::onQuantityBox_activated);
+    connect(m_buttonQuantities, &QPushButton::clicked, this, &TabEvaluationValues::onButtonQuantities_clicked);
+    connect(m_picker, &QuantityPicker::toggled, this, &TabEvaluationValues::onPicker_toggled);
+    connect(m_chart, &TrendChart::shotClicked, this, &TabEvaluationValues::onChart_shotClicked);
+    for (LimitField *field : {m_lowerLimit, m_upperLimit})
+        connect(field, &LimitField::edited, this, &TabEvaluationValues::onLimits_edited);
+}
