@@ -97,8 +97,9 @@ void CycleTile::paintEvent(QPaintEvent *event)
     const QString time = m_content.latestTimestamp.isValid()
                              ? m_content.latestTimestamp.toString(QStringLiteral("yyyy/MM/dd hh:mm:ss"))
                              : QStringLiteral("–");
-    const QString titles[] = {tr("Mittel der letzten %1").arg(m_content.cyclesInMean), tr("Schüsse"),
-                              tr("Letzter Schuss")};
+    const QString mean =
+        m_content.cyclesInMean > 0 ? tr("Mittel der letzten %1").arg(m_content.cyclesInMean) : tr("Mittel");
+    const QString titles[] = {mean, tr("Schüsse"), tr("Letzter Schuss")};
     const QString texts[] = {secondsText(m_content.meanCycle), QString::number(m_content.shots), time};
     for (int i = 0; i < 3; ++i) {
         painter.setPen(theme::qColorDark);

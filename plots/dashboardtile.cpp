@@ -15,7 +15,8 @@ constexpr int kEdge = 8; // pixels
 constexpr int kPadding = 14;
 constexpr int kHeadHeight = 50;
 constexpr int kValueHeight = 52;
-constexpr int kCountHeight = 50;
+constexpr int kCountHeight = 50; // of two lines
+constexpr int kShortCountHeight = 28;
 constexpr int kBadgeWidth = 128;
 constexpr int kBadgeHeight = 38;
 
@@ -227,10 +228,11 @@ void DashboardTile::paintEvent(QPaintEvent *event)
     const QRect value(inside.left(), inside.top() + kHeadHeight, inside.width() - kBadgeWidth - 8, kValueHeight);
     const QRect badge(inside.right() - kBadgeWidth, value.center().y() - kBadgeHeight / 2, kBadgeWidth, kBadgeHeight);
     const int sparklineTop = value.bottom() + 6;
+    const int countHeight = m_content.limits.isEmpty() ? kShortCountHeight : kCountHeight;
     drawHead(painter, QRect(inside.left(), inside.top(), inside.width(), kHeadHeight));
     drawValue(painter, value);
     drawBadge(painter, badge);
-    drawCounts(painter, QRect(inside.left(), inside.bottom() - kCountHeight, inside.width(), kCountHeight));
-    drawSparkline(
-        painter, QRect(inside.left(), sparklineTop, inside.width(), inside.bottom() - kCountHeight - 4 - sparklineTop));
+    drawCounts(painter, QRect(inside.left(), inside.bottom() - countHeight, inside.width(), countHeight));
+    drawSparkline(painter,
+                  QRect(inside.left(), sparklineTop, inside.width(), inside.bottom() - countHeight - 4 - sparklineTop));
 }

@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QDoubleSpinBox>
 #include <QHBoxLayout>
+#include <QLocale>
 #include <QSignalBlocker>
 
 #include <cmath>
@@ -10,20 +11,52 @@
 namespace {
 
 constexpr double kLargest = 1e9;
-constexpr int kDecimals = 3;
+constexpr int kDecimals = 6;
+
+/// Shows as many decimals as the number has, and takes a comma for a point: with three fixed decimals "300.000" could
+/// be read as three hundred thousand.
+class LimitSpinBox : public QDoubleSpinBox
+{
+public:
+    explicit LimitSpinBox(QWidget *parent)
+        : QDoubleSpinBox(parent)
+    {
+        QLocale plain(QLocale::C);
+        plain.setNumberOptions(QLocale::OmitGroupSeparator);
+        setLocale(plain);
+        setDecimals(kDecimals);
+        setRange(-kLargest, kLargest);
+    }
+    [[nodiscard]] QString textFromValue(double value) const override
+    {
+        QString text = QString::number(value, 'f', kDecimals);
+        while (text.endsWith(QLatin1Char('0')))
+            text.chop(1);
+        if (text.endsWith(QLatin1Char('.')))
+            text.chop(1);
+        return text;
+    }
+    QValidator::State validate(QString &input, int &position) const override
+    {
+        input.replace(QLatin1Char(','), QLatin1Char('.'));
+        return QDoubleSpinBox::validate(input, position);
+    }
+    [[nodiscard]] double valueFromText(const QString &text) const override
+    {
+        return QDoubleSpinBox::valueFromText(QString(text).replace(QLatin1Char(','), QLatin1Char('.')));
+    }
+};
 
 } // namespace
 
 LimitField::LimitField(QWidget *parent)
     : QWidget(parent)
     , m_switch(new QCheckBox(this))
-    , m_spinBox(new QDoubleSpinBox(this))
+    , m_spinBox(new LimitSpinBox(this))
 {
     m_switch->setStyleSheet(QStringLiteral("QCheckBox::indicator {width: 22px; height: 22px;}"));
     m_switch->setObjectName(QStringLiteral("switch"));
     m_spinBox->setObjectName(QStringLiteral("spinBox"));
-    m_spinBox->setDecimals(kDecimals);
-    m_spinBox->setRange(-kLargest, kLargest);
     m_spinBox->setStepType(QAbstractSpinBox::AdaptiveDecimalStepType);
     m_spinBox->setAlignment(Qt::AlignCenter);
     m_spinBox->setKeyboardTracking(false);
@@ -60,7 +93,9 @@ void LimitField::setTitle(const QString &title)
 
 void LimitField::setUnit(const QString &unit)
 {
-    m_spinBox->setSuffix(unit.isEmpty() ? QString() : QLatin1Char(' ') + unit);
+    const QString suffix = unit.isEmpty() ? QString() : QLatin1Char(' ') + unit;
+    if (suffix != m_spinBox->suffix()) // setting it throws away what is being typed
+        m_spinBox->setSuffix(suffix);
 }
 
 void LimitField::setSuggestion(double value)

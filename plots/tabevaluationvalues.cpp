@@ -20,10 +20,13 @@
 #include <QScopedValueRollback>
 #include <QTableView>
 
+#include <algorithm>
+
 namespace {
 
 // Where a limit that is switched on for the first time begins.
 constexpr double kSuggestedSigmas = 4.0;
+constexpr int kTimeWidth = 180; // pixels of a time stamp
 
 QString gradeSheet(CapabilityGrade grade)
 {
@@ -31,6 +34,20 @@ QString gradeSheet(CapabilityGrade grade)
                                             {int(CapabilityGrade::Fair), QStringLiteral("#8A6D00")},
                                             {int(CapabilityGrade::Poor), QStringLiteral("#B3261E")}};
     return QStringLiteral("QLabel {font-weight: bold; color: %1;}").arg(colors.value(int(grade), theme::colorDark));
+}
+
+// To as many digits as figures have.
+double rounded(double value)
+{
+    return figureText(value).toDouble();
+}
+
+// Mixed with white, so that black lines stand out.
+QColor paled(const QColor &color)
+{
+    constexpr double kWhite = 0.55;
+    const auto mix = [](double part) { return part + (1.0 - part) * kWhite; };
+    return QColor::fromRgbF(mix(color.redF()), mix(color.greenF()), mix(color.blueF()));
 }
 
 QString withUnit(const QString &text, const QString &unit, const QString &pattern)
@@ -175,9 +192,22 @@ void TabEvaluationValues::showTable()
     const int column = m_shown.indexOf(data()->chosenQuantity(m_sensor));
     m_tableModel->setContent(std::move(content));
     m_tableModel->setChosenColumn(column);
+    fitColumns();
     if (chosenShot() < 0 && shot >= 0) // with other columns the table has forgotten it
         m_table->setCurrentIndex(m_tableModel->index(shot, QuantityTableModel::FirstQuantity + column));
     m_chart->setChosenShot(chosenShot());
+}
+
+// Few columns share the width; many are as wide as they need to be.
+void TabEvaluationValues::fitColumns()
+{
+    QHeaderView *header = m_table->horizontalHeader();
+    int needed = 0;
+    for (int column = 0; column < header->count(); ++column)
+        needed += std::max(header->sectionSizeHint(column), column == QuantityTableModel::Timestamp ? kTimeWidth : 0);
+    const bool fits = needed <= m_table->viewport()->width();
+    for (int column = QuantityTableModel::FirstQuantity; column < header->count(); ++column)
+        header->setSectionResizeMode(column, fits ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
 }
 
 void TabEvaluationValues::showChoice()
@@ -221,14 +251,14 @@ void TabEvaluationValues::showSeries(const QuantitySeries &series)
     m_chart->setColor(color);
     m_chart->setTitle(withUnit(data()->quantityName(quantity), unit, tr("%1 [%2]")));
     m_chart->set(series.shots, data()->limits(m_sensor, quantity));
-    m_box->setFillColor(color.lighter(170));
+    m_box->setFillColor(paled(color));
     m_box->setUnit(unit);
     m_box->set(values);
     m_bell->setCurveColor(color);
     m_bell->set(values);
     const statistics::Moments moments = statistics::moments(series.values);
-    m_lowerLimit->setSuggestion(moments.mean - kSuggestedSigmas * moments.sigma);
-    m_upperLimit->setSuggestion(moments.mean + kSuggestedSigmas * moments.sigma);
+    m_lowerLimit->setSuggestion(rounded(moments.mean - kSuggestedSigmas * moments.sigma));
+    m_upperLimit->setSuggestion(rounded(moments.mean + kSuggestedSigmas * moments.sigma));
 }
 
 void TabEvaluationValues::showCapability(const QuantitySeries &series)
@@ -267,7 +297,8 @@ void TabEvaluationValues::showSensorNames()
 void TabEvaluationValues::resizeEvent(QResizeEvent *event)
 {
     EvaluationPage::resizeEvent(event);
-    layout()->activate(); // the buttons have their new widths
+    layout()->activate(); // the widgets have their new widths
+    fitColumns();
     showSensorNames();
 }
 

@@ -64,6 +64,7 @@ private:
     void choose(const Quantity &quantity);
     void showSensorNames();
     void showTable();
+    void fitColumns();
     void showChoice();
     void showLimits();
     void showSeries(const QuantitySeries &series);

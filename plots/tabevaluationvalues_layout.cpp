@@ -68,7 +68,6 @@ void TabEvaluationValues::createTable()
     header->setResizeContentsPrecision(0); // what is visible counts, not thousands of rows
     header->setSectionResizeMode(QHeaderView::ResizeToContents);
     header->setMinimumSectionSize(kNarrowestColumn);
-    header->setStretchLastSection(true);
     header->setHighlightSections(false);
     header->setSectionsClickable(true);
 }
@@ -104,6 +103,7 @@ QLayout *TabEvaluationValues::createLimits()
     m_cpk = newFigure(this, "labelCpk");
     m_outside = newFigure(this, "labelOutside");
     auto *figures = new QHBoxLayout;
+    figures->setSpacing(18);
     figures->addWidget(m_cp);
     figures->addWidget(m_cpk);
     figures->addWidget(m_outside, 1, Qt::AlignRight);

@@ -1,6 +1,7 @@
 #include "plots/trendchart.h"
 
 #include "app/theme.h"
+#include "plots/evaluationdata.h"
 #include "plots/labelfont.h"
 #include "plots/statistics.h"
 
@@ -79,6 +80,27 @@ void drawMean(QPainter &painter, const TrendGeometry &geometry, double mean)
     const double y = std::round(geometry.y(mean)) + 0.5;
     painter.setPen(QPen(theme::qColorMedium, 1.0, Qt::DashDotLine));
     painter.drawLine(QPointF(geometry.area.left(), y), QPointF(geometry.area.right(), y));
+}
+
+void drawNothing(QPainter &painter, const QRectF &area)
+{
+    painter.setPen(theme::qColorDark);
+    painter.drawText(area, Qt::AlignCenter, TrendChart::tr("Keine Werte"));
+}
+
+// Outside the limits, where no good value can lie.
+void drawLimitLabels(QPainter &painter, const TrendGeometry &geometry, const ToleranceLimits &limits)
+{
+    constexpr double kHeight = 16.0;
+    painter.setPen(theme::qColorDarkRed);
+    const auto draw = [&](const std::optional<double> &limit, const QString &text, double above) {
+        if (!limit)
+            return;
+        const QRectF place(geometry.area.left(), geometry.y(*limit) - above, geometry.area.width() - 4.0, kHeight);
+        painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter, text.arg(figureText(*limit)));
+    };
+    draw(limits.upper, TrendChart::tr("Obere Grenze %1"), kHeight);
+    draw(limits.lower, TrendChart::tr("Untere Grenze %1"), 0.0);
 }
 
 void drawPoint(QPainter &painter, QPointF at, double radius, bool isOutside, const QColor &color)
@@ -228,7 +250,7 @@ void TrendChart::paintEvent(QPaintEvent *event)
     if (geometry.area.width() < 1.0 || geometry.area.height() < 1.0)
         return;
     painter.setFont(labelFont(font()));
-    if (m_hasValues)
+    if (m_hasValues || !m_limits.isEmpty())
         drawLevels(painter, geometry);
     drawNumbers(painter, geometry);
     drawFrame(painter, geometry.area);
@@ -237,7 +259,10 @@ void TrendChart::paintEvent(QPaintEvent *event)
         drawChosen(painter, geometry, m_chosenShot);
     if (m_hasValues)
         drawMean(painter, geometry, m_mean);
+    else
+        drawNothing(painter, geometry.area);
     drawTrendLimits(painter, geometry, m_limits);
+    drawLimitLabels(painter, geometry, m_limits);
     painter.setRenderHint(QPainter::Antialiasing);
     drawTrend(painter, geometry, m_values, m_limits, m_color);
 }

@@ -56,7 +56,7 @@ TrendTicks trendTicks(TrendRange range, int most)
     TrendTicks ticks;
     ticks.step = niceStep(span / most);
     const double first = std::ceil(range.minimum / ticks.step);
-    for (int i = 0; i < most && (first + i) * ticks.step <= range.maximum; ++i)
+    for (int i = 0; i <= most && (first + i) * ticks.step <= range.maximum; ++i)
         ticks.values.append((first + i) * ticks.step);
     return ticks;
 }

@@ -20,7 +20,8 @@ struct TrendRange
 /// All values and limits with a little room at both ends; 0 to 1 if there are none.
 [[nodiscard]] TrendRange trendRange(const TrendValues &values, const ToleranceLimits &limits);
 
-/// Marks at multiples of 1, 2 or 5 times a power of ten inside the range, `most` of them at the most.
+/// Marks at multiples of 1, 2 or 5 times a power of ten inside the range, with at most `most` steps between
+/// its ends.
 struct TrendTicks
 {
     QVector<double> values;
