@@ -11,7 +11,6 @@
 #include "view/tabproject.h"
 #include "view/view.h"
 
-#include <QAction>
 #include <QApplication>
 
 namespace {
@@ -48,7 +47,6 @@ Controller::Controller(Model *model, View *view, const ControllerOptions &option
     connectTabs();
     connectDevice();
     connectTransfers(options);
-    hideUnavailableActions();
     d->view->setAddressValidator(isValidHostAddress);
     d->view->tabOszi()->setSamplingPeriods(samplingPeriodLabels());
     d->view->setDeviceAddress(d->address);
@@ -93,7 +91,9 @@ void Controller::connectTabs()
                      &Controller::onTabOszi_checkBoxMarkerAbsClicked);
     QObject::connect(oszi, &TabOszilloscope::samplingPeriodChosen, this, &Controller::onTabOszi_samplingPeriodChosen);
 
-    QObject::connect(d->view->tabBlackBox(), &TabBlackBox::listRequested, this, &Controller::onTabBlackBox_listClicked);
+    const TabBlackBox *blackBox = d->view->tabBlackBox();
+    QObject::connect(blackBox, &TabBlackBox::listRequested, this, &Controller::onTabBlackBox_listClicked);
+    QObject::connect(blackBox, &TabBlackBox::importClicked, this, &Controller::onTabBlackBox_importClicked);
     QObject::connect(d->view, &View::terminalSend, this, &Controller::onTerminalSend);
     QObject::connect(d->view, &View::about, this, &Controller::onActionAbout);
     QObject::connect(d->view, &View::progressCancelled, this, &Controller::cancelConnecting);
@@ -120,14 +120,6 @@ void Controller::connectDevice()
     QObject::connect(&d->progressTimer, &QTimer::timeout, this, &Controller::hideProgressWhenIdle);
     QObject::connect(&d->listTimer, &QTimer::timeout, this,
                      [this] { d->view->tabBlackBox()->setListButtonEnabled(true); });
-}
-
-void Controller::hideUnavailableActions()
-{
-    for (const char *name : {"actionOpenBlackBox"}) {
-        if (auto *action = d->view->findChild<QAction *>(QLatin1String(name)))
-            action->setVisible(false);
-    }
 }
 
 bool Controller::isRecordingRunning() const
@@ -158,7 +150,7 @@ void Controller::showFileProgress(int percent)
         d->progressBar->show();
         d->progressTimer.start();
     }
-    d->progressBar->setValue(percent);
+    d->progressBar->setValue(d->importTotal > 0 ? (100 * d->importDone + percent) / d->importTotal : percent);
     QCoreApplication::processEvents();
 }
 
@@ -172,7 +164,7 @@ void Controller::hideProgressWhenIdle()
 
 bool Controller::isOccupied() const
 {
-    return d->openPrompts > 0 || d->fetching || d->view->isAsking() || d->model->isBusy();
+    return d->openPrompts > 0 || d->fetching || d->importTotal > 0 || d->view->isAsking() || d->model->isBusy();
 }
 
 bool Controller::refuseWhileOccupied()
@@ -201,9 +193,4 @@ void Controller::onActionAbout()
                              .arg(theme::applicationName, theme::applicationVersion, d->model->hardwareVersion(),
                                   d->model->firmwareVersion(), QString::fromLatin1(qVersion()));
     d->prompt([&] { d->view->showMessage(text, tr("Über Ventaro")); });
-}
-
-void Controller::onImportBlackBox()
-{
-    qCDebug(lcController) << Q_FUNC_INFO;
 }

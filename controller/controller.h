@@ -80,6 +80,7 @@ public slots:
     void onTabOszi_checkBoxMarkerAbsClicked(bool absolute);
     void onTabOszi_samplingPeriodChosen(const QString &label);
     void onTabBlackBox_listClicked();
+    void onTabBlackBox_importClicked(const QStringList &files);
     void onTabBlackBox_fetchBlackBoxDataClicked();
     void onTabBlackBox_openLocalFolderClicked();
     void onTerminalSend(const QString &line);
@@ -97,7 +98,6 @@ private:
     void connectUserActions();
     void connectTabs();
     void connectDevice();
-    void hideUnavailableActions();
     void showFileProgress(int percent);
     void hideProgressWhenIdle();
     [[nodiscard]] bool isOccupied() const;
@@ -125,6 +125,11 @@ private:
     void askAboutReceivedProject();
     void applyReceivedProject(const ReceivedProject &received);
     void handleDeferred();
+
+    [[nodiscard]] bool refuseImportWhileRecording();
+    [[nodiscard]] QStringList withoutUnwantedRepeats(const QStringList &files);
+    void importFiles(const QStringList &files);
+    void finishImport(const SensorDescription &before);
 
     void startRecording();
     void stopRecording();

@@ -102,6 +102,8 @@ struct Controller::Private
     }
 
     // --- Files ---
+    int importDone = 0;
+    int importTotal = 0;                          ///< logger files that are being imported; 0: none
     bool fileSaved = false;                       ///< how the last save ended
     std::vector<std::function<void()>> heldEdits; ///< made by the user while a file was being written
 };

@@ -258,6 +258,7 @@ void Controller::onTabProject_clearDataClicked()
     if (refuseWhileOccupied() || !d->prompt([this] { return d->view->askToClearData(); }))
         return;
     d->model->blockSignals(false);
+    d->model->setFileList({}); // what was imported can be imported again
     d->model->clearData();
     d->series.clear();
     markModified();

@@ -38,3 +38,6 @@ struct BlackBoxDocument
 [[nodiscard]] BlackBoxDocument readBlackBox(QIODevice &source, const SensorDescription &known,
                                             const std::function<void(qint64 bytes)> &progress,
                                             qint64 maxBytes = std::numeric_limits<qint64>::max());
+
+/// The same for copies of a logger file, different for any two shots. Empty if it is no regular file or unreadable.
+[[nodiscard]] QByteArray blackBoxFingerprint(const QString &fileName);

@@ -37,7 +37,7 @@ void Model::clear()
     m_firmwareVersion = QStringLiteral("8.0");
     m_comment.clear();
     m_currentFile.clear();
-    m_fileList.clear();
+    setFileList({});
     m_projectModified = false;
     m_clock = 100;
     m_meta = ProjectMeta();

@@ -11,6 +11,7 @@
 #include <QColor>
 #include <QObject>
 #include <QPixmap>
+#include <QSet>
 #include <QStringList>
 #include <QVariantMap>
 
@@ -129,9 +130,11 @@ public:
     void setClock(int milliseconds); ///< takes the nearest value in range
     static constexpr int kMaxClock = 3600000;
 
-    /// The logger files that were imported, absolute; not part of the project file.
+    /// The logger files that were imported, absolute; neither part of the project file, nor changed by deletions.
     [[nodiscard]] QStringList fileList() const { return m_fileList; }
     void setFileList(const QStringList &files);
+    /// The fingerprints of the files on the list, which tell them from others that came to the same place later.
+    [[nodiscard]] QSet<QByteArray> importedFiles() const { return m_importedFiles; }
 
     // --- State -------------------------------------------------------------------------------------------------
     [[nodiscard]] bool isConnected() const { return m_connected; }
@@ -226,6 +229,7 @@ private:
     QString m_firmwareVersion;
     QString m_currentFile;
     QStringList m_fileList;
+    QSet<QByteArray> m_importedFiles;
     BlackBoxLosses m_blackBoxLosses;
     std::array<double, kNumSensors> m_osziMinimum{};
     std::array<double, kNumSensors> m_osziMaximum{};

@@ -205,4 +205,7 @@ void Model::setFileList(const QStringList &files)
 {
     qCDebug(lcModel) << Q_FUNC_INFO << files;
     m_fileList = files;
+    m_importedFiles.clear();
+    for (const QString &file : files)
+        m_importedFiles.insert(blackBoxFingerprint(file));
 }

@@ -26,6 +26,7 @@ BoxSimulator::BoxSimulator(const BoxOptions &options, QObject *parent)
     : QObject(parent)
     , m_options(options)
 {
+    m_logger.setFolder(options.dataFolder);
     m_timer.setTimerType(Qt::PreciseTimer);
     connect(&m_server, &QTcpServer::newConnection, this, &BoxSimulator::takeClient);
     connect(&m_timer, &QTimer::timeout, this, &BoxSimulator::sendDueSamples);
@@ -50,6 +51,7 @@ bool BoxSimulator::listen(const QHostAddress &address, quint16 port)
 void BoxSimulator::setOptions(const BoxOptions &options)
 {
     m_options = options;
+    m_logger.setFolder(options.dataFolder);
 }
 
 void BoxSimulator::takeClient()
@@ -155,7 +157,7 @@ void BoxSimulator::handleRequest(const QByteArray &command)
     else if (command == "sensorDescription" && m_options.describesSensors)
         answer(sensorDescriptionLine());
     else if (command == "list")
-        answer(listBlock());
+        answer(m_logger.isActive() ? m_logger.listBlock() : listBlock());
     else if (command == "reboot")
         reboot();
     else
@@ -169,6 +171,7 @@ void BoxSimulator::startRun()
     m_running = true;
     m_nextTime = 0.0;
     m_burstLeft = m_options.burst;
+    m_logger.begin(QDateTime::currentDateTime(), m_period);
     emit runningChanged(true);
     answer("run=1\n");
     if (!m_running)
@@ -183,6 +186,7 @@ void BoxSimulator::stopRun()
     const bool wasRunning = std::exchange(m_running, false);
     m_burstLeft = 0;
     m_timer.stop();
+    m_logger.end();
     answer("run=0\n");
     if (wasRunning)
         emit runningChanged(false);
@@ -250,6 +254,8 @@ void BoxSimulator::sendNextSample()
 {
     const double time = m_nextTime;
     m_nextTime += m_period / 1000.0;
+    if (m_running && m_logger.isActive())
+        m_logger.add(valuesAt(time));
     sendSample(time);
 }
 

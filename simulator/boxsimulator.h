@@ -1,5 +1,6 @@
 #pragma once
 
+#include "simulator/datalogger.h"
 #include "simulator/mouldcycle.h"
 
 #include <QByteArray>
@@ -26,6 +27,7 @@ struct BoxOptions
     qint64 dropAfter = -1;  ///< bytes sent over one link after which it is dropped; negative: never
     int burst = 0;          ///< sample lines sent at the start of a run as fast as the socket takes them
     int rebootPause = 2000; ///< ms without a listening port after "reboot"
+    QString dataFolder;     ///< lists its days and logs every run there; empty: three days that hold nothing
 };
 
 /// A measuring box without hardware. Serves one client, the newest: a link that the program lost without noticing
@@ -95,6 +97,7 @@ private:
     void restartClock();
 
     BoxOptions m_options;
+    DataLogger m_logger;
     QTcpServer m_server;
     QTcpSocket *m_client = nullptr;
     QHostAddress m_address;

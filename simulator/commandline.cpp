@@ -25,6 +25,7 @@ void addOptions(QCommandLineParser &parser)
         {text("garbage"), text("Send a meaningless line before every sample.")},
         {text("long-lines"), text("Send a line of more than 1023 bytes before every tenth sample.")},
         {text("burst"), text("Begin each run with so many samples at once."), text("lines"), text("0")},
+        {text("data-folder"), text("List the days of this folder, and log every run there."), text("folder")},
         {{text("h"), text("help")}, text("Show this help.")},
     });
 }
@@ -76,6 +77,7 @@ BoxOptions boxOptions(const QCommandLineParser &parser, Numbers &numbers)
     box.garbage = isSet("garbage");
     box.longLines = isSet("long-lines");
     box.burst = numbers.value<int>("burst", 0, kMaxInt);
+    box.dataFolder = parser.value(QStringLiteral("data-folder"));
     return box;
 }
 

@@ -1,11 +1,11 @@
 #include "view/blackboxdays.h"
 
 #include "app/theme.h"
+#include "model/blackboxfile.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QFont>
-#include <QSet>
 
 #include <algorithm>
 
@@ -128,11 +128,15 @@ int BlackBoxDays::setFiles(const QDate &date, const QStringList &absoluteFiles)
     const QVector<BlackBoxFile> before = m_days.at(row).files;
     QVector<BlackBoxFile> files = date.isValid() ? QVector<BlackBoxFile>() : before;
     for (const QString &path : absoluteFiles) {
-        if (findFile(files, path))
-            continue;
-        const bool imported = m_imported.contains(path);
+        const QByteArray fingerprint = blackBoxFingerprint(path);
         const BlackBoxFile *known = findFile(before, path);
-        files.append({path, QFileInfo(path).size(), known ? known->ticked : !imported, imported});
+        const bool imported = m_imported.contains(fingerprint);
+        const bool same = known && known->fingerprint == fingerprint;
+        const BlackBoxFile file{path, fingerprint, QFileInfo(path).size(), same ? known->ticked : !imported, imported};
+        files.erase(std::remove_if(files.begin(), files.end(),
+                                   [&path](const BlackBoxFile &other) { return other.path == path; }),
+                    files.end());
+        files.append(file);
     }
     std::sort(files.begin(), files.end(), hasSmallerName);
     m_days[row].files = files;
@@ -141,15 +145,14 @@ int BlackBoxDays::setFiles(const QDate &date, const QStringList &absoluteFiles)
     return row;
 }
 
-void BlackBoxDays::setImported(const QStringList &absoluteFiles)
+void BlackBoxDays::setImported(const QSet<QByteArray> &fingerprints)
 {
-    if (absoluteFiles == m_imported)
+    if (fingerprints == m_imported)
         return;
-    m_imported = absoluteFiles;
-    const QSet<QString> imported(absoluteFiles.begin(), absoluteFiles.end());
+    m_imported = fingerprints;
     for (BlackBoxDay &day : m_days) {
         for (BlackBoxFile &file : day.files) {
-            const bool isImported = imported.contains(file.path);
+            const bool isImported = m_imported.contains(file.fingerprint);
             file.ticked = file.ticked && (file.imported || !isImported);
             file.imported = isImported;
         }

@@ -2,6 +2,7 @@
 
 #include <QAbstractTableModel>
 #include <QDate>
+#include <QSet>
 #include <QStringList>
 #include <QVector>
 
@@ -12,6 +13,7 @@ enum class BlackBoxState { New, Fetched, Imported };
 struct BlackBoxFile
 {
     QString path; ///< absolute
+    QByteArray fingerprint;
     qint64 size = 0;
     bool ticked = true; ///< wanted for the import
     bool imported = false;
@@ -53,8 +55,9 @@ public:
     /// ticked unless they are imported. An invalid date means local files: these are added to those known.
     /// Returns the row.
     int setFiles(const QDate &date, const QStringList &absoluteFiles);
-    /// Marks the files named as imported, all others as not imported. A file that becomes imported loses its tick.
-    void setImported(const QStringList &absoluteFiles);
+    /// Marks the files with these fingerprints as imported, all others as not imported. A file that becomes imported
+    /// loses its tick.
+    void setImported(const QSet<QByteArray> &fingerprints);
 
     enum class Selection { None, All, New };
     /// Ticks all days, none, or those of which nothing has been fetched.
@@ -85,7 +88,7 @@ private:
     void announceAll();
 
     QVector<BlackBoxDay> m_days;
-    QStringList m_imported;
+    QSet<QByteArray> m_imported;
 };
 
 /// "neu", "geladen", "importiert".

@@ -2,6 +2,7 @@
 
 #include "kit/progressindicator.h"
 #include "view/logging.h"
+#include "view/shotpreview.h"
 #include "view/tabblackbox_p.h"
 
 #include <QEvent>
@@ -40,6 +41,8 @@ void TabBlackBox::Private::connectTables()
                          if (current.isValid())
                              showDay(current.row());
                      });
+    QObject::connect(fileTable->selectionModel(), &QItemSelectionModel::currentRowChanged, q,
+                     [this](const QModelIndex &current) { showFile(current.row()); });
 }
 
 void TabBlackBox::Private::chooseDay(int row)
@@ -67,7 +70,14 @@ void TabBlackBox::Private::showDay(int row)
         chosenDay = days.days().at(row).date;
     if (files.rowCount() > 0)
         fileTable->setCurrentIndex(files.index(0, 0));
+    else
+        showFile(-1);
     updateState();
+}
+
+void TabBlackBox::Private::showFile(int row)
+{
+    preview->setFile(files.path(row));
 }
 
 // --- What is shown ---------------------------------------------------------------------------------------------
@@ -180,9 +190,9 @@ void TabBlackBox::addLocalFiles(const QStringList &files)
     d->chooseDay(d->days.setFiles({}, files));
 }
 
-void TabBlackBox::setImportedFiles(const QStringList &absoluteFiles)
+void TabBlackBox::setImportedFiles(const QSet<QByteArray> &fingerprints)
 {
-    d->days.setImported(absoluteFiles);
+    d->days.setImported(fingerprints);
 }
 
 void TabBlackBox::setResult(const QString &text)
@@ -217,6 +227,7 @@ void TabBlackBox::retranslateUi()
     d->fileTable->setAccessibleName(tr("Dateien des Tages"));
     d->days.retranslate();
     d->files.retranslate();
+    d->preview->update();
     d->showProgress();
     d->updateState();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSet>
 #include <QStringList>
 #include <QWidget>
 
@@ -33,8 +34,8 @@ public:
     void addFetchedFiles(const QString &date, const QStringList &absoluteFiles);
     /// Logger files of a local folder, absolute. Shown above the days.
     void addLocalFiles(const QStringList &files);
-    /// The files whose measurements the project holds.
-    void setImportedFiles(const QStringList &absoluteFiles);
+    /// The fingerprints of the files whose measurements the project holds.
+    void setImportedFiles(const QSet<QByteArray> &fingerprints);
     /// How the last import went; stays until the next.
     void setResult(const QString &text);
 

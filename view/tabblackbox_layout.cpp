@@ -1,4 +1,5 @@
 #include "kit/progressindicator.h"
+#include "view/shotpreview.h"
 #include "view/tabblackbox_p.h"
 #include "view/tabstyle.h"
 
@@ -95,6 +96,8 @@ QBoxLayout *TabBlackBox::Private::createFileColumn()
     filesHeading = addHeading(q);
     openFolder = addButton(q, "buttonOpenFolder");
     fileTable = addTable(q, "tableFiles", &files);
+    preview = new ShotPreview(q);
+    preview->setObjectName(QStringLiteral("shotPreview"));
     import = addButton(q, "buttonImport");
     auto *top = new QHBoxLayout;
     top->addWidget(filesHeading, 1);
@@ -102,6 +105,7 @@ QBoxLayout *TabBlackBox::Private::createFileColumn()
     auto *column = new QVBoxLayout;
     column->addLayout(top);
     column->addWidget(fileTable, 3);
+    column->addWidget(preview, 2);
     column->addWidget(import);
     return column;
 }

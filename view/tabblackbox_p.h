@@ -12,6 +12,7 @@ class QItemSelectionModel;
 class QLabel;
 class QPushButton;
 class QTableView;
+class ShotPreview;
 
 struct TabBlackBox::Private
 {
@@ -30,6 +31,7 @@ struct TabBlackBox::Private
     QLabel *filesHeading = nullptr;
     QTableView *dayTable = nullptr;
     QTableView *fileTable = nullptr;
+    ShotPreview *preview = nullptr;
     QPushButton *request = nullptr;
     QPushButton *selectAll = nullptr;
     QPushButton *selectNone = nullptr;
@@ -53,6 +55,7 @@ struct TabBlackBox::Private
     void chooseDay(int row);
     void restoreChosenDay();
     void showDay(int row);
+    void showFile(int row);
     void updateState();
     void updateHeadings();
     void showProgress();

@@ -3,6 +3,7 @@
 #include "view/actionicon.h"
 #include "view/logging.h"
 #include "view/sidetabs.h"
+#include "view/tabblackbox.h"
 #include "view/tabdatalogger.h"
 #include "view/tabhome.h"
 #include "view/taboszilloscope.h"
@@ -226,6 +227,7 @@ void View::Private::refreshProject()
     projectPending = false;
     tabHome->updateFromModel();
     tabSensors->updateDescription();
+    tabBlackBox->setImportedFiles(model->importedFiles());
     tabLogger->setSensorNames(sensorNames(model->sensorDescription()));
     refreshFileLabel();
 }

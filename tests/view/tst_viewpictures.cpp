@@ -3,6 +3,7 @@
 #include "tests/support/scriptedprompts.h"
 #include "view/dialogprompts.h"
 #include "view/ipaddressdialog.h"
+#include "view/tabblackbox.h"
 #include "view/tabdatalogger.h"
 #include "view/view.h"
 
@@ -14,6 +15,7 @@
 #include <QMessageBox>
 #include <QStyleOptionButton>
 #include <QTabWidget>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QToolBar>
 
@@ -59,6 +61,42 @@ void fill(Model &model)
     model.setComment(QStringLiteral("Erste Bemusterung nach dem Umbau.\nKühlkreis 2 gedrosselt."));
     model.emitProjectChanged();
     model.emitDataChanged();
+}
+
+QString writeShot(const QDir &folder, int number)
+{
+    const QString name = folder.filePath(QStringLiteral("20240305-0914%1.bb").arg(number, 2, 10, QLatin1Char('0')));
+    QFile file(name);
+    if (!file.open(QIODevice::WriteOnly))
+        return {};
+    file.write("[data]\nT=20240305-0914" + QByteArray::number(number).rightJustified(2, '0') + '\n');
+    for (int i = 0; i < 150; ++i) {
+        QByteArray line = "A=[";
+        for (int sensor = 0; sensor < kNumSensors; ++sensor)
+            line += QByteArray::number((sensor + 1) * std::exp(-i / 40.0) * std::sin(i / (8.0 + sensor))) + ',';
+        line.chop(1);
+        file.write(line + "]\n");
+    }
+    file.write("half a li");
+    return name;
+}
+
+/// Days on the box, one of them here, and an import under way.
+void fill(TabBlackBox &tab, const QDir &folder)
+{
+    QStringList entries{QStringLiteral("lost+found")};
+    for (int day = 10; day < 31; ++day)
+        entries << QStringLiteral("dir-202403%1").arg(day);
+    tab.setList(entries);
+    QStringList files;
+    for (int shot = 0; shot < 9; ++shot)
+        files << writeShot(folder, 7 * shot);
+    tab.addFetchedFiles(QStringLiteral("26.03.2024"), files.mid(0, 2));
+    tab.setImportedFiles({blackBoxFingerprint(files.at(0)), blackBoxFingerprint(files.at(1))});
+    tab.addLocalFiles(files.mid(2, 1));
+    tab.addFetchedFiles(QStringLiteral("28.03.2024"), files);
+    tab.setTransferProgress(3, 7);
+    tab.setResult(QStringLiteral("9 Messungen importiert, 3 Zeilen übersprungen, 1 Datei nicht lesbar"));
 }
 
 /// The picture goes to the folder that VENTARO_PICTURES names, if any: to be looked at.
@@ -132,10 +170,12 @@ void TestViewPictures::nothingIsClipped()
 {
     QFETCH(QSize, size);
     QFETCH(bool, connected);
+    const QTemporaryDir folder;
     Model model{QString()};
     View view(&model, std::make_unique<ScriptedPrompts>());
     if (connected) {
         fill(model);
+        fill(*view.tabBlackBox(), QDir(folder.path()));
         model.setConnected(true);
         model.emitAppStateChanged();
         view.setDeviceAddress(QStringLiteral("192.168.4.1"));
