@@ -23,13 +23,13 @@ QByteArray header()
     return text;
 }
 
-/// Two runs may begin within one second.
+/// Two runs may begin within one second; their names sort as they began.
 QString freeName(const QDir &day, const QDateTime &time)
 {
     const QString name = time.toString(QStringLiteral("yyyyMMdd-hhmmss"));
     QString file = name + QStringLiteral(".bb");
     for (int number = 2; day.exists(file); ++number)
-        file = QStringLiteral("%1-%2.bb").arg(name).arg(number);
+        file = QStringLiteral("%1_%2.bb").arg(name).arg(number);
     return day.filePath(file);
 }
 

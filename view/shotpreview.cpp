@@ -102,7 +102,10 @@ QString ShotPreview::caption() const
     if (m_document.timestamp && m_document.timestamp->isValid())
         parts += m_document.timestamp->toString(QStringLiteral("dd.MM.yyyy HH:mm:ss"));
     const QString count = QLocale().toString(m_document.sampleCount());
-    parts += m_isCut ? tr("die ersten %1 Werte je Sensor").arg(count) : tr("%1 Werte je Sensor").arg(count);
+    if (m_isCut)
+        parts += tr("die ersten %1 Werte je Sensor").arg(count);
+    else
+        parts += m_document.sampleCount() == 1 ? tr("1 Wert je Sensor") : tr("%1 Werte je Sensor").arg(count);
     const int skipped = m_document.losses.skippedLines;
     if (skipped > 0)
         parts += skipped == 1 ? tr("1 Zeile unlesbar") : tr("%1 Zeilen unlesbar").arg(skipped);

@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
+#include <QStyledItemDelegate>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -14,6 +15,24 @@ namespace {
 
 constexpr int kRowHeight = 40; // a finger's width
 constexpr int kDayColumnWidth = 460;
+constexpr int kTickRoom = 10;
+
+/// Keeps the text off the tick, which the sheet makes larger than the style has room for.
+class TickDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (!(option->features & QStyleOptionViewItem::HasCheckIndicator))
+            return;
+        option->features |= QStyleOptionViewItem::HasDecoration; // an empty one
+        option->decorationSize = QSize(kTickRoom, 1);
+    }
+};
 
 QPushButton *addButton(QWidget *parent, const char *name)
 {
@@ -35,6 +54,7 @@ QTableView *addTable(QWidget *parent, const char *name, QAbstractItemModel *mode
     auto *table = new QTableView(parent);
     table->setObjectName(QLatin1String(name));
     table->setModel(model);
+    table->setItemDelegateForColumn(0, new TickDelegate(table));
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->setShowGrid(false);

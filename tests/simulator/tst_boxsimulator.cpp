@@ -3,10 +3,13 @@
 #include "simulator/boxtexts.h"
 #include "simulator/commandline.h"
 
+#include <QDate>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QLoggingCategory>
 #include <QSignalSpy>
 #include <QTcpSocket>
+#include <QTemporaryDir>
 #include <QTest>
 
 namespace {
@@ -110,6 +113,7 @@ private slots:
     void servesTheNewestClient();
     void stopsTheRunWithTheLink();
     void survivesUnknownInput();
+    void logsItsRuns();
     void parsesTheCommandLine_data();
     void parsesTheCommandLine();
 };
@@ -378,6 +382,37 @@ void TestBoxSimulator::survivesUnknownInput()
     setup.send(noise + '\n' + QByteArray(200000, 'a'));
     setup.send("\nt=10\nrun=0\n");
     QVERIFY(setup.receiveUntil("t=10\nrun=0\n").contains("t=10\nrun=0\n"));
+}
+
+void TestBoxSimulator::logsItsRuns()
+{
+    const QTemporaryDir folder;
+    BoxOptions options = quick();
+    options.dataFolder = folder.filePath(QStringLiteral("stick"));
+    Setup setup(options);
+    QCOMPARE(setup.ask("list\n", "} list"), QByteArray("list {\n.\n..\n} list\n"));
+    for (int run = 0; run < 2; ++run) {
+        (void)setup.ask("t=2\nrun=1\n", "run=1\n");
+        setup.sent.clear();
+        QTRY_VERIFY(setup.sent.size() >= 5);
+        (void)setup.ask("run=0\n", "run=0\n");
+    }
+    const QDir stick(options.dataFolder);
+    const QStringList days = stick.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    QVERIFY(setup.ask("list\n", "} list").contains("..\n" + days.join(QLatin1Char('\n')).toLatin1() + '\n'));
+    const QDir day(stick.filePath(days.value(0)));
+    QVERIFY(day.dirName() == QDate::currentDate().toString(QStringLiteral("'dir-'yyyyMMdd")) || days.size() > 1);
+    const QStringList names = day.entryList({QStringLiteral("*.bb")}, QDir::Files);
+    QVERIFY(names.size() == 2 || days.size() > 1);
+    QFile file(day.filePath(names.last()));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    const QByteArray text = file.readAll();
+    QVERIFY(text.startsWith("[device]\n") && text.contains("\ngroup0/sensor4/unit=") && text.endsWith("]\n"));
+    QVERIFY(text.contains("\n[data]\nT=20"));
+    // What went over the wire, in another notation.
+    QByteArray expected = setup.sent.at(3).trimmed();
+    expected = "\nA=[" + expected.mid(expected.indexOf(';') + 1).replace(';', ',') + "]\n";
+    QVERIFY2(text.contains(expected), expected);
 }
 
 void TestBoxSimulator::parsesTheCommandLine_data()

@@ -82,7 +82,7 @@ QString writeShot(const QDir &folder, int number)
 }
 
 /// Days on the box, one of them here, and an import under way.
-void fill(TabBlackBox &tab, const QDir &folder)
+void fill(TabBlackBox &tab, Model &model, const QDir &folder)
 {
     QStringList entries{QStringLiteral("lost+found")};
     for (int day = 10; day < 31; ++day)
@@ -92,7 +92,8 @@ void fill(TabBlackBox &tab, const QDir &folder)
     for (int shot = 0; shot < 9; ++shot)
         files << writeShot(folder, 7 * shot);
     tab.addFetchedFiles(QStringLiteral("26.03.2024"), files.mid(0, 2));
-    tab.setImportedFiles({blackBoxFingerprint(files.at(0)), blackBoxFingerprint(files.at(1))});
+    model.setFileList(files.mid(0, 2));
+    model.emitProjectChanged();
     tab.addLocalFiles(files.mid(2, 1));
     tab.addFetchedFiles(QStringLiteral("28.03.2024"), files);
     tab.setTransferProgress(3, 7);
@@ -175,7 +176,7 @@ void TestViewPictures::nothingIsClipped()
     View view(&model, std::make_unique<ScriptedPrompts>());
     if (connected) {
         fill(model);
-        fill(*view.tabBlackBox(), QDir(folder.path()));
+        fill(*view.tabBlackBox(), model, QDir(folder.path()));
         model.setConnected(true);
         model.emitAppStateChanged();
         view.setDeviceAddress(QStringLiteral("192.168.4.1"));

@@ -1,0 +1,336 @@
+#include "model/blackboxfile.h"
+#include "view/blackboxdays.h"
+#include "view/blackboxfiles.h"
+#include "view/shotpreview.h"
+#include "view/tabblackbox.h"
+
+#include <QAbstractButton>
+#include <QFile>
+#include <QLabel>
+#include <QSignalSpy>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+QString german(const QDate &date)
+{
+    return date.toString(QStringLiteral("dd.MM.yyyy"));
+}
+
+/// The tab with what a user sees of it.
+struct Bench
+{
+    Bench()
+    {
+        tab.resize(1080, 640);
+        tab.show();
+    }
+
+    template <typename Widget>
+    [[nodiscard]] Widget *find(const char *name) const
+    {
+        auto *widget = tab.findChild<Widget *>(QLatin1String(name));
+        if (!widget)
+            qFatal("no %s", name);
+        return widget;
+    }
+    [[nodiscard]] QAbstractButton *button(const char *name) const { return find<QAbstractButton>(name); }
+    [[nodiscard]] QAbstractItemModel *table(const char *name) const { return find<QTableView>(name)->model(); }
+    void click(const char *name) const { QTest::mouseClick(button(name), Qt::LeftButton); }
+
+    /// The rows of a table: "X name|second|third", with a tick, "o" for a part, or "-".
+    [[nodiscard]] QStringList rows(const char *name) const
+    {
+        QStringList texts;
+        const QAbstractItemModel *model = table(name);
+        for (int row = 0; row < model->rowCount(); ++row) {
+            const int tick = model->index(row, 0).data(Qt::CheckStateRole).toInt();
+            QStringList cells;
+            for (int column : {0, 1, 2})
+                cells << model->index(row, column).data().toString();
+            texts << QStringLiteral("-oX").mid(tick, 1) + QLatin1Char(' ') + cells.join(QLatin1Char('|'));
+        }
+        return texts;
+    }
+    void tick(const char *name, int row, bool on = true) const
+    {
+        QAbstractItemModel *model = table(name);
+        QVERIFY(model->setData(model->index(row, 0), on ? Qt::Checked : Qt::Unchecked, Qt::CheckStateRole));
+    }
+    [[nodiscard]] QString writeFile(const QString &name, const QByteArray &bytes)
+    {
+        QFile file(folder.filePath(name));
+        return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() ? file.fileName() : QString();
+    }
+    /// Files that differ in their sample.
+    [[nodiscard]] QStringList writeFiles(const QStringList &names)
+    {
+        QStringList files;
+        for (const QString &name : names)
+            files << writeFile(name, "A=[1,2,3,4," + name.toUtf8().toHex() + "]\n");
+        return files;
+    }
+
+    QTemporaryDir folder;
+    TabBlackBox tab;
+};
+
+QStringList strings(std::initializer_list<const char *> texts)
+{
+    QStringList list;
+    for (const char *text : texts)
+        list << QString::fromUtf8(text);
+    return list;
+}
+
+const QStringList kThreeDays = strings({"dir-20240304", "dir-20240306", "dir-20240305"});
+
+} // namespace
+
+class TestTabBlackBox : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void loggedDays_data();
+    void loggedDays();
+    void selectsDays();
+    void fetchedFiles();
+    void ticksGoTogether();
+    void newListKeepsWhatIsHere();
+    void localFiles();
+    void importedFiles();
+    void sameNameOtherContent();
+    void progress();
+    void preview_data();
+    void preview();
+    void manyDays();
+};
+
+void TestTabBlackBox::loggedDays_data()
+{
+    QTest::addColumn<QStringList>("entries");
+    QTest::addColumn<QStringList>("days");
+    QTest::newRow("newest first") << kThreeDays << strings({"06.03.2024", "05.03.2024", "04.03.2024"});
+    QTest::newRow("across a year") << strings({"dir-20231231", "dir-20240101"})
+                                   << strings({"01.01.2024", "31.12.2023"});
+    QTest::newRow("twice") << strings({"dir-20240305", "dir-20240305"}) << strings({"05.03.2024"});
+    QTest::newRow("no such day") << strings({"dir-20240230", "dir-20241301", "dir-00000000", "dir-20240229"})
+                                 << strings({"29.02.2024"});
+    QTest::newRow("others") << strings({"dir-2024030", "dir-202403055", "Dir-20240305", "20240305", "dir_20240305",
+                                        "dir-2024-3-5", "x.bb", "", "lost+found", "dir-2024030a", "dir- 2024030"})
+                            << QStringList();
+}
+
+void TestTabBlackBox::loggedDays()
+{
+    QFETCH(QStringList, entries);
+    QFETCH(QStringList, days);
+    QStringList dates;
+    for (const QDate &day : ::loggedDays(entries))
+        dates << german(day);
+    QCOMPARE(dates, days);
+    Bench bench;
+    bench.tab.setList(entries);
+    QCOMPARE(bench.table("tableDays")->rowCount(), days.size());
+    bench.click("buttonSelectAll");
+    QCOMPARE(bench.tab.selectedDates(), days);
+}
+
+void TestTabBlackBox::selectsDays()
+{
+    Bench bench;
+    QSignalSpy requested(&bench.tab, &TabBlackBox::listRequested);
+    QSignalSpy fetch(&bench.tab, &TabBlackBox::fetchClicked);
+    bench.click("buttonList");
+    QCOMPARE(requested.count(), 1);
+    QVERIFY(!bench.button("buttonFetch")->isEnabled() && !bench.button("buttonSelectAll")->isEnabled());
+    bench.tab.setList(kThreeDays);
+    QCOMPARE(bench.rows("tableDays"), strings({"- 06.03.2024|–|neu", "- 05.03.2024|–|neu", "- 04.03.2024|–|neu"}));
+    QVERIFY(!bench.button("buttonFetch")->isEnabled());
+    bench.tick("tableDays", 1);
+    QCOMPARE(bench.tab.selectedDates(), strings({"05.03.2024"}));
+    bench.click("buttonFetch");
+    QCOMPARE(fetch.count(), 1);
+    bench.click("buttonSelectNone");
+    QVERIFY(bench.tab.selectedDates().isEmpty() && !bench.button("buttonFetch")->isEnabled());
+    bench.tab.addFetchedFiles(QStringLiteral("05.03.2024"), {});
+    bench.click("buttonSelectNew");
+    QCOMPARE(bench.tab.selectedDates(), strings({"06.03.2024", "04.03.2024"}));
+}
+
+void TestTabBlackBox::fetchedFiles()
+{
+    Bench bench;
+    QSignalSpy import(&bench.tab, &TabBlackBox::importClicked);
+    bench.tab.setList(kThreeDays);
+    QVERIFY(!bench.button("buttonImport")->isEnabled());
+    const QStringList newer = bench.writeFiles(strings({"b.bb", "a.bb"}));
+    const QStringList older = bench.writeFiles(strings({"z.bb"}));
+    bench.tab.addFetchedFiles(QStringLiteral("06.03.2024"), newer);
+    bench.tab.addFetchedFiles(QStringLiteral("03.03.2024"), older); // the list did not have it
+    bench.tab.addFetchedFiles(QStringLiteral("31.02.2024"), older);
+    bench.tab.addFetchedFiles(QStringLiteral("05.03.2024"), {});
+    QCOMPARE(bench.rows("tableDays"), strings({"X 06.03.2024|2|geladen", "- 05.03.2024|0|geladen", "- 04.03.2024|–|neu",
+                                               "X 03.03.2024|1|geladen"}));
+    QCOMPARE(bench.table("tableFiles")->rowCount(), 0); // those of the day that came last
+    bench.find<QTableView>("tableDays")->selectRow(0);
+    QCOMPARE(bench.rows("tableFiles"), strings({"X a.bb|21 bytes|geladen", "X b.bb|21 bytes|geladen"}));
+    bench.click("buttonImport");
+    QCOMPARE(import.count(), 1);
+    QCOMPARE(import.first().first().toStringList(), (QStringList{older.at(0), newer.at(1), newer.at(0)}));
+}
+
+void TestTabBlackBox::ticksGoTogether()
+{
+    Bench bench;
+    bench.tab.addFetchedFiles(QStringLiteral("06.03.2024"), bench.writeFiles(strings({"a.bb", "b.bb"})));
+    const auto day = [&] { return bench.rows("tableDays").at(0).left(1); };
+    bench.tick("tableFiles", 0, false);
+    QCOMPARE(day(), QStringLiteral("o"));
+    bench.tick("tableFiles", 1, false);
+    QCOMPARE(day(), QStringLiteral("-"));
+    QVERIFY(bench.tab.selectedDates().isEmpty());
+    bench.tick("tableFiles", 1);
+    QCOMPARE(bench.tab.selectedDates(), strings({"06.03.2024"}));
+    QCOMPARE(bench.tab.selectedFiles().size(), 1);
+    bench.tick("tableDays", 0);
+    QCOMPARE(bench.tab.selectedFiles().size(), 2);
+    bench.tick("tableDays", 0, false);
+    QVERIFY(bench.tab.selectedFiles().isEmpty());
+}
+
+void TestTabBlackBox::newListKeepsWhatIsHere()
+{
+    Bench bench;
+    bench.tab.setList(kThreeDays);
+    bench.tab.addFetchedFiles(QStringLiteral("05.03.2024"), bench.writeFiles(strings({"a.bb"})));
+    bench.tick("tableDays", 0);
+    bench.tab.setList(strings({"dir-20240307", "dir-20240306"}));
+    QCOMPARE(bench.rows("tableDays"), strings({"- 07.03.2024|–|neu", "X 06.03.2024|–|neu", "X 05.03.2024|1|geladen"}));
+    QCOMPARE(bench.rows("tableFiles").size(), 1); // still of the day chosen
+    bench.tab.setList({});
+    QCOMPARE(bench.rows("tableDays"), strings({"X 05.03.2024|1|geladen"}));
+}
+
+void TestTabBlackBox::localFiles()
+{
+    Bench bench;
+    QSignalSpy folder(&bench.tab, &TabBlackBox::openLocalFolderClicked);
+    bench.click("buttonOpenFolder");
+    QCOMPARE(folder.count(), 1);
+    bench.tab.setList(kThreeDays);
+    const QStringList files = bench.writeFiles(strings({"a.bb", "b.bb", "c.bb"}));
+    bench.tab.addLocalFiles(files.mid(0, 2));
+    bench.tab.addLocalFiles(files.mid(1, 2));
+    QCOMPARE(bench.rows("tableDays").first(), QStringLiteral("X Lokale Dateien|3|geladen"));
+    QCOMPARE(bench.rows("tableFiles").size(), 3);
+    QCOMPARE(bench.tab.selectedFiles(), files);
+    QVERIFY(bench.tab.selectedDates().isEmpty()); // there is nothing to fetch
+}
+
+void TestTabBlackBox::importedFiles()
+{
+    Bench bench;
+    const QStringList files = bench.writeFiles(strings({"a.bb", "b.bb"}));
+    bench.tab.addFetchedFiles(QStringLiteral("05.03.2024"), files);
+    const QByteArray first = blackBoxFingerprint(files.at(0));
+    const QByteArray second = blackBoxFingerprint(files.at(1));
+    QVERIFY(first != second);
+    bench.tab.setImportedFiles({first});
+    QCOMPARE(bench.rows("tableFiles"), strings({"- a.bb|21 bytes|importiert", "X b.bb|21 bytes|geladen"}));
+    QCOMPARE(bench.rows("tableDays"), strings({"X 05.03.2024|2|geladen"}));
+    bench.tab.setImportedFiles({first, second});
+    QCOMPARE(bench.rows("tableDays"), strings({"- 05.03.2024|2|importiert"}));
+    bench.tab.addFetchedFiles(QStringLiteral("05.03.2024"), files); // once more
+    QVERIFY(bench.tab.selectedFiles().isEmpty());
+    bench.tick("tableDays", 0); // asked for
+    QCOMPARE(bench.tab.selectedFiles(), files);
+    bench.tab.setImportedFiles({}); // a new project
+    QCOMPARE(bench.rows("tableDays"), strings({"X 05.03.2024|2|geladen"}));
+}
+
+void TestTabBlackBox::sameNameOtherContent()
+{
+    Bench bench;
+    const QString file = bench.writeFile(QStringLiteral("a.bb"), "A=[1,2,3,4,5]\n");
+    const QString copy = bench.writeFile(QStringLiteral("copy.bb"), "A=[1,2,3,4,5]\n");
+    bench.tab.setImportedFiles({blackBoxFingerprint(file)});
+    bench.tab.addLocalFiles({file, copy});
+    QVERIFY(bench.tab.selectedFiles().isEmpty());
+    QCOMPARE(bench.writeFile(QStringLiteral("a.bb"), "A=[5,4,3,2,1]\n"), file);
+    bench.tab.addLocalFiles({file});
+    QCOMPARE(bench.tab.selectedFiles(), QStringList{file});
+}
+
+void TestTabBlackBox::progress()
+{
+    Bench bench;
+    bench.tab.addFetchedFiles(QStringLiteral("05.03.2024"), bench.writeFiles(strings({"a.bb"})));
+    const auto *label = bench.find<QLabel>("labelProgress");
+    const std::initializer_list<const char *> buttons{"buttonList", "buttonFetch", "buttonOpenFolder", "buttonImport"};
+    QVERIFY(label->text().isEmpty());
+    bench.tab.setTransferProgress(3, 7);
+    QCOMPARE(label->text(), QStringLiteral("3 von 7"));
+    bench.tab.setListButtonEnabled(true); // the box answers meanwhile
+    for (const char *name : buttons)
+        QVERIFY2(!bench.button(name)->isEnabled(), name);
+    bench.tab.setTransferProgress(0, 0);
+    QVERIFY(label->text().isEmpty());
+    for (const char *name : buttons)
+        QVERIFY2(bench.button(name)->isEnabled(), name);
+    bench.tab.setListButtonEnabled(false);
+    QVERIFY(!bench.button("buttonList")->isEnabled());
+}
+
+void TestTabBlackBox::preview_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("caption");
+    const QByteArray line = "A=[1,2,3,4,5]\n";
+    QTest::newRow("shot") << QByteArray("T=20240305-091407\n" + line + "A=[2,2,2,2,2]\nB\n")
+                          << QStringLiteral("05.03.2024 09:14:07 · 2 Werte je Sensor · 1 Zeile unlesbar");
+    QTest::newRow("one sample") << line << QStringLiteral("1 Wert je Sensor");
+    QTest::newRow("header") << QByteArray("[sensors]\ngroup0/name=G\n") << QStringLiteral("0 Werte je Sensor");
+    QTest::newRow("extremes") << QByteArray("A=[-1.7e308,0,0,0,0]\nA=[1.7e308,0,0,0,0]\n")
+                              << QStringLiteral("2 Werte je Sensor");
+    QTest::newRow("long") << line.repeated(1000000) << QStringLiteral("die ersten 149.797 Werte je Sensor");
+}
+
+void TestTabBlackBox::preview()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, caption);
+    QLocale::setDefault(QLocale(QLocale::German));
+    Bench bench;
+    auto *preview = bench.find<ShotPreview>("shotPreview");
+    const QImage empty = preview->grab().toImage();
+    bench.tab.addLocalFiles({bench.writeFile(QStringLiteral("a.bb"), bytes)});
+    QCOMPARE(preview->caption(), caption);
+    QVERIFY(preview->grab().toImage() != empty);
+    preview->setFile(bench.folder.path());
+    QCOMPARE(preview->caption(), QStringLiteral("Die Datei kann nicht gelesen werden."));
+    preview->setFile({});
+    QCOMPARE(preview->caption(), QString());
+    QVERIFY(preview->grab().toImage() == empty);
+}
+
+void TestTabBlackBox::manyDays()
+{
+    Bench bench;
+    QStringList entries;
+    for (int i = 0; i < 20000; ++i)
+        entries << QDate(1970, 1, 1).addDays(i).toString(QStringLiteral("'dir-'yyyyMMdd"));
+    QElapsedTimer timer;
+    timer.start();
+    bench.tab.setList(entries);
+    bench.tab.setList(entries);
+    bench.click("buttonSelectAll");
+    QCOMPARE(bench.tab.selectedDates().size(), entries.size());
+    QVERIFY2(timer.elapsed() < 10000, qPrintable(QString::number(timer.elapsed()))); // wide: the machine may be busy
+}
+
+QTEST_MAIN(TestTabBlackBox)
+#include "tst_tabblackbox.moc"
