@@ -8,6 +8,7 @@
 #include <QPolygon>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -42,16 +43,18 @@ void paintBand(QPainter &painter, const QPolygon &upper, const QPolygon &lower)
 
 void OverlayPlot::setReference(const Reference &reference)
 {
-    m_reference = reference;
-    update();
+    const bool hadOne = std::exchange(m_reference, reference).samples;
+    if (hadOne || reference.samples)
+        update();
 }
 
 void OverlayPlot::setMean(const MeanBand *mean, bool showsMean, double sigmas)
 {
-    m_mean = mean;
+    const bool hadOne = std::exchange(m_mean, mean);
     m_showsMean = showsMean;
     m_sigmas = sigmas;
-    update();
+    if (hadOne || mean)
+        update();
 }
 
 void OverlayPlot::paintEvent(QPaintEvent *event)

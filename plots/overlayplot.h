@@ -20,7 +20,8 @@ public:
         QColor color;
     };
 
-    /// Not owned, and looked at whenever the plot is painted; the plot's offset is added to all of it.
+    /// Not owned, and looked at whenever the plot is painted; the plot's offset is added to all of it. Has to be set
+    /// again when its samples or those of the mean have changed.
     void setReference(const Reference &reference);
     /// nullptr for none; a band of `sigmas` times sigma to each side is drawn if that is more than 0.
     void setMean(const MeanBand *mean, bool showsMean, double sigmas);

@@ -302,7 +302,7 @@ void TabEvaluationOverlay::showStatus()
     const auto count = static_cast<int>(m_shots.shots().size());
     QString text = count == 0 ? tr("Noch keine Messungen") : tr("%1 von %2 gezeigt").arg(shown).arg(count);
     if (unplaced > 0)
-        text += QStringLiteral(", ") + (usesThreshold() ? tr("%1 ohne Durchgang") : tr("%1 zu kurz")).arg(unplaced);
+        text += QStringLiteral(", ") + unplacedText(unplaced);
     m_status->setText(text);
     const int current = currentShot();
     m_buttonReference->setEnabled(current >= 0);
@@ -310,6 +310,14 @@ void TabEvaluationOverlay::showStatus()
                                                                           : tr("Als Referenz"));
     m_buttonAll->setEnabled(count > 0);
     m_buttonNone->setEnabled(count > 0);
+}
+
+QString TabEvaluationOverlay::unplacedText(int count) const
+{
+    if (usesThreshold())
+        return tr("%1 ohne Durchgang").arg(count);
+    const auto by = static_cast<AlignBy>(m_comboAlignment->currentData().toPoint().x());
+    return (by == AlignBy::Start ? tr("%1 leer") : tr("%1 zu kurz")).arg(count);
 }
 
 int TabEvaluationOverlay::currentShot() const

@@ -95,6 +95,7 @@ private:
         quint64 id = 0;
         const OverlayShot *shot = nullptr;
         QRgb color = 0;
+        bool isOnTop = false;
         int shift = 0;
         double lift = 0.0;
     };
@@ -124,6 +125,7 @@ private:
     void toggleSelected();
     void showRows();
     void showStatus();
+    [[nodiscard]] QString unplacedText(int count) const;
     void showSensorNames();
     void showThreshold();
 
@@ -133,6 +135,7 @@ private:
     [[nodiscard]] std::vector<bool> selectedShots() const;
     [[nodiscard]] int currentShot() const;
     void showCurves(const std::vector<bool> &isShown);
+    void showHighlighted(quint64 id);
     void setSlots(const std::vector<Slot> &wanted);
     void showReference();
     void showMean(const std::vector<bool> &isShown);

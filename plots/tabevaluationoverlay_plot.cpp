@@ -83,31 +83,33 @@ void TabEvaluationOverlay::showPlot()
     m_plot->samplesAppended();
 }
 
-/// Chosen shots keep their colours and lie over the others, which fade. The current one is drawn thick, and can be read
-/// off with the mouse.
+/// Chosen shots keep their colours and lie over the others, which fade.
 void TabEvaluationOverlay::showCurves(const std::vector<bool> &isShown)
 {
-    const std::vector<bool> selected = selectedShots();
-    const auto both = [&](size_t shot) { return isShown[shot] && selected[shot]; };
-    bool anySelected = false;
-    for (size_t i = 0; i < isShown.size(); ++i)
-        anySelected = anySelected || both(i);
+    std::vector<bool> chosen = selectedShots();
+    for (size_t i = 0; i < chosen.size(); ++i)
+        chosen[i] = chosen[i] && isShown[i];
+    const bool anyChosen = std::find(chosen.begin(), chosen.end(), true) != chosen.end();
     std::vector<Slot> wanted;
-    for (const bool onTop : {false, true}) {
-        for (size_t i = 0; i < isShown.size(); ++i) {
-            if (!isShown[i] || both(i) != onTop)
-                continue;
-            const OverlayShot &shot = *m_shots.shots()[i];
-            const QRgb color = anySelected && !onTop ? kFaded : colorOf(static_cast<int>(i)).rgb();
-            wanted.push_back({shot.id, &shot, color, shot.shift, shot.lift});
-        }
+    for (size_t i = 0; i < isShown.size(); ++i) {
+        const OverlayShot &shot = *m_shots.shots()[i];
+        const bool fades = anyChosen && !chosen[i];
+        const QRgb color = fades ? kFaded : colorOf(static_cast<int>(i)).rgb();
+        if (isShown[i])
+            wanted.push_back({shot.id, &shot, color, !fades, shot.shift, shot.lift});
     }
+    std::stable_partition(wanted.begin(), wanted.end(), [](const Slot &slot) { return !slot.isOnTop; });
     if (wanted.size() > OsziWidget::kNumSlots)
         wanted.erase(wanted.begin(), wanted.end() - OsziWidget::kNumSlots);
     setSlots(wanted);
     const int current = currentShot();
-    const bool isThick = current >= 0 && both(static_cast<size_t>(current));
-    const quint64 id = isThick ? m_shots.shots()[static_cast<size_t>(current)]->id : 0;
+    const bool isThick = current >= 0 && chosen[static_cast<size_t>(current)];
+    showHighlighted(isThick ? m_shots.shots()[static_cast<size_t>(current)]->id : 0);
+}
+
+/// Draws a shot thick, so that it can be read off with the mouse; an id of 0: none.
+void TabEvaluationOverlay::showHighlighted(quint64 id)
+{
     const auto slot = std::find_if(m_slots.begin(), m_slots.end(), [id](const Slot &s) { return s.id == id; });
     const int highlighted = slot == m_slots.end() ? -1 : static_cast<int>(slot - m_slots.begin());
     if (highlighted != m_plot->highlighted())

@@ -130,7 +130,7 @@ void TabEvaluationOverlayTest::tableShowsShots()
     QCOMPARE(text(1, Column::Number), QStringLiteral("1"));
     QCOMPARE(text(1, Column::Label), QStringLiteral("leer"));
     QCOMPARE(text(0, Column::Deviation), QString());
-    QCOMPARE(status(), QStringLiteral("1 von 2 gezeigt, 1 zu kurz"));
+    QCOMPARE(status(), QStringLiteral("1 von 2 gezeigt, 1 leer"));
 }
 
 void TabEvaluationOverlayTest::ranksByDeviation()
