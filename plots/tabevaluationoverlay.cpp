@@ -103,6 +103,8 @@ void TabEvaluationOverlay::onRefreshTimer_timeout()
     qCDebug(lcPlots) << Q_FUNC_INFO;
     if (isVisible())
         update();
+    else
+        forgetShots(); // hidden in the meantime: some of them may be gone
 }
 
 void TabEvaluationOverlay::showEvent(QShowEvent *event)

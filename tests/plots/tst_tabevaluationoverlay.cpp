@@ -365,6 +365,12 @@ void TabEvaluationOverlayTest::followsTheModelOnlyWhileShown()
     m_page->show();
     QCOMPARE(table()->model()->rowCount(), 2);
     QCOMPARE(*plot()->curve(1), flat(2));
+
+    m_model->clearData();
+    m_page->hide(); // before it has looked
+    QTRY_VERIFY(!plot()->curve(0));
+    m_page->show();
+    QCOMPARE(table()->model()->rowCount(), 0);
 }
 
 void TabEvaluationOverlayTest::survivesRemovalItWasNotToldOf()
