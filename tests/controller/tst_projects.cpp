@@ -3,6 +3,7 @@
 #include "tests/support/logcapture.h"
 #include "view/tabproject.h"
 
+#include <QDir>
 #include <QFile>
 #include <QProgressBar>
 #include <QSignalSpy>
@@ -21,6 +22,7 @@ private slots:
     void saveNames();
     void existingFileIsNotReplacedUnasked();
     void failedSave();
+    void lostSettingsOfTheEvaluationAreTold();
     void openProject();
     void openWithUnsavedChanges_data();
     void openWithUnsavedChanges();
@@ -134,6 +136,20 @@ void TestProjects::failedSave()
     QCOMPARE(bench.prompts->warnings[0].text, QStringLiteral("Das Projekt konnte nicht gespeichert werden!"));
     QVERIFY(bench.model.isProjectModified());
     QVERIFY(bench.model.currentFile().isEmpty());
+}
+
+void TestProjects::lostSettingsOfTheEvaluationAreTold()
+{
+    Bench bench;
+    bench.recordShots(1); // has a time stamp
+    const QString file = path(QStringLiteral("blocked.vnt"));
+    QVERIFY(QDir().mkpath(file + QStringLiteral(".meta")));
+    bench.prompts->saveNames = {file};
+    emit bench.view.saveProjectAs();
+    QCOMPARE(bench.prompts->warnings.size(), std::size_t(1));
+    QVERIFY(bench.prompts->warnings[0].text.startsWith(QStringLiteral("Das Projekt ist gespeichert, aber")));
+    QCOMPARE(bench.model.currentFile(), file); // the project itself is saved
+    QVERIFY(!bench.model.isProjectModified());
 }
 
 void TestProjects::openProject()

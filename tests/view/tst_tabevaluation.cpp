@@ -1,6 +1,7 @@
 #include "app/startup.h"
 #include "model/model.h"
-#include "plots/limitfield.h"
+#include "plots/dashboardtile.h"
+#include "plots/quantitypicker.h"
 #include "plots/tabevaluationruntime.h"
 #include "plots/tabevaluationvalues.h"
 #include "simulator/mouldcycle.h"
@@ -11,14 +12,12 @@
 
 #include <QAbstractButton>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QDir>
 #include <QDoubleSpinBox>
 #include <QLabel>
 #include <QStyleOptionButton>
+#include <QTemporaryDir>
 #include <QTest>
-
-#include <cmath>
 
 namespace {
 
@@ -53,7 +52,9 @@ void fill(Model &model, int shots)
     for (int marker = 0; marker < Model::kNumMarkers; ++marker)
         model.setVerticalMarkerAbsolute(marker, static_cast<int>(seconds[marker] * 1000.0 / kClock));
     ProjectMeta meta = model.projectMeta();
-    meta.sensors[0].at(QStringLiteral("maximum")) = {QStringLiteral("maximum"), true, 300.0, 340.0};
+    meta.sensors[0].at(QStringLiteral("maximum")) = {QStringLiteral("maximum"), true, 365.0, 445.0};
+    meta.sensors[1].at(QStringLiteral("maximum")) = {QStringLiteral("maximum"), true, 910.0, {}};
+    meta.sensors[3].at(QStringLiteral("maximum")) = {QStringLiteral("maximum"), true, 64.0, 66.5};
     meta.sensors[0].at(QStringLiteral("mean.phase3")) = {QStringLiteral("mean.phase3"), true, {}, {}};
     meta.sensors[0].at(QStringLiteral("marker2")) = {QStringLiteral("marker2"), true, {}, {}};
     model.setProjectMeta(meta);
@@ -71,6 +72,29 @@ void keep(QWidget &widget, const QString &name)
         QVERIFY(picture.save(QDir(folder).filePath(name + QStringLiteral(".png"))));
 }
 
+int roomForText(const QAbstractButton *button)
+{
+    QStyleOptionButton option;
+    option.initFrom(button);
+    if (qobject_cast<const QCheckBox *>(button))
+        return button->style()->subElementRect(QStyle::SE_CheckBoxContents, &option, button).width();
+    return button->width();
+}
+
+/// The text of a button or a label that has too little room; empty if nothing is clipped.
+QString clippedText(const QWidget *page)
+{
+    for (const auto *button : page->findChildren<QAbstractButton *>()) {
+        if (button->isVisible() && roomForText(button) < button->fontMetrics().horizontalAdvance(button->text()))
+            return button->text();
+    }
+    for (const auto *label : page->findChildren<QLabel *>()) {
+        if (label->isVisible() && label->width() < label->minimumSizeHint().width())
+            return label->text();
+    }
+    return {};
+}
+
 } // namespace
 
 class TestTabEvaluation : public QObject
@@ -79,6 +103,8 @@ class TestTabEvaluation : public QObject
 
 private slots:
     void initTestCase();
+    void thresholdsAreKeptWithTheProject();
+    void tilesOpenTheirPages();
     void pictures_data();
     void pictures();
 };
@@ -86,6 +112,46 @@ private slots:
 void TestTabEvaluation::initTestCase()
 {
     prepareApplication(*qobject_cast<QApplication *>(QCoreApplication::instance()));
+}
+
+void TestTabEvaluation::thresholdsAreKeptWithTheProject()
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("p.vnt"));
+    Model model{QString()};
+    fill(model, 2);
+    TabEvaluation tab;
+    tab.setModel(&model);
+    auto *page = tab.findChild<TabEvaluationRuntime *>();
+    model.setProjectModifiedFlag(false);
+    page->findChild<QDoubleSpinBox *>(QStringLiteral("spinBoxStopValue"))->setValue(12.5);
+    QVERIFY(model.isProjectModified());
+    QVERIFY(model.save(file));
+    model.clear();
+    QCOMPARE(page->stopThreshold(0), 0.0);
+    QVERIFY(model.open(file));
+    QCOMPARE(page->stopThreshold(0), 12.5);
+    QCOMPARE(page->findChild<QDoubleSpinBox *>(QStringLiteral("spinBoxStopValue"))->value(), 12.5);
+    QVERIFY(!model.isProjectModified());
+}
+
+void TestTabEvaluation::tilesOpenTheirPages()
+{
+    Model model{QString()};
+    fill(model, 2);
+    TabEvaluation tab;
+    tab.setModel(&model);
+    tab.resize(1080, 640);
+    tab.show();
+    QVERIFY(tab.currentPage() == TabEvaluation::Page::Dashboard);
+    tab.findChild<DashboardTile *>(QStringLiteral("tile3"))->click();
+    QVERIFY(tab.currentPage() == TabEvaluation::Page::Values);
+    QCOMPARE(tab.findChild<TabEvaluationValues *>()->currentSensor(), 3);
+    tab.findChild<QAbstractButton *>(QStringLiteral("pageButton0"))->click();
+    QVERIFY(tab.currentPage() == TabEvaluation::Page::Dashboard);
+    tab.findChild<QAbstractButton *>(QStringLiteral("tileCycle"))->click();
+    QVERIFY(tab.currentPage() == TabEvaluation::Page::Runtime);
+    QVERIFY(tab.findChild<QAbstractButton *>(QStringLiteral("pageButton2"))->isChecked());
 }
 
 void TestTabEvaluation::pictures_data()
@@ -116,7 +182,13 @@ void TestTabEvaluation::pictures()
         QTest::qWait(60);
         keep(view, QStringLiteral("eval-%1-%2").arg(tag).arg(page));
         QCOMPARE(view.size(), size);
+        QCOMPARE(clippedText(view.tabEvaluation()), QString());
     }
+    auto *picker = view.tabEvaluation()->findChild<QuantityPicker *>();
+    picker->popUpBelow(view.tabEvaluation());
+    QTest::qWait(20);
+    keep(*picker, QStringLiteral("eval-%1-picker").arg(tag));
+    QCOMPARE(clippedText(picker), QString());
 }
 
 QTEST_MAIN(TestTabEvaluation)
