@@ -45,6 +45,12 @@ struct Page
         page.setData(&data);
         page.resize(1080, 590);
     }
+    /// Until it is painted.
+    void showNow()
+    {
+        page.show();
+        QApplication::processEvents();
+    }
     std::unique_ptr<Model> model;
     EvaluationData data;
     PageType page;
@@ -79,7 +85,7 @@ void shownAgain(benchmark::State &state)
 void limitChanged(benchmark::State &state)
 {
     Page<TabEvaluationValues> page(state);
-    page.page.show();
+    page.showNow();
     auto *field = page.page.template findChild<LimitField *>(QStringLiteral("upperLimit"));
     field->template findChild<QCheckBox *>()->click();
     double value = 190.0;
@@ -92,7 +98,7 @@ void limitChanged(benchmark::State &state)
 void sensorSwitched(benchmark::State &state)
 {
     Page<TabEvaluationValues> page(state);
-    page.page.show();
+    page.showNow();
     int sensor = 0;
     for (auto _ : state) {
         page.page.setCurrentSensor(sensor = 1 - sensor);
@@ -106,7 +112,7 @@ void sampleArrived(benchmark::State &state)
 {
     Page<PageType> page(state);
     const int shot = static_cast<int>(state.range(0)) - 1;
-    page.page.show();
+    page.showNow();
     for (auto _ : state) {
         (void)page.model->appendSample(0, shot, 120.0); // both indices are right
         page.page.hide();

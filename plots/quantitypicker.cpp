@@ -29,7 +29,8 @@ QString sheet()
     return QStringLiteral("QuantityPicker {background-color: %1; border: 2px solid %2;}"
                           "QLabel {font-size: 15px; min-height: 24px;}"
                           "QCheckBox::indicator {width: 22px; height: 22px;}"
-                          "QCheckBox {min-height: 30px; padding: 2px; border: 1px solid transparent;}"
+                          "QCheckBox {min-height: 26px; max-width: 26px; padding: 2px; spacing: 0px;"
+                          " border: 1px solid transparent;}"
                           "QCheckBox:focus {border: 1px solid %2;}")
         .arg(theme::colorBackground, theme::colorPrimary);
 }

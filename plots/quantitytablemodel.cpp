@@ -130,7 +130,7 @@ bool QuantityTableModel::isOutside(const QModelIndex &index) const
 QString QuantityTableModel::text(const QModelIndex &index) const
 {
     if (index.column() == Number)
-        return QString::number(index.row() + 1);
+        return QString::number(index.row());
     if (index.column() == Timestamp)
         return m_content.timestamps[static_cast<std::size_t>(index.row())].toString(
             QStringLiteral("yyyy/MM/dd hh:mm:ss"));
@@ -171,7 +171,7 @@ QVariant QuantityTableModel::headerData(int section, Qt::Orientation orientation
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 || section >= columnCount())
         return {};
     if (section == Number)
-        return tr("Nr.");
+        return tr("Schuss");
     if (section == Timestamp)
         return tr("Zeitstempel");
     const auto quantity = static_cast<std::size_t>(section - FirstQuantity);

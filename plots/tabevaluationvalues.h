@@ -22,7 +22,7 @@ class TrendChart;
 struct QuantitySeries;
 
 /// The evaluation page of the values: quantities of one sensor's shots in a table, and the chosen one of them as a
-/// trend, a box plot, a bell curve and against its tolerance limits. Shots are numbered from 1.
+/// trend, a box plot, a bell curve and against its tolerance limits. Shots are numbered from 0, as on the other pages.
 class TabEvaluationValues : public EvaluationPage
 {
     Q_OBJECT

@@ -19,6 +19,7 @@ namespace {
 
 constexpr int kRowHeight = 30; // pixels
 constexpr int kNarrowestColumn = 60;
+constexpr int kMeasuredRows = 40; // for the width of a column; of a hidden table all thousands would be, otherwise
 constexpr int kWidestRightSide = 560;
 constexpr int kLowestBell = 110;
 
@@ -65,7 +66,7 @@ void TabEvaluationValues::createTable()
     m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_table->verticalHeader()->setDefaultSectionSize(kRowHeight);
     QHeaderView *header = m_table->horizontalHeader();
-    header->setResizeContentsPrecision(0); // what is visible counts, not thousands of rows
+    header->setResizeContentsPrecision(kMeasuredRows);
     header->setSectionResizeMode(QHeaderView::ResizeToContents);
     header->setMinimumSectionSize(kNarrowestColumn);
     header->setHighlightSections(false);

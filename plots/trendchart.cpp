@@ -41,23 +41,22 @@ void drawLevels(QPainter &painter, const TrendGeometry &geometry)
     }
 }
 
-// Shots are counted from 1.
 void drawNumbers(QPainter &painter, const TrendGeometry &geometry)
 {
     painter.setPen(theme::qColorDark);
-    const auto draw = [&](int number) {
-        painter.drawText(QRectF(geometry.x(number - 1) - 40.0, geometry.area.bottom() + 4.0, 80.0, 18.0),
-                         Qt::AlignHCenter | Qt::AlignTop, QString::number(number));
+    const auto draw = [&](int shot) {
+        painter.drawText(QRectF(geometry.x(shot) - 40.0, geometry.area.bottom() + 4.0, 80.0, 18.0),
+                         Qt::AlignHCenter | Qt::AlignTop, QString::number(shot));
     };
     if (geometry.count == 1)
-        draw(1);
+        draw(0);
     if (geometry.count < 2)
         return;
-    const TrendRange range{1.0, double(geometry.count)};
+    const TrendRange range{0.0, double(geometry.count - 1)};
     const int most = std::max(1, static_cast<int>(geometry.area.width() / kClosestMarks));
     const TrendTicks ticks = trendTicks(range, std::min(most, geometry.count - 1));
-    for (const double number : ticks.values)
-        draw(static_cast<int>(std::lround(number)));
+    for (const double shot : ticks.values)
+        draw(static_cast<int>(std::lround(shot)));
 }
 
 void drawFrame(QPainter &painter, const QRectF &area)

@@ -119,7 +119,7 @@ void TestTabEvaluationValues::theTableHasWhatIsShown()
     pages.show();
     QCOMPARE(pages.table()->model()->columnCount(), 5);
     QCOMPARE(pages.header(4), QStringLiteral("Mittelwert"));
-    const QStringList expected{QStringLiteral("1"), QStringLiteral("2026/03/09 06:05:04"), QStringLiteral("1.5"),
+    const QStringList expected{QStringLiteral("0"), QStringLiteral("2026/03/09 06:05:04"), QStringLiteral("1.5"),
                                QStringLiteral("4.5"), QStringLiteral("2.5")};
     for (int column = 0; column < 5; ++column)
         QCOMPARE(pages.cell(0, column), expected.at(column));
