@@ -9,7 +9,7 @@ class CycleTile;
 class DashboardTile;
 
 /// The first view of the evaluation: the newest shot at a glance. A tile a sensor, and one for the cycle time.
-class Dashboard : public EvaluationPage
+class Dashboard final : public EvaluationPage
 {
     Q_OBJECT
 

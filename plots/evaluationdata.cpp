@@ -118,7 +118,7 @@ QString EvaluationData::quantityName(const Quantity &quantity) const
         return tr("Wert an Marker %1").arg(quantity.part + 1);
     const QString names[] = {QString(),        tr("Minimum"),  tr("Maximum"),
                              tr("Mittelwert"), tr("Integral"), tr("Zeit der Spitze")};
-    const QString name = names[static_cast<int>(quantity.kind)];
+    QString name = names[static_cast<int>(quantity.kind)];
     if (quantity.part == Quantity::kWholeShot || !m_model)
         return name;
     const QString phase = m_model->phaseName(quantity.part - 1).simplified();
@@ -127,7 +127,7 @@ QString EvaluationData::quantityName(const Quantity &quantity) const
 
 QString EvaluationData::quantityUnit(int sensor, const Quantity &quantity) const
 {
-    const QString unit = sensorUnit(sensor);
+    QString unit = sensorUnit(sensor);
     if (quantity.kind == Quantity::Kind::PeakTime)
         return QStringLiteral("s");
     if (quantity.kind == Quantity::Kind::Integral)

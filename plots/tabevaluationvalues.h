@@ -23,7 +23,7 @@ struct QuantitySeries;
 
 /// The evaluation page of the values: quantities of one sensor's shots in a table, and the chosen one of them as a
 /// trend, a box plot, a bell curve and against its tolerance limits. Shots are numbered from 0, as on the other pages.
-class TabEvaluationValues : public EvaluationPage
+class TabEvaluationValues final : public EvaluationPage
 {
     Q_OBJECT
 
