@@ -59,7 +59,9 @@ void Model::resetColors()
 
 void Model::resetPhaseNames()
 {
-    m_phaseNames = {tr("WZ schließen"), tr("Einspritzzeit"), tr("Nachdruckzeit"), tr("Kühlzeit"), tr("WZ öffnen")};
+    m_defaultPhaseNames = {tr("WZ schließen"), tr("Einspritzzeit"), tr("Nachdruckzeit"), tr("Kühlzeit"),
+                           tr("WZ öffnen")};
+    m_phaseNames = m_defaultPhaseNames;
 }
 
 void Model::resetSensorDescription()

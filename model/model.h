@@ -95,6 +95,9 @@ public:
     void setColor(uint8_t sensor, const QColor &color);
     [[nodiscard]] QString phaseName(int phase) const;
     void setPhaseName(int phase, const QString &name);
+    /// After a change of the program's language: a name that is still the default one follows; emits projectChanged()
+    /// if one did. The project does not count as modified.
+    void retranslatePhaseNames();
     /// Sample index of a marker; -1 for a bad index. The four are in non-decreasing order.
     [[nodiscard]] int verticalMarker(int index) const;
     /// A marker that passes its neighbours takes them along; see withMarkerAt() and withMarkerDistance().
@@ -220,6 +223,7 @@ private:
     std::array<QColor, kNumSensors> m_colors;
     VerticalMarkers m_markers{};
     std::array<QString, kNumPhases> m_phaseNames;
+    std::array<QString, kNumPhases> m_defaultPhaseNames; // in the language in use
     std::array<QPixmap, kNumImages> m_images;
     SensorDescription m_sensorDescription;
     DeviceDescription m_deviceDescription;

@@ -64,6 +64,20 @@ void Model::setPhaseName(int phase, const QString &name)
     announceProjectChanged(Q_FUNC_INFO);
 }
 
+void Model::retranslatePhaseNames()
+{
+    qCDebug(lcModel) << Q_FUNC_INFO;
+    const std::array<QString, kNumPhases> before = m_defaultPhaseNames;
+    const std::array<QString, kNumPhases> names = m_phaseNames;
+    resetPhaseNames();
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (names[i] != before[i])
+            m_phaseNames[i] = names[i];
+    }
+    if (m_phaseNames != names)
+        announceProjectChanged(Q_FUNC_INFO);
+}
+
 int Model::verticalMarker(int index) const
 {
     return isIndex(index, m_markers.size(), Q_FUNC_INFO) ? m_markers[at(index)] : -1;
