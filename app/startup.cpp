@@ -7,11 +7,11 @@
 #include "kit/qtmaterialpalette.h"
 #include "kit/qtmaterialstyle.h"
 #include "kit/qtmaterialtheme.h"
+#include "view/qttexts.h"
 
 #include <QApplication>
 #include <QFontDatabase>
 #include <QIcon>
-#include <QLibraryInfo>
 #include <QLocale>
 #include <QMessageBox>
 #include <QPixmap>
@@ -19,23 +19,12 @@
 #include <QStyleFactory>
 #include <QSysInfo>
 #include <QThread>
-#include <QTranslator>
 
 #include <memory>
 
 namespace {
 
 constexpr int kSplashWidth = 1200;
-
-/// The program is written in German; Qt's file dialogs and standard buttons need a translation for that.
-void installGermanQtTexts(QApplication &application)
-{
-    auto *translator = new QTranslator(&application);
-    if (translator->load(QStringLiteral("qtbase_de"), QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
-        QApplication::installTranslator(translator);
-    else
-        qCDebug(lcApp) << "no German texts for Qt's own dialogs";
-}
 
 } // namespace
 
@@ -75,7 +64,7 @@ void prepareApplication(QApplication &application)
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     application.setStyleSheet(theme::styleApplication);
     installKitTheme();
-    installGermanQtTexts(application);
+    installQtTexts(QStringLiteral("de"));
     QApplication::setWindowIcon(QIcon(theme::iconPrefix + QStringLiteral("ventaro.png")));
 }
 

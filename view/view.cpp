@@ -24,6 +24,7 @@ View::View(Model *model, std::unique_ptr<UserPrompts> prompts)
     d->connectActions();
     d->connectExports();
     d->connectTabs();
+    d->connectLanguages();
     d->connectModel();
     d->readSettings();
     for (Actions action : {Actions::Connect, Actions::Calibrate, Actions::Recording})

@@ -124,7 +124,7 @@ signals:
     void offsetChanged(double offset);
     /// The user gave up an attempt to connect.
     void progressCancelled();
-    /// Two-letter code of the language chosen in the menu.
+    /// The user chose a language in the menu (two-letter code); it is in use.
     void languageSelected(const QString &code);
 
 public slots:

@@ -17,12 +17,11 @@
 
 #include <QAbstractButton>
 #include <QAction>
-#include <QActionGroup>
 #include <QDoubleSpinBox>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QMenu>
-#include <QMetaMethod>
+#include <QMenuBar>
 #include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
@@ -85,7 +84,9 @@ void View::Private::createToolBar()
     actions.fillToolBar(toolBar);
     menu = new QMenu(q);
     menu->setObjectName(QStringLiteral("menu"));
-    actions.fillMenu(menu);
+    // A bar for one menu would take a row of a small screen; all menus open from the tool bar.
+    actions.fillMenu(menu, languages.createLanguageMenu(q));
+    q->menuBar()->hide();
 }
 
 void View::Private::createTabs()
@@ -179,11 +180,13 @@ void View::Private::connectExports()
             emit q->loggerHeadline();
     });
     QObject::connect(q, &View::openImportBlackBoxData, q, [this] { tabs->setCurrentWidget(tabBlackBox); });
-    QObject::connect(actions.languages, &QActionGroup::triggered, q,
-                     [this](const QAction *language) { emit q->languageSelected(language->data().toString()); });
-    // Without anyone who changes the language there is nothing to choose.
-    QObject::connect(actions.languageMenu, &QMenu::aboutToShow, q, [this] {
-        actions.english->setEnabled(q->isSignalConnected(QMetaMethod::fromSignal(&View::languageSelected)));
+}
+
+void View::Private::connectLanguages()
+{
+    QObject::connect(&languages, &MultiLanguageUtils::languageChosen, q, [this](const QString &code) {
+        settings().setValue(QStringLiteral("language"), code);
+        emit q->languageSelected(code);
     });
 }
 
@@ -232,6 +235,8 @@ void View::Private::readSettings()
     q->resize(size.isEmpty() ? kDefaultSize : size);
     q->move(isReachable(position, q->size()) ? position : kDefaultPosition);
     lastDir = stored.value(QStringLiteral("lastDir")).toString();
+    const QString language = stored.value(QStringLiteral("language")).toString();
+    languages.loadLanguage(languages.isOffered(language) ? language : languages.language());
 }
 
 void View::writeSettings()
@@ -254,6 +259,8 @@ void View::Private::retranslate()
     toolBar->setWindowTitle(tr("Werkzeugleiste"));
     actions.retranslate();
     actions.nameToolButtons();
+    languages.retranslateUi();
+    model->retranslatePhaseNames();
     showRecordingTexts();
     if (link != Link::Unknown)
         showLink(link == Link::Connected);

@@ -4,7 +4,6 @@
 #include "view/actionicon.h"
 
 #include <QAction>
-#include <QActionGroup>
 #include <QMenu>
 #include <QToolBar>
 #include <QToolButton>
@@ -79,14 +78,10 @@ void ViewActions::createOtherActions(QWidget *owner)
     about->setMenuRole(QAction::AboutRole);
     german = newAction(owner, "actionLanguageGerman");
     english = newAction(owner, "actionLanguageEnglish");
-    languages = new QActionGroup(owner);
-    for (QAction *language : {german, english}) {
+    for (QAction *language : {german, english})
         language->setCheckable(true);
-        languages->addAction(language);
-    }
     german->setData(QStringLiteral("de"));
     english->setData(QStringLiteral("en"));
-    german->setChecked(true);
 }
 
 void ViewActions::retranslate() const
@@ -126,8 +121,6 @@ void ViewActions::retranslateOther() const
     setTexts(quit, tr("Ventaro beenden"), {}, tr("Beendet das Programm"));
     setTexts(german, tr("German"), {}, tr("Zeigt die Texte auf Deutsch"));
     setTexts(english, tr("English"), {}, tr("Zeigt die Texte auf Englisch"));
-    if (languageMenu)
-        languageMenu->setTitle(tr("Sprache"));
 }
 
 void ViewActions::addIconButton(QToolBar *bar, QAction *action, const QString &icon)
@@ -171,7 +164,7 @@ void ViewActions::nameToolButtons() const
     }
 }
 
-void ViewActions::fillMenu(QMenu *target)
+void ViewActions::fillMenu(QMenu *target, QMenu *languages)
 {
     target->addActions({newProject, openProject, saveProject, saveAs, openBlackBox});
     target->addSeparator();
@@ -179,7 +172,7 @@ void ViewActions::fillMenu(QMenu *target)
     target->addSeparator();
     target->addActions({disconnectBox, firmwareUpdate});
     target->addSeparator();
-    languageMenu = target->addMenu(actionIcon(QStringLiteral("translate.png"), theme::qColorPrimary), QString());
-    languageMenu->addActions({german, english});
+    languages->setIcon(actionIcon(QStringLiteral("translate.png"), theme::qColorPrimary));
+    target->addMenu(languages);
     target->addActions({about, quit});
 }

@@ -5,7 +5,6 @@
 #include <QVector>
 
 class QAction;
-class QActionGroup;
 class QMenu;
 class QObject;
 class QToolBar;
@@ -29,7 +28,8 @@ public:
     void setCompact(QToolBar *bar, bool compact) const;
     /// What a tool button shows as an icon alone gets its text as accessible name.
     void nameToolButtons() const;
-    void fillMenu(QMenu *menu);
+    /// With the language menu, which is not owned, among the others.
+    void fillMenu(QMenu *menu, QMenu *languages);
 
     QAction *connectBox = nullptr;
     QAction *disconnectBox = nullptr;
@@ -49,8 +49,6 @@ public:
     QAction *english = nullptr;
     QAction *openBlackBox = nullptr;
     QAction *firmwareUpdate = nullptr;
-    QActionGroup *languages = nullptr;
-    QMenu *languageMenu = nullptr;
 
 private:
     void addIconButton(QToolBar *bar, QAction *action, const QString &icon);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "view/multilanguageutils.h"
 #include "view/view.h"
 #include "view/viewactions.h"
 
@@ -28,6 +29,7 @@ struct View::Private
     Model *model;
     std::unique_ptr<UserPrompts> prompts;
     ViewActions actions;
+    MultiLanguageUtils languages;
 
     QToolBar *toolBar = nullptr;
     QMenu *menu = nullptr;
@@ -67,6 +69,7 @@ struct View::Private
     void connectTabs();
     void relayOsziControls();
     void connectModel();
+    void connectLanguages();
     void readSettings();
     void retranslate();
 
