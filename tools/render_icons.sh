@@ -1,5 +1,5 @@
 #!/bin/bash
-# Renders the pictures of resources/icons/ from the drawings in resources/svg/, each in two sizes (name.png and
+# Renders the pictures of resources/icons/ and resources/flags/ from the drawings in resources/svg/, each in two sizes (name.png and
 # name@2x.png). The result is committed, so this runs only when a drawing changes. Needs rsvg-convert and Roboto.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
@@ -34,3 +34,9 @@ done
 render "$drawings/ventaro.svg" ventaro 128
 render "$drawings/logo-mini.svg" Ventaro-logo-mini 232
 render "$drawings/splash.svg" Splashscreen-2 1200
+
+# The flags of the languages, shipped beside their translations.
+pictures=resources/flags
+for flag in "$drawings"/flags/*.svg; do
+    render "$flag" "$(basename "$flag" .svg)" 36
+done

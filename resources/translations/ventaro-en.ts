@@ -1,4 +1,1453 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="de">
+<context>
+    <name>BlackBoxDays</name>
+    <message>
+        <source>Lokale Dateien</source>
+        <translation>Local files</translation>
+    </message>
+    <message>
+        <source>Tag</source>
+        <translation>Day</translation>
+    </message>
+    <message>
+        <source>Dateien</source>
+        <translation>Files</translation>
+    </message>
+    <message>
+        <source>Zustand</source>
+        <translation>State</translation>
+    </message>
+    <message>
+        <source>neu</source>
+        <translation>new</translation>
+    </message>
+    <message>
+        <source>geladen</source>
+        <translation>copied</translation>
+    </message>
+    <message>
+        <source>importiert</source>
+        <translation>imported</translation>
+    </message>
+</context>
+<context>
+    <name>BlackBoxFiles</name>
+    <message>
+        <source>Datei</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Größe</source>
+        <translation>Size</translation>
+    </message>
+    <message>
+        <source>Zustand</source>
+        <translation>State</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionProgress</name>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Den Verbindungsversuch beenden (Esc)</source>
+        <translation>Give up the connection attempt (Esc)</translation>
+    </message>
+    <message>
+        <source>Verbindungsaufbau</source>
+        <translation>Connection</translation>
+    </message>
+</context>
+<context>
+    <name>Controller</name>
+    <message>
+        <source>Saving...</source>
+        <translation>Saving...</translation>
+    </message>
+    <message>
+        <source>Bitte warten, bis der laufende Vorgang beendet ist.</source>
+        <translation>Please wait until the current operation has finished.</translation>
+    </message>
+    <message>
+        <source>%1 %2
+
+Hardware Version: %3
+Firmware Version: %4
+Qt Version: %5</source>
+        <translation>%1 %2
+
+Hardware version: %3
+Firmware version: %4
+Qt version: %5</translation>
+    </message>
+    <message>
+        <source>Über Ventaro</source>
+        <translation>About Ventaro</translation>
+    </message>
+    <message>
+        <source>Verbinden ...</source>
+        <translation>Connecting ...</translation>
+    </message>
+    <message>
+        <source>Verbindungsaufbau abgebrochen.</source>
+        <translation>Connection attempt cancelled.</translation>
+    </message>
+    <message>
+        <source>Die Abtastrate lässt sich nicht ändern, solange eine Aufzeichnung läuft.</source>
+        <translation>The sampling period cannot be changed while a recording is running.</translation>
+    </message>
+    <message>
+        <source>Die vorhandenen Messungen erhalten die Zeitachse der neuen Abtastrate. Fortfahren?</source>
+        <translation>The existing measurements will take on the time axis of the new sampling period. Continue?</translation>
+    </message>
+    <message>
+        <source>Abtastrate ändern</source>
+        <translation>Change sampling period</translation>
+    </message>
+    <message>
+        <source>Achtung: Das Projekt ist mit %1 ms je Wert aufgezeichnet, die Box misst mit %2 ms.</source>
+        <translation>Attention: the project was recorded with %1 ms per value, the box samples with %2 ms.</translation>
+    </message>
+    <message>
+        <source>Verbindung getrennt, Aufnahme beendet. Alle Daten sind erhalten.</source>
+        <translation>Disconnected, recording ended. All data has been kept.</translation>
+    </message>
+    <message>
+        <source>Verbindung getrennt.</source>
+        <translation>Disconnected.</translation>
+    </message>
+    <message>
+        <source>Die Mesotra Hardware ist nicht mehr erreichbar.</source>
+        <translation>The Mesotra hardware can no longer be reached.</translation>
+    </message>
+    <message>
+        <source>Die Mesotra Hardware wurde nicht gefunden! Bitte IP-Adresse überprüfen!</source>
+        <translation>The Mesotra hardware was not found! Please check the IP address!</translation>
+    </message>
+    <message>
+        <source>Die Verbindung wurde abgelehnt!
+(Die IP-Adresse wurde jedoch gefunden.)</source>
+        <translation>The connection was refused!
+(The IP address was found, however.)</translation>
+    </message>
+    <message>
+        <source>Netzwerk Fehler</source>
+        <translation>Network error</translation>
+    </message>
+    <message>
+        <source>Keine gültige Adresse: %1</source>
+        <translation>Not a valid address: %1</translation>
+    </message>
+    <message>
+        <source>Verbinden mit %1 ...</source>
+        <translation>Connecting to %1 ...</translation>
+    </message>
+    <message>
+        <source>Soll die aktuelle Projektbeschreibung durch die empfangenen Daten überschrieben werden?</source>
+        <translation>Overwrite the current project description with the data received?</translation>
+    </message>
+    <message>
+        <source>Projektbeschreibung empfangen</source>
+        <translation>Project description received</translation>
+    </message>
+    <message>
+        <source>Keine Verbindung zur Mesotra Hardware.</source>
+        <translation>No connection to the Mesotra hardware.</translation>
+    </message>
+    <message>
+        <source>Ventaro Dateien (*.vnt)</source>
+        <translation>Ventaro files (*.vnt)</translation>
+    </message>
+    <message>
+        <source>Projekt öffnen</source>
+        <translation>Open project</translation>
+    </message>
+    <message>
+        <source>Loading...</source>
+        <translation>Loading...</translation>
+    </message>
+    <message>
+        <source>Cannot open file %1 !.</source>
+        <translation>Cannot open file %1 !</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Projekt speichern</source>
+        <translation>Save project</translation>
+    </message>
+    <message>
+        <source>Die Datei &quot;%1&quot; ist schon vorhanden. Überschreiben?</source>
+        <translation>The file &quot;%1&quot; already exists. Overwrite it?</translation>
+    </message>
+    <message>
+        <source>Das Projekt ist gespeichert, aber Grenzen, Schwellen, Bezeichnungen und Zeitstempel der Auswertung konnten nicht gespeichert werden!</source>
+        <translation>The project has been saved, but the limits, thresholds, labels and time stamps of the evaluation could not be saved!</translation>
+    </message>
+    <message>
+        <source>Projekt gespeichert: %1</source>
+        <translation>Project saved: %1</translation>
+    </message>
+    <message>
+        <source>Das Projekt konnte nicht gespeichert werden!</source>
+        <translation>The project could not be saved!</translation>
+    </message>
+    <message>
+        <source>Die Sensoren werden kalibriert.</source>
+        <translation>The sensors are being calibrated.</translation>
+    </message>
+    <message>
+        <source>Kalibrierung</source>
+        <translation>Calibration</translation>
+    </message>
+    <message>
+        <source>Folgende Datensätze werden gelöscht:
+</source>
+        <translation>The following records will be deleted:
+</translation>
+    </message>
+    <message>
+        <source>Daten löschen</source>
+        <translation>Delete data</translation>
+    </message>
+    <message>
+        <source>Fehler im Bereich &quot;%1&quot;: ab dort wurde nichts gelöscht.</source>
+        <translation>Error in the range &quot;%1&quot;: nothing was deleted from there on.</translation>
+    </message>
+    <message>
+        <source>Der Ordner %1 kann nicht angelegt werden.</source>
+        <translation>The folder %1 cannot be created.</translation>
+    </message>
+    <message>
+        <source>Dateien übertragen...</source>
+        <translation>Transferring files...</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Tagen übertragen.</source>
+        <translation>%1 of %2 days transferred.</translation>
+    </message>
+    <message>
+        <source>Ordner mit BlackBox-Dateien auswählen</source>
+        <translation>Choose a folder with BlackBox files</translation>
+    </message>
+    <message>
+        <source>Keine BlackBox-Dateien (*.bb) in %1</source>
+        <translation>No BlackBox files (*.bb) in %1</translation>
+    </message>
+    <message>
+        <source>Die Mesotra Box startet neu. Verbinden mit %1 ...</source>
+        <translation>The Mesotra box is restarting. Connecting to %1 ...</translation>
+    </message>
+</context>
+<context>
+    <name>DialogPrompts</name>
+    <message>
+        <source>Speichern</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>Verwerfen</source>
+        <translation>Discard</translation>
+    </message>
+    <message>
+        <source>Ja</source>
+        <translation>Yes</translation>
+    </message>
+    <message>
+        <source>Nein</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>IPAddressDialog</name>
+    <message>
+        <source>&lt;b&gt;Verbindung abgebrochen&lt;/b&gt;</source>
+        <translation>&lt;b&gt;Connection cancelled&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>Unter anderer IP-Adresse verbinden:</source>
+        <translation>Connect to a different IP address:</translation>
+    </message>
+    <message>
+        <source>&amp;Verbinden</source>
+        <translation>&amp;Connect</translation>
+    </message>
+    <message>
+        <source>&amp;Abbrechen</source>
+        <translation>C&amp;ancel</translation>
+    </message>
+    <message>
+        <source>Bitte eine IPv4-Adresse (z. B. 192.168.4.1) oder einen Rechnernamen eingeben.</source>
+        <translation>Please enter an IPv4 address (e.g. 192.168.4.1) or a host name.</translation>
+    </message>
+</context>
+<context>
+    <name>Model</name>
+    <message>
+        <source>WZ schließen</source>
+        <translation>Mould closing</translation>
+    </message>
+    <message>
+        <source>Einspritzzeit</source>
+        <translation>Injection time</translation>
+    </message>
+    <message>
+        <source>Nachdruckzeit</source>
+        <translation>Holding time</translation>
+    </message>
+    <message>
+        <source>Kühlzeit</source>
+        <translation>Cooling time</translation>
+    </message>
+    <message>
+        <source>WZ öffnen</source>
+        <translation>Mould opening</translation>
+    </message>
+</context>
+<context>
+    <name>MultiLanguageUtils</name>
+    <message>
+        <source>Sprache</source>
+        <translation>Language</translation>
+    </message>
+</context>
+<context>
+    <name>NormalBoxWidget</name>
+    <message>
+        <source>n</source>
+        <translation>n</translation>
+    </message>
+    <message>
+        <source>Mittelwert</source>
+        <translation>Mean</translation>
+    </message>
+    <message>
+        <source>Sigma</source>
+        <translation>Sigma</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>Q1</source>
+        <translation>Q1</translation>
+    </message>
+    <message>
+        <source>Median</source>
+        <translation>Median</translation>
+    </message>
+    <message>
+        <source>Q3</source>
+        <translation>Q3</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Maximum</translation>
+    </message>
+    <message>
+        <source>Standardabweichung der Grundgesamtheit (geteilt durch n)</source>
+        <translation>Population standard deviation (divided by n)</translation>
+    </message>
+</context>
+<context>
+    <name>OsziRow</name>
+    <message>
+        <source>Sensor %1</source>
+        <translation>Sensor %1</translation>
+    </message>
+    <message>
+        <source>%1 [%2]</source>
+        <translation>%1 [%2]</translation>
+    </message>
+    <message>
+        <source>Bereich</source>
+        <translation>Range</translation>
+    </message>
+    <message>
+        <source>auto</source>
+        <translation>auto</translation>
+    </message>
+    <message>
+        <source>Raster</source>
+        <translation>Grid</translation>
+    </message>
+    <message>
+        <source>Korrektur dy</source>
+        <translation>Offset dy</translation>
+    </message>
+    <message>
+        <source>Oberes Ende des Wertebereichs</source>
+        <translation>Upper end of the value range</translation>
+    </message>
+    <message>
+        <source>Unteres Ende des Wertebereichs</source>
+        <translation>Lower end of the value range</translation>
+    </message>
+    <message>
+        <source>Abstand der waagrechten Rasterlinien automatisch wählen</source>
+        <translation>Choose the spacing of the horizontal grid lines automatically</translation>
+    </message>
+    <message>
+        <source>Abstand der waagrechten Rasterlinien</source>
+        <translation>Spacing of the horizontal grid lines</translation>
+    </message>
+    <message>
+        <source>Wert, der zu allen Kurven dieses Sensors addiert wird</source>
+        <translation>Value added to all curves of this sensor</translation>
+    </message>
+    <message>
+        <source>%1: Bereich, oberes Ende</source>
+        <translation>%1: range, upper end</translation>
+    </message>
+    <message>
+        <source>%1: Bereich, unteres Ende</source>
+        <translation>%1: range, lower end</translation>
+    </message>
+    <message>
+        <source>%1: Raster automatisch</source>
+        <translation>%1: automatic grid</translation>
+    </message>
+    <message>
+        <source>%1: Raster</source>
+        <translation>%1: grid</translation>
+    </message>
+    <message>
+        <source>%1: Korrektur dy</source>
+        <translation>%1: offset dy</translation>
+    </message>
+    <message>
+        <source>Tasten im Diagramm: + und - Zeitachse, Strg mit + und - Werteachse,
+Pfeile verschieben, Pos1 und Ende springen, F passt den Wertebereich an die Kurven an.
+Maus: Rad Zeitachse, Strg mit Rad Werteachse, mittlere Taste oder Umschalt verschiebt,
+Doppelklick passt den Wertebereich an.</source>
+        <translation>Keys in the plot: + and - time axis, Ctrl with + and - value axis,
+arrows move, Home and End jump, F fits the value range to the curves.
+Mouse: wheel time axis, Ctrl with wheel value axis, middle button or Shift moves,
+double click fits the value range.</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectForm</name>
+    <message>
+        <source>&amp;Projekt:</source>
+        <translation>&amp;Project:</translation>
+    </message>
+    <message>
+        <source>Projekt&amp;nummer:</source>
+        <translation>Project &amp;number:</translation>
+    </message>
+    <message>
+        <source>Bea&amp;rbeiter:</source>
+        <translation>P&amp;erson in charge:</translation>
+    </message>
+    <message>
+        <source>&amp;Datum:</source>
+        <translation>D&amp;ate:</translation>
+    </message>
+    <message>
+        <source>&amp;Kunde:</source>
+        <translation>Cus&amp;tomer:</translation>
+    </message>
+    <message>
+        <source>&amp;Schließkraft:</source>
+        <translation>C&amp;lamping force:</translation>
+    </message>
+    <message>
+        <source>&amp;Einspritzzeit:</source>
+        <translation>&amp;Injection time:</translation>
+    </message>
+    <message>
+        <source>Na&amp;chdruckzeit:</source>
+        <translation>H&amp;olding time:</translation>
+    </message>
+    <message>
+        <source>Dru&amp;ck:</source>
+        <translation>P&amp;ressure:</translation>
+    </message>
+    <message>
+        <source>TT.MM.JJJJ</source>
+        <translation>DD.MM.YYYY</translation>
+    </message>
+    <message>
+        <source>&amp;Heute</source>
+        <translation>Toda&amp;y</translation>
+    </message>
+    <message>
+        <source>Das heutige Datum eintragen</source>
+        <translation>Enter today&apos;s date</translation>
+    </message>
+    <message>
+        <source> kN</source>
+        <translation> kN</translation>
+    </message>
+    <message>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <source> bar</source>
+        <translation> bar</translation>
+    </message>
+</context>
+<context>
+    <name>RuntimeTableModel</name>
+    <message>
+        <source>Sigma</source>
+        <translation>Sigma</translation>
+    </message>
+    <message>
+        <source>Mittelwert</source>
+        <translation>Mean</translation>
+    </message>
+    <message>
+        <source>Schuss</source>
+        <translation>Shot</translation>
+    </message>
+    <message>
+        <source>timestamp</source>
+        <translation>timestamp</translation>
+    </message>
+    <message>
+        <source>Start [s]</source>
+        <translation>Start [s]</translation>
+    </message>
+    <message>
+        <source>Dauer [s]</source>
+        <translation>Duration [s]</translation>
+    </message>
+    <message>
+        <source>Stop [s]</source>
+        <translation>Stop [s]</translation>
+    </message>
+    <message>
+        <source>Gesamtdauer [s]</source>
+        <translation>Total duration [s]</translation>
+    </message>
+    <message>
+        <source>Pause [s]</source>
+        <translation>Pause [s]</translation>
+    </message>
+</context>
+<context>
+    <name>Startup</name>
+    <message>
+        <source>Ventaro ist für diesen Rechner nicht freigeschaltet.
+
+Kennung dieses Rechners:
+%1</source>
+        <translation>Ventaro is not licensed for this computer.
+
+Identification of this computer:
+%1</translation>
+    </message>
+</context>
+<context>
+    <name>TabBlackBox</name>
+    <message>
+        <source>&amp;Importieren (%1)</source>
+        <translation>&amp;Import (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Importieren</source>
+        <translation>&amp;Import</translation>
+    </message>
+    <message>
+        <source>Tage auf der Box: %1</source>
+        <translation>Days on the box: %1</translation>
+    </message>
+    <message>
+        <source>Tage auf der Box</source>
+        <translation>Days on the box</translation>
+    </message>
+    <message>
+        <source>Dateien</source>
+        <translation>Files</translation>
+    </message>
+    <message>
+        <source>Dateien vom %1</source>
+        <translation>Files of %1</translation>
+    </message>
+    <message>
+        <source>Lokale Dateien</source>
+        <translation>Local files</translation>
+    </message>
+    <message>
+        <source>%1 von %2</source>
+        <translation>%1 of %2</translation>
+    </message>
+    <message>
+        <source>&amp;Liste laden</source>
+        <translation>&amp;Load list</translation>
+    </message>
+    <message>
+        <source>Die Box nach den Tagen fragen, die sie aufgezeichnet hat</source>
+        <translation>Ask the box for the days it has logged</translation>
+    </message>
+    <message>
+        <source>&amp;Alle</source>
+        <translation>&amp;All</translation>
+    </message>
+    <message>
+        <source>Alle Tage auswählen</source>
+        <translation>Select all days</translation>
+    </message>
+    <message>
+        <source>&amp;Keine</source>
+        <translation>&amp;None</translation>
+    </message>
+    <message>
+        <source>Keinen Tag auswählen</source>
+        <translation>Select no day</translation>
+    </message>
+    <message>
+        <source>&amp;Nur neue</source>
+        <translation>N&amp;ew only</translation>
+    </message>
+    <message>
+        <source>Die Tage auswählen, von denen noch nichts geladen ist</source>
+        <translation>Select the days of which nothing has been copied yet</translation>
+    </message>
+    <message>
+        <source>&amp;Holen</source>
+        <translation>Cop&amp;y</translation>
+    </message>
+    <message>
+        <source>Die Dateien der ausgewählten Tage von der Box kopieren</source>
+        <translation>Copy the files of the selected days from the box</translation>
+    </message>
+    <message>
+        <source>&amp;Ordner öffnen …</source>
+        <translation>&amp;Open folder …</translation>
+    </message>
+    <message>
+        <source>Dateien der Box aus einem Ordner dieses Rechners nehmen</source>
+        <translation>Take files of the box from a folder on this computer</translation>
+    </message>
+    <message>
+        <source>Die ausgewählten Dateien als Messungen in das Projekt übernehmen</source>
+        <translation>Add the selected files to the project as measurements</translation>
+    </message>
+    <message>
+        <source>Aufgezeichnete Tage</source>
+        <translation>Logged days</translation>
+    </message>
+    <message>
+        <source>Dateien des Tages</source>
+        <translation>Files of the day</translation>
+    </message>
+</context>
+<context>
+    <name>TabDataLogger</name>
+    <message>
+        <source>Sensor %1</source>
+        <translation>Sensor %1</translation>
+    </message>
+    <message>
+        <source>&amp;Leeren</source>
+        <translation>C&amp;lear</translation>
+    </message>
+    <message>
+        <source>Alle Zeilen entfernen</source>
+        <translation>Remove all lines</translation>
+    </message>
+    <message>
+        <source>Messwerte als Text</source>
+        <translation>Measured values as text</translation>
+    </message>
+    <message>
+        <source>Sensoren oben auswählen: Je Messwert erscheint eine Zeile.</source>
+        <translation>Select sensors above: one line appears for each sample.</translation>
+    </message>
+</context>
+<context>
+    <name>TabEvaluation</name>
+    <message>
+        <source>Übersicht</source>
+        <translation>Overview</translation>
+    </message>
+    <message>
+        <source>Auswertung 1/3: Werte</source>
+        <translation>Evaluation 1/3: values</translation>
+    </message>
+    <message>
+        <source>Auswertung 2/3: Laufzeit</source>
+        <translation>Evaluation 2/3: run time</translation>
+    </message>
+    <message>
+        <source>Auswertung 3/3: Überlagerung</source>
+        <translation>Evaluation 3/3: overlay</translation>
+    </message>
+</context>
+<context>
+    <name>TabEvaluationRuntime</name>
+    <message>
+        <source>Sensor %1</source>
+        <translation>Sensor %1</translation>
+    </message>
+    <message>
+        <source>Startschwelle</source>
+        <translation>Start threshold</translation>
+    </message>
+    <message>
+        <source>Stoppschwelle</source>
+        <translation>Stop threshold</translation>
+    </message>
+    <message>
+        <source>Start [s]</source>
+        <translation>Start [s]</translation>
+    </message>
+    <message>
+        <source>Dauer [s]</source>
+        <translation>Duration [s]</translation>
+    </message>
+    <message>
+        <source>Stop [s]</source>
+        <translation>Stop [s]</translation>
+    </message>
+</context>
+<context>
+    <name>TabHome</name>
+    <message>
+        <source>Nicht verbunden</source>
+        <translation>Not connected</translation>
+    </message>
+    <message>
+        <source> (Hardware %1, Firmware %2)</source>
+        <translation> (hardware %1, firmware %2)</translation>
+    </message>
+    <message>
+        <source>Verbunden</source>
+        <translation>Connected</translation>
+    </message>
+    <message>
+        <source>Verbunden mit %1</source>
+        <translation>Connected to %1</translation>
+    </message>
+    <message>
+        <source>Noch nicht gespeichert</source>
+        <translation>Not saved yet</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Läuft</source>
+        <translation>Running</translation>
+    </message>
+    <message>
+        <source>Gestoppt</source>
+        <translation>Stopped</translation>
+    </message>
+    <message>
+        <source>Noch keine</source>
+        <translation>None yet</translation>
+    </message>
+    <message>
+        <source>Prozessüberwachung für Spritzgießwerkzeuge</source>
+        <translation>Process monitoring for injection moulds</translation>
+    </message>
+    <message>
+        <source>Stand</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>&amp;Neues Projekt</source>
+        <translation>&amp;New project</translation>
+    </message>
+    <message>
+        <source>Projekt &amp;öffnen...</source>
+        <translation>&amp;Open project...</translation>
+    </message>
+    <message>
+        <source>Mesotra Box:</source>
+        <translation>Mesotra box:</translation>
+    </message>
+    <message>
+        <source>Aufzeichnung:</source>
+        <translation>Recording:</translation>
+    </message>
+    <message>
+        <source>Projekt:</source>
+        <translation>Project:</translation>
+    </message>
+    <message>
+        <source>Messungen:</source>
+        <translation>Measurements:</translation>
+    </message>
+</context>
+<context>
+    <name>TabOszilloscope</name>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>Dargestellt werden die Messungen 1 bis %1. Alle weiteren werden aufgezeichnet und gespeichert, aber nicht gezeichnet.</source>
+        <translation>Measurements 1 to %1 are displayed. All further ones are recorded and saved, but not drawn.</translation>
+    </message>
+    <message>
+        <source>Messungen (%1 gezeigt)</source>
+        <translation>Measurements (%1 shown)</translation>
+    </message>
+    <message>
+        <source>Messungen</source>
+        <translation>Measurements</translation>
+    </message>
+    <message>
+        <source>Gesperrt: Bereiche, Raster, Korrekturen, Marker und Messungen sind vor Änderungen geschützt. Klicken zum Entsperren.</source>
+        <translation>Locked: ranges, grids, offsets, markers and measurements are protected against changes. Click to unlock.</translation>
+    </message>
+    <message>
+        <source>Alles kann geändert werden. Klicken zum Sperren.</source>
+        <translation>Everything can be changed. Click to lock.</translation>
+    </message>
+    <message>
+        <source>Gesperrt</source>
+        <translation>Locked</translation>
+    </message>
+    <message>
+        <source>Offen</source>
+        <translation>Unlocked</translation>
+    </message>
+    <message>
+        <source>Diagramm dieses Sensors zeigen</source>
+        <translation>Show this sensor&apos;s plot</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Zeitachse dehnen (im Diagramm: Mausrad, + und -)</source>
+        <translation>Stretch the time axis (in the plot: mouse wheel, + and -)</translation>
+    </message>
+    <message>
+        <source>Zoom der Zeitachse</source>
+        <translation>Zoom of the time axis</translation>
+    </message>
+    <message>
+        <source>Zeitachse verschieben (im Diagramm: Pfeiltasten, Pos1 und Ende).
+Ganz rechts folgt die Ansicht den neuesten Werten.</source>
+        <translation>Move the time axis (in the plot: arrow keys, Home and End).
+At the far right the view follows the newest values.</translation>
+    </message>
+    <message>
+        <source>Zeitachse verschieben</source>
+        <translation>Move the time axis</translation>
+    </message>
+    <message>
+        <source>Raster</source>
+        <translation>Grid</translation>
+    </message>
+    <message>
+        <source>auto</source>
+        <translation>auto</translation>
+    </message>
+    <message>
+        <source>Abstand der senkrechten Rasterlinien automatisch wählen</source>
+        <translation>Choose the spacing of the vertical grid lines automatically</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>Abstand der senkrechten Rasterlinien</source>
+        <translation>Spacing of the vertical grid lines</translation>
+    </message>
+    <message>
+        <source>Raster der Zeitachse</source>
+        <translation>Grid of the time axis</translation>
+    </message>
+    <message>
+        <source>y Korr.</source>
+        <translation>y corr.</translation>
+    </message>
+    <message>
+        <source>Jede Kurve so verschieben, dass sie zu dieser Zeit durch null geht</source>
+        <translation>Shift every curve so that it passes through zero at this time</translation>
+    </message>
+    <message>
+        <source>y Korrektur</source>
+        <translation>y correction</translation>
+    </message>
+    <message>
+        <source>Zeit, zu der jede Kurve durch null geht</source>
+        <translation>Time at which every curve passes through zero</translation>
+    </message>
+    <message>
+        <source>Zeit der y Korrektur</source>
+        <translation>Time of the y correction</translation>
+    </message>
+    <message>
+        <source>Abtastrate</source>
+        <translation>Sampling period</translation>
+    </message>
+    <message>
+        <source>Zeit zwischen zwei Messwerten; wählbar, solange die Box verbunden ist</source>
+        <translation>Time between two samples; selectable while the box is connected</translation>
+    </message>
+    <message>
+        <source>t [s]=</source>
+        <translation>t [s]=</translation>
+    </message>
+    <message>
+        <source>Klicken und dann im Diagramm auf die gewünschte Stelle tippen.
+Esc bricht ab.</source>
+        <translation>Click, then tap the desired place in the plot.
+Esc cancels.</translation>
+    </message>
+    <message>
+        <source>Marker %1 setzen</source>
+        <translation>Set marker %1</translation>
+    </message>
+    <message>
+        <source>Zeit des Markers in Sekunden; ohne &quot;absolut&quot; der Abstand zum vorigen Marker</source>
+        <translation>Time of the marker in seconds; without &quot;absolute&quot; the distance from the previous marker</translation>
+    </message>
+    <message>
+        <source>Marker %1 in Sekunden</source>
+        <translation>Marker %1 in seconds</translation>
+    </message>
+    <message>
+        <source>absolut</source>
+        <translation>absolute</translation>
+    </message>
+    <message>
+        <source>Zeiten ab dem Beginn der Messung statt Abstände der Marker</source>
+        <translation>Times from the start of the measurement instead of distances between markers</translation>
+    </message>
+    <message>
+        <source>Alle Marker löschen</source>
+        <translation>Clear all markers</translation>
+    </message>
+    <message>
+        <source>Angezeigt</source>
+        <translation>Displayed</translation>
+    </message>
+    <message>
+        <source>alle</source>
+        <translation>all</translation>
+    </message>
+    <message>
+        <source>Alle Messungen zeigen</source>
+        <translation>Show all measurements</translation>
+    </message>
+    <message>
+        <source>Nummern und Bereiche, durch Komma getrennt: 1-3,5 zeigt die Messungen 1, 2, 3 und 5.</source>
+        <translation>Numbers and ranges, separated by commas: 1-3,5 shows measurements 1, 2, 3 and 5.</translation>
+    </message>
+    <message>
+        <source>Angezeigte Messungen</source>
+        <translation>Displayed measurements</translation>
+    </message>
+    <message>
+        <source>Markiert</source>
+        <translation>Highlight</translation>
+    </message>
+    <message>
+        <source>Nummer der hervorgehobenen Messung; 0 hebt keine hervor</source>
+        <translation>Number of the highlighted measurement; 0 highlights none</translation>
+    </message>
+    <message>
+        <source>Markierte Messung</source>
+        <translation>Highlighted measurement</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Nummern und Bereiche in aufsteigender Folge, durch Komma getrennt: 1-3,5 löscht die Messungen 1, 2, 3 und 5.</source>
+        <translation>Numbers and ranges in ascending order, separated by commas: 1-3,5 deletes measurements 1, 2, 3 and 5.</translation>
+    </message>
+    <message>
+        <source>Zu löschende Messungen</source>
+        <translation>Measurements to delete</translation>
+    </message>
+    <message>
+        <source>Diese Messungen löschen</source>
+        <translation>Delete these measurements</translation>
+    </message>
+</context>
+<context>
+    <name>TabProject</name>
+    <message>
+        <source>Projektbeschreibung</source>
+        <translation>Project description</translation>
+    </message>
+    <message>
+        <source>Kommentar</source>
+        <translation>Comment</translation>
+    </message>
+    <message>
+        <source>Namen der Phasen</source>
+        <translation>Names of the phases</translation>
+    </message>
+    <message>
+        <source>Phase &amp;%1:</source>
+        <translation>Phase &amp;%1:</translation>
+    </message>
+    <message>
+        <source>&amp;Alle Messdaten löschen...</source>
+        <translation>Delete all &amp;measured data...</translation>
+    </message>
+    <message>
+        <source>Löscht die Messdaten aller Sensoren; die Projektbeschreibung bleibt.</source>
+        <translation>Deletes the measured data of all sensors; the project description stays.</translation>
+    </message>
+</context>
+<context>
+    <name>TabSensors</name>
+    <message>
+        <source>Sensor %1</source>
+        <translation>Sensor %1</translation>
+    </message>
+</context>
+<context>
+    <name>TabTerminal</name>
+    <message>
+        <source>&amp;Befehl:</source>
+        <translation>Co&amp;mmand:</translation>
+    </message>
+    <message>
+        <source>Send</source>
+        <translation>Send</translation>
+    </message>
+    <message>
+        <source>Zeile an die Box senden (Eingabetaste)</source>
+        <translation>Send the line to the box (Enter)</translation>
+    </message>
+    <message>
+        <source>&amp;Leeren</source>
+        <translation>C&amp;lear</translation>
+    </message>
+    <message>
+        <source>Alle Zeilen aus der Anzeige entfernen</source>
+        <translation>Remove all lines from the display</translation>
+    </message>
+    <message>
+        <source>Zeile für die Box, z. B. deviceDescription
+Pfeil nach oben und unten: frühere Zeilen</source>
+        <translation>Line for the box, e.g. deviceDescription
+Arrow up and down: earlier lines</translation>
+    </message>
+    <message>
+        <source>Zeilen von und zu der Box</source>
+        <translation>Lines from and to the box</translation>
+    </message>
+    <message>
+        <source>„&lt;“ kam von der Box, „&gt;“ ging an die Box.</source>
+        <translation>“&lt;” came from the box, “&gt;” went to the box.</translation>
+    </message>
+</context>
+<context>
+    <name>TabWebConfig</name>
+    <message>
+        <source>Keine Adresse bekannt</source>
+        <translation>No address known</translation>
+    </message>
+    <message>
+        <source>Einstellungen der Mesotra Box</source>
+        <translation>Settings of the Mesotra box</translation>
+    </message>
+    <message>
+        <source>Netzwerk, Uhrzeit und Sensoren der Box werden auf ihrer eigenen Seite eingestellt. Die Seite öffnet sich im Browser; dieser Computer muss im Netz der Box sein.</source>
+        <translation>The box&apos;s network, clock and sensors are set up on its own page. The page opens in the browser; this computer must be in the network of the box.</translation>
+    </message>
+    <message>
+        <source>Im &amp;Browser öffnen</source>
+        <translation>Open in &amp;browser</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateDialog</name>
+    <message>
+        <source>Firmware auswählen</source>
+        <translation>Choose firmware</translation>
+    </message>
+    <message>
+        <source>Mesotra Firmware (*.tgz)</source>
+        <translation>Mesotra firmware (*.tgz)</translation>
+    </message>
+    <message>
+        <source>Firmware wird hochgeladen...</source>
+        <translation>Uploading firmware...</translation>
+    </message>
+    <message>
+        <source>Fehler beim Hochladen!</source>
+        <translation>Upload failed!</translation>
+    </message>
+    <message>
+        <source>Hochladen erfolgreich.</source>
+        <translation>Upload successful.</translation>
+    </message>
+    <message>
+        <source>Connecting...</source>
+        <translation>Connecting...</translation>
+    </message>
+    <message>
+        <source>NO CONNECTION!</source>
+        <translation>NO CONNECTION!</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Reboot Kommando gesendet.</source>
+        <translation>Reboot command sent.</translation>
+    </message>
+    <message>
+        <source>Fehler beim Reboot!</source>
+        <translation>Reboot failed!</translation>
+    </message>
+    <message>
+        <source>Firmware Update</source>
+        <translation>Firmware update</translation>
+    </message>
+    <message>
+        <source>Bitte Firmware-Datei auswählen (*.tgz) und hochladen. Danach Mesotra Box neu starten.</source>
+        <translation>Please choose a firmware file (*.tgz) and upload it. Then restart the Mesotra box.</translation>
+    </message>
+    <message>
+        <source>Firmware Datei auswählen...</source>
+        <translation>Choose firmware file...</translation>
+    </message>
+    <message>
+        <source>Firmware hochladen</source>
+        <translation>Upload firmware</translation>
+    </message>
+    <message>
+        <source>Mesotra Neustart</source>
+        <translation>Restart Mesotra</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>View</name>
+    <message>
+        <source>Der Browser konnte nicht geöffnet werden.</source>
+        <translation>The browser could not be opened.</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>Projekt</source>
+        <translation>Project</translation>
+    </message>
+    <message>
+        <source>Sensoren</source>
+        <translation>Sensors</translation>
+    </message>
+    <message>
+        <source>Oszilloskop</source>
+        <translation>Oscilloscope</translation>
+    </message>
+    <message>
+        <source>Auswertung</source>
+        <translation>Evaluation</translation>
+    </message>
+    <message>
+        <source>Web Configuration</source>
+        <translation>Web configuration</translation>
+    </message>
+    <message>
+        <source>Datenlogger</source>
+        <translation>Data logger</translation>
+    </message>
+    <message>
+        <source>Terminal</source>
+        <translation>Terminal</translation>
+    </message>
+    <message>
+        <source>BlackBox</source>
+        <translation>BlackBox</translation>
+    </message>
+    <message>
+        <source>Werkzeugleiste</source>
+        <translation>Tool bar</translation>
+    </message>
+    <message>
+        <source>Bitte warten, bis der laufende Vorgang beendet ist.</source>
+        <translation>Please wait until the current operation has finished.</translation>
+    </message>
+    <message>
+        <source>Datei überschreiben</source>
+        <translation>Overwrite file</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 gibt es schon. Überschreiben?</source>
+        <translation>The file %1 already exists. Overwrite it?</translation>
+    </message>
+    <message>
+        <source>Save terminal</source>
+        <translation>Save terminal</translation>
+    </message>
+    <message>
+        <source>ASCII File (*.txt)</source>
+        <translation>ASCII file (*.txt)</translation>
+    </message>
+    <message>
+        <source>Der Inhalt des Terminals konnte nicht gespeichert werden!</source>
+        <translation>The contents of the terminal could not be saved!</translation>
+    </message>
+    <message>
+        <source>Save oscilloscope</source>
+        <translation>Save oscilloscope</translation>
+    </message>
+    <message>
+        <source>BMP (*.bmp);;JPG (*.jpg);;PNG (*.png);;TIFF (*.tif)</source>
+        <translation>BMP (*.bmp);;JPG (*.jpg);;PNG (*.png);;TIFF (*.tif)</translation>
+    </message>
+    <message>
+        <source>Das Oszilloskop konnte nicht als Bild gespeichert werden!</source>
+        <translation>The oscilloscope could not be saved as a picture!</translation>
+    </message>
+    <message>
+        <source>Save data logger file</source>
+        <translation>Save data logger file</translation>
+    </message>
+    <message>
+        <source>CSV - Comma separated values (*.csv)</source>
+        <translation>CSV - Comma separated values (*.csv)</translation>
+    </message>
+    <message>
+        <source>Die CSV-Datei konnte nicht gespeichert werden!</source>
+        <translation>The CSV file could not be saved!</translation>
+    </message>
+    <message>
+        <source>Projekt speichern?</source>
+        <translation>Save project?</translation>
+    </message>
+    <message>
+        <source>Ventaro beenden?</source>
+        <translation>Quit Ventaro?</translation>
+    </message>
+    <message>
+        <source>Vor dem Beenden Ventaro Projekt speichern?</source>
+        <translation>Save the Ventaro project before quitting?</translation>
+    </message>
+    <message>
+        <source>Achtung: Alle Messdaten werden gelöscht!</source>
+        <translation>Attention: all measured data will be deleted!</translation>
+    </message>
+    <message>
+        <source>&amp;Trennen</source>
+        <translation>&amp;Disconnect</translation>
+    </message>
+    <message>
+        <source>&amp;Verbinden</source>
+        <translation>&amp;Connect</translation>
+    </message>
+    <message>
+        <source>Mesotra Verbindung trennen.</source>
+        <translation>Disconnect from Mesotra.</translation>
+    </message>
+    <message>
+        <source>Mit Mesotra verbinden.</source>
+        <translation>Connect to Mesotra.</translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation>&amp;Stop</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Start</translation>
+    </message>
+    <message>
+        <source>Aufzeichnung beenden</source>
+        <translation>Stop recording</translation>
+    </message>
+    <message>
+        <source>Aufzeichnung starten</source>
+        <translation>Start recording</translation>
+    </message>
+    <message>
+        <source>Neues Projekt</source>
+        <translation>New project</translation>
+    </message>
+    <message>
+        <source> – nicht gespeichert</source>
+        <translation> – not saved</translation>
+    </message>
+    <message>
+        <source>&amp;Neues Projekt</source>
+        <translation>&amp;New project</translation>
+    </message>
+    <message>
+        <source>Neues Projekt anlegen</source>
+        <translation>Create a new project</translation>
+    </message>
+    <message>
+        <source>Beginnt ein leeres Projekt</source>
+        <translation>Begins an empty project</translation>
+    </message>
+    <message>
+        <source>Projekt &amp;öffnen...</source>
+        <translation>&amp;Open project...</translation>
+    </message>
+    <message>
+        <source>Öffnet eine Projektdatei</source>
+        <translation>Opens a project file</translation>
+    </message>
+    <message>
+        <source>Projekt &amp;speichern</source>
+        <translation>&amp;Save project</translation>
+    </message>
+    <message>
+        <source>Speichert das Projekt in seiner Datei</source>
+        <translation>Saves the project in its file</translation>
+    </message>
+    <message>
+        <source>Projekt speichern &amp;unter...</source>
+        <translation>Save project &amp;as...</translation>
+    </message>
+    <message>
+        <source>Speichert das Projekt in einer neuen Datei</source>
+        <translation>Saves the project in a new file</translation>
+    </message>
+    <message>
+        <source>BlackBox Daten Öffnen</source>
+        <translation>Open BlackBox data</translation>
+    </message>
+    <message>
+        <source>Übernimmt Aufzeichnungen der Box in das Projekt</source>
+        <translation>Adds what the box has logged to the project</translation>
+    </message>
+    <message>
+        <source>CSV speichern...</source>
+        <translation>Save CSV...</translation>
+    </message>
+    <message>
+        <source>Save data as CSV file</source>
+        <translation>Save data as CSV file</translation>
+    </message>
+    <message>
+        <source>Schreibt alle Messungen als Tabelle in eine Datei</source>
+        <translation>Writes all measurements to a file as a table</translation>
+    </message>
+    <message>
+        <source>Oszilloskop speichern...</source>
+        <translation>Save oscilloscope...</translation>
+    </message>
+    <message>
+        <source>Save oscilloscope as a graphics file</source>
+        <translation>Save oscilloscope as a graphics file</translation>
+    </message>
+    <message>
+        <source>Speichert die erste Zeile des Oszilloskops als Bild</source>
+        <translation>Saves the first row of the oscilloscope as a picture</translation>
+    </message>
+    <message>
+        <source>Terminal speichern...</source>
+        <translation>Save terminal...</translation>
+    </message>
+    <message>
+        <source>Schreibt den Inhalt des Terminals in eine Datei</source>
+        <translation>Writes the contents of the terminal to a file</translation>
+    </message>
+    <message>
+        <source>Verbinden</source>
+        <translation>Connect</translation>
+    </message>
+    <message>
+        <source>Verbindet mit der Mesotra Box</source>
+        <translation>Connects to the Mesotra box</translation>
+    </message>
+    <message>
+        <source>Trennen</source>
+        <translation>Disconnect</translation>
+    </message>
+    <message>
+        <source>Trennt die Verbindung zur Box</source>
+        <translation>Disconnects from the box</translation>
+    </message>
+    <message>
+        <source>Kalibrieren</source>
+        <translation>Calibrate</translation>
+    </message>
+    <message>
+        <source>Setzt die aktuellen Werte aller Sensoren auf null</source>
+        <translation>Sets the current values of all sensors to zero</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Startet oder beendet eine Aufzeichnung</source>
+        <translation>Starts or stops a recording</translation>
+    </message>
+    <message>
+        <source>Firmware Update…</source>
+        <translation>Firmware update…</translation>
+    </message>
+    <message>
+        <source>Überträgt eine neue Firmware auf die Box</source>
+        <translation>Transfers new firmware to the box</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>Öffnet das Menü</source>
+        <translation>Opens the menu</translation>
+    </message>
+    <message>
+        <source>Über Ventaro...</source>
+        <translation>About Ventaro...</translation>
+    </message>
+    <message>
+        <source>Versionen von Programm und Box</source>
+        <translation>Versions of the program and the box</translation>
+    </message>
+    <message>
+        <source>Ventaro beenden</source>
+        <translation>Quit Ventaro</translation>
+    </message>
+    <message>
+        <source>Beendet das Programm</source>
+        <translation>Ends the program</translation>
+    </message>
+    <message>
+        <source>German</source>
+        <translation>German</translation>
+    </message>
+    <message>
+        <source>Zeigt die Texte auf Deutsch</source>
+        <translation>Shows the texts in German</translation>
+    </message>
+    <message>
+        <source>English</source>
+        <translation>English</translation>
+    </message>
+    <message>
+        <source>Zeigt die Texte auf Englisch</source>
+        <translation>Shows the texts in English</translation>
+    </message>
+</context>
 </TS>
