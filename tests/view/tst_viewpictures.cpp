@@ -8,11 +8,13 @@
 #include "view/view.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QCheckBox>
 #include <QDir>
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
+#include <QSettings>
 #include <QStyleOptionButton>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -147,6 +149,7 @@ class TestViewPictures : public QObject
 
 private slots:
     void initTestCase();
+    void init();
     void nothingIsClipped_data();
     void nothingIsClipped();
     void dialogsFitTheScreen_data();
@@ -158,22 +161,34 @@ void TestViewPictures::initTestCase()
     prepareApplication(*qobject_cast<QApplication *>(QCoreApplication::instance()));
 }
 
+void TestViewPictures::init()
+{
+    QSettings(QStringLiteral("Tarnwald"), QStringLiteral("Ventaro")).clear();
+}
+
 void TestViewPictures::nothingIsClipped_data()
 {
     QTest::addColumn<QSize>("size");
     QTest::addColumn<bool>("connected");
-    QTest::newRow("1280x800") << QSize(1280, 800) << true;
-    QTest::newRow("1920x1080") << QSize(1920, 1080) << true;
-    QTest::newRow("1280x800 without a box") << QSize(1280, 800) << false;
+    QTest::addColumn<bool>("english");
+    QTest::newRow("1280x800") << QSize(1280, 800) << true << false;
+    QTest::newRow("1920x1080") << QSize(1920, 1080) << true << false;
+    QTest::newRow("1280x800 without a box") << QSize(1280, 800) << false << false;
+    QTest::newRow("1280x800, English") << QSize(1280, 800) << true << true;
+    QTest::newRow("1920x1080, English") << QSize(1920, 1080) << true << true;
+    QTest::newRow("1280x800 without a box, English") << QSize(1280, 800) << false << true;
 }
 
 void TestViewPictures::nothingIsClipped()
 {
     QFETCH(QSize, size);
     QFETCH(bool, connected);
+    QFETCH(bool, english);
     const QTemporaryDir folder;
     Model model{QString()};
     View view(&model, std::make_unique<ScriptedPrompts>());
+    const char *language = english ? "actionLanguageEnglish" : "actionLanguageGerman";
+    view.findChild<QAction *>(QLatin1String(language))->trigger();
     if (connected) {
         fill(model);
         fill(*view.tabBlackBox(), model, QDir(folder.path()));
@@ -192,19 +207,21 @@ void TestViewPictures::nothingIsClipped()
     view.resize(size);
     view.show();
     QVERIFY(QTest::qWaitForWindowExposed(&view));
+    const QString picture =
+        QString::fromLatin1(QTest::currentDataTag()).remove(QLatin1Char(' ')) + QStringLiteral("-%1");
     for (int tab = 0; tab < view.tabs()->count(); ++tab) {
         view.tabs()->setCurrentIndex(tab);
         QTest::qWait(60);
         QCOMPARE(view.size(), size);
-        keep(view, QStringLiteral("%1x%2-%3-%4").arg(size.width()).arg(size.height()).arg(connected).arg(tab));
+        keep(view, picture.arg(tab));
         QCOMPARE(clippedText(view.tabs()->widget(tab)), QString());
     }
     QCOMPARE(clippedText(view.findChild<QToolBar *>(QStringLiteral("toolBar"))), QString());
     view.showProgress(QStringLiteral("Verbinden mit 192.168.4.1 ..."));
-    keep(view, QStringLiteral("%1x%2-%3-progress").arg(size.width()).arg(size.height()).arg(connected));
+    keep(view, picture.arg(QStringLiteral("progress")));
     auto *menu = view.findChild<QMenu *>(QStringLiteral("menu"));
     menu->resize(menu->sizeHint());
-    keep(*menu, QStringLiteral("menu-%1").arg(connected));
+    keep(*menu, picture.arg(QStringLiteral("menu")));
     QVERIFY(menu->sizeHint().height() <= size.height());
 }
 
