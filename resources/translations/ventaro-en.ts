@@ -244,6 +244,161 @@ Qt version: %5</translation>
         <source>Die Mesotra Box startet neu. Verbinden mit %1 ...</source>
         <translation>The Mesotra box is restarting. Connecting to %1 ...</translation>
     </message>
+    <message>
+        <source>1 Messung importiert</source>
+        <translation>1 measurement imported</translation>
+    </message>
+    <message>
+        <source>%1 Messungen importiert</source>
+        <translation>%1 measurements imported</translation>
+    </message>
+    <message>
+        <source>1 Zeile übersprungen</source>
+        <translation>1 line skipped</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen übersprungen</source>
+        <translation>%1 lines skipped</translation>
+    </message>
+    <message>
+        <source>1 Wert war nicht lesbar und ist jetzt 0</source>
+        <translation>1 value was unreadable and is now 0</translation>
+    </message>
+    <message>
+        <source>%1 Werte waren nicht lesbar und sind jetzt 0</source>
+        <translation>%1 values were unreadable and are now 0</translation>
+    </message>
+    <message>
+        <source>1 Datei nicht lesbar</source>
+        <translation>1 file unreadable</translation>
+    </message>
+    <message>
+        <source>%1 Dateien nicht lesbar</source>
+        <translation>%1 files unreadable</translation>
+    </message>
+    <message>
+        <source>Diese Dateien konnten nicht gelesen werden:</source>
+        <translation>These files could not be read:</translation>
+    </message>
+    <message>
+        <source>Importieren...</source>
+        <translation>Importing...</translation>
+    </message>
+    <message>
+        <source>Während einer Aufzeichnung kann nichts importiert werden.
+Bitte beenden Sie zuerst die Aufzeichnung.</source>
+        <translation>Nothing can be imported while a recording is running.
+Please stop the recording first.</translation>
+    </message>
+    <message>
+        <source>BlackBox</source>
+        <translation>BlackBox</translation>
+    </message>
+    <message>
+        <source>Eine der Dateien ist schon in diesem Projekt.
+Noch einmal importieren?</source>
+        <translation>One of the files is already in this project.
+Import it again?</translation>
+    </message>
+    <message>
+        <source>%1 der Dateien sind schon in diesem Projekt.
+Noch einmal importieren?</source>
+        <translation>%1 of the files are already in this project.
+Import them again?</translation>
+    </message>
+</context>
+<context>
+    <name>CycleTile</name>
+    <message>
+        <source>Zykluszeit: %1, Schüsse: %2</source>
+        <translation>Cycle time: %1, shots: %2</translation>
+    </message>
+    <message>
+        <source>Zeit vom Beginn des vorigen Schusses bis zum Beginn des letzten; ohne Zeitstempel die Dauer der Aufzeichnung</source>
+        <translation>Time from the start of the previous shot to the start of the latest; without time stamps the duration of the recording</translation>
+    </message>
+    <message>
+        <source>Zykluszeit</source>
+        <translation>Cycle time</translation>
+    </message>
+    <message>
+        <source>Letzter Zyklus</source>
+        <translation>Latest cycle</translation>
+    </message>
+    <message>
+        <source>Mittel der letzten %1</source>
+        <translation>Mean of the last %1</translation>
+    </message>
+    <message>
+        <source>Mittel</source>
+        <translation>Mean</translation>
+    </message>
+    <message>
+        <source>Schüsse</source>
+        <translation>Shots</translation>
+    </message>
+    <message>
+        <source>Letzter Schuss</source>
+        <translation>Latest shot</translation>
+    </message>
+</context>
+<context>
+    <name>Dashboard</name>
+    <message>
+        <source>Übersicht</source>
+        <translation>Overview</translation>
+    </message>
+</context>
+<context>
+    <name>DashboardTile</name>
+    <message>
+        <source>Keine Grenzen</source>
+        <translation>No limits</translation>
+    </message>
+    <message>
+        <source>%1/%2 Schuss</source>
+        <translation>%1/%2 shots</translation>
+    </message>
+    <message>
+        <source>Cpk %1</source>
+        <translation>Cpk %1</translation>
+    </message>
+    <message>
+        <source>%1 bis %2</source>
+        <translation>%1 to %2</translation>
+    </message>
+    <message>
+        <source>ab %1</source>
+        <translation>from %1</translation>
+    </message>
+    <message>
+        <source>bis %1</source>
+        <translation>up to %1</translation>
+    </message>
+    <message>
+        <source>%1, %2: %3 %4, %5</source>
+        <translation>%1, %2: %3 %4, %5</translation>
+    </message>
+    <message>
+        <source>Schüsse: %1</source>
+        <translation>Shots: %1</translation>
+    </message>
+    <message>
+        <source>Gut: %1, außerhalb: %2</source>
+        <translation>Good: %1, outside: %2</translation>
+    </message>
+    <message>
+        <source>Gut: %1</source>
+        <translation>Good: %1</translation>
+    </message>
+    <message>
+        <source>Grenzen: %1</source>
+        <translation>Limits: %1</translation>
+    </message>
+    <message>
+        <source>Außerhalb: %1</source>
+        <translation>Outside: %1</translation>
+    </message>
 </context>
 <context>
     <name>DialogPrompts</name>
@@ -270,6 +425,45 @@ Qt version: %5</translation>
     <message>
         <source>Abbrechen</source>
         <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>EvaluationData</name>
+    <message>
+        <source>Sensor %1</source>
+        <translation>Sensor %1</translation>
+    </message>
+    <message>
+        <source>Wert an Marker %1</source>
+        <translation>Value at marker %1</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Maximum</translation>
+    </message>
+    <message>
+        <source>Mittelwert</source>
+        <translation>Mean</translation>
+    </message>
+    <message>
+        <source>Integral</source>
+        <translation>Integral</translation>
+    </message>
+    <message>
+        <source>Zeit der Spitze</source>
+        <translation>Time of peak</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Phase %1</source>
+        <translation>Phase %1</translation>
     </message>
 </context>
 <context>
@@ -442,6 +636,53 @@ double click fits the value range.</translation>
     </message>
 </context>
 <context>
+    <name>OverlayTableModel</name>
+    <message>
+        <source>Referenz</source>
+        <translation>Reference</translation>
+    </message>
+    <message>
+        <source>Farbe der Kurve: Doppelklick oder F2 zum Ändern</source>
+        <translation>Colour of the curve: double click or F2 to change</translation>
+    </message>
+    <message>
+        <source>Kurve zeigen: Klick oder Leertaste</source>
+        <translation>Show the curve: click or space bar</translation>
+    </message>
+    <message>
+        <source>Bezeichnung: Doppelklick oder F2 zum Ändern</source>
+        <translation>Label: double click or F2 to change</translation>
+    </message>
+    <message>
+        <source>Farbe der Kurve</source>
+        <translation>Colour of the curve</translation>
+    </message>
+    <message>
+        <source>Kurve zeigen</source>
+        <translation>Show the curve</translation>
+    </message>
+    <message>
+        <source>Schuss</source>
+        <translation>Shot</translation>
+    </message>
+    <message>
+        <source>Zeitstempel</source>
+        <translation>Time stamp</translation>
+    </message>
+    <message>
+        <source>Bezeichnung</source>
+        <translation>Label</translation>
+    </message>
+    <message>
+        <source>Größter Abstand von der Referenz, wo beide Kurven Werte haben</source>
+        <translation>Largest distance from the reference where both curves have values</translation>
+    </message>
+    <message>
+        <source>Abweichung</source>
+        <translation>Deviation</translation>
+    </message>
+</context>
+<context>
     <name>ProjectForm</name>
     <message>
         <source>&amp;Projekt:</source>
@@ -505,6 +746,68 @@ double click fits the value range.</translation>
     </message>
 </context>
 <context>
+    <name>QuantityPicker</name>
+    <message>
+        <source>Wert</source>
+        <translation>Value</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Maximum</translation>
+    </message>
+    <message>
+        <source>Mittelwert</source>
+        <translation>Mean</translation>
+    </message>
+    <message>
+        <source>Integral</source>
+        <translation>Integral</translation>
+    </message>
+    <message>
+        <source>Zeit der Spitze</source>
+        <translation>Time of peak</translation>
+    </message>
+    <message>
+        <source>Summe der Messwerte mal Abtastzeit</source>
+        <translation>Sum of the samples times the sampling period</translation>
+    </message>
+    <message>
+        <source>Zeit vom Beginn des Schusses bis zum größten Wert</source>
+        <translation>Time from the start of the shot to the largest value</translation>
+    </message>
+    <message>
+        <source>Marker %1</source>
+        <translation>Marker %1</translation>
+    </message>
+    <message>
+        <source>Ganzer Schuss</source>
+        <translation>Whole shot</translation>
+    </message>
+    <message>
+        <source>Phase %1</source>
+        <translation>Phase %1</translation>
+    </message>
+</context>
+<context>
+    <name>QuantityTableModel</name>
+    <message>
+        <source>Außerhalb der Grenzen</source>
+        <translation>Outside the limits</translation>
+    </message>
+    <message>
+        <source>Nr.</source>
+        <translation>No.</translation>
+    </message>
+    <message>
+        <source>Zeitstempel</source>
+        <translation>Time stamp</translation>
+    </message>
+</context>
+<context>
     <name>RuntimeTableModel</name>
     <message>
         <source>Sigma</source>
@@ -541,6 +844,33 @@ double click fits the value range.</translation>
     <message>
         <source>Pause [s]</source>
         <translation>Pause [s]</translation>
+    </message>
+</context>
+<context>
+    <name>ShotPreview</name>
+    <message>
+        <source>Die Datei kann nicht gelesen werden.</source>
+        <translation>The file cannot be read.</translation>
+    </message>
+    <message>
+        <source>die ersten %1 Werte je Sensor</source>
+        <translation>the first %1 values per sensor</translation>
+    </message>
+    <message>
+        <source>1 Wert je Sensor</source>
+        <translation>1 value per sensor</translation>
+    </message>
+    <message>
+        <source>%1 Werte je Sensor</source>
+        <translation>%1 values per sensor</translation>
+    </message>
+    <message>
+        <source>1 Zeile unlesbar</source>
+        <translation>1 line unreadable</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen unlesbar</source>
+        <translation>%1 lines unreadable</translation>
     </message>
 </context>
 <context>
@@ -694,6 +1024,97 @@ Identification of this computer:
     </message>
 </context>
 <context>
+    <name>TabEvaluationOverlay</name>
+    <message>
+        <source>Noch keine Messungen</source>
+        <translation>No measurements yet</translation>
+    </message>
+    <message>
+        <source>%1 von %2 gezeigt</source>
+        <translation>%1 of %2 shown</translation>
+    </message>
+    <message>
+        <source>Referenz aufheben</source>
+        <translation>Clear reference</translation>
+    </message>
+    <message>
+        <source>Als Referenz</source>
+        <translation>As reference</translation>
+    </message>
+    <message>
+        <source>%1 ohne Durchgang</source>
+        <translation>%1 without crossing</translation>
+    </message>
+    <message>
+        <source>%1 leer</source>
+        <translation>%1 empty</translation>
+    </message>
+    <message>
+        <source>%1 zu kurz</source>
+        <translation>%1 too short</translation>
+    </message>
+    <message>
+        <source>Sensor %1</source>
+        <translation>Sensor %1</translation>
+    </message>
+    <message>
+        <source>Ausrichten</source>
+        <translation>Align</translation>
+    </message>
+    <message>
+        <source>Schwelle in der Einheit des Sensors</source>
+        <translation>Threshold in the sensor&apos;s unit</translation>
+    </message>
+    <message>
+        <source>Mittelwert</source>
+        <translation>Mean</translation>
+    </message>
+    <message>
+        <source>Mittelwert der gezeigten Kurven</source>
+        <translation>Mean of the curves shown</translation>
+    </message>
+    <message>
+        <source>Band ±</source>
+        <translation>Band ±</translation>
+    </message>
+    <message>
+        <source>Streuung der gezeigten Kurven um ihren Mittelwert</source>
+        <translation>Scatter of the curves shown around their mean</translation>
+    </message>
+    <message>
+        <source>Alle zeigen</source>
+        <translation>Show all</translation>
+    </message>
+    <message>
+        <source>Keine zeigen</source>
+        <translation>Show none</translation>
+    </message>
+    <message>
+        <source>Schüsse der Überlagerung</source>
+        <translation>Shots of the overlay</translation>
+    </message>
+    <message>
+        <source>am Beginn</source>
+        <translation>at the start</translation>
+    </message>
+    <message>
+        <source>Null bei Marker %1</source>
+        <translation>Zero at marker %1</translation>
+    </message>
+    <message>
+        <source>Schwelle steigend</source>
+        <translation>Threshold rising</translation>
+    </message>
+    <message>
+        <source>Schwelle fallend</source>
+        <translation>Threshold falling</translation>
+    </message>
+    <message>
+        <source>Woran die Kurven übereinander liegen: an ihrem Beginn, mit ihren Werten bei einem Marker, oder wo sie zum ersten Mal eine Schwelle durchlaufen</source>
+        <translation>What the curves are aligned by: their start, their values at a marker, or where they first cross a threshold</translation>
+    </message>
+</context>
+<context>
     <name>TabEvaluationRuntime</name>
     <message>
         <source>Sensor %1</source>
@@ -718,6 +1139,85 @@ Identification of this computer:
     <message>
         <source>Stop [s]</source>
         <translation>Stop [s]</translation>
+    </message>
+</context>
+<context>
+    <name>TabEvaluationValues</name>
+    <message>
+        <source>%1 [%2]</source>
+        <translation>%1 [%2]</translation>
+    </message>
+    <message>
+        <source>Cp %1</source>
+        <translation>Cp %1</translation>
+    </message>
+    <message>
+        <source>Cpk %1</source>
+        <translation>Cpk %1</translation>
+    </message>
+    <message>
+        <source>Untere Grenze über oberer!</source>
+        <translation>Lower limit above upper!</translation>
+    </message>
+    <message>
+        <source>Keine Grenzen</source>
+        <translation>No limits</translation>
+    </message>
+    <message>
+        <source>Außerhalb: %1 von %2</source>
+        <translation>Outside: %1 of %2</translation>
+    </message>
+    <message>
+        <source>Sensor %1</source>
+        <translation>Sensor %1</translation>
+    </message>
+    <message>
+        <source>Größe</source>
+        <translation>Quantity</translation>
+    </message>
+    <message>
+        <source>Dargestellte Größe</source>
+        <translation>Displayed quantity</translation>
+    </message>
+    <message>
+        <source>Spalten...</source>
+        <translation>Columns...</translation>
+    </message>
+    <message>
+        <source>Größen der Tabelle wählen</source>
+        <translation>Choose the quantities of the table</translation>
+    </message>
+    <message>
+        <source>Untere Grenze</source>
+        <translation>Lower limit</translation>
+    </message>
+    <message>
+        <source>Obere Grenze</source>
+        <translation>Upper limit</translation>
+    </message>
+    <message>
+        <source>Werte der Schüsse</source>
+        <translation>Values of the shots</translation>
+    </message>
+    <message>
+        <source>Verlauf über die Schüsse</source>
+        <translation>Trend over the shots</translation>
+    </message>
+    <message>
+        <source>Normalverteilung</source>
+        <translation>Normal distribution</translation>
+    </message>
+    <message>
+        <source>Mit der Standardabweichung der Grundgesamtheit (geteilt durch n)</source>
+        <translation>With the population standard deviation (divided by n)</translation>
+    </message>
+    <message>
+        <source>(Obere - untere Grenze) / 6 Sigma. %1</source>
+        <translation>(Upper - lower limit) / 6 sigma. %1</translation>
+    </message>
+    <message>
+        <source>Abstand des Mittelwerts von der näheren Grenze / 3 Sigma. %1</source>
+        <translation>Distance of the mean from the nearer limit / 3 sigma. %1</translation>
     </message>
 </context>
 <context>
@@ -1074,6 +1574,21 @@ Arrow up and down: earlier lines</translation>
     <message>
         <source>Im &amp;Browser öffnen</source>
         <translation>Open in &amp;browser</translation>
+    </message>
+</context>
+<context>
+    <name>TrendChart</name>
+    <message>
+        <source>Keine Werte</source>
+        <translation>No values</translation>
+    </message>
+    <message>
+        <source>Obere Grenze %1</source>
+        <translation>Upper limit %1</translation>
+    </message>
+    <message>
+        <source>Untere Grenze %1</source>
+        <translation>Lower limit %1</translation>
     </message>
 </context>
 <context>
