@@ -2,6 +2,7 @@
 
 #include "app/theme.h"
 #include "plots/dashboardtile.h"
+#include "plots/localnumber.h"
 
 #include <QEvent>
 #include <QPainter>
@@ -12,7 +13,7 @@ constexpr int kLineHeight = 30; // pixels
 
 QString secondsText(const std::optional<double> &seconds)
 {
-    return seconds ? QString::number(*seconds, 'f', 1) + QStringLiteral(" s") : QStringLiteral("–");
+    return seconds ? localNumber(*seconds, 'f', 1) + QStringLiteral(" s") : QStringLiteral("–");
 }
 
 QFont sized(const QFont &font, int pixels, bool bold)

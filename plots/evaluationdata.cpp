@@ -1,5 +1,6 @@
 #include "plots/evaluationdata.h"
 
+#include "plots/localnumber.h"
 #include "plots/logging.h"
 
 #include <algorithm>
@@ -48,7 +49,7 @@ const SensorGroup *groupOf(const Model &model, int sensor)
 
 QString figureText(double value)
 {
-    return QString::number(value, 'g', 6);
+    return localNumber(value, 'g', 6);
 }
 
 QString capabilityText(const std::optional<double> &value)
@@ -61,7 +62,7 @@ QString capabilityText(const std::optional<double> &value)
     if (std::abs(*value) > kLargest)
         return *value > 0.0 ? QStringLiteral("> 99") : QStringLiteral("< -99");
     // Not rounded up: 1.329 is not yet 1.33.
-    return QString::number(std::floor(*value * 100.0 + 1e-9) / 100.0, 'f', 2);
+    return localNumber(std::floor(*value * 100.0 + 1e-9) / 100.0, 'f', 2);
 }
 
 EvaluationData::EvaluationData(QObject *parent)

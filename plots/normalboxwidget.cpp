@@ -1,6 +1,7 @@
 #include "plots/normalboxwidget.h"
 
 #include "plots/boxwhiskerswidget.h"
+#include "plots/localnumber.h"
 #include "plots/logging.h"
 
 #include <QEvent>
@@ -116,7 +117,7 @@ void NormalBoxWidget::showFigures()
     const QString unit = m_unit.isEmpty() ? QString() : QLatin1Char(' ') + m_unit;
     m_figures[0]->setText(QString::number(sorted.size()));
     for (size_t i = 0; i < figures.size(); ++i)
-        m_figures[i + 1]->setText(sorted.isEmpty() ? QString() : QString::number(figures[i], 'g', 6) + unit);
+        m_figures[i + 1]->setText(sorted.isEmpty() ? QString() : localNumber(figures[i], 'g', 6) + unit);
 }
 
 QString NormalBoxWidget::figureText(int index) const

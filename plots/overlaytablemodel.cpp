@@ -1,7 +1,8 @@
 #include "plots/overlaytablemodel.h"
 
+#include "plots/localnumber.h"
+
 #include <QFont>
-#include <QLocale>
 
 #include <algorithm>
 #include <tuple>
@@ -86,7 +87,7 @@ QString OverlayTableModel::text(int shot, int column) const
     case Deviation:
         if (row.isReference)
             return tr("Referenz");
-        return row.deviation ? QString::number(*row.deviation, 'g', 6) : QString();
+        return row.deviation ? localNumber(*row.deviation, 'g', 6) : QString();
     default:
         return {};
     }

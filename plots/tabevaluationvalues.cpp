@@ -39,7 +39,7 @@ QString gradeSheet(CapabilityGrade grade)
 // To as many digits as figures have.
 double rounded(double value)
 {
-    return figureText(value).toDouble();
+    return QString::number(value, 'g', 6).toDouble();
 }
 
 // Mixed with white, so that black lines stand out.

@@ -1,5 +1,7 @@
 #include "plots/trendgeometry.h"
 
+#include "plots/localnumber.h"
+
 #include <QString>
 
 #include <algorithm>
@@ -64,9 +66,9 @@ TrendTicks trendTicks(TrendRange range, int most)
 QString tickText(double value, double step)
 {
     if (!(step > 0.0) || std::abs(value) >= 1e6 || step < 1e-6)
-        return QString::number(value, 'g', 6);
+        return localNumber(value, 'g', 6);
     const int decimals = std::max(0, static_cast<int>(std::ceil(-std::log10(step) - 1e-9)));
-    return QString::number(value == 0.0 ? 0.0 : value, 'f', decimals);
+    return localNumber(value == 0.0 ? 0.0 : value, 'f', decimals);
 }
 
 double TrendGeometry::spacing() const
