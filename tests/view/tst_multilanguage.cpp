@@ -12,6 +12,7 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QActionGroup>
+#include <QComboBox>
 #include <QDir>
 #include <QDoubleSpinBox>
 #include <QGroupBox>
@@ -58,6 +59,10 @@ QStringList textsOf(const QWidget &window)
     for (const auto *bar : window.findChildren<QTabBar *>()) {
         for (int i = 0; i < bar->count(); ++i)
             texts << bar->tabText(i);
+    }
+    for (const auto *box : window.findChildren<QComboBox *>()) {
+        for (int i = 0; i < box->count(); ++i)
+            texts << box->itemText(i);
     }
     for (const auto *view : window.findChildren<QAbstractItemView *>()) {
         for (int i = 0; view->model() && i < view->model()->columnCount(); ++i)
