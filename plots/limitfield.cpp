@@ -1,5 +1,7 @@
 #include "plots/limitfield.h"
 
+#include "plots/localnumber.h"
+
 #include <QCheckBox>
 #include <QDoubleSpinBox>
 #include <QHBoxLayout>
@@ -13,7 +15,7 @@ namespace {
 constexpr double kLargest = 1e9;
 constexpr int kDecimals = 6;
 
-/// Shows as many decimals as the number has, and takes a comma for a point: with three fixed decimals "300.000" could
+/// Shows as many decimals as the number has, and takes comma and point alike: with three fixed decimals "300.000" could
 /// be read as three hundred thousand.
 class LimitSpinBox : public QDoubleSpinBox
 {
@@ -21,29 +23,33 @@ public:
     explicit LimitSpinBox(QWidget *parent)
         : QDoubleSpinBox(parent)
     {
-        QLocale plain(QLocale::C);
-        plain.setNumberOptions(QLocale::OmitGroupSeparator);
-        setLocale(plain);
         setDecimals(kDecimals);
         setRange(-kLargest, kLargest);
     }
     [[nodiscard]] QString textFromValue(double value) const override
     {
-        QString text = QString::number(value, 'f', kDecimals);
+        QString text = localNumber(value, 'f', kDecimals);
         while (text.endsWith(QLatin1Char('0')))
             text.chop(1);
-        if (text.endsWith(QLatin1Char('.')))
+        if (text.endsWith(locale().decimalPoint()))
             text.chop(1);
         return text;
     }
     QValidator::State validate(QString &input, int &position) const override
     {
-        input.replace(QLatin1Char(','), QLatin1Char('.'));
+        input = withDecimalPoint(input);
         return QDoubleSpinBox::validate(input, position);
     }
     [[nodiscard]] double valueFromText(const QString &text) const override
     {
-        return QDoubleSpinBox::valueFromText(QString(text).replace(QLatin1Char(','), QLatin1Char('.')));
+        return QDoubleSpinBox::valueFromText(withDecimalPoint(text));
+    }
+
+private:
+    [[nodiscard]] QString withDecimalPoint(QString text) const
+    {
+        const QChar point = locale().decimalPoint();
+        return text.replace(QLatin1Char(','), point).replace(QLatin1Char('.'), point);
     }
 };
 

@@ -799,12 +799,12 @@ double click fits the value range.</translation>
         <translation>Outside the limits</translation>
     </message>
     <message>
-        <source>Nr.</source>
-        <translation>No.</translation>
-    </message>
-    <message>
         <source>Zeitstempel</source>
         <translation>Time stamp</translation>
+    </message>
+    <message>
+        <source>Schuss</source>
+        <translation>Shot</translation>
     </message>
 </context>
 <context>
