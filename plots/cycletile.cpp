@@ -32,6 +32,7 @@ CycleTile::CycleTile(QWidget *parent)
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    describe();
 }
 
 void CycleTile::set(const Content &content)

@@ -117,7 +117,7 @@ void DashboardTile::describe()
         m_content.limits.isEmpty()
             ? tr("Schüsse: %1").arg(m_content.count)
             : tr("Gut: %1, außerhalb: %2").arg(m_content.count - m_content.outside).arg(m_content.outside));
-    setToolTip((m_content.sensor + QLatin1Char('\n') + m_content.quantity).trimmed());
+    setToolTip(m_content.sensor + QLatin1Char('\n') + m_content.quantity);
 }
 
 QSize DashboardTile::sizeHint() const
@@ -132,7 +132,7 @@ QSize DashboardTile::minimumSizeHint() const
 
 void DashboardTile::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange && !m_content.sensor.isEmpty())
         describe();
     QAbstractButton::changeEvent(event);
 }

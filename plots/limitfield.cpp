@@ -5,7 +5,6 @@
 #include <QCheckBox>
 #include <QDoubleSpinBox>
 #include <QHBoxLayout>
-#include <QLocale>
 #include <QSignalBlocker>
 
 #include <cmath>
