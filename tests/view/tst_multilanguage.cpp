@@ -54,8 +54,11 @@ QStringList textsOf(const QWidget &window)
         texts << button->text();
     for (const auto *group : window.findChildren<QGroupBox *>())
         texts << group->title();
-    for (const auto *edit : window.findChildren<QLineEdit *>())
-        texts << edit->placeholderText() << edit->text();
+    for (const auto *edit : window.findChildren<QLineEdit *>()) {
+        texts << edit->placeholderText();
+        if (!qobject_cast<const QAbstractSpinBox *>(edit->parent())) // empty until it is first shown
+            texts << edit->text();
+    }
     for (const auto *bar : window.findChildren<QTabBar *>()) {
         for (int i = 0; i < bar->count(); ++i)
             texts << bar->tabText(i);
