@@ -90,8 +90,9 @@ void FlowLayout::place(const Line &line, QRect area) const
     for (int i = 0; i < line.items.size(); ++i) {
         QLayoutItem *item = line.items.at(i);
         const int width = std::min(item->sizeHint().width(), area.width());
-        item->setGeometry(QRect(x, area.top(), width, area.height()));
-        const int share = gaps > 0 ? spare * (i + 1) / gaps - spare * i / gaps : 0;
+        const int share = i < gaps ? spare * (i + 1) / gaps - spare * i / gaps : 0;
+        const int taken = item->expandingDirections().testFlag(Qt::Horizontal) ? share : 0;
+        item->setGeometry(QRect(x, area.top(), width + taken, area.height()));
         x += width + m_horizontalGap + share;
     }
 }

@@ -161,6 +161,7 @@ QWidget *TabOszilloscope::Private::createSensorSwitch(int position, QWidget *par
     SensorSwitch &made = sensors.at(static_cast<size_t>(position));
     made.box = createBareCheckBox(QStringLiteral("sensor%1CheckBox").arg(number), true, group);
     made.label = new ElidedLabel(6, 11, group);
+    made.label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     made.label->setObjectName(QStringLiteral("sensor%1Label").arg(number));
     connect(made.label, &ElidedLabel::clicked, made.box, &QCheckBox::click);
     QHBoxLayout *layout = groupLayout(group);
