@@ -5,6 +5,7 @@
 #include "view/ipaddressdialog.h"
 #include "view/tabblackbox.h"
 #include "view/tabdatalogger.h"
+#include "view/tabevaluation.h"
 #include "view/view.h"
 
 #include <QAbstractButton>
@@ -215,6 +216,13 @@ void TestViewPictures::nothingIsClipped()
         QCOMPARE(view.size(), size);
         keep(view, picture.arg(tab));
         QCOMPARE(clippedText(view.tabs()->widget(tab)), QString());
+    }
+    view.tabs()->setCurrentWidget(view.tabEvaluation());
+    for (int page = 1; page < TabEvaluation::kNumPages; ++page) {
+        view.tabEvaluation()->showPage(TabEvaluation::Page(page));
+        QTest::qWait(60);
+        keep(view, picture.arg(QStringLiteral("evaluation%1").arg(page)));
+        QCOMPARE(clippedText(view.tabEvaluation()), QString());
     }
     QCOMPARE(clippedText(view.findChild<QToolBar *>(QStringLiteral("toolBar"))), QString());
     view.showProgress(QStringLiteral("Verbinden mit 192.168.4.1 ..."));
