@@ -18,8 +18,8 @@
 
 namespace {
 
-constexpr QLatin1String kBuiltIn("de");
-constexpr QLatin1String kPrefix("ventaro");
+const QLatin1String kBuiltIn("de");
+const QLatin1String kPrefix("ventaro");
 
 /// Widgets keep the locale that was the default when they were made, and what is painted is not painted again by
 /// itself.
