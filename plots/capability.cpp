@@ -7,13 +7,6 @@
 
 namespace {
 
-// The sum of equal values divided by their count may miss them by a rounding error, and so leave a sigma.
-statistics::Moments exactMoments(const QVector<double> &values)
-{
-    const auto [least, most] = std::minmax_element(values.begin(), values.end());
-    return *least == *most ? statistics::Moments{*least, 0.0} : statistics::moments(values);
-}
-
 double ratio(double distance, double sigmas)
 {
     if (sigmas > 0.0)
@@ -38,7 +31,7 @@ Capability capability(const QVector<double> &values, const ToleranceLimits &limi
 {
     if (values.size() < 2 || limits.isEmpty() || limits.isInverted())
         return {};
-    const statistics::Moments moments = exactMoments(values);
+    const statistics::Moments moments = statistics::moments(values);
     Capability result;
     if (limits.lower && limits.upper)
         result.cp = ratio(*limits.upper - *limits.lower, 6.0 * moments.sigma);

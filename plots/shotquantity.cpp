@@ -125,7 +125,8 @@ std::optional<double> valueOf(const Quantity &quantity, const ShotFigures &figur
     case Quantity::Kind::Maximum:
         return part.maximum + scale.offset;
     case Quantity::Kind::Mean:
-        return part.sum / part.count + scale.offset;
+        // Rounding must not make shots of equal samples differ by their lengths.
+        return std::clamp(part.sum / part.count, part.minimum, part.maximum) + scale.offset;
     case Quantity::Kind::Integral:
         return (part.sum + part.count * scale.offset) * seconds;
     case Quantity::Kind::PeakTime:

@@ -27,7 +27,9 @@ double mean(const QVector<double> &values)
 {
     if (values.isEmpty())
         return 0.0;
-    return std::accumulate(values.cbegin(), values.cend(), 0.0) / values.size();
+    // Rounding may push the mean of equal values off them, which would leave a sigma where there is none.
+    const auto [least, most] = std::minmax_element(values.cbegin(), values.cend());
+    return std::clamp(std::accumulate(values.cbegin(), values.cend(), 0.0) / values.size(), *least, *most);
 }
 
 double variance(const QVector<double> &values)

@@ -51,6 +51,8 @@ void StatisticsTest::figures_data()
     QTest::newRow("four") << List{40, 10, 30, 20} << Row{25, 11.180339887498949} << Row{10, 20, 25, 40, 40};
     QTest::newRow("eight") << List{1, 2, 3, 4, 5, 6, 7, 8} << Row{4.5, 2.29128784747792} << Row{1, 3, 4.5, 7, 8};
     QTest::newRow("ties") << List{2, 2, 2, 2, 9} << Row{3.4, 2.8} << Row{2, 2, 2, 2, 9};
+    QTest::newRow("equal, with a sum that is rounded")
+        << List{0.1, 0.1, 0.1, 0.1, 0.1, 0.1} << Row{0.1, 0} << Row{0.1, 0.1, 0.1, 0.1, 0.1};
     QTest::newRow("both signs") << List{-3.2, 7.25, 0.1, -11, 4.4, 4.4} << Row{0.325, 6.081375255647361}
                                 << Row{-11, -3.2, 2.25, 4.4, 7.25};
     // A one-pass sum of squares loses all digits here.
@@ -74,6 +76,7 @@ void StatisticsTest::figures()
     distribution.set(values);
     compareClose(distribution.mean(), moments.at(0));
     compareClose(distribution.sigma(), moments.at(1));
+    QCOMPARE(distribution.sigma() > 0.0, moments.at(1) > 0.0);
     compareClose(statistics::variance(statistics::finiteValues(values)), moments.at(1) * moments.at(1));
 
     const FiveNumbers actual = statistics::fiveNumbers(statistics::sortedFiniteValues(values));
