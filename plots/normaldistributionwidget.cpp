@@ -45,7 +45,8 @@ void drawBaseLabels(QPainter &painter, const BellArea &area, statistics::Moments
     const QStaticText first = figure(moments.mean - 3.0 * moments.sigma, painter.font());
     const QStaticText middle = figure(moments.mean, painter.font());
     const QStaticText last = figure(moments.mean + 3.0 * moments.sigma, painter.font());
-    const int lastAt = area.right - 29;
+    const int end = painter.viewport().width() - kFrame - static_cast<int>(std::ceil(last.size().width()));
+    const int lastAt = std::min(area.right - 29, end); // a long one would be cut off at the widget's edge
     const int middleAt = area.centre() - static_cast<int>(middle.size().width() / 2.0);
     painter.drawStaticText(middleAt, area.base, middle);
     if (area.left + first.size().width() < middleAt)

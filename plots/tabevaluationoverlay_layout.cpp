@@ -25,6 +25,7 @@ namespace {
 constexpr double kLargestThreshold = 1e6;
 constexpr double kMostSigmas = 10.0;
 constexpr int kRowHeight = 30;        // pixels
+constexpr int kMeasuredRows = 40;     // for the width of a column; of a hidden table all thousands would be, otherwise
 constexpr int kNarrowestTable = 300;  // pixels
 constexpr int kUsualTable = 572;      // pixels that show all its columns
 constexpr int kNumberWidth = 82;      // pixels for the title and the arrow beside it
@@ -126,7 +127,7 @@ void TabEvaluationOverlay::createTable()
     header->setHighlightSections(false);
     header->setStyleSheet(QStringLiteral("font-size: 16px;"));
     header->setMinimumSectionSize(kSmallColumnWidth);
-    header->setResizeContentsPrecision(0); // what is visible counts, not thousands of rows
+    header->setResizeContentsPrecision(kMeasuredRows);
     header->setSectionResizeMode(QHeaderView::ResizeToContents);
     const std::initializer_list<std::pair<int, int>> fixed{{OverlayTableModel::Color, kSmallColumnWidth},
                                                            {OverlayTableModel::Shown, kSmallColumnWidth},

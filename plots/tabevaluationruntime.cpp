@@ -172,6 +172,7 @@ void TabEvaluationRuntime::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
     showSensorNames();
+    fitColumns(); // a page that was never shown has not been given its fonts before
     if (m_model && m_outOfDate)
         update();
 }
@@ -227,6 +228,7 @@ void TabEvaluationRuntime::updateTable()
     qCDebug(lcPlots).noquote().nospace() << Q_FUNC_INFO << " shots=" << cache.results().size()
                                          << " scanned=" << work.scanned << " extended=" << work.extended;
     m_tableModel->setRows(rowsOf(*m_model, cache.results(), m_tableModel->rows()));
+    fitColumns();
     showSummaries(cache.results());
     if (m_chosenShot >= m_tableModel->numShots())
         followNewestShot();

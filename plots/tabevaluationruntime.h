@@ -88,6 +88,7 @@ private:
     [[nodiscard]] QLayout *createSummaries();
     [[nodiscard]] QDoubleSpinBox *createThresholdSpinBox(const QString &name);
     void createTable();
+    void fitColumns();
     void createPlot();
     void connectWidgets();
     void retranslateUi();

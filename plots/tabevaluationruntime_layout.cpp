@@ -13,6 +13,8 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 constexpr double kLargestThreshold = 1e6;
@@ -105,10 +107,26 @@ void TabEvaluationRuntime::createTable()
     m_table->verticalHeader()->hide();
     m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_table->verticalHeader()->setDefaultSectionSize(kRowHeight);
-    m_table->horizontalHeader()->setResizeContentsPrecision(0); // what is visible counts, not thousands of rows
-    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_table->horizontalHeader()->setStretchLastSection(true);
     m_table->horizontalHeader()->setHighlightSections(false);
+}
+
+// Measured are the titles, the first and the last shot, and the two rows behind them: with thousands of shots, to look
+// at every one takes too long, and to look at those in sight leaves no room for the words of the last rows.
+void TabEvaluationRuntime::fitColumns()
+{
+    constexpr int kCellFrame = 16; // pixels of a cell that its text cannot use
+    const QString usualFigure = QStringLiteral("-8888.8");
+    const QFontMetrics metrics = m_table->fontMetrics();
+    const int shots = m_tableModel->numShots();
+    for (int column = 0; column + 1 < RuntimeTableModel::NumColumns; ++column) {
+        int text = metrics.horizontalAdvance(usualFigure);
+        for (const int row : {0, shots - 1, shots, shots + 1})
+            text = std::max(text, metrics.horizontalAdvance(m_tableModel->index(row, column).data().toString()));
+        QHeaderView *header = m_table->horizontalHeader();
+        header->resizeSection(column, std::max(header->sectionSizeHint(column), text + kCellFrame));
+    }
 }
 
 void TabEvaluationRuntime::createPlot()
@@ -162,5 +180,6 @@ void TabEvaluationRuntime::retranslateUi()
     m_summaryCaptions[1]->setText(tr("Dauer [s]"));
     m_summaryCaptions[2]->setText(tr("Stop [s]"));
     m_tableModel->retranslate();
+    fitColumns();
     showSensorNames();
 }
