@@ -25,10 +25,10 @@ namespace {
 constexpr double kLargestThreshold = 1e6;
 constexpr double kMostSigmas = 10.0;
 constexpr int kRowHeight = 30;        // pixels
-constexpr int kMeasuredRows = 40;     // for the width of a column; of a hidden table all thousands would be, otherwise
 constexpr int kNarrowestTable = 300;  // pixels
 constexpr int kUsualTable = 572;      // pixels that show all its columns
 constexpr int kNumberWidth = 82;      // pixels for the title and the arrow beside it
+constexpr int kTimeWidth = 180;       // pixels of a time stamp
 constexpr int kDeviationWidth = 118;  // pixels, likewise
 constexpr int kSmallColumnWidth = 36; // pixels of the columns without a title
 
@@ -127,11 +127,10 @@ void TabEvaluationOverlay::createTable()
     header->setHighlightSections(false);
     header->setStyleSheet(QStringLiteral("font-size: 16px;"));
     header->setMinimumSectionSize(kSmallColumnWidth);
-    header->setResizeContentsPrecision(kMeasuredRows);
-    header->setSectionResizeMode(QHeaderView::ResizeToContents);
     const std::initializer_list<std::pair<int, int>> fixed{{OverlayTableModel::Color, kSmallColumnWidth},
                                                            {OverlayTableModel::Shown, kSmallColumnWidth},
                                                            {OverlayTableModel::Number, kNumberWidth},
+                                                           {OverlayTableModel::Timestamp, kTimeWidth},
                                                            {OverlayTableModel::Deviation, kDeviationWidth}};
     for (const auto &[column, width] : fixed) {
         header->setSectionResizeMode(column, QHeaderView::Fixed);
