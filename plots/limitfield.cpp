@@ -1,9 +1,9 @@
 #include "plots/limitfield.h"
 
+#include "plots/decimalspinbox.h"
 #include "plots/localnumber.h"
 
 #include <QCheckBox>
-#include <QDoubleSpinBox>
 #include <QHBoxLayout>
 #include <QSignalBlocker>
 
@@ -14,13 +14,13 @@ namespace {
 constexpr double kLargest = 1e9;
 constexpr int kDecimals = 6;
 
-/// Shows as many decimals as the number has, and takes comma and point alike: with three fixed decimals "300.000" could
-/// be read as three hundred thousand.
-class LimitSpinBox : public QDoubleSpinBox
+/// Shows as many decimals as the number has: with three fixed decimals "300.000" could be read as three hundred
+/// thousand.
+class LimitSpinBox : public DecimalSpinBox
 {
 public:
     explicit LimitSpinBox(QWidget *parent)
-        : QDoubleSpinBox(parent)
+        : DecimalSpinBox(parent)
     {
         setDecimals(kDecimals);
         setRange(-kLargest, kLargest);
@@ -33,22 +33,6 @@ public:
         if (text.endsWith(locale().decimalPoint()))
             text.chop(1);
         return text;
-    }
-    QValidator::State validate(QString &input, int &position) const override
-    {
-        input = withDecimalPoint(input);
-        return QDoubleSpinBox::validate(input, position);
-    }
-    [[nodiscard]] double valueFromText(const QString &text) const override
-    {
-        return QDoubleSpinBox::valueFromText(withDecimalPoint(text));
-    }
-
-private:
-    [[nodiscard]] QString withDecimalPoint(QString text) const
-    {
-        const QChar point = locale().decimalPoint();
-        return text.replace(QLatin1Char(','), point).replace(QLatin1Char('.'), point);
     }
 };
 

@@ -1,5 +1,6 @@
 #include "model/model.h"
 #include "plots/colordelegate.h"
+#include "plots/decimalspinbox.h"
 #include "plots/overlayplot.h"
 #include "plots/overlaytablemodel.h"
 #include "plots/tabevaluationoverlay.h"
@@ -7,7 +8,6 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDoubleSpinBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPoint>
@@ -69,7 +69,7 @@ QLayout *TabEvaluationOverlay::createOptions()
     m_comboAlignment->setObjectName(QStringLiteral("comboAlignment"));
     m_comboAlignment->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     m_labelAlignment->setBuddy(m_comboAlignment);
-    m_spinBoxThreshold = new QDoubleSpinBox(this);
+    m_spinBoxThreshold = new DecimalSpinBox(this);
     m_spinBoxThreshold->setObjectName(QStringLiteral("spinBoxThreshold"));
     m_spinBoxThreshold->setRange(-kLargestThreshold, kLargestThreshold);
     m_spinBoxThreshold->setAlignment(Qt::AlignCenter);
@@ -80,7 +80,7 @@ QLayout *TabEvaluationOverlay::createOptions()
     m_checkBand->setObjectName(QStringLiteral("checkBand"));
     for (QCheckBox *box : {m_checkMean, m_checkBand})
         box->setStyleSheet(checkBoxSheet());
-    m_spinBoxSigmas = new QDoubleSpinBox(this);
+    m_spinBoxSigmas = new DecimalSpinBox(this);
     m_spinBoxSigmas->setObjectName(QStringLiteral("spinBoxSigmas"));
     m_spinBoxSigmas->setRange(0.5, kMostSigmas);
     m_spinBoxSigmas->setSingleStep(0.5);

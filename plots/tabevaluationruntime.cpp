@@ -121,7 +121,10 @@ void TabEvaluationRuntime::setThresholds(int sensor, double start, double stop)
                                          << " stop=" << stop;
     if (!isSensor(sensor) || !std::isfinite(start) || !std::isfinite(stop))
         return;
-    m_thresholds[static_cast<size_t>(sensor)] = {start, stop};
+    const auto bounded = [this](double value) {
+        return std::clamp(value, m_spinBoxStartValue->minimum(), m_spinBoxStartValue->maximum());
+    };
+    m_thresholds[static_cast<size_t>(sensor)] = {bounded(start), bounded(stop)};
     if (sensor != m_currentSensor)
         return;
     showThresholds();

@@ -49,7 +49,8 @@ public:
     /// In units of the sensor; 0.0 for a sensor outside 0 to 4.
     [[nodiscard]] double startThreshold(int sensor) const;
     [[nodiscard]] double stopThreshold(int sensor) const;
-    /// Ignored for a sensor outside 0 to 4 and for numbers that are not finite. Does not emit thresholdsChanged().
+    /// Moved into the range that can be edited. Ignored for a sensor outside 0 to 4 and for numbers that are not
+    /// finite. Does not emit thresholdsChanged().
     void setThresholds(int sensor, double start, double stop);
     /// The shot in the plot; -1 if there is none.
     [[nodiscard]] int shownShot() const;

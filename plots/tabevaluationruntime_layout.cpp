@@ -1,10 +1,10 @@
 #include "plots/boxwhiskerswidget.h"
+#include "plots/decimalspinbox.h"
 #include "plots/osziwidget.h"
 #include "plots/runtimetablemodel.h"
 #include "plots/tabevaluationruntime.h"
 
 #include <QButtonGroup>
-#include <QDoubleSpinBox>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -43,7 +43,7 @@ QLayout *TabEvaluationRuntime::createSensorButtons()
 
 QDoubleSpinBox *TabEvaluationRuntime::createThresholdSpinBox(const QString &name)
 {
-    auto *spinBox = new QDoubleSpinBox(this);
+    auto *spinBox = new DecimalSpinBox(this);
     spinBox->setObjectName(name);
     spinBox->setDecimals(2);
     spinBox->setRange(-kLargestThreshold, kLargestThreshold);

@@ -51,6 +51,9 @@ private slots:
     void worksWithoutShotsAndWithEmptyOnes();
     void withoutModelItSaysSo();
     void sensorsHaveTheirOwnThresholds();
+    void thresholdsAreTypedWithCommaOrPoint_data();
+    void thresholdsAreTypedWithCommaOrPoint();
+    void thresholdsStayInRange();
     void sensorSwitchIsLogged();
     void offsetCounts();
     void chosenShotIsDrawn();
@@ -251,6 +254,36 @@ void TabEvaluationRuntimeTest::sensorsHaveTheirOwnThresholds()
     QCOMPARE(m_page->startThreshold(0), 250.0);
     QCOMPARE(m_page->stopThreshold(3), 100.0);
     QCOMPARE(cell(0, RuntimeTableModel::Start), QStringLiteral("0.1"));
+}
+
+void TabEvaluationRuntimeTest::thresholdsAreTypedWithCommaOrPoint_data()
+{
+    QTest::addColumn<QLocale>("locale");
+    QTest::addColumn<QString>("typed");
+    for (const QLocale::Language language : {QLocale::German, QLocale::English}) {
+        for (const char *typed : {"12.5", "12,5"})
+            QTest::addRow("%s, %s", qPrintable(QLocale::languageToString(language)), typed)
+                << QLocale(language) << QString::fromLatin1(typed);
+    }
+}
+
+void TabEvaluationRuntimeTest::thresholdsAreTypedWithCommaOrPoint()
+{
+    QFETCH(QLocale, locale);
+    QFETCH(QString, typed);
+    auto *spinBox = child<QDoubleSpinBox>("spinBoxStopValue");
+    spinBox->setLocale(locale);
+    spinBox->selectAll();
+    QTest::keyClicks(spinBox, typed);
+    QTest::keyClick(spinBox, Qt::Key_Return);
+    QCOMPARE(m_page->stopThreshold(0), 12.5);
+}
+
+void TabEvaluationRuntimeTest::thresholdsStayInRange()
+{
+    m_page->setThresholds(0, 1e300, -1e300);
+    QCOMPARE(m_page->startThreshold(0), child<QDoubleSpinBox>("spinBoxStartValue")->value());
+    QCOMPARE(m_page->stopThreshold(0), child<QDoubleSpinBox>("spinBoxStopValue")->value());
 }
 
 void TabEvaluationRuntimeTest::sensorSwitchIsLogged()
