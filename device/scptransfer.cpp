@@ -17,9 +17,12 @@ constexpr int kRuleLength = 64;
 
 void logResult(const ScpResult &result)
 {
-    if (result.end != ScpResult::End::Exited)
+    const bool crashed = result.end == ScpResult::End::Crashed;
+    if (!crashed && result.end != ScpResult::End::Exited)
         return;
     qCDebug(lcDevice) << "exit code:" << result.exitCode;
+    if (crashed)
+        return;
     if (result.isSuccess()) {
         qCDebug(lcDevice) << "Normal Exit";
         return;
