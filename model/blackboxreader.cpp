@@ -12,8 +12,9 @@
 
 namespace {
 
-constexpr int kMaxLine = 4096;       // bytes; what is longer is no line of the box
-constexpr int kMostComplaints = 100; // so that a broken file does not flood the log
+constexpr int kMaxLine = 4096;          // bytes; what is longer is no line of the box
+constexpr int kMostComplaints = 100;    // so that a broken file does not flood the log
+constexpr int kMostSensorLines = 10000; // likewise; the box writes some thirty
 constexpr char kByteOrderMark[] = "\xEF\xBB\xBF";
 const QByteArray kSensorKey = QByteArrayLiteral("group0/sensor");
 
@@ -105,6 +106,7 @@ private:
     std::array<SampleCollector, kNumSensors> m_samples;
     Section m_section = Section::Data;
     int m_complaints = 0;
+    int m_sensorLines = 0;
     bool m_atBeginning = true;
 };
 
@@ -156,7 +158,7 @@ double Reader::toNumber(const QByteArray &text)
 // A key that is not known may come from a newer box and is no loss.
 void Reader::takeSensorLine(const QByteArray &line)
 {
-    if (!line.contains('='))
+    if (!line.contains('=') || ++m_sensorLines > kMostSensorLines)
         skip();
     else if (const int keyAt = line.indexOf(kSensorKey); keyAt >= 0)
         takeSensorKey(line, keyAt);

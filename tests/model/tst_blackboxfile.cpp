@@ -197,6 +197,8 @@ void TestBlackBoxFile::sensors_data()
     row("unknown keys", "group1/name=A\ngroup0/color=red\ngroup0/sensor0/color=red\n",
         QStringLiteral("1 5 ") + untouched.repeated(5));
     row("no key", "group0\n\n", QStringLiteral("1 5 ") + untouched.repeated(5), 1);
+    row("flood", QByteArray("numGroups=1\n").repeated(10003).constData(),
+        QStringLiteral("1 5 ") + untouched.repeated(5), 3);
 }
 
 void TestBlackBoxFile::sensors()
