@@ -23,7 +23,9 @@ QDate dayOfEntry(const QString &entry)
 
 bool isNewer(const BlackBoxDay &a, const BlackBoxDay &b)
 {
-    return !a.date.isValid() || (b.date.isValid() && a.date > b.date); // local files come first
+    if (a.date.isValid() != b.date.isValid())
+        return b.date.isValid(); // local files come first
+    return a.date > b.date;
 }
 
 bool hasSmallerName(const BlackBoxFile &a, const BlackBoxFile &b)
