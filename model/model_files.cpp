@@ -97,7 +97,7 @@ bool Model::writeFile(const QString &fileName, bool asProject)
         const QString projectFile = QFileInfo(m_currentFile).fileName();
         const std::array<QPixmap, kNumImages> images = m_images;
         Pacer pacer(m_yield, document.sampleCount());
-        return replaceFile(fileName, [&](QIODevice &target) {
+        const auto write = [&](QIODevice &target) {
             if (!asProject)
                 return writeCsv(target, projectFile, document, pacer);
             for (std::size_t image = 0; image < images.size(); ++image) {
@@ -105,7 +105,8 @@ bool Model::writeFile(const QString &fileName, bool asProject)
                 pacer.moveTo(0);
             }
             return writeProject(target, document, pacer);
-        });
+        };
+        return replaceFile(fileName, write, [&pacer] { pacer.look(); });
     } catch (const std::bad_alloc &) {
         qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " ERROR: out of memory!";
         return false;

@@ -1,3 +1,4 @@
+#include "model/atomicfile.h"
 #include "model/model.h"
 #include "tests/support/logcapture.h"
 
@@ -11,6 +12,7 @@
 #include <functional>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -105,6 +107,7 @@ private slots:
     void failedOpenTouchesNothing();
     void failedSaveKeepsTheOldFile();
     void savesOnlyToRegularFiles();
+    void freesWhatItReplaces();
     void refusesSecondTaskWhileBusy();
     void keepsSamplesThatArriveWhileSaving();
     void livesWhileWorking();
@@ -268,6 +271,30 @@ void TestModelFiles::savesOnlyToRegularFiles()
     QVERIFY(model.save(path("link.vnt")));
     QVERIFY(QFileInfo(path("link.vnt")).isSymLink());
     QVERIFY(contentOf(target).startsWith('{'));
+}
+
+/// The space of a large old file is given back step by step, but never under another name or another reader.
+void TestModelFiles::freesWhatItReplaces()
+{
+    const QByteArray content(20000000, 'x');
+    const auto replace = [this] {
+        int pauses = 0;
+        const auto write = [](QIODevice &target) { return target.write("new") == 3; };
+        const bool replaced = replaceFile(path("big.csv"), write, [&pauses] { ++pauses; });
+        return replaced && contentOf(path("big.csv")) == "new" ? pauses : -1;
+    };
+    QCOMPARE(replace(), 0);
+    writeText(path("big.csv"), content);
+    QVERIFY(replace() > 3);
+    writeText(path("big.csv"), content);
+    QCOMPARE(::link(qPrintable(path("big.csv")), qPrintable(path("other.csv"))), 0);
+    QCOMPARE(replace(), 0);
+    QVERIFY(contentOf(path("other.csv")) == content);
+    writeText(path("big.csv"), content);
+    QFile reader(path("big.csv"));
+    QVERIFY(reader.open(QIODevice::ReadOnly));
+    QCOMPARE(replace(), 0);
+    QVERIFY(reader.readAll() == content);
 }
 
 void TestModelFiles::refusesSecondTaskWhileBusy()
