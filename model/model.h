@@ -203,6 +203,7 @@ private:
     void apply(OpenedProject &project, const QString &absolutePath);
     [[nodiscard]] std::optional<BlackBoxDocument> readBlackBoxFile(QFile &file);
     void apply(BlackBoxDocument &document);
+    void rememberImported(const QString &file);
     void applyDescription(const QVariantMap &fields);
     void applyChannel(int sensor, std::optional<Channel> &channel);
     void applyLabels(const QVariantMap &fields);

@@ -26,7 +26,7 @@ bool Model::addBlackBoxFile(const QString &fileName)
     const QString absolutePath = QFileInfo(fileName).absoluteFilePath();
     if (!m_fileList.contains(absolutePath))
         m_fileList.append(absolutePath);
-    m_importedFiles.insert(blackBoxFingerprint(absolutePath));
+    rememberImported(absolutePath);
     announceProjectChanged(Q_FUNC_INFO);
     announceDataChanged(Q_FUNC_INFO);
     return true;

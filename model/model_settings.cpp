@@ -221,5 +221,13 @@ void Model::setFileList(const QStringList &files)
     m_fileList = files;
     m_importedFiles.clear();
     for (const QString &file : files)
-        m_importedFiles.insert(blackBoxFingerprint(file));
+        rememberImported(file);
+}
+
+/// A file that is gone has no fingerprint; remembered, that would be the one of every unreadable file.
+void Model::rememberImported(const QString &file)
+{
+    const QByteArray fingerprint = blackBoxFingerprint(file);
+    if (!fingerprint.isEmpty())
+        m_importedFiles.insert(fingerprint);
 }

@@ -346,6 +346,8 @@ void TestBlackBoxFile::importRefuses()
     QCOMPARE(model.numChannels(0), 0);
     QVERIFY(model.fileList().isEmpty());
     QCOMPARE(project.count(), 0);
+    model.setFileList({name}); // of earlier; that it is unreadable now makes it no known one
+    QVERIFY(model.importedFiles().isEmpty());
 }
 
 void TestBlackBoxFile::importWhileBusy()
