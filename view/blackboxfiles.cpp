@@ -2,6 +2,7 @@
 
 #include <QFileInfo>
 #include <QLocale>
+#include <QTextDocument>
 
 BlackBoxFiles::BlackBoxFiles(BlackBoxDays *days, QObject *parent)
     : QAbstractTableModel(parent)
@@ -60,7 +61,7 @@ QVariant BlackBoxFiles::data(const QModelIndex &index, int role) const
     if (role == Qt::DisplayRole)
         return text(file, index.column());
     if (role == Qt::ToolTipRole)
-        return QFileInfo(file.path).fileName();
+        return Qt::convertFromPlainText(QFileInfo(file.path).fileName()); // which may hold what looks like a tag
     if (role == Qt::CheckStateRole && index.column() == NameColumn)
         return file.ticked ? Qt::Checked : Qt::Unchecked;
     if (role == Qt::TextAlignmentRole && index.column() == SizeColumn)

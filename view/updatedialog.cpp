@@ -15,6 +15,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
+#include <QTextDocument>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -165,7 +166,7 @@ void UpdateDialog::onSelectFile()
     qCDebug(lcView).noquote().nospace() << " filename=" << fileName;
     m_fileName = fileName;
     m_file->setText(fileName);
-    m_file->setToolTip(fileName);
+    m_file->setToolTip(Qt::convertFromPlainText(fileName)); // a name may hold what looks like a tag
     setUpload(Upload::None);
 }
 
