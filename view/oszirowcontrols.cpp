@@ -30,7 +30,7 @@ QSize spinBoxSize(const QAbstractSpinBox &box, const QString &sample, int height
 } // namespace
 
 OsziDoubleSpinBox::OsziDoubleSpinBox(const QString &sample, QWidget *parent)
-    : QDoubleSpinBox(parent)
+    : DecimalSpinBox(parent)
     , m_sample(sample)
 {
     setUpSpinBox(*this);
@@ -52,7 +52,7 @@ QString OsziDoubleSpinBox::textFromValue(double value) const
 
 QSize OsziDoubleSpinBox::sizeHint() const
 {
-    return spinBoxSize(*this, m_sample, QDoubleSpinBox::sizeHint().height());
+    return spinBoxSize(*this, m_sample, DecimalSpinBox::sizeHint().height());
 }
 
 QSize OsziDoubleSpinBox::minimumSizeHint() const
@@ -69,7 +69,7 @@ void OsziDoubleSpinBox::showValue(double value)
 void OsziDoubleSpinBox::wheelEvent(QWheelEvent *event)
 {
     if (hasFocus())
-        QDoubleSpinBox::wheelEvent(event);
+        DecimalSpinBox::wheelEvent(event);
     else
         event->ignore();
 }

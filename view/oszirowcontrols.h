@@ -1,12 +1,13 @@
 #pragma once
 
-#include <QDoubleSpinBox>
+#include "plots/decimalspinbox.h"
+
 #include <QLabel>
 #include <QSpinBox>
 
 /// A spin box for values: no trailing zeros, as wide as its sample text, changed by the wheel only when it has the
 /// focus (so that scrolling past it changes nothing), and silent while the user is still typing.
-class OsziDoubleSpinBox : public QDoubleSpinBox
+class OsziDoubleSpinBox : public DecimalSpinBox
 {
     Q_OBJECT
 

@@ -50,6 +50,7 @@ private slots:
     void rangesFromOutside();
     void settingsSurviveSaveAndOpen();
     void offsetsReachTheModel();
+    void offsetsAreTypedWithCommaOrPoint();
     void lockCloses();
     void hiddenSensorLeavesItsHeight();
     void wheelKeepsTheTimeUnderThePointer_data();
@@ -291,6 +292,21 @@ void TestTabOszilloscopeControls::settingsSurviveSaveAndOpen()
     QVERIFY(opened.find<QCheckBox>("checkBoxMarkerAbsolute")->isChecked());
     QCOMPARE(opened.find<QDoubleSpinBox>("markerSpinBox", 3)->value(), 3.0);
     QVERIFY(!opened.model.isProjectModified());
+}
+
+void TestTabOszilloscopeControls::offsetsAreTypedWithCommaOrPoint()
+{
+    OsziBench bench;
+    auto *box = bench.find<QDoubleSpinBox>("offsetSpinBox", 2);
+    for (const QLocale::Language language : {QLocale::German, QLocale::English}) {
+        box->setLocale(QLocale(language));
+        for (const char *typed : {"1.5", "2,5"}) {
+            box->selectAll();
+            QTest::keyClicks(box, QString::fromLatin1(typed));
+            QTest::keyClick(box, Qt::Key_Return);
+            QCOMPARE(box->value(), typed[0] - '0' + 0.5);
+        }
+    }
 }
 
 void TestTabOszilloscopeControls::offsetsReachTheModel()
