@@ -31,10 +31,7 @@ void TestLogHandler::line_data()
     QTest::addColumn<QByteArray>("line");
     const QString text = QStringLiteral("tab open");
     QTest::newRow("debug") << int(QtDebugMsg) << text << QByteArray("Debug: tab open\n");
-    QTest::newRow("warning") << int(QtWarningMsg) << text << QByteArray("Warning: tab open\n");
-    QTest::newRow("critical") << int(QtCriticalMsg) << text << QByteArray("Critical: tab open\n");
     QTest::newRow("fatal, without an abort") << int(QtFatalMsg) << text << QByteArray("Fatal: tab open\n");
-    QTest::newRow("info") << int(QtInfoMsg) << text << QByteArray("Info: tab open\n");
     QTest::newRow("unknown type") << 77 << text << QByteArray("\n");
     QTest::newRow("percent") << int(QtDebugMsg) << QStringLiteral("%1 %2") << QByteArray("Debug: %1 %2\n");
     QTest::newRow("umlaut") << int(QtDebugMsg) << QStringLiteral("Kühlzeit") << QByteArray("Debug: Kühlzeit\n");

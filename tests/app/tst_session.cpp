@@ -4,7 +4,6 @@
 
 #include <QApplication>
 #include <QDialog>
-#include <QPointer>
 #include <QTcpServer>
 #include <QTimer>
 #include <QtTest>
@@ -64,7 +63,6 @@ private slots:
     void closingTheWindowDoesNotEndTheProgram();
     void connectsAtOnceOnlyOnRequest_data();
     void connectsAtOnceOnlyOnRequest();
-    void nothingOutlivesTheSession();
 };
 
 void TestSession::exitStatusIsAlwaysZero()
@@ -104,13 +102,6 @@ void TestSession::connectsAtOnceOnlyOnRequest()
     options.connectAtOnce = connectAtOnce;
     (void)runWith(options, 0, [&box](View *) { (void)box.waitForNewConnection(200); });
     QCOMPARE(box.hasPendingConnections(), connectAtOnce);
-}
-
-void TestSession::nothingOutlivesTheSession()
-{
-    QPointer<View> view;
-    (void)runWith({}, 0, [&view](View *shown) { view = shown; });
-    QVERIFY(view.isNull());
 }
 
 QTEST_MAIN(TestSession)
