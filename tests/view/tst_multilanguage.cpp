@@ -13,7 +13,6 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QComboBox>
-#include <QDir>
 #include <QDoubleSpinBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -23,7 +22,6 @@
 #include <QMenuBar>
 #include <QPixmap>
 #include <QSettings>
-#include <QSignalSpy>
 #include <QTabBar>
 #include <QTemporaryDir>
 #include <QTest>
@@ -153,15 +151,9 @@ class TestMultiLanguage : public QObject
 private slots:
     void init();
     void cleanup();
-    void codeComesFromTheFileName_data();
-    void codeComesFromTheFileName();
-    void languageComesFromTheLocale_data();
-    void languageComesFromTheLocale();
     void menuListsTheFilesFound_data();
     void menuListsTheFilesFound();
     void systemLanguageIsChecked();
-    void windowsOwnActionIsTaken();
-    void languageInUseIsNotLoadedAgain();
     void unusableFileIsReported_data();
     void unusableFileIsReported();
     void everyTextSwitchesAndReturns();
@@ -180,38 +172,6 @@ void TestMultiLanguage::init()
 void TestMultiLanguage::cleanup()
 {
     init();
-}
-
-void TestMultiLanguage::codeComesFromTheFileName_data()
-{
-    QTest::addColumn<QString>("code");
-    QTest::newRow("ventaro-en.qm") << QStringLiteral("en");
-    QTest::newRow("ventaro-pt_BR.qm") << QStringLiteral("pt_BR");
-    QTest::newRow("ventaro-zh-Hant.qm") << QStringLiteral("zh-Hant");
-    QTest::newRow("ventaro-en.v2.qm") << QStringLiteral("en.v2");
-    QTest::newRow("deutsch.qm") << QStringLiteral("deutsch");
-    QTest::newRow("ventaro-.qm") << QString();
-    QTest::newRow("plain") << QStringLiteral("plain");
-}
-
-void TestMultiLanguage::codeComesFromTheFileName()
-{
-    QFETCH(QString, code);
-    QCOMPARE(MultiLanguageUtils::languageCode(QString::fromLatin1(QTest::currentDataTag())), code);
-}
-
-void TestMultiLanguage::languageComesFromTheLocale_data()
-{
-    QTest::addColumn<QString>("code");
-    QTest::newRow("de_DE") << QStringLiteral("de");
-    QTest::newRow("zh_Hant_TW") << QStringLiteral("zh_Hant");
-    QTest::newRow("C") << QStringLiteral("C");
-}
-
-void TestMultiLanguage::languageComesFromTheLocale()
-{
-    QFETCH(QString, code);
-    QCOMPARE(MultiLanguageUtils::languageOfLocale(QString::fromLatin1(QTest::currentDataTag())), code);
 }
 
 void TestMultiLanguage::menuListsTheFilesFound_data()
@@ -263,33 +223,6 @@ void TestMultiLanguage::systemLanguageIsChecked()
     MultiLanguageUtils languages(folder.path());
     for (const auto *action : languages.createLanguageMenu(&window)->actions())
         QCOMPARE(action->isChecked(), action->data() == system);
-}
-
-void TestMultiLanguage::windowsOwnActionIsTaken()
-{
-    const Bench bench;
-    const auto *menu = bench.view.findChild<QMenu *>(QStringLiteral("menuLanguage"));
-    const QList<QAction *> expected{bench.view.findChild<QAction *>(QStringLiteral("actionLanguageGerman")),
-                                    bench.view.findChild<QAction *>(QStringLiteral("actionLanguageEnglish"))};
-    QCOMPARE(menu->actions(), expected);
-    QVERIFY(expected.first()->isChecked());
-    QVERIFY(!expected.first()->icon().isNull());
-    QVERIFY(bench.view.findChild<QMenu *>(QStringLiteral("menu"))->actions().contains(menu->menuAction()));
-}
-
-void TestMultiLanguage::languageInUseIsNotLoadedAgain()
-{
-    Bench bench;
-    const QSignalSpy selected(&bench.view, &View::languageSelected);
-    const LogCapture log;
-    bench.choose("actionLanguageGerman");
-    QVERIFY(!log.contains(QStringLiteral("Loading translator file")));
-    bench.choose("actionLanguageEnglish");
-    bench.choose("actionLanguageEnglish");
-    QCOMPARE(log.count(QStringLiteral("Loading translator file ventaro-en.qm")), 1);
-    QCOMPARE(log.count(QStringLiteral("OK: translator installed")), 1);
-    QCOMPARE(selected.count(), 3);
-    QCOMPARE(selected.last().first().toString(), QStringLiteral("en"));
 }
 
 void TestMultiLanguage::unusableFileIsReported_data()

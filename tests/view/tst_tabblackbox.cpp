@@ -6,7 +6,6 @@
 
 #include <QAbstractButton>
 #include <QFile>
-#include <QLabel>
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTemporaryDir>
@@ -102,11 +101,8 @@ private slots:
     void newListKeepsWhatIsHere();
     void localFiles();
     void importedFiles();
-    void sameNameOtherContent();
-    void progress();
     void preview_data();
     void preview();
-    void manyDays();
 };
 
 void TestTabBlackBox::loggedDays_data()
@@ -252,39 +248,6 @@ void TestTabBlackBox::importedFiles()
     QCOMPARE(bench.rows("tableDays"), strings({"X 05.03.2024|2|geladen"}));
 }
 
-void TestTabBlackBox::sameNameOtherContent()
-{
-    Bench bench;
-    const QString file = bench.writeFile(QStringLiteral("a.bb"), "A=[1,2,3,4,5]\n");
-    const QString copy = bench.writeFile(QStringLiteral("copy.bb"), "A=[1,2,3,4,5]\n");
-    bench.tab.setImportedFiles({blackBoxFingerprint(file)});
-    bench.tab.addLocalFiles({file, copy});
-    QVERIFY(bench.tab.selectedFiles().isEmpty());
-    QCOMPARE(bench.writeFile(QStringLiteral("a.bb"), "A=[5,4,3,2,1]\n"), file);
-    bench.tab.addLocalFiles({file});
-    QCOMPARE(bench.tab.selectedFiles(), QStringList{file});
-}
-
-void TestTabBlackBox::progress()
-{
-    Bench bench;
-    bench.tab.addFetchedFiles(QStringLiteral("05.03.2024"), bench.writeFiles(strings({"a.bb"})));
-    const auto *label = bench.find<QLabel>("labelProgress");
-    const std::initializer_list<const char *> buttons{"buttonList", "buttonFetch", "buttonOpenFolder", "buttonImport"};
-    QVERIFY(label->text().isEmpty());
-    bench.tab.setTransferProgress(3, 7);
-    QCOMPARE(label->text(), QStringLiteral("3 von 7"));
-    bench.tab.setListButtonEnabled(true); // the box answers meanwhile
-    for (const char *name : buttons)
-        QVERIFY2(!bench.button(name)->isEnabled(), name);
-    bench.tab.setTransferProgress(0, 0);
-    QVERIFY(label->text().isEmpty());
-    for (const char *name : buttons)
-        QVERIFY2(bench.button(name)->isEnabled(), name);
-    bench.tab.setListButtonEnabled(false);
-    QVERIFY(!bench.button("buttonList")->isEnabled());
-}
-
 void TestTabBlackBox::preview_data()
 {
     QTest::addColumn<QByteArray>("bytes");
@@ -315,21 +278,6 @@ void TestTabBlackBox::preview()
     preview->setFile({});
     QCOMPARE(preview->caption(), QString());
     QVERIFY(preview->grab().toImage() == empty);
-}
-
-void TestTabBlackBox::manyDays()
-{
-    Bench bench;
-    QStringList entries;
-    for (int i = 0; i < 20000; ++i)
-        entries << QDate(1970, 1, 1).addDays(i).toString(QStringLiteral("'dir-'yyyyMMdd"));
-    QElapsedTimer timer;
-    timer.start();
-    bench.tab.setList(entries);
-    bench.tab.setList(entries);
-    bench.click("buttonSelectAll");
-    QCOMPARE(bench.tab.selectedDates().size(), entries.size());
-    QVERIFY2(timer.elapsed() < 10000, qPrintable(QString::number(timer.elapsed()))); // wide: the machine may be busy
 }
 
 QTEST_MAIN(TestTabBlackBox)

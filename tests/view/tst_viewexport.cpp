@@ -32,8 +32,6 @@ class TestViewExport : public QObject
 
 private slots:
     void init();
-    void suffix_data();
-    void suffix();
     void terminalFile();
     void terminalWriteErrorIsReported();
     void saveTerminal_data();
@@ -44,8 +42,6 @@ private slots:
     void saveCsv_data();
     void saveCsv();
     void busyModelRefusesExports();
-    void headline_data();
-    void headline();
     void sampleLine();
     void headlineIsWrittenWhereColumnsBegin();
 
@@ -66,23 +62,6 @@ void TestViewExport::init()
     auto script = std::make_unique<ScriptedPrompts>();
     m_prompts = script.get();
     m_view = std::make_unique<View>(m_model.get(), std::move(script));
-}
-
-void TestViewExport::suffix_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("result");
-    QTest::newRow("none") << QStringLiteral("a") << QStringLiteral("a.csv");
-    QTest::newRow("there") << QStringLiteral("a.csv") << QStringLiteral("a.csv");
-    QTest::newRow("capitals get a second") << QStringLiteral("a.CSV") << QStringLiteral("a.CSV.csv");
-    QTest::newRow("another") << QStringLiteral("a.csv.bak") << QStringLiteral("a.csv.bak.csv");
-    QTest::newRow("nothing but the suffix") << QStringLiteral(".csv") << QStringLiteral(".csv");
-}
-
-void TestViewExport::suffix()
-{
-    QFETCH(QString, name);
-    QTEST(withSuffix(name, QStringLiteral(".csv")), "result");
 }
 
 void TestViewExport::terminalFile()
@@ -210,27 +189,6 @@ void TestViewExport::busyModelRefusesExports()
     m_model->setYield({});
     QVERIFY(tried);
     QVERIFY(m_prompts->fileDialogs.isEmpty());
-}
-
-void TestViewExport::headline_data()
-{
-    QTest::addColumn<QString>("checked"); // numbers of the sensors
-    QTest::addColumn<QString>("text");
-    QTest::newRow("none") << QString() << QStringLiteral("time\n------");
-    QTest::newRow("first") << QStringLiteral("1") << QStringLiteral("time\tSensor 1\n------\t--");
-    QTest::newRow("second") << QStringLiteral("2") << QStringLiteral("time\tSensor 2\n------\t--");
-    QTest::newRow("both") << QStringLiteral("12") << QStringLiteral("time\tSensor 1\tSensor 2\n------\t--\t--");
-    QTest::newRow("the others take no part") << QStringLiteral("345") << QStringLiteral("time\n------");
-    QTest::newRow("all") << QStringLiteral("12345") << QStringLiteral("time\tSensor 1\tSensor 2\n------\t--\t--");
-}
-
-void TestViewExport::headline()
-{
-    QFETCH(QString, checked);
-    LoggerColumns columns{};
-    for (std::size_t i = 0; i < columns.size(); ++i)
-        columns[i] = checked.contains(QString::number(i + 1));
-    QTEST(loggerHeadlineText(columns), "text");
 }
 
 void TestViewExport::sampleLine()

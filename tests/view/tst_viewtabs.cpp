@@ -1,6 +1,5 @@
 #include "model/model.h"
 #include "view/dialogprompts.h"
-#include "view/inputhistory.h"
 #include "view/ipaddressdialog.h"
 #include "view/tabdatalogger.h"
 #include "view/tabproject.h"
@@ -23,22 +22,17 @@ class TestViewTabs : public QObject
 private slots:
     void terminalShowsDirectionAndControlCharacters_data();
     void terminalShowsDirectionAndControlCharacters();
-    void terminalIsBounded();
+    void terminalShowsAndClears();
     void terminalKeepsOrderHoweverManyComeAtOnce_data();
     void terminalKeepsOrderHoweverManyComeAtOnce();
     void terminalSendsAndRemembers();
-    void historyStopsAtItsEnds();
     void loggerIsBounded();
     void projectKeepsWhatItCannotShow();
     void projectUpdatesSilently();
-    void phaseEditNamesThePhase();
     void boxPage_data();
     void boxPage();
     void escapeAnswers_data();
     void escapeAnswers();
-    void suffixOfFilter_data();
-    void suffixOfFilter();
-    void boxButtonsAreGerman();
     void addressDialogAcceptsValidOnly();
 };
 
@@ -62,18 +56,10 @@ void TestViewTabs::terminalShowsDirectionAndControlCharacters()
     QTEST(tab.plainText(), "shown");
 }
 
-void TestViewTabs::terminalIsBounded()
+void TestViewTabs::terminalShowsAndClears()
 {
     TabTerminal tab;
     tab.show();
-    for (int round = 0; round < 2; ++round) { // once in the pending lines, once in the field
-        for (int i = 0; i < TabTerminal::kMaximumLines + 7; ++i)
-            tab.addReceived(QString::number(i));
-        const QStringList lines = tab.plainText().split(QLatin1Char('\n'));
-        QCOMPARE(lines.size(), TabTerminal::kMaximumLines);
-        QCOMPARE(lines.constFirst(), QStringLiteral("< 7"));
-        QCOMPARE(lines.constLast(), QStringLiteral("< %1").arg(TabTerminal::kMaximumLines + 6));
-    }
     tab.addSent(QStringLiteral("run=0"));
     const auto *edit = tab.findChild<QPlainTextEdit *>(QStringLiteral("editTerminal"));
     QTRY_VERIFY(edit->toPlainText().endsWith(QStringLiteral("> run=0")));
@@ -135,23 +121,6 @@ void TestViewTabs::terminalSendsAndRemembers()
     QCOMPARE(input->text(), QStringLiteral("halb"));
 }
 
-void TestViewTabs::historyStopsAtItsEnds()
-{
-    InputHistory history;
-    QCOMPARE(history.previous(QStringLiteral("x")), QStringLiteral("x"));
-    for (int i = 0; i < InputHistory::kMaximum + 5; ++i) {
-        history.add(QString::number(i));
-        history.add(QString::number(i)); // kept once
-    }
-    QString line;
-    for (int i = 0; i < InputHistory::kMaximum + 50; ++i)
-        line = history.previous(line);
-    QCOMPARE(line, QStringLiteral("5"));
-    for (int i = 0; i < InputHistory::kMaximum + 50; ++i)
-        line = history.next(line);
-    QCOMPARE(line, QString());
-}
-
 void TestViewTabs::loggerIsBounded()
 {
     TabDataLogger tab;
@@ -211,15 +180,6 @@ void TestViewTabs::projectUpdatesSilently()
     QCOMPARE(tab.comment(), QStringLiteral("k\nneu"));
 }
 
-void TestViewTabs::phaseEditNamesThePhase()
-{
-    TabProject tab;
-    QSignalSpy spy(&tab, &TabProject::phaseEditChanged);
-    QTest::keyClicks(tab.findChild<QLineEdit *>(QStringLiteral("lineEditPhase5")), QStringLiteral("ab"));
-    QCOMPARE(spy.count(), 2);
-    QCOMPARE(spy.last(), QVariantList({4, QStringLiteral("ab")}));
-}
-
 void TestViewTabs::boxPage_data()
 {
     QTest::addColumn<QString>("address");
@@ -263,34 +223,6 @@ void TestViewTabs::escapeAnswers()
     box.show();
     QTest::keyClick(&box, Qt::Key_Escape);
     QCOMPARE(int(box.standardButton(box.clickedButton())), answer);
-}
-
-void TestViewTabs::suffixOfFilter_data()
-{
-    QTest::addColumn<QString>("filter");
-    QTest::addColumn<QString>("suffix");
-    QTest::newRow("one") << QStringLiteral("Ventaro Dateien (*.vnt)") << QStringLiteral("vnt");
-    QTest::newRow("several") << QStringLiteral("Bilder (*.jpg *.png)") << QStringLiteral("jpg");
-    QTest::newRow("any") << QStringLiteral("Alle (*)") << QString();
-}
-
-void TestViewTabs::suffixOfFilter()
-{
-    QFETCH(QString, filter);
-    QTEST(filterSuffix(filter), "suffix");
-}
-
-void TestViewTabs::boxButtonsAreGerman()
-{
-    QMessageBox box;
-    fillMessageBox(box, QStringLiteral("T"), QStringLiteral("Text"),
-                   QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel | QMessageBox::Yes | QMessageBox::No
-                       | QMessageBox::Ok);
-    QStringList texts;
-    for (const QAbstractButton *button : box.buttons())
-        texts << button->text();
-    texts.sort();
-    QCOMPARE(texts.join(QLatin1Char(',')), QStringLiteral("Abbrechen,Ja,Nein,OK,Speichern,Verwerfen"));
 }
 
 void TestViewTabs::addressDialogAcceptsValidOnly()
