@@ -1,8 +1,5 @@
 #include "rig.h"
 
-#include "tests/support/logcapture.h"
-
-#include <QSignalSpy>
 #include <QTemporaryDir>
 
 class TestDisturbances : public QObject
@@ -13,20 +10,12 @@ private slots:
     void linkLost_data();
     void linkLost();
     void linkLostDuringProjectQuestion();
-    void errors_data();
-    void errors();
     void refusedThenAnotherAddress();
     void attemptGivenUp_data();
     void attemptGivenUp();
-    void invalidAddressIsNotUsed();
     void misbehaviour_data();
     void misbehaviour();
-    void droppedAfterBytes();
-    void silentBox();
-    void projectDescriptionOnConnection();
     void lineFeedThatNeverComes();
-    void descriptionsInARow();
-    void samplesDuringSave();
 
 private:
     void loseLinkWhile(const QByteArray &state, Rig &rig);
@@ -125,39 +114,6 @@ void TestDisturbances::linkLostDuringProjectQuestion()
     QVERIFY(!rig.bench.model.projectData().name.isEmpty());
 }
 
-void TestDisturbances::errors_data()
-{
-    QTest::addColumn<int>("error");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("closed") << int(QAbstractSocket::RemoteHostClosedError)
-                            << QStringLiteral("Die Mesotra Hardware ist nicht mehr erreichbar.");
-    QTest::newRow("not found") << int(QAbstractSocket::HostNotFoundError)
-                               << QStringLiteral(
-                                      "Die Mesotra Hardware wurde nicht gefunden! Bitte IP-Adresse überprüfen!");
-    QTest::newRow("refused") << int(QAbstractSocket::ConnectionRefusedError)
-                             << QStringLiteral(
-                                    "Die Verbindung wurde abgelehnt!\n(Die IP-Adresse wurde jedoch gefunden.)");
-    QTest::newRow("other") << int(QAbstractSocket::NetworkError) << QString();
-}
-
-void TestDisturbances::errors()
-{
-    QFETCH(int, error);
-    QFETCH(QString, text);
-    Bench bench(optionsFor(1));
-    bench.view.showProgress(QStringLiteral("Verbinden ..."));
-    const LogCapture log;
-    bench.controller.connectionError(QAbstractSocket::SocketError(error));
-    QVERIFY(!bench.view.isProgressShown());
-    QCOMPARE(bench.prompts->messages.size(), std::size_t(text.isEmpty() ? 0 : 1));
-    if (!text.isEmpty()) {
-        QCOMPARE(bench.prompts->messages[0].text, text);
-        QCOMPARE(bench.prompts->messages[0].title, QStringLiteral("Netzwerk Fehler"));
-    }
-    QCOMPARE(bench.prompts->addressDialogs, 1);
-    QVERIFY(log.contains(QStringLiteral("dialog rejected")));
-}
-
 void TestDisturbances::refusedThenAnotherAddress()
 {
     Rig rig;
@@ -201,15 +157,6 @@ void TestDisturbances::attemptGivenUp()
     QVERIFY(!rig.box.isRunning());
 }
 
-void TestDisturbances::invalidAddressIsNotUsed()
-{
-    Rig rig;
-    rig.bench.prompts->addresses = {QStringLiteral("1.2.3.4 ; x")};
-    rig.bench.controller.connectionError(QAbstractSocket::NetworkError);
-    QVERIFY(!rig.bench.view.isProgressShown());
-    QVERIFY(rig.connectQuickly()); // still the configured one
-}
-
 void TestDisturbances::misbehaviour_data()
 {
     QTest::addColumn<QByteArray>("kind");
@@ -237,49 +184,6 @@ void TestDisturbances::misbehaviour()
     QVERIFY(rig.bench.prompts->messages.empty());
 }
 
-void TestDisturbances::droppedAfterBytes()
-{
-    BoxOptions options;
-    options.dropAfter = 3000;
-    Rig rig(options);
-    QVERIFY(rig.connectQuickly());
-    QVERIFY(rig.start());
-    QTRY_COMPARE(rig.bench.prompts->addressDialogs, 1);
-    QVERIFY(!rig.bench.controller.isRecordingRunning());
-    // The last line may have been cut off by the drop.
-    const QVector<double> sent = rig.sentValues(0);
-    const QVector<double> kept = rig.bench.samples(0, 0);
-    QVERIFY(kept.size() > 5 && kept.size() >= sent.size() - 1 && kept.size() <= sent.size());
-    QCOMPARE(kept, sent.mid(0, kept.size()));
-}
-
-void TestDisturbances::silentBox()
-{
-    BoxOptions options;
-    options.silent = true;
-    Rig rig(options);
-    QVERIFY(rig.connectToBox());
-    QVERIFY(rig.bench.controller.areValuesInThousandths());
-    emit rig.bench.view.startStopRecording();
-    QTest::qWait(50);
-    QVERIFY(!rig.bench.controller.isRecordingRunning());
-    QCOMPARE(rig.bench.shots(), 0);
-    emit rig.bench.view.connectDisconnect();
-    QVERIFY(!rig.bench.model.isConnected());
-}
-
-void TestDisturbances::projectDescriptionOnConnection()
-{
-    BoxOptions options;
-    options.sendsProjectDescription = true;
-    Rig rig(options);
-    rig.bench.prompts->answers = {QMessageBox::Yes};
-    QVERIFY(rig.connectQuickly());
-    QTRY_COMPARE(rig.bench.prompts->questions.size(), std::size_t(1));
-    QVERIFY(!rig.bench.model.projectData().name.isEmpty());
-    QVERIFY(rig.recordShot(3));
-}
-
 void TestDisturbances::lineFeedThatNeverComes()
 {
     Rig rig;
@@ -294,46 +198,6 @@ void TestDisturbances::lineFeedThatNeverComes()
     QVERIFY(!rig.bench.model.isConnected());
     QVERIFY(!rig.bench.controller.isRecordingRunning());
     QVERIFY(rig.bench.samples(0, 0).size() > 2);
-}
-
-void TestDisturbances::descriptionsInARow()
-{
-    Rig rig;
-    QVERIFY(rig.connectQuickly());
-    rig.bench.prompts->answers = std::deque<QMessageBox::StandardButton>(1000, QMessageBox::No);
-    const QByteArray description =
-        "<deviceDescription hardwareVersion=\"1\"/><projectDescription projectName=\"x\"/>\n";
-    QVERIFY(rig.box.sendRaw(description.repeated(1000) + "t=25\n"));
-    QTRY_COMPARE(rig.bench.model.clock(), 25);
-    QTRY_VERIFY(!rig.bench.prompts->questions.empty());
-    QTest::qWait(200);
-    QVERIFY2(rig.bench.prompts->questions.size() <= 3, "a thousand descriptions are not a thousand questions");
-    QCOMPARE(rig.bench.prompts->mostOpenAtOnce, 1);
-}
-
-void TestDisturbances::samplesDuringSave()
-{
-    const QString file = m_folder.filePath(QStringLiteral("live.vnt"));
-    Rig rig;
-    QVERIFY(rig.connectQuickly());
-    QVERIFY(rig.start());
-    QTRY_VERIFY(rig.bench.samples(0, 0).size() > 10);
-    rig.bench.prompts->saveNames = {file};
-    bool yielded = false;
-    int before = 0;
-    rig.bench.model.setYield([&](int) {
-        if (std::exchange(yielded, true))
-            return;
-        before = rig.bench.samples(0, 0).size();
-        QTest::qWait(100);
-        QCOMPARE(rig.bench.samples(0, 0).size(), before);
-    });
-    emit rig.bench.view.saveProject();
-    QVERIFY(rig.stopAfter(before + 50));
-    QVERIFY(rig.bench.model.isProjectModified());
-    const Model saved(file);
-    for (int sensor = 0; sensor < kNumSensors; ++sensor)
-        QCOMPARE(*saved.measurement(sensor, 0), rig.sentValues(sensor).mid(0, before));
 }
 
 QTEST_MAIN(TestDisturbances)

