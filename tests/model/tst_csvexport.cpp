@@ -60,13 +60,9 @@ void TestCsvExport::writesNumbers_data()
 {
     QTest::addColumn<double>("value");
     QTest::addColumn<QByteArray>("text");
-    QTest::newRow("comma") << 1.5 << QByteArray("1,5");
-    QTest::newRow("six digits") << 1234567.0 << QByteArray("1,23457e+06");
-    QTest::newRow("third") << -1.0 / 3 << QByteArray("-0,333333");
     QTest::newRow("groups") << 12345.6 << QByteArray("12.345,6");
     QTest::newRow("rounds to an exponent") << 999999.5 << QByteArray("1e+06");
     QTest::newRow("half up") << 416230.5 << QByteArray("416.231");
-    QTest::newRow("small") << 1e-5 << QByteArray("1e-05");
     QTest::newRow("negative zero") << -0.0 << QByteArray("0");
 }
 

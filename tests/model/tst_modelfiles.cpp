@@ -2,14 +2,10 @@
 #include "model/model.h"
 #include "tests/support/logcapture.h"
 
-#include <QElapsedTimer>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QTemporaryDir>
 #include <QtTest>
 
 #include <csignal>
-#include <functional>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -101,7 +97,6 @@ class TestModelFiles : public QObject
 private slots:
     void init() { QVERIFY(m_folder.isValid()); }
     void opensWhatItSaved();
-    void startsWithAFile();
     void emitsInOrderAfterOpening();
     void failedOpenTouchesNothing_data();
     void failedOpenTouchesNothing();
@@ -110,8 +105,6 @@ private slots:
     void freesWhatItReplaces();
     void refusesSecondTaskWhileBusy();
     void keepsSamplesThatArriveWhileSaving();
-    void livesWhileWorking();
-    void savesWithoutSensorGroup();
 
 private:
     [[nodiscard]] QString path(const char *name) const { return m_folder.filePath(QLatin1String(name)); }
@@ -142,20 +135,6 @@ void TestModelFiles::opensWhatItSaved()
     QCOMPARE(opened.timestamp(2), QDateTime());
     QVERIFY(opened.save(path("again.vnt")));
     QCOMPARE(contentOf(path("again.vnt")), contentOf(file));
-}
-
-void TestModelFiles::startsWithAFile()
-{
-    const QString file = path("start.vnt");
-    writeText(file, R"({"projectName":"x","sensor 1":[[1,2]]})");
-    const LogCapture log;
-    const QString relative = QDir::current().relativeFilePath(file);
-    const Model model(relative);
-    QVERIFY(log.contains(QStringLiteral(" fileToOpen=") + relative));
-    QCOMPARE(model.currentFile(), file);
-    QCOMPARE(model.numChannels(0), 1);
-    const Model empty(path("missing.vnt"));
-    QCOMPARE(empty.currentFile(), QString());
 }
 
 void TestModelFiles::emitsInOrderAfterOpening()
@@ -189,7 +168,6 @@ void TestModelFiles::failedOpenTouchesNothing_data()
     const QString notOpened = QStringLiteral("could not open file:");
     const QString noObject = QStringLiteral(" jdoc is no object!");
     QTest::newRow("folder") << QByteArray("folder") << notOpened;
-    QTest::newRow("missing") << QByteArray("missing") << notOpened;
     QTest::newRow("pipe") << QByteArray("pipe") << notOpened;
     QTest::newRow("empty") << QByteArray() << noObject;
     QTest::newRow("list") << QByteArray("[1]") << noObject;
@@ -342,44 +320,6 @@ void TestModelFiles::keepsSamplesThatArriveWhileSaving()
     QVERIFY(model.save(path("during.vnt")));
     QVERIFY(!model.isProjectModified());
     QVERIFY(contentOf(path("during.vnt")) != contentOf(path("before.vnt")));
-}
-
-void TestModelFiles::livesWhileWorking()
-{
-    Model model{QString()};
-    addMeasurements(model, 40, 8000);
-    QVector<int> progress;
-    QElapsedTimer timer;
-    qint64 longestGap = 0;
-    model.setYield([&](int percent) {
-        if (timer.isValid())
-            longestGap = qMax(longestGap, timer.elapsed());
-        progress << percent;
-        timer.start();
-    });
-    const auto work = [&](const std::function<bool()> &task) {
-        progress.clear();
-        timer.invalidate();
-        QVERIFY(task());
-        QVERIFY(progress.first() == 0 && std::is_sorted(progress.begin(), progress.end()) && progress.last() <= 100);
-    };
-    work([&] { return model.save(path("long.vnt")); });
-    work([&] { return model.saveCsv(path("long.csv")); });
-    work([&] { return model.open(path("long.vnt")); });
-    QVERIFY(progress.size() > 2);
-    QVERIFY2(longestGap < 2000, qPrintable(QString::number(longestGap))); // wide: the machine may be busy
-}
-
-void TestModelFiles::savesWithoutSensorGroup()
-{
-    Model model{QString()};
-    model.setSensorDescription(SensorDescription());
-    QVERIFY(model.save(path("nogroup.vnt")));
-    const QJsonObject json = QJsonDocument::fromJson(contentOf(path("nogroup.vnt"))).object();
-    QCOMPARE(json[QStringLiteral("sensor minValues")].toArray(), (QJsonArray{0, 0, 0, 0, 0}));
-    QCOMPARE(json[QStringLiteral("sensor maxValues")].toArray(), (QJsonArray{0, 0, 0, 0, 0}));
-    QCOMPARE(json[QStringLiteral("sensor 5")].toArray(), QJsonArray());
-    QCOMPARE(json[QStringLiteral("fileVersion")].toString(), QStringLiteral("7"));
 }
 
 QTEST_MAIN(TestModelFiles)

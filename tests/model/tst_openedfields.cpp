@@ -56,16 +56,10 @@ void TestOpenedFields::readsOddFields_data()
     // found: clock, firmware version, closing force, marker 4, phase 5, offset 1, maximum 1, name 5, shots
     const char *defaults = "100 8.0 0 40 WZ öffnen 0 100000 Sensor 5 00000";
     row("{}", " jSensor1 is no array!", defaults);
-    row("{}", " jSensor5 is no array!", defaults);
-    row("{}", " jMarkers is no array!", defaults);
-    row("{}", " jPhases is no array!", defaults);
     row("{}", " jCorrections is no array!", defaults);
-    row("{}", " jMinValues is no array!", defaults);
-    row("{}", " jMaxValues is no array!", defaults);
     row(R"({"sensor 2":{},"sensor 3":"[]"})", " jSensor3 is no array!", defaults);
     row(R"({"sensor 2":[[1,2],[]],"sensor 4":[[]]})", "jSensor1Array.size()=2",
         "100 8.0 0 40 WZ öffnen 0 100000 Sensor 5 02010");
-    row(R"({"sensor 2":[[1,2,3,4]]})", "jValues.size()=4", "100 8.0 0 40 WZ öffnen 0 100000 Sensor 5 01000");
     row(R"({"clock":99.5,"swVersion":"x","paramClosingForce":12,"markers":[1,2,3,4.6]})", " index=3 pos=5",
         "100 x 12 5 WZ öffnen 0 100000 Sensor 5 00000");
     row(R"({"clock":"20","swVersion":7,"paramClosingForce":null,"corrections":5})", " jCorrections is no array!",
@@ -111,12 +105,9 @@ void TestOpenedFields::readsOldVersions_data()
     QTest::addColumn<QString>("logged");
     QTest::addColumn<bool>("isOld");
     QTest::newRow("current") << QByteArray(R"("7")") << QStringLiteral(" file version=7") << false;
-    QTest::newRow("later") << QByteArray(R"("12")") << QStringLiteral(" file version=12") << false;
     QTest::newRow("older") << QByteArray(R"("5")") << QStringLiteral(" file version=5") << true;
     QTest::newRow("not an integer") << QByteArray(R"("7.5")") << QStringLiteral(" file version=7.5") << true;
     QTest::newRow("number") << QByteArray("7") << QStringLiteral(" file version=6.0") << true;
-    QTest::newRow("empty") << QByteArray(R"("")") << QStringLiteral(" file version=6.0") << true;
-    QTest::newRow("null") << QByteArray("null") << QStringLiteral(" file version=6.0") << true;
 }
 
 void TestOpenedFields::readsOldVersions()
@@ -150,13 +141,9 @@ void TestOpenedFields::readsOsziRanges_data()
     QTest::newRow("missing") << QByteArray(R"("x":0)") << undefined << 8.0 << false;
     QTest::newRow("text") << QByteArray(R"("ViewData":"x")") << QStringLiteral("jViewData is no object!") << 8.0
                           << false;
-    QTest::newRow("null") << QByteArray(R"("ViewData":null)") << QStringLiteral("jViewData is no object!") << 8.0
-                          << false;
     QTest::newRow("empty") << QByteArray(R"("ViewData":{})") << empty << 8.0 << false;
     QTest::newRow("no ranges") << QByteArray(R"("ViewData":{"checkBoxMarkerAbsolute":true})")
                                << QStringLiteral("jOsziMinArray is no array!") << 8.0 << true;
-    QTest::newRow("no maximum") << QByteArray(R"("ViewData":{"osziMinValues":[0]})")
-                                << QStringLiteral("jOsziMaxArray is no array!") << 8.0 << false;
     QTest::newRow("first alone") << QByteArray(
         R"("ViewData":{"osziMinValues":[0,0,0,0,0],"osziMaxValues":[10,0,0,0,0,9],"checkBoxMarkerAbsolute":1})")
                                  << limits << 10.0 << false;
@@ -188,11 +175,8 @@ void TestOpenedFields::readsImages_data()
     huge.replace(16, 8, QByteArray::fromHex("0000ffff0000ffff")); // width and height in its head
     QTest::newRow("image") << QByteArray('"' + png.toBase64() + '"') << QSize(3, 9);
     QTest::newRow("gigabytes") << QByteArray('"' + huge.toBase64() + '"') << QSize();
-    QTest::newRow("no image") << QByteArray(R"("AAAA")") << QSize();
     QTest::newRow("cut") << QByteArray('"' + png.left(20).toBase64() + '"') << QSize();
     QTest::newRow("not Base64") << QByteArray(R"("\u00e4%&")") << QSize();
-    QTest::newRow("empty") << QByteArray(R"("")") << QSize();
-    QTest::newRow("number") << QByteArray("1") << QSize();
 }
 
 void TestOpenedFields::readsImages()

@@ -109,11 +109,9 @@ private slots:
     void writesNumbersLikeQt_data();
     void writesNumbersLikeQt();
     void writesAnyNumberLikeQt();
-    void keepsTheSignOfZero();
     void writesTheTextOfQt();
     void readsBackEveryBit();
     void reportsAFullDevice();
-    void writesTheSnapshotWhileSamplesArrive();
     void acceptsOrRefuses_data();
     void acceptsOrRefuses();
     void refusesEveryTruncation();
@@ -124,7 +122,6 @@ private slots:
     void readsOddMeasurements();
     void readsStrings_data();
     void readsStrings();
-    void lastOfEqualKeysCounts();
     void boundsWhatItKeeps();
 };
 
@@ -162,15 +159,6 @@ void TestProjectFile::writesAnyNumberLikeQt()
     QCOMPARE('[' + text.mid(1) + ']', expected);
 }
 
-void TestProjectFile::keepsTheSignOfZero()
-{
-    const QVector<SampleList> samples{{-0.0, 0.0, -1.0}};
-    const auto content = read(write(fullDocument(samples)));
-    QVERIFY(content && content->measurements[0]);
-    QVERIFY(std::signbit(content->measurements[0]->front().at(0)));
-    QVERIFY(!std::signbit(content->measurements[0]->front().at(1)));
-}
-
 void TestProjectFile::writesTheTextOfQt()
 {
     const QVector<SampleList> none;
@@ -185,7 +173,8 @@ void TestProjectFile::writesTheTextOfQt()
 
 void TestProjectFile::readsBackEveryBit()
 {
-    QVector<SampleList> samples{{}, {5e-324, -5e-324, std::numeric_limits<double>::min(), 2.2250738585072011e-308}};
+    QVector<SampleList> samples{
+        {}, {-0.0, 0.0, 5e-324, -5e-324, std::numeric_limits<double>::min(), 2.2250738585072011e-308}};
     samples << randomDoubles(150000, 3) << SampleList(66000, 1.0 / 3) << SampleList() << randomDoubles(1000, 4);
     const auto content = read(write(fullDocument(samples)));
     QVERIFY(content);
@@ -215,28 +204,6 @@ void TestProjectFile::reportsAFullDevice()
     }
 }
 
-void TestProjectFile::writesTheSnapshotWhileSamplesArrive()
-{
-    SampleList growing(2000, 1.0);
-    const ProjectDocument document = fullDocument({});
-    ProjectDocument live = document;
-    live.samples[0].push_back({&growing, growing.size()});
-    const QByteArray expected = reference::text(live);
-    QBuffer buffer;
-    QVERIFY(buffer.open(QIODevice::WriteOnly));
-    int turns = 0;
-    const auto appendAndDawdle = [&](int) {
-        ++turns;
-        growing.append(2.0);
-        growing.squeeze(); // moves the samples to another address
-    };
-    Pacer pacer(appendAndDawdle, 1);
-    QTest::qSleep(25);
-    QVERIFY(writeProject(buffer, live, pacer));
-    QVERIFY(turns >= 2);
-    QCOMPARE(buffer.data(), expected);
-}
-
 void TestProjectFile::acceptsOrRefuses_data()
 {
     QTest::addColumn<QByteArray>("text");
@@ -248,28 +215,18 @@ void TestProjectFile::acceptsOrRefuses_data()
     row("lists in unknown keys", R"({"x":[[],{"y":[true,false,null,"[",-1.5e+3]}]})", true);
     row("deepest nesting", "{\"x\":" + QByteArray(1023, '[') + QByteArray(1023, ']') + "}", true);
     row("too deep", "{\"x\":" + QByteArray(1024, '[') + QByteArray(1024, ']') + "}", false);
-    row("far too deep", "{\"x\":" + QByteArray(5000000, '['), false);
     row("nothing", "", false);
-    row("mark alone", "\xEF\xBB\xBF", false);
     row("list", "[]", false);
-    row("number", "1", false);
     row("text behind", "{} x", false);
-    row("second object", "{}{}", false);
     row("zero byte behind", QByteArray("{}\0", 3), false);
     row("comma at the end", R"({"a":1,})", false);
-    row("comma in a list", R"({"a":[1,]})", false);
     row("no comma", R"({"a":1 "b":2})", false);
-    row("no colon", R"({"a" 1})", false);
     row("key without quotes", "{a:1}", false);
     row("wrong bracket", R"({"a":[1}})", false);
-    row("literal", R"({"a":trve})", false);
     row("leading zero in a sample", R"({"sensor 1":[[01]]})", false);
     row("plus sign", R"({"a":+1})", false);
     row("nan sample", R"({"sensor 1":[[nan]]})", false);
     row("negative infinity sample", R"({"sensor 1":[[-inf]]})", false);
-    row("hexadecimal", R"({"a":0x10})", false);
-    row("point alone", R"({"a":.5})", false);
-    row("minus alone", R"({"a":-})", false);
     row("exponent without digits", R"({"a":1e})", false);
     row("unknown string unfinished", R"({"a":"x\")", false);
 }
@@ -298,11 +255,8 @@ void TestProjectFile::readsNumbers_data()
         QTest::newRow(text.left(40).constData()) << text << value;
     };
     row("-0", -0.0);
-    row("-0.0e5", -0.0);
     row("1E+2", 100.0);
-    row("0.1e-1", 0.01);
     row("1e999", 0.0);
-    row("-1e999", 0.0);
     row("1e-999", 0.0);
     row("1e99999999999999999999", 0.0);
     row("1" + QByteArray(400, '0'), 0.0);
@@ -374,7 +328,6 @@ void TestProjectFile::readsStrings_data()
                                     << QString(QStringLiteral("x") + QChar(0xdc00) + QLatin1Char('y'));
     QTest::newRow("zero") << QByteArray(R"(a\u0000b)") << QString(QStringLiteral("a") + QChar(0) + QLatin1Char('b'));
     QTest::newRow("cut code unit") << QByteArray(R"(\u12)") << QStringLiteral("u12");
-    QTest::newRow("escaped umlaut") << QByteArray("\\\xc3\xa4!") << QString::fromUtf8("ä!");
     QTest::newRow("broken UTF-8") << QByteArray("a\xff!")
                                   << QString(QStringLiteral("a") + QChar(0xfffd) + QLatin1Char('!'));
     QTest::newRow("long") << QByteArray(300000, 'x') << QString(300000, QLatin1Char('x'));
@@ -387,17 +340,6 @@ void TestProjectFile::readsStrings()
     const auto content = read("{\"comment\":\"" + json + "\"}");
     QVERIFY(content);
     QCOMPARE(content->fields.value(QStringLiteral("comment")).toString(), text);
-}
-
-void TestProjectFile::lastOfEqualKeysCounts()
-{
-    const auto content =
-        read(R"({"sensor 1":[[1],[2]],"clock":1,"sensor 1":[[3]],"clock":"x","sensor 2":[],"sensor 2":0})");
-    QVERIFY(content && content->measurements[0]);
-    QCOMPARE(content->measurements[0]->size(), std::size_t(1));
-    QCOMPARE(content->measurements[0]->front(), SampleList{3.0});
-    QVERIFY(!content->measurements[1]);
-    QCOMPARE(content->fields.value(QStringLiteral("clock")).toString(), QStringLiteral("x"));
 }
 
 void TestProjectFile::boundsWhatItKeeps()

@@ -1,12 +1,9 @@
-#include "model/projectdata.h"
 #include "model/sensordescription.h"
 #include "model/verticalmarkers.h"
 #include "tests/support/logcapture.h"
 
-#include <QDebug>
 #include <QtTest>
 
-#include <functional>
 #include <limits>
 
 Q_DECLARE_METATYPE(VerticalMarkers)
@@ -23,100 +20,37 @@ SensorGroup groupOf(int sensors)
     return group;
 }
 
-using GroupAccess = std::function<void(SensorGroup &group, int index)>;
-
 } // namespace
-
-Q_DECLARE_METATYPE(GroupAccess)
 
 class TestTypes : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void newSensorsHaveDefaults();
-    void resizesGroups_data();
-    void resizesGroups();
-    void checksSensorIndices_data();
     void checksSensorIndices();
     void checksGroupIndices();
     void movesMarkers_data();
     void movesMarkers();
-    void describesProjectData();
 };
-
-void TestTypes::newSensorsHaveDefaults()
-{
-    const SensorGroup group = groupOf(7);
-    const QVector<QColor> colors{Qt::darkRed, Qt::darkGreen, Qt::darkBlue, QColor(255, 140, 0), Qt::darkCyan, {}, {}};
-    QCOMPARE(group.numSensors(), 7);
-    for (int i = 0; i < 7; ++i) {
-        QCOMPARE(group.sensorName(i), QStringLiteral("Sensor X"));
-        QCOMPARE(group.sensorMinimum(i), -100000.0);
-        QCOMPARE(group.sensorMaximum(i), 100000.0);
-        QCOMPARE(group.sensorColor(i).isValid(), i < 5);
-        QCOMPARE(group.sensorColor(i).rgba(), colors[i].rgba());
-    }
-}
-
-void TestTypes::resizesGroups_data()
-{
-    QTest::addColumn<int>("count");
-    QTest::addColumn<int>("kept"); // entries that keep what was set
-    QTest::newRow("same") << 5 << 5;
-    QTest::newRow("grown") << 7 << 5;
-    QTest::newRow("shrunk loses all") << 2 << 0;
-    QTest::newRow("none") << 0 << 0;
-    QTest::newRow("negative") << -3 << 0;
-    QTest::newRow("huge") << kMost << 5;
-}
-
-void TestTypes::resizesGroups()
-{
-    QFETCH(int, count);
-    QFETCH(int, kept);
-    SensorGroup group = groupOf(5);
-    for (int i = 0; i < 5; ++i)
-        group.setSensorName(i, QStringLiteral("named"));
-    group.setNumSensors(count);
-    QCOMPARE(group.numSensors(), qBound(0, count, SensorGroup::kMaxSensors));
-    for (int i = 0; i < group.numSensors(); ++i)
-        QCOMPARE(group.sensorName(i), i < kept ? QStringLiteral("named") : QStringLiteral("Sensor X"));
-}
-
-void TestTypes::checksSensorIndices_data()
-{
-    QTest::addColumn<GroupAccess>("access");
-    QTest::addColumn<QString>("function");
-    const auto row = [](const char *function, const GroupAccess &access) {
-        QTest::newRow(function) << access << QString::fromLatin1(function);
-    };
-    row("QString SensorGroup::sensorName(int) const", [](auto &g, int i) { QCOMPARE(g.sensorName(i), QString()); });
-    row("QString SensorGroup::sensorType(int) const", [](auto &g, int i) { QCOMPARE(g.sensorType(i), QString()); });
-    row("QString SensorGroup::sensorUnit(int) const", [](auto &g, int i) { QCOMPARE(g.sensorUnit(i), QString()); });
-    row("double SensorGroup::sensorValue(int) const", [](auto &g, int i) { QCOMPARE(g.sensorValue(i), 0.0); });
-    row("double SensorGroup::sensorMinimum(int) const", [](auto &g, int i) { QCOMPARE(g.sensorMinimum(i), 0.0); });
-    row("double SensorGroup::sensorMaximum(int) const", [](auto &g, int i) { QCOMPARE(g.sensorMaximum(i), 0.0); });
-    row("QColor SensorGroup::sensorColor(int) const", [](auto &g, int i) { QVERIFY(!g.sensorColor(i).isValid()); });
-    row("void SensorGroup::setSensorName(int, const QString&)", [](auto &g, int i) { g.setSensorName(i, {}); });
-    row("void SensorGroup::setSensorType(int, const QString&)", [](auto &g, int i) { g.setSensorType(i, {}); });
-    row("void SensorGroup::setSensorUnit(int, const QString&)", [](auto &g, int i) { g.setSensorUnit(i, {}); });
-    row("void SensorGroup::setSensorValue(int, double)", [](auto &g, int i) { g.setSensorValue(i, 1); });
-    row("void SensorGroup::setSensorMinimum(int, double)", [](auto &g, int i) { g.setSensorMinimum(i, 1); });
-    row("void SensorGroup::setSensorMaximum(int, double)", [](auto &g, int i) { g.setSensorMaximum(i, 1); });
-    row("void SensorGroup::SetSensorColor(int, const QColor&)", [](auto &g, int i) { g.SetSensorColor(i, {}); });
-}
 
 void TestTypes::checksSensorIndices()
 {
-    QFETCH(GroupAccess, access);
-    QFETCH(QString, function);
     const LogCapture log;
     SensorGroup group = groupOf(5);
-    access(group, 5);
-    access(group, -1);
-    QCOMPARE(log.count(QStringLiteral("ERROR: index >= numSens !!")), 2);
-    QCOMPARE(log.count(function), 2);
+    for (int i : {5, -1}) {
+        QCOMPARE(group.sensorName(i) + group.sensorType(i) + group.sensorUnit(i), QString());
+        QCOMPARE(group.sensorValue(i) + group.sensorMinimum(i) + group.sensorMaximum(i), 0.0);
+        QVERIFY(!group.sensorColor(i).isValid());
+        group.setSensorName(i, {});
+        group.setSensorType(i, {});
+        group.setSensorUnit(i, {});
+        group.setSensorValue(i, 1);
+        group.setSensorMinimum(i, 1);
+        group.setSensorMaximum(i, 1);
+        group.SetSensorColor(i, {});
+    }
+    QCOMPARE(log.count(QStringLiteral("ERROR: index >= numSens !!")), 28);
+    QCOMPARE(groupOf(kMost).numSensors(), SensorGroup::kMaxSensors);
 }
 
 void TestTypes::checksGroupIndices()
@@ -173,28 +107,6 @@ void TestTypes::movesMarkers()
     QFETCH(VerticalMarkers, expected);
     const VerticalMarkers start{100, 200, 300, 400};
     QVERIFY((absolute ? withMarkerAt(start, index, pos) : withMarkerDistance(start, index, pos)) == expected);
-}
-
-void TestTypes::describesProjectData()
-{
-    const ProjectData data{QStringLiteral("N %2"),
-                           QStringLiteral("1"),
-                           QStringLiteral("U"),
-                           QStringLiteral("D"),
-                           QStringLiteral("C"),
-                           7,
-                           1.5,
-                           2.25,
-                           -3};
-    const QString expected = QStringLiteral("[name=N %2 number=1 user=U date=D customer=C closingForce=7 "
-                                            "injectionTime=1.5 pressTime=2.25 pressure=-3");
-    QString text;
-    QDebug(&text) << data;
-    QCOMPARE(text.trimmed(), expected);
-    ProjectData other = data;
-    QVERIFY(other == data);
-    other.pressTime = 2.5;
-    QVERIFY(other != data);
 }
 
 QTEST_GUILESS_MAIN(TestTypes)
