@@ -1,5 +1,4 @@
 #include "plots/curvelayer.h"
-#include "plots/linepixels.h"
 #include "plots/oszipainter.h"
 
 #include <QPainter>
@@ -123,66 +122,12 @@ class TestCurveLayer : public QObject
     Q_OBJECT
 
 private slots:
-    void linesMatchThePainter_data();
-    void linesMatchThePainter();
-    void shortStepsAreTheRunBetweenTheirEnds();
     void pictureMatchesThePlainOne_data();
     void pictureMatchesThePlainOne();
     void keptPictureFollowsTheScene_data();
     void keptPictureFollowsTheScene();
     void leavesBlendingToThePainter();
-    void leavesCollapsedPlotsToThePainter();
 };
-
-void TestCurveLayer::linesMatchThePainter_data()
-{
-    QTest::addColumn<int>("dx");
-    QTest::addColumn<int>("farthest");
-
-    QTest::newRow("one column, steps in sight") << 1 << 230;
-    QTest::newRow("one column, far outside") << 1 << 100000;
-    QTest::newRow("one column, as far as it goes") << 1 << PlotGeometry::kFarAway;
-    QTest::newRow("few columns") << 7 << 400;
-    QTest::newRow("few columns, as far as it goes") << 7 << PlotGeometry::kFarAway;
-    QTest::newRow("wide and flat") << 390 << 3;
-    QTest::newRow("wide") << 390 << 3000;
-}
-
-void TestCurveLayer::linesMatchThePainter()
-{
-    QFETCH(int, dx);
-    QFETCH(int, farthest);
-    constexpr int kHeight = 220;
-    Random random(7);
-    QImage expected(400, kHeight, QImage::Format_ARGB32_Premultiplied);
-    QImage actual = expected;
-    for (int round = 0; round < 60; ++round) {
-        const int x = between(random, 0, 399 - dx);
-        const int y1 = between(random, 0, 2) ? between(random, -3, kHeight + 3) : between(random, -farthest, farthest);
-        const int y2 = std::clamp(between(random, -farthest, farthest) / 2 + y1 / 2, -farthest, farthest);
-        expected.fill(Qt::transparent);
-        QPainter painter(&expected);
-        painter.drawLine(x, y1, x + dx, y2);
-        painter.end();
-        actual.fill(Qt::transparent);
-        linepixels::columnsOfLine(x, y1, x + dx, y2, kHeight, [&](int column, int top, int bottom) {
-            for (int y = std::max(top, 0); y <= std::min(bottom, kHeight - 1); ++y)
-                actual.setPixel(column, y, 0xff000000);
-        });
-        const QByteArray where = difference(actual, expected);
-        QVERIFY2(where.isEmpty(), QStringLiteral("%1,%2 to %3,%4").arg(x).arg(y1).arg(x + dx).arg(y2).toUtf8());
-    }
-}
-
-void TestCurveLayer::shortStepsAreTheRunBetweenTheirEnds()
-{
-    for (int step = -128; step <= 128; ++step) {
-        linepixels::columnsOfLine(0, 300, 1, 300 + step, 600, [&](int column, int top, int bottom) {
-            QCOMPARE(top, column == 1 ? 300 + step : std::min(300, 300 + step + 1));
-            QCOMPARE(bottom, column == 1 ? 300 + step : std::max(300, 300 + step - 1));
-        });
-    }
-}
 
 void TestCurveLayer::pictureMatchesThePlainOne_data()
 {
@@ -202,13 +147,10 @@ void TestCurveLayer::pictureMatchesThePlainOne_data()
     row("partly outside", 20, [](Kind &k) { k.reach = 160.0, k.jumps = 0.05; });
     row("far outside", 20, [](Kind &k) { k.reach = 1e6, k.jumps = 0.3; });
     row("beyond all pixels", 15, [](Kind &k) { k.reach = 1e300, k.jumps = 0.3; });
-    row("shifted", 20, [](Kind &k) { k.shift = 150, k.jumps = 0.02; });
     row("shifted, zoom", 20, [](Kind &k) { k.shift = 90, k.largestZoom = 12; });
-    row("zoom", 30, [](Kind &k) { k.largestZoom = 12, k.jumps = 0.05; });
     row("large zoom", 20, [](Kind &k) { k.largestZoom = 400, k.jumps = 0.05; });
     row("zoom, many colours, far outside", 20,
         [](Kind &k) { k.largestZoom = 5, k.colors = 7, k.reach = 1e5, k.jumps = 0.1; });
-    row("low row", 15, [](Kind &k) { k.height = 60, k.curves = 60; });
     row("tall row", 12, [](Kind &k) { k.height = 600, k.jumps = 0.05; });
 }
 
@@ -238,10 +180,8 @@ void TestCurveLayer::keptPictureFollowsTheScene_data()
         QTest::newRow(name) << kind;
     };
     row("one colour", [](Kind &) {});
-    row("short curves", [](Kind &k) { k.samples = 30; });
     row("many colours", [](Kind &k) { k.colors = 12; });
     row("jumps far outside", [](Kind &k) { k.reach = 1e4, k.jumps = 0.2; });
-    row("shifted", [](Kind &k) { k.shift = 150; });
     row("zoom", [](Kind &k) { k.largestZoom = 9, k.jumps = 0.1; });
     row("large zoom", [](Kind &k) { k.largestZoom = 300, k.samples = 20; });
     row("tall row", [](Kind &k) { k.height = 500, k.curves = 8; });
@@ -297,19 +237,6 @@ void TestCurveLayer::leavesBlendingToThePainter()
     curve.shown = false;
     layer.invalidate();
     QVERIFY(layer.update(world.scene));
-}
-
-void TestCurveLayer::leavesCollapsedPlotsToThePainter()
-{
-    Random random{3};
-    World world;
-    fillWorld(random, Kind(), world);
-    CurveLayer layer;
-    world.scene.geometry.margin = world.scene.geometry.height / 2 + 1;
-    QVERIFY(!layer.update(world.scene));
-    world.scene.geometry.margin = 0;
-    world.scene.geometry.width = PlotGeometry::kLeftMargin;
-    QVERIFY(!layer.update(world.scene));
 }
 
 QTEST_MAIN(TestCurveLayer)

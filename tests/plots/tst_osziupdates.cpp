@@ -46,8 +46,6 @@ private slots:
     void growthShows();
     void unexpectedGrowthShowsSoon();
     void scrollingShows();
-    void paintsTheSameWithAndWithoutKeptPicture_data();
-    void paintsTheSameWithAndWithoutKeptPicture();
 
 private:
     [[nodiscard]] QImage onScreen() const
@@ -55,11 +53,9 @@ private:
         return m_plot->screen()->grabWindow(m_plot->winId()).toImage().convertToFormat(QImage::Format_RGB32);
     }
     [[nodiscard]] QImage paintedAnew() const { return m_plot->grab().toImage().convertToFormat(QImage::Format_RGB32); }
-    void forcePlainPainting();
 
     Random m_random{5};
     std::deque<SampleList> m_lists;
-    SampleList m_farAway{1e9, 1e9, 1e9};
     OsziWidget *m_plot = nullptr;
 };
 
@@ -94,12 +90,6 @@ void TestOsziUpdates::cleanup()
     delete m_plot;
 }
 
-/// A curve that needs blending, though nothing of it is in sight.
-void TestOsziUpdates::forcePlainPainting()
-{
-    m_plot->setCurve(9000, &m_farAway, QColor(0, 0, 0, 127), true);
-}
-
 void TestOsziUpdates::growthShows_data()
 {
     QTest::addColumn<int>("slot");
@@ -107,7 +97,6 @@ void TestOsziUpdates::growthShows_data()
     QTest::addColumn<int>("start");
 
     QTest::newRow("highlighted") << kHighlighted << 1 << 0;
-    QTest::newRow("highlighted, zoomed") << kHighlighted << 4 << 0;
     QTest::newRow("highlighted, scrolled") << kHighlighted << 1 << 40;
     QTest::newRow("highlighted, large zoom") << kHighlighted << 150 << 29;
     QTest::newRow("top-most") << kCurves - 1 << 1 << 0;
@@ -157,32 +146,6 @@ void TestOsziUpdates::scrollingShows()
         m_plot->refresh();
         QCOMPARE(scrolled, paintedAnew());
     }
-}
-
-void TestOsziUpdates::paintsTheSameWithAndWithoutKeptPicture_data()
-{
-    QTest::addColumn<int>("zoom");
-    QTest::addColumn<double>("scale");
-
-    QTest::newRow("zoom 1") << 1 << 1.0;
-    QTest::newRow("zoom 6") << 6 << 1.0;
-    QTest::newRow("two device pixels a pixel") << 1 << 2.0;
-}
-
-void TestOsziUpdates::paintsTheSameWithAndWithoutKeptPicture()
-{
-    QFETCH(int, zoom);
-    QFETCH(double, scale);
-    m_plot->setZoom(zoom);
-    const auto rendered = [&] {
-        QImage image((m_plot->size() * scale).expandedTo(QSize(1, 1)), QImage::Format_RGB32);
-        image.setDevicePixelRatio(scale);
-        m_plot->render(&image);
-        return image;
-    };
-    const QImage quick = rendered();
-    forcePlainPainting();
-    QCOMPARE(quick, rendered());
 }
 
 QTEST_MAIN(TestOsziUpdates)

@@ -44,8 +44,6 @@ private slots:
     void valuesToRows();
     void timesToColumns_data();
     void timesToColumns();
-    void samplesToColumnsAndBack_data();
-    void samplesToColumnsAndBack();
     void visibleSpans_data();
     void visibleSpans();
     void autoValueGrids_data();
@@ -69,13 +67,11 @@ void TestPlotMath::valuesToRows_data()
     QTest::addColumn<double>("value");
     QTest::addColumn<int>("y");
 
-    QTest::newRow("bottom") << 0.0 << 100.0 << 0.0 << 220;
     QTest::newRow("top") << 0.0 << 100.0 << 100.0 << 20;
     QTest::newRow("half a pixel goes away from zero") << 0.0 << 100.0 << 0.25 << 220;
     QTest::newRow("just over half a pixel") << 0.0 << 100.0 << 0.2500001 << 219;
     QTest::newRow("half a pixel above the widget") << 0.0 << 100.0 << 110.25 << -1;
     QTest::newRow("a range around zero") << -50.0 << 50.0 << 0.0 << 120;
-    QTest::newRow("huge") << 0.0 << 1.0 << 1e300 << -kFar;
     QTest::newRow("infinite distance") << -1.0 << 1.0 << -std::numeric_limits<double>::max() << kFar;
     QTest::newRow("overflowing range") << -1e308 << 1e308 << 5.0 << kFar;
 }
@@ -96,15 +92,12 @@ void TestPlotMath::timesToColumns_data()
     QTest::addColumn<qint64>("time");
     QTest::addColumn<int>("x");
 
-    QTest::newRow("left edge") << 0 << 1 << 100 << qint64(0) << 70;
     QTest::newRow("truncated") << 0 << 1 << 100 << qint64(199) << 71;
     QTest::newRow("zoom before division") << 0 << 3 << 100 << qint64(50) << 71;
-    QTest::newRow("scrolled") << 10 << 4 << 100 << qint64(1250) << 80;
     QTest::newRow("unset marker truncates to the edge") << 0 << 1 << 100 << qint64(-1) << 70;
     QTest::newRow("ten days at 1 ms, zoom 50") << 864000000 << 50 << 1 << qint64(864000010) << 570;
     QTest::newRow("product beyond 64 bits") << kIntMax << kIntMax << kIntMax << qint64(kIntMax) * kIntMax << 70;
     QTest::newRow("far right") << kIntMin << kIntMax << 1 << qint64(kIntMax) << kFar;
-    QTest::newRow("far left") << kIntMax << kIntMax << 1 << qint64(0) << -kFar;
 }
 
 void TestPlotMath::timesToColumns()
@@ -114,33 +107,6 @@ void TestPlotMath::timesToColumns()
     QFETCH(int, clock);
     QFETCH(qint64, time);
     QTEST(timeAxis(start, zoom, clock).xOfTime(time), "x");
-}
-
-void TestPlotMath::samplesToColumnsAndBack_data()
-{
-    QTest::addColumn<int>("start");
-    QTest::addColumn<int>("zoom");
-    QTest::addColumn<qint64>("index");
-    QTest::addColumn<int>("x");
-    QTest::addColumn<qint64>("indexAtX");
-
-    QTest::newRow("first") << 0 << 1 << qint64(0) << 70 << qint64(0);
-    QTest::newRow("zoomed and scrolled") << 100 << 5 << qint64(103) << 85 << qint64(103);
-    QTest::newRow("left of the view") << 100 << 5 << qint64(99) << 65 << qint64(99);
-    QTest::newRow("scrolled before the first sample") << -7 << 2 << qint64(0) << 84 << qint64(0);
-    QTest::newRow("far right") << kIntMin << kIntMax << qint64(kIntMax) << kFar << qint64(kIntMin);
-    QTest::newRow("far left") << kIntMax << 2 << qint64(0) << -kFar << qint64(kIntMax) - (kFar + 70) / 2;
-}
-
-void TestPlotMath::samplesToColumnsAndBack()
-{
-    QFETCH(int, start);
-    QFETCH(int, zoom);
-    QFETCH(qint64, index);
-    QFETCH(int, x);
-    const PlotGeometry geometry = timeAxis(start, zoom, 1);
-    QCOMPARE(geometry.xOfSample(index), x);
-    QTEST(geometry.sampleAt(x), "indexAtX");
 }
 
 void TestPlotMath::visibleSpans_data()
@@ -153,9 +119,7 @@ void TestPlotMath::visibleSpans_data()
 
     QTest::newRow("empty list") << 0 << 1 << 0 << qint64(0) << qint64(-1);
     QTest::newRow("one sample") << 0 << 1 << 1 << qint64(0) << qint64(-1);
-    QTest::newRow("two samples") << 0 << 1 << 2 << qint64(0) << qint64(1);
     QTest::newRow("two samples, scrolled by one") << 1 << 1 << 2 << qint64(0) << qint64(-1);
-    QTest::newRow("ends left of the view") << 500 << 1 << 400 << qint64(0) << qint64(-1);
     QTest::newRow("as wide as the view") << 0 << 1 << 5000 << qint64(0) << qint64(1130);
     QTest::newRow("scrolled, zoomed") << 30 << 7 << 5000 << qint64(30) << qint64(191);
     QTest::newRow("one sample before its list begins") << -100 << 1 << 1 << qint64(0) << qint64(0);
@@ -184,12 +148,9 @@ void TestPlotMath::autoValueGrids_data()
     QTest::addColumn<int>("height");
     QTest::addColumn<double>("grid");
 
-    QTest::newRow("255 in 300 px") << 255.0 << 300 << 40.0;
     QTest::newRow("1000 in 400 px") << 1000.0 << 400 << 100.0;
-    QTest::newRow("10 in 300 px") << 10.0 << 300 << 1.0;
     QTest::newRow("wider than the ladder") << 1e6 << 200 << 160000.0;
     QTest::newRow("end of the ladder") << 0.001 << 200 << 0.0005;
-    QTest::newRow("far below the ladder") << 1e-300 << 200 << 0.0005;
     QTest::newRow("collapsed row") << 255.0 << 0 << 10000.0;
     QTest::newRow("margins higher than the row") << 255.0 << -12 << 10000.0;
     QTest::newRow("infinite range") << std::numeric_limits<double>::infinity() << 200 << 10000.0;
@@ -209,7 +170,6 @@ void TestPlotMath::autoClockGrids_data()
     QTest::addColumn<int>("from");
     QTest::addColumn<int>("grid");
 
-    QTest::newRow("fits") << 1 << 1 << 100 << 100;
     QTest::newRow("just fits below") << 1 << 1 << 50 << 50;
     QTest::newRow("doubled") << 1 << 100 << 100 << 6400;
     QTest::newRow("halved until odd, then by 5") << 10 << 1 << 100 << 5;
@@ -236,13 +196,10 @@ void TestPlotMath::valueLines_data()
     QTest::addColumn<qint64>("last");
     QTest::addColumn<qint64>("stride");
 
-    QTest::newRow("from zero") << 0.0 << 255.0 << 40.0 << qint64(0) << qint64(6) << qint64(1);
     QTest::newRow("both sides of zero") << -100.0 << 100.0 << 30.0 << qint64(-3) << qint64(3) << qint64(1);
     QTest::newRow("maximum reached by rounding") << 0.0 << 0.3 << 0.1 << qint64(0) << qint64(3) << qint64(1);
     QTest::newRow("lines below the minimum as far as they show")
         << 1000.0 << 2000.0 << 100.0 << qint64(8) << qint64(20) << qint64(1);
-    QTest::newRow("no zero line in a negative range")
-        << -30.0 << -10.0 << 10.0 << qint64(-3) << qint64(-1) << qint64(1);
     QTest::newRow("finer than a pixel") << 0.0 << 1e9 << 1.0 << qint64(0) << qint64(1000000000) << qint64(5000000);
     QTest::newRow("no step") << 0.0 << 1.0 << 0.0 << qint64(0) << qint64(-1) << qint64(1);
     QTest::newRow("not a number") << 0.0 << 1.0 << std::numeric_limits<double>::quiet_NaN() << qint64(0) << qint64(-1)
@@ -272,7 +229,6 @@ void TestPlotMath::clockLines_data()
     QTest::addColumn<qint64>("stride");
 
     // Lines whose label could still show end 1135 pixels right of the left edge.
-    QTest::newRow("from the start") << 0 << 1 << 1 << 100 << qint64(1) << qint64(11) << qint64(1);
     QTest::newRow("the last pixel counts") << 0 << 1 << 1 << 1134 << qint64(1) << qint64(1) << qint64(1);
     QTest::newRow("one more does not") << 0 << 1 << 1 << 1135 << qint64(1) << qint64(0) << qint64(1);
     QTest::newRow("scrolled onto a line") << 200 << 1 << 1 << 100 << qint64(3) << qint64(13) << qint64(1);
@@ -303,7 +259,6 @@ void TestPlotMath::decimals_data()
 
     QTest::newRow("1") << 1.0 << 3;
     QTest::newRow("over 1") << 1.01 << 2;
-    QTest::newRow("10") << 10.0 << 2;
     QTest::newRow("100") << 100.0 << 1;
     QTest::newRow("over 100") << 100.5 << 0;
 }
@@ -323,8 +278,6 @@ void TestPlotMath::timeLabels_data()
     QTest::newRow("1000") << qint64(1000) << QStringLiteral("1000ms");
     QTest::newRow("1001") << qint64(1001) << QStringLiteral("1.001s");
     QTest::newRow("1500") << qint64(1500) << QStringLiteral("1.5s");
-    QTest::newRow("2000") << qint64(2000) << QStringLiteral("2s");
-    QTest::newRow("100000") << qint64(100000) << QStringLiteral("100s");
     QTest::newRow("1000000") << qint64(1000000) << QStringLiteral("1000s");
     QTest::newRow("1000001") << qint64(1000001) << QStringLiteral("1.000001Ts");
     QTest::newRow("negative") << qint64(-1500) << QStringLiteral("-1500ms");
