@@ -265,10 +265,12 @@ void TestProjects::quit()
     bench.prompts->answers = {QMessageBox::StandardButton(answer)};
     bench.prompts->saveNames = {saveName};
     bool ranOn = false;
-    QTimer::singleShot(0, &bench.view, &View::close); // is a wish to quit
-    QTimer::singleShot(100, &bench.view, [&] {
-        ranOn = true;
-        QCoreApplication::quit();
+    QTimer::singleShot(0, &bench.view, [&] {
+        bench.view.close(); // is a wish to quit
+        QTimer::singleShot(100, &bench.view, [&] {
+            ranOn = true;
+            QCoreApplication::quit();
+        });
     });
     bench.view.show();
     QCoreApplication::exec();

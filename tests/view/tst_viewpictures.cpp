@@ -204,7 +204,7 @@ void TestViewPictures::nothingIsClipped()
         QString::fromLatin1(QTest::currentDataTag()).remove(QLatin1Char(' ')) + QStringLiteral("-%1");
     for (int tab = 0; tab < view.tabs()->count(); ++tab) {
         view.tabs()->setCurrentIndex(tab);
-        QTest::qWait(60);
+        QTest::qWait(150);
         QCOMPARE(view.size(), size);
         keep(view, picture.arg(tab));
         QCOMPARE(clippedText(view.tabs()->widget(tab)), QString());
@@ -212,7 +212,7 @@ void TestViewPictures::nothingIsClipped()
     view.tabs()->setCurrentWidget(view.tabEvaluation());
     for (int page = 1; page < TabEvaluation::kNumPages; ++page) {
         view.tabEvaluation()->showPage(TabEvaluation::Page(page));
-        QTest::qWait(60);
+        QTest::qWait(150);
         keep(view, picture.arg(QStringLiteral("evaluation%1").arg(page)));
         QCOMPARE(clippedText(view.tabEvaluation()), QString());
     }
