@@ -11,7 +11,7 @@ packages=(cmake ninja-build g++ python3 qtbase5-dev qttools5-dev qttools5-dev-to
 packages+=(qt5-image-formats-plugins) # to save pictures as TIFF
 case ${1:-test} in
 run) [ -z "${WAYLAND_DISPLAY:-}" ] || [ -n "${DISPLAY:-}" ] || packages+=(qtwayland5) ;;
-test) packages+=(clang-format libnss-wrapper openssh-server) ;;
+test) packages+=(clang-format libnss-wrapper openssh-server appstream desktop-file-utils libxml2-utils shared-mime-info) ;;
 lint) packages+=(clang-format clang-tidy clazy) ;;
 *) echo "usage: $0 [run|test|lint]" >&2 && exit 2 ;;
 esac

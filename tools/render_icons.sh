@@ -40,3 +40,20 @@ pictures=resources/flags
 for flag in "$drawings"/flags/*.svg; do
     render "$flag" "$(basename "$flag" .svg)" 36
 done
+
+# What a desktop shows for the program and its files. Small sizes have drawings of their own with fewer, wider lines.
+desktop=packaging/icons/hicolor
+# for_desktop DRAWING KIND NAME
+for_desktop() {
+    local size drawing
+    for size in 16 22 24 32 48 64 128 256 512; do
+        drawing=$drawings/$1.svg
+        [ "$size" -gt 24 ] || drawing=$drawings/$1-small.svg
+        mkdir -p "$desktop/${size}x$size/$2"
+        rsvg-convert --width "$size" --height "$size" "$drawing" -o "$desktop/${size}x$size/$2/$3.png"
+    done
+    mkdir -p "$desktop/scalable/$2"
+    cp "$drawings/$1.svg" "$desktop/scalable/$2/$3.svg"
+}
+for_desktop ventaro apps ventaro
+for_desktop project-file mimetypes application-x-ventaro-project
