@@ -89,6 +89,8 @@ void Controller::connectTabs()
     QObject::connect(oszi, &TabOszilloscope::markerChangedRelative, this, &Controller::onTabOszi_markerChangedRelative);
     QObject::connect(oszi, &TabOszilloscope::checkBoxMarkerAbsClicked, this,
                      &Controller::onTabOszi_checkBoxMarkerAbsClicked);
+    QObject::connect(oszi, &TabOszilloscope::offsetEdited, this, &Controller::onTabOszi_offsetEdited);
+    QObject::connect(oszi, &TabOszilloscope::rangeEdited, this, &Controller::onTabOszi_rangeEdited);
     QObject::connect(oszi, &TabOszilloscope::samplingPeriodChosen, this, &Controller::onTabOszi_samplingPeriodChosen);
 
     const TabBlackBox *blackBox = d->view->tabBlackBox();

@@ -78,6 +78,8 @@ public slots:
     void onTabOszi_markerChangedAbsolute(int index, int pos_ms);
     void onTabOszi_markerChangedRelative(int index, int pos_ms);
     void onTabOszi_checkBoxMarkerAbsClicked(bool absolute);
+    void onTabOszi_offsetEdited(int position, double offset);
+    void onTabOszi_rangeEdited();
     void onTabOszi_samplingPeriodChosen(const QString &label);
     void onTabBlackBox_listClicked();
     void onTabBlackBox_importClicked(const QStringList &files);

@@ -8,6 +8,8 @@
 
 #include <QApplication>
 
+#include <algorithm>
+
 namespace {
 
 // How often to look whether something that makes lines or questions wait is over.
@@ -16,6 +18,20 @@ constexpr int kRetryInterval = 20;
 constexpr int kProjectSettled = 100;
 // A list block that never ends must not fill the memory.
 constexpr int kMaxListEntries = 100000;
+
+/// True if a project file would hold the same of both.
+bool isSavedAlike(const SensorDescription &a, const SensorDescription &b)
+{
+    if (a.numSensorGroups() == 0 || b.numSensorGroups() == 0)
+        return a.numSensorGroups() == b.numSensorGroups();
+    const SensorGroup &left = a.sensorGroup(0);
+    const SensorGroup &right = b.sensorGroup(0);
+    bool alike = left.numSensors() == right.numSensors();
+    for (int i = 0; alike && i < std::min(kNumSensors, left.numSensors()); ++i)
+        alike = left.sensorName(i) == right.sensorName(i) && left.sensorMinimum(i) == right.sensorMinimum(i)
+                && left.sensorMaximum(i) == right.sensorMaximum(i);
+    return alike;
+}
 
 } // namespace
 
@@ -140,6 +156,9 @@ void Controller::handleSensorDescription(const QString &message)
     SensorDescription description = before;
     applySensorDescription(parseSensorDescription(message), description);
     d->model->blockSignals(false);
+    // A project without a file or any edit holds nothing to lose: connecting alone must not lead to questions.
+    if (!d->model->currentFile().isEmpty() && !isSavedAlike(before, description))
+        markModified();
     d->model->setSensorDescription(description);
     d->sensorDescription = description;
     qCDebug(lcController) << "emit Model::projectChanged()";

@@ -54,6 +54,7 @@ void Controller::onNewProject()
     qCDebug(lcController) << Q_FUNC_INFO;
     if (refuseWhileOccupied())
         return;
+    d->view->commitInput();
     if (d->model->isProjectModified()) {
         const bool save = d->prompt([this] { return d->view->askToSave(); });
         if (save && !saveUnsavedChanges())
@@ -83,6 +84,7 @@ void Controller::onOpenProject()
     qCDebug(lcController) << Q_FUNC_INFO;
     if (refuseWhileOccupied())
         return;
+    d->view->commitInput();
     const QString fileName = d->prompt([this] { return d->view->askOpenFile(tr("Projekt öffnen"), projectFilter()); });
     if (fileName.isEmpty()) {
         qCDebug(lcController) << " filename is empty!";
@@ -120,6 +122,7 @@ void Controller::onSaveProject()
     d->fileSaved = false;
     if (refuseWhileOccupied())
         return;
+    d->view->commitInput();
     const QString fileName = d->model->currentFile();
     if (fileName.isEmpty())
         onSaveProjectAs();
@@ -133,6 +136,7 @@ void Controller::onSaveProjectAs()
     d->fileSaved = false;
     if (refuseWhileOccupied())
         return;
+    d->view->commitInput();
     const QString fileName = askProjectFileToSave();
     if (!fileName.isEmpty())
         d->fileSaved = saveTo(fileName);
@@ -190,7 +194,10 @@ void Controller::showDeviceState()
 void Controller::onActionQuit()
 {
     qCDebug(lcController) << Q_FUNC_INFO;
-    if (refuseWhileOccupied() || !confirmQuit())
+    if (refuseWhileOccupied())
+        return;
+    d->view->commitInput();
+    if (!confirmQuit())
         return;
     d->connector.stopMeasurement();
     d->model->endRecording();

@@ -73,9 +73,11 @@ void Controller::beginMeasurement()
     d->model->emitDataChanged();
 }
 
+/// Where every change of the project that the user or the box makes ends up, but for the settings of the evaluation.
 void Controller::markModified()
 {
-    if (!d->model->isProjectModified())
+    // Once is enough for all samples of a recording; but a file that is being written does not hold this change.
+    if (!d->model->isProjectModified() || d->model->isBusy())
         d->model->setProjectModifiedFlag(true);
 }
 
@@ -239,4 +241,19 @@ void Controller::onTabOszi_checkBoxMarkerAbsClicked(bool absolute)
     qCDebug(lcController) << Q_FUNC_INFO;
     Model *model = d->model;
     applyEdit([model, absolute] { model->setMarkersAbsolute(absolute); });
+}
+
+// --- Offsets and ranges ----------------------------------------------------------------------------------------
+
+void Controller::onTabOszi_offsetEdited(int position, double offset)
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    Model *model = d->model;
+    applyEdit([model, position, offset] { model->setOffset(position, offset); });
+}
+
+void Controller::onTabOszi_rangeEdited()
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    markModified();
 }

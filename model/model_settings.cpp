@@ -123,7 +123,6 @@ void Model::setOsziMinimum(int sensor, double value)
     if (!isIndex(sensor, m_osziMinimum.size(), Q_FUNC_INFO))
         return;
     m_osziMinimum[at(sensor)] = finiteOrZero(value);
-    ++m_changes;
 }
 
 void Model::setOsziMaximum(int sensor, double value)
@@ -131,7 +130,6 @@ void Model::setOsziMaximum(int sensor, double value)
     if (!isIndex(sensor, m_osziMaximum.size(), Q_FUNC_INFO))
         return;
     m_osziMaximum[at(sensor)] = finiteOrZero(value);
-    ++m_changes;
 }
 
 void Model::setProjectData(const ProjectData &data)

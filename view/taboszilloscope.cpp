@@ -120,14 +120,6 @@ void TabOszilloscope::Private::storeSpan(const OsziRow *row)
     model->setOsziMaximum(position, row->span().maximum);
 }
 
-void TabOszilloscope::Private::storeOffset(int position, double offset)
-{
-    if (!model)
-        return;
-    model->setProjectModifiedFlag(true);
-    model->setOffset(position, offset);
-}
-
 int TabOszilloscope::Private::rowOf(const QObject *sender, OsziDoubleSpinBox *(OsziRow::*box)() const) const
 {
     for (int position = 0; position < kNumSensors; ++position) {
@@ -142,16 +134,20 @@ void TabOszilloscope::onSpinBoxMaxValueChanged(double maxValue)
 {
     qCDebug(lcView).nospace() << Q_FUNC_INFO << " maxValue=" << maxValue;
     const int position = d->rowOf(sender(), &OsziRow::maxBox);
-    if (position >= 0 && d->model)
-        d->model->setOsziMaximum(position, row(position)->maxValue());
+    if (position < 0 || !d->model)
+        return;
+    d->model->setOsziMaximum(position, row(position)->maxValue());
+    emit rangeEdited();
 }
 
 void TabOszilloscope::onSpinBoxMinValueChanged(double minValue)
 {
     qCDebug(lcView).nospace() << Q_FUNC_INFO << " maxValue=" << minValue;
     const int position = d->rowOf(sender(), &OsziRow::minBox);
-    if (position >= 0 && d->model)
-        d->model->setOsziMinimum(position, row(position)->minValue());
+    if (position < 0 || !d->model)
+        return;
+    d->model->setOsziMinimum(position, row(position)->minValue());
+    emit rangeEdited();
 }
 
 void TabOszilloscope::setMaximumSensorRange(int group, int sensor, double min, double max)

@@ -37,6 +37,8 @@ public:
     void setSamplingPeriods(const QStringList &labels);
     /// Colour of a marker's line and button; invalid for an index outside 0 to 3.
     [[nodiscard]] static QColor markerColor(int index);
+    /// The marker that ends a phase, 0 to 4; for the last one, which has no end, the marker at which it begins.
+    [[nodiscard]] static int markerOfPhase(int phase);
     /// Limits of a row's range boxes / the range shown, kept in the model as well. Only group 0 exists; ends that are
     /// not in order are ignored.
     void setMaximumSensorRange(int group, int sensor, double min, double max);
@@ -50,6 +52,11 @@ signals:
     void markerChangedRelative(int index, int pos_ms);
     void checkBoxMarkerAbsClicked(bool absolute);
     void deleteMeasurements(const QString &range);
+    /// The user moved the curves of a row, 0 to 4, in its box.
+    void offsetEdited(int position, double offset);
+    /// The user gave a row another range in its boxes, which is in the model by now. Wheel, pointer and keys in the
+    /// plot only look around: they are silent.
+    void rangeEdited();
     /// The user wants this sampling period; the tab goes on showing the one in force until setClock().
     void samplingPeriodChosen(const QString &label);
 

@@ -28,6 +28,11 @@ QColor TabOszilloscope::markerColor(int index)
     return index >= 0 && index < Model::kNumMarkers ? markerColors().at(static_cast<size_t>(index)) : QColor();
 }
 
+int TabOszilloscope::markerOfPhase(int phase)
+{
+    return std::clamp(phase, 0, Model::kNumMarkers - 1);
+}
+
 // --- From the user ---
 
 void TabOszilloscope::onMarkerChanged(double seconds)
@@ -114,14 +119,16 @@ void TabOszilloscope::Private::showMarkers()
         const int sample = model ? model->verticalMarker(i) : 0;
         const int shown = markerAbsolute->isChecked() ? sample : sample - previous;
         markers.at(static_cast<size_t>(i)).seconds->showValue(osziaxes::toMilliseconds(shown, clock) / 1000.0);
-        for (const OsziRow *row : rows)
-            row->plot()->setVerticalMarker(i, osziaxes::toMilliseconds(sample, clock), markerColor(i));
         previous = sample;
     }
-    // A fifth marker on top of the fourth: the last phase has no end, its name stands right of the last marker.
-    for (const OsziRow *row : rows)
-        row->plot()->setVerticalMarker(Model::kNumMarkers, osziaxes::toMilliseconds(previous, clock),
-                                       markerColor(Model::kNumMarkers - 1));
+    // A plot shows a phase at the marker that ends it: the last one gets another marker on top of the fourth, and its
+    // name stands right of that.
+    for (int phase = 0; phase < Model::kNumPhases; ++phase) {
+        const int marker = markerOfPhase(phase);
+        const int sample = model ? model->verticalMarker(marker) : 0;
+        for (const OsziRow *row : rows)
+            row->plot()->setVerticalMarker(phase, osziaxes::toMilliseconds(sample, clock), markerColor(marker));
+    }
 }
 
 void TabOszilloscope::Private::showPhaseNames()

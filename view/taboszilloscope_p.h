@@ -116,7 +116,6 @@ struct TabOszilloscope::Private
     // --- Model (taboszilloscope.cpp) ---
     void applyViewData();
     void storeSpan(const OsziRow *row);
-    void storeOffset(int position, double offset);
     [[nodiscard]] int rowOf(const QObject *sender, OsziDoubleSpinBox *(OsziRow::*box)() const) const;
 
     TabOszilloscope *q;

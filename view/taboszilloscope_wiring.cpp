@@ -1,5 +1,6 @@
 #include "plots/osziwidget.h"
 #include "view/actionicon.h"
+#include "view/logging.h"
 #include "view/oszirowcontrols.h"
 #include "view/oszirowinput.h"
 #include "view/taboszilloscope_p.h"
@@ -22,7 +23,10 @@ void TabOszilloscope::Private::connectRow(int position)
     OsziWidget *plot = row->plot();
     connect(row->maxBox(), changed, q, &TabOszilloscope::onSpinBoxMaxValueChanged);
     connect(row->minBox(), changed, q, &TabOszilloscope::onSpinBoxMinValueChanged);
-    connect(row->offsetBox(), changed, q, [this, position](double offset) { storeOffset(position, offset); });
+    connect(row->offsetBox(), changed, q, [this, position](double offset) {
+        qCDebug(lcView) << "emit offsetEdited(int, double)";
+        emit q->offsetEdited(position, offset);
+    });
     connect(clockGridAuto, &QCheckBox::toggled, plot, &OsziWidget::setClockGridAuto);
     connect(clockGrid, qOverload<int>(&QSpinBox::valueChanged), plot, &OsziWidget::setClockGrid);
     connect(plot, &OsziWidget::clockGridChanged, clockGrid, &OsziSpinBox::showValue);

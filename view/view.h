@@ -89,6 +89,8 @@ public:
     void addStatusWidget(QWidget *widget);
     void setDeviceAddress(const QString &address);
     void writeSettings();
+    /// Takes over what is being typed into a field that waits for the end of the input.
+    void commitInput();
 
     // --- Live text of terminal and data logger; both cheap enough for every line ---
     void terminalReceived(const QString &line);

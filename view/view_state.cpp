@@ -13,9 +13,11 @@
 #include "view/viewprivate.h"
 
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QAction>
 #include <QFileInfo>
 #include <QLabel>
+#include <QPointer>
 
 #include <array>
 
@@ -246,10 +248,25 @@ void View::Private::refreshFileLabel()
         fileLabel->setToolTip(file);
 }
 
+void View::commitInput()
+{
+    qCDebug(lcView) << Q_FUNC_INFO;
+    QPointer<QWidget> field = focusWidget();
+    if (auto *box = qobject_cast<QAbstractSpinBox *>(field.data()))
+        box->interpretText();
+    if (!field || !field->hasFocus())
+        return;
+    // Fields, and editors in tables, take over their text when they lose the focus.
+    field->clearFocus();
+    if (field)
+        field->setFocus(Qt::OtherFocusReason);
+}
+
 void View::resetCorrection()
 {
     qCDebug(lcView) << Q_FUNC_INFO;
     d->model->resetOffsets();
+    d->model->setProjectModifiedFlag(true);
 }
 
 void View::buttonLockPressed()

@@ -12,6 +12,7 @@ struct OsziBench
     OsziBench()
     {
         tab.setModel(&model);
+        QObject::connect(&tab, &TabOszilloscope::offsetEdited, &model, &Model::setOffset);
         tab.resize(1080, 640);
         tab.show();
         QCoreApplication::processEvents();
