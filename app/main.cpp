@@ -6,8 +6,7 @@
 
 int main(int argc, char *argv[])
 {
-    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    followScreenScale();
     QApplication application(argc, argv);
     prepareApplication(application);
     if (!checkCopyProtection())

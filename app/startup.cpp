@@ -56,8 +56,16 @@ void installKitTheme()
     QtMaterialStyle::instance().setTheme(std::move(kitTheme));
 }
 
+void followScreenScale()
+{
+    QGuiApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+}
+
 void prepareApplication(QApplication &application)
 {
+    QGuiApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QGuiApplication::setDesktopFileName(QStringLiteral("de.tarnwald.ventaro")); // finds the icon under Wayland
     // The built-in texts are German, and so are the numbers beside them, whatever the computer speaks.
     QLocale::setDefault(QLocale(QLocale::German));
     loadFonts();

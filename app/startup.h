@@ -10,6 +10,10 @@ class QSplashScreen;
 
 constexpr std::chrono::milliseconds kSplashTime{3000};
 
+/// Lets windows follow the scale of their screen, fractions such as 150 % included. Only before the application object
+/// is created.
+void followScreenScale();
+
 /// Gives the application its look, before any widget exists: fonts, the Fusion style, the style sheet, the kit's theme
 /// and the German texts of Qt's own dialogs. Also what a test or a demonstration calls to look like the program.
 void prepareApplication(QApplication &application);

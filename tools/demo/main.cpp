@@ -58,6 +58,7 @@ int main(int argc, char **argv)
     const QTemporaryDir settings; // leaves the user's own alone
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    followScreenScale();
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
     if (arguments.size() != 2 || !QDir().mkpath(arguments.at(1))) {
