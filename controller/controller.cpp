@@ -65,6 +65,7 @@ void Controller::connectUserActions()
 {
     QObject::connect(d->view, &View::newProject, this, &Controller::onNewProject);
     QObject::connect(d->view, &View::openProject, this, &Controller::onOpenProject);
+    QObject::connect(d->view, &View::openProjectFile, this, &Controller::onOpenProjectFile);
     QObject::connect(d->view, &View::saveProject, this, &Controller::onSaveProject);
     QObject::connect(d->view, &View::saveProjectAs, this, &Controller::onSaveProjectAs);
     QObject::connect(d->view, &View::importBlackBox, this, &Controller::onImportBlackBox);

@@ -61,6 +61,8 @@ public:
 public slots:
     void onNewProject();
     void onOpenProject();
+    /// The file was named without a dialog; unsaved changes are asked about all the same.
+    void onOpenProjectFile(const QString &fileName);
     void onSaveProject();
     void onSaveProjectAs();
     void onImportBlackBox();
@@ -154,6 +156,8 @@ private:
     [[nodiscard]] bool saveUnsavedChanges();
     [[nodiscard]] bool saveTo(const QString &fileName);
     [[nodiscard]] bool confirmQuit();
+    /// Opens the file after the question about unsaved changes.
+    void replaceProject(const QString &fileName);
     void openFile(const QString &fileName);
     void showDeviceState();
     [[nodiscard]] QString askProjectFileToSave();

@@ -90,6 +90,18 @@ void Controller::onOpenProject()
         qCDebug(lcController) << " filename is empty!";
         return;
     }
+    replaceProject(fileName);
+}
+
+void Controller::onOpenProjectFile(const QString &fileName)
+{
+    qCDebug(lcController) << Q_FUNC_INFO << fileName;
+    if (!refuseWhileOccupied())
+        replaceProject(fileName);
+}
+
+void Controller::replaceProject(const QString &fileName)
+{
     if (d->model->isProjectModified() && d->prompt([this] { return d->view->askToSave(); }) && !saveUnsavedChanges())
         return;
     openFile(fileName);

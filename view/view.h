@@ -124,6 +124,8 @@ signals:
     void imageButtonClicked();
     void imageLabelClicked();
     void offsetChanged(double offset);
+    /// The user named a project file to open otherwise than in a dialog, for example dropped it onto the window.
+    void openProjectFile(const QString &fileName);
     /// The user gave up an attempt to connect.
     void progressCancelled();
     /// The user chose a language in the menu (two-letter code); it is in use.

@@ -3,6 +3,7 @@
 #include "view/connectionprogress.h"
 #include "view/dialogprompts.h"
 #include "view/logging.h"
+#include "view/projectdrop.h"
 #include "view/sidetabs.h"
 #include "view/tabblackbox.h"
 #include "view/tabdatalogger.h"
@@ -71,6 +72,7 @@ void View::Private::createWindow()
     createStatusBar();
     createTimers();
     progress = new ConnectionProgress(q);
+    QObject::connect(new ProjectDrop(q), &ProjectDrop::dropped, q, &View::openProjectFile);
 }
 
 void View::Private::createToolBar()

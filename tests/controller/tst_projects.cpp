@@ -141,6 +141,8 @@ void TestProjects::openWithUnsavedChanges_data()
     QTest::newRow("Speichern") << int(QMessageBox::Save) << path(QStringLiteral("kept.vnt")) << true;
     QTest::newRow("Speichern, cancelled") << int(QMessageBox::Save) << QString() << false;
     QTest::newRow("Verwerfen") << int(QMessageBox::Discard) << QString() << true;
+    QTest::newRow("dropped file, cancelled") << int(QMessageBox::Save) << QString() << false;
+    QTest::newRow("dropped file") << int(QMessageBox::Discard) << QString() << true;
 }
 
 void TestProjects::openWithUnsavedChanges()
@@ -155,7 +157,10 @@ void TestProjects::openWithUnsavedChanges()
     bench.prompts->openNames = {file};
     bench.prompts->saveNames = {saveName};
     bench.prompts->answers = {QMessageBox::StandardButton(answer)};
-    emit bench.view.openProject();
+    if (QByteArray(QTest::currentDataTag()).startsWith("dropped"))
+        emit bench.view.openProjectFile(file);
+    else
+        emit bench.view.openProject();
     QCOMPARE(bench.shots(), opened ? 0 : 2);
     QCOMPARE(bench.model.currentFile(), opened ? file : QString());
     QCOMPARE(bench.prompts->questions.size(), std::size_t(1));
