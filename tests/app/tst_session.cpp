@@ -1,5 +1,7 @@
 #include "app/session.h"
 #include "app/startup.h"
+#include "tests/support/literals.h"
+#include "tests/support/rows.h"
 #include "view/view.h"
 
 #include <QApplication>
@@ -59,50 +61,46 @@ class TestSession : public QObject
 
 private slots:
     void initTestCase() { prepareApplication(*qApp); }
-    void exitStatusIsAlwaysZero();
-    void closingTheWindowDoesNotEndTheProgram();
-    void connectsAtOnceOnlyOnRequest_data();
-    void connectsAtOnceOnlyOnRequest();
+
+    void exitStatusIsAlwaysZero()
+    {
+        bool shown = false;
+        QCOMPARE(runWith({}, 3, [&shown](const View *view) { shown = view != nullptr; }), 0);
+        QVERIFY(shown);
+    }
+
+    void closingTheWindowDoesNotEndTheProgram()
+    {
+        bool stillRunning = false;
+        (void)runWith({}, 0, [&stillRunning](View *view) {
+            QTimer::singleShot(150, view, [&stillRunning] { stillRunning = true; });
+            view->close(); // whatever it asks is answered with "no"
+            view->hide();  // as a window manager may do, so that no window is left
+            QTRY_VERIFY(stillRunning);
+        });
+        QVERIFY(stillRunning);
+    }
+
+    void connectsAtOnceOnlyOnRequest_data()
+    {
+        columns<bool>("connectAtOnce");
+        row("by the user", false);
+        row("at once", true);
+    }
+
+    void connectsAtOnceOnlyOnRequest()
+    {
+        QFETCH(bool, connectAtOnce);
+        QTcpServer box;
+        QVERIFY(box.listen(QHostAddress::LocalHost));
+        SessionOptions options;
+        options.controller.deviceAddress = "127.0.0.1"_s;
+        options.controller.port = box.serverPort();
+        options.connectAtOnce = connectAtOnce;
+        (void)runWith(options, 0, [&box](View *) { (void)box.waitForNewConnection(200); });
+        QCOMPARE(box.hasPendingConnections(), connectAtOnce);
+    }
 };
-
-void TestSession::exitStatusIsAlwaysZero()
-{
-    bool shown = false;
-    QCOMPARE(runWith({}, 3, [&shown](const View *view) { shown = view != nullptr; }), 0);
-    QVERIFY(shown);
-}
-
-void TestSession::closingTheWindowDoesNotEndTheProgram()
-{
-    bool stillRunning = false;
-    (void)runWith({}, 0, [&stillRunning](View *view) {
-        QTimer::singleShot(150, view, [&stillRunning] { stillRunning = true; });
-        view->close(); // whatever it asks is answered with "no"
-        view->hide();  // as a window manager may do, so that no window is left
-        QTRY_VERIFY(stillRunning);
-    });
-    QVERIFY(stillRunning);
-}
-
-void TestSession::connectsAtOnceOnlyOnRequest_data()
-{
-    QTest::addColumn<bool>("connectAtOnce");
-    QTest::newRow("by the user") << false;
-    QTest::newRow("at once") << true;
-}
-
-void TestSession::connectsAtOnceOnlyOnRequest()
-{
-    QFETCH(bool, connectAtOnce);
-    QTcpServer box;
-    QVERIFY(box.listen(QHostAddress::LocalHost));
-    SessionOptions options;
-    options.controller.deviceAddress = QStringLiteral("127.0.0.1");
-    options.controller.port = box.serverPort();
-    options.connectAtOnce = connectAtOnce;
-    (void)runWith(options, 0, [&box](View *) { (void)box.waitForNewConnection(200); });
-    QCOMPARE(box.hasPendingConnections(), connectAtOnce);
-}
 
 QTEST_MAIN(TestSession)
 

@@ -1,5 +1,7 @@
 #include "app/startup.h"
 #include "app/theme.h"
+#include "tests/support/literals.h"
+#include "tests/support/rows.h"
 
 #include <QApplication>
 #include <QFontDatabase>
@@ -12,73 +14,62 @@ class TestStartup : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void fontsComeFromTheResources_data();
-    void fontsComeFromTheResources();
-    void projectPathNeedsExactlyOneArgument_data();
-    void projectPathNeedsExactlyOneArgument();
-    void deviceAddressPrefersTheEnvironment_data();
-    void deviceAddressPrefersTheEnvironment();
+    void initTestCase()
+    {
+        QVERIFY(!QFontDatabase().families().contains("Roboto"_s));
+        prepareApplication(*qApp);
+    }
+
+    void fontsComeFromTheResources_data()
+    {
+        columns<int, QString>("weight", "style");
+        row("regular", int(QFont::Normal), "Regular");
+        row("medium", int(QFont::Medium), "Medium");
+        row("bold", int(QFont::Bold), "Bold");
+    }
+
+    void fontsComeFromTheResources()
+    {
+        QFETCH(int, weight);
+        QFETCH(QString, style);
+        const QFontInfo found(QFont("Roboto"_s, 12, weight));
+        QCOMPARE(found.family(), "Roboto"_s);
+        QCOMPARE(found.weight(), weight);
+        QVERIFY(QFontDatabase().styles("Roboto"_s).contains(style));
+    }
+
+    void projectPathNeedsExactlyOneArgument_data()
+    {
+        columns<QStringList, QString>("arguments", "path");
+        const QString program = "ventaro"_s;
+        const QString file = "a file.vnt"_s;
+        row("none", QStringList{program}, QString());
+        row("one", QStringList{program, file}, file);
+        row("two", QStringList{program, file, file}, QString());
+    }
+
+    void projectPathNeedsExactlyOneArgument()
+    {
+        QFETCH(QStringList, arguments);
+        QTEST(projectPath(arguments), "path");
+    }
+
+    void deviceAddressPrefersTheEnvironment_data()
+    {
+        columns<QByteArray, QString>("environment", "address");
+        row("not set", QByteArray(), theme::defaultDeviceAddress);
+        row("blank", " "_ba, theme::defaultDeviceAddress);
+        row("set", "127.0.0.1 "_ba, "127.0.0.1");
+    }
+
+    void deviceAddressPrefersTheEnvironment()
+    {
+        QFETCH(QByteArray, environment);
+        qputenv("VENTARO_DEVICE_ADDRESS", environment);
+        QTEST(theme::deviceAddress(), "address");
+        qunsetenv("VENTARO_DEVICE_ADDRESS");
+    }
 };
-
-void TestStartup::initTestCase()
-{
-    QVERIFY(!QFontDatabase().families().contains(QStringLiteral("Roboto")));
-    prepareApplication(*qApp);
-}
-
-void TestStartup::fontsComeFromTheResources_data()
-{
-    QTest::addColumn<int>("weight");
-    QTest::addColumn<QString>("style");
-    QTest::newRow("regular") << int(QFont::Normal) << QStringLiteral("Regular");
-    QTest::newRow("medium") << int(QFont::Medium) << QStringLiteral("Medium");
-    QTest::newRow("bold") << int(QFont::Bold) << QStringLiteral("Bold");
-}
-
-void TestStartup::fontsComeFromTheResources()
-{
-    QFETCH(int, weight);
-    QFETCH(QString, style);
-    const QFontInfo found(QFont(QStringLiteral("Roboto"), 12, weight));
-    QCOMPARE(found.family(), QStringLiteral("Roboto"));
-    QCOMPARE(found.weight(), weight);
-    QVERIFY(QFontDatabase().styles(QStringLiteral("Roboto")).contains(style));
-}
-
-void TestStartup::projectPathNeedsExactlyOneArgument_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("path");
-    const QString program = QStringLiteral("ventaro");
-    const QString file = QStringLiteral("a file.vnt");
-    QTest::newRow("none") << QStringList{program} << QString();
-    QTest::newRow("one") << QStringList{program, file} << file;
-    QTest::newRow("two") << QStringList{program, file, file} << QString();
-}
-
-void TestStartup::projectPathNeedsExactlyOneArgument()
-{
-    QFETCH(QStringList, arguments);
-    QTEST(projectPath(arguments), "path");
-}
-
-void TestStartup::deviceAddressPrefersTheEnvironment_data()
-{
-    QTest::addColumn<QByteArray>("environment");
-    QTest::addColumn<QString>("address");
-    QTest::newRow("not set") << QByteArray() << theme::defaultDeviceAddress;
-    QTest::newRow("blank") << QByteArray(" ") << theme::defaultDeviceAddress;
-    QTest::newRow("set") << QByteArray("127.0.0.1 ") << QStringLiteral("127.0.0.1");
-}
-
-void TestStartup::deviceAddressPrefersTheEnvironment()
-{
-    QFETCH(QByteArray, environment);
-    qputenv("VENTARO_DEVICE_ADDRESS", environment);
-    QTEST(theme::deviceAddress(), "address");
-    qunsetenv("VENTARO_DEVICE_ADDRESS");
-}
 
 int main(int argc, char *argv[])
 {

@@ -4,12 +4,13 @@
 
 #include "device/mesotraconnector.h"
 #include "simulator/boxsimulator.h"
+#include "tests/support/literals.h"
 
 /// Short waits, and the port of a box on this machine.
 inline ControllerOptions optionsFor(quint16 port)
 {
     ControllerOptions options;
-    options.deviceAddress = QStringLiteral("127.0.0.1");
+    options.deviceAddress = "127.0.0.1"_s;
     options.port = port;
     options.deviceDescriptionTimeout = 100;
     options.sensorDescriptionTimeout = 150;
@@ -38,7 +39,7 @@ struct Rig
     {
         if (!connectToBox())
             return false;
-        emit bench.view.terminalSend(QStringLiteral("t=5"));
+        emit bench.view.terminalSend("t=5"_s);
         return QTest::qWaitFor([this] { return bench.model.clock() == 5; });
     }
 

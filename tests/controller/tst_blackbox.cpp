@@ -1,5 +1,7 @@
 #include "bench.h"
 
+#include "tests/support/literals.h"
+#include "tests/support/rows.h"
 #include "view/tabblackbox.h"
 
 #include <QDir>
@@ -25,7 +27,7 @@ struct Files
     {
         const QByteArray value = QByteArray::number(number);
         const QByteArray line = "A=[" + value + ',' + value + ',' + value + ',' + value + ',' + value + "]\n";
-        return write(QStringLiteral("%1.bb").arg(number, 6, 10, QLatin1Char('0')), line.repeated(samples));
+        return write("%1.bb"_s.arg(number, 6, 10, QLatin1Char('0')), line.repeated(samples));
     }
     [[nodiscard]] QStringList writeShots(int count)
     {
@@ -45,7 +47,7 @@ void import(Bench &bench, const QStringList &files)
 
 QString result(const Bench &bench)
 {
-    return bench.view.tabBlackBox()->findChild<QLabel *>(QStringLiteral("labelResult"))->text();
+    return bench.view.tabBlackBox()->findChild<QLabel *>("labelResult"_s)->text();
 }
 
 } // namespace
@@ -55,145 +57,133 @@ class TestBlackBox : public QObject
     Q_OBJECT
 
 private slots:
-    void tellsWhatWasLeftOut_data();
-    void tellsWhatWasLeftOut();
-    void asksBeforeRepeating_data();
-    void asksBeforeRepeating();
-    void refusesWhileRecording();
-    void linesWaitMeanwhile();
-    void nothingElseStartsMeanwhile();
-    void manyFiles();
-};
+    void tellsWhatWasLeftOut_data()
+    {
+        columns<QByteArray, QString>("bytes", "text");
+        const QByteArray line = "A=[1,2,3,4,5]\n";
+        row("nothing", line, "1 Messung importiert");
+        row("three lines", line + "x\nA=[1]\nA=\n", "1 Messung importiert, 3 Zeilen übersprungen");
+        row("values", "A=[a,b,c,d,5]\nx"_ba,
+            "1 Messung importiert, 1 Zeile übersprungen, "
+            "4 Werte waren nicht lesbar und sind jetzt 0");
+        row("empty", QByteArray(), "0 Messungen importiert");
+    }
 
-void TestBlackBox::tellsWhatWasLeftOut_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("text");
-    const QByteArray line = "A=[1,2,3,4,5]\n";
-    QTest::newRow("nothing") << line << QStringLiteral("1 Messung importiert");
-    QTest::newRow("three lines") << line + "x\nA=[1]\nA=\n"
-                                 << QStringLiteral("1 Messung importiert, 3 Zeilen übersprungen");
-    QTest::newRow("values") << QByteArray("A=[a,b,c,d,5]\nx")
-                            << QStringLiteral("1 Messung importiert, 1 Zeile übersprungen, "
-                                              "4 Werte waren nicht lesbar und sind jetzt 0");
-    QTest::newRow("empty") << QByteArray() << QStringLiteral("0 Messungen importiert");
-}
+    void tellsWhatWasLeftOut()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, text);
+        Files files;
+        Bench bench;
+        const QString good = files.write("a.bb"_s, bytes);
+        import(bench, {good});
+        QCOMPARE(result(bench), text);
+        QCOMPARE(bench.view.statusBar()->currentMessage(), text);
+        QVERIFY(bench.prompts->messages.empty());
+        import(bench, {files.folder.filePath("missing.bb"_s), files.folder.path()});
+        QCOMPARE(result(bench), "0 Messungen importiert, 2 Dateien nicht lesbar"_s);
+        QCOMPARE(bench.prompts->warnings.size(), std::size_t(1));
+        QVERIFY(bench.prompts->warnings[0].text.contains("missing.bb"_s));
+    }
 
-void TestBlackBox::tellsWhatWasLeftOut()
-{
-    QFETCH(QByteArray, bytes);
-    QFETCH(QString, text);
-    Files files;
-    Bench bench;
-    const QString good = files.write(QStringLiteral("a.bb"), bytes);
-    import(bench, {good});
-    QCOMPARE(result(bench), text);
-    QCOMPARE(bench.view.statusBar()->currentMessage(), text);
-    QVERIFY(bench.prompts->messages.empty());
-    import(bench, {files.folder.filePath(QStringLiteral("missing.bb")), files.folder.path()});
-    QCOMPARE(result(bench), QStringLiteral("0 Messungen importiert, 2 Dateien nicht lesbar"));
-    QCOMPARE(bench.prompts->warnings.size(), std::size_t(1));
-    QVERIFY(bench.prompts->warnings[0].text.contains(QStringLiteral("missing.bb")));
-}
+    void asksBeforeRepeating_data()
+    {
+        columns<int, int>("answer", "shots");
+        row("again", int(QMessageBox::Yes), 5);
+        row("new ones only", int(QMessageBox::No), 3);
+    }
 
-void TestBlackBox::asksBeforeRepeating_data()
-{
-    QTest::addColumn<int>("answer");
-    QTest::addColumn<int>("shots");
-    QTest::newRow("again") << int(QMessageBox::Yes) << 5;
-    QTest::newRow("new ones only") << int(QMessageBox::No) << 3;
-}
-
-void TestBlackBox::asksBeforeRepeating()
-{
-    QFETCH(int, answer);
-    QFETCH(int, shots);
-    Files files;
-    const QStringList names = files.writeShots(3);
-    Bench bench;
-    import(bench, names.mid(0, 2));
-    QVERIFY(bench.prompts->questions.empty());
-    bench.prompts->answers = {QMessageBox::StandardButton(answer)};
-    import(bench, names);
-    QCOMPARE(bench.prompts->questions.size(), std::size_t(1));
-    QVERIFY(bench.prompts->questions[0].text.startsWith(QLatin1String("2 der Dateien")));
-    QCOMPARE(bench.shots(), shots);
-    QCOMPARE(bench.firstSamples().last(), 3.0);
-}
-
-void TestBlackBox::refusesWhileRecording()
-{
-    Files files;
-    Bench bench;
-    bench.say("run=1");
-    import(bench, files.writeShots(2));
-    QCOMPARE(bench.shots(), 1);
-    QCOMPARE(bench.prompts->messages.size(), std::size_t(1));
-    bench.say("0;7;7;7;7;7");
-    bench.say("run=0");
-    QCOMPARE(bench.samples(2, 0), QVector<double>{7.0});
-    import(bench, files.writeShots(2));
-    QCOMPARE(bench.firstSamples(), (QVector<double>{7.0, 1.0, 2.0}));
-}
-
-/// A run that the box starts while files are being read begins behind them.
-void TestBlackBox::linesWaitMeanwhile()
-{
-    Files files;
-    Bench bench;
-    bool started = false;
-    QObject::connect(&bench.model, &Model::dataChanged, &bench.model, [&] {
-        if (std::exchange(started, true))
-            return;
-        bench.say("run=1");
-        bench.say("0;9;9;9;9;9");
-    });
-    import(bench, files.writeShots(3));
-    QTRY_COMPARE(bench.firstSamples(), (QVector<double>{1.0, 2.0, 3.0, 9.0}));
-    QVERIFY(bench.controller.isRecordingRunning());
-}
-
-void TestBlackBox::nothingElseStartsMeanwhile()
-{
-    Files files;
-    const QStringList names = files.writeShots(4);
-    Bench bench;
-    int turns = 0;
-    QSignalSpy quit(QCoreApplication::instance(), &QCoreApplication::aboutToQuit);
-    QObject::connect(&bench.model, &Model::dataChanged, &bench.model, [&] {
-        ++turns;
-        emit bench.view.newProject();
-        emit bench.view.openProject();
-        emit bench.view.saveProject();
-        emit bench.view.quit();
-        emit bench.view.tabOszi()->deleteMeasurements(QStringLiteral("1"));
+    void asksBeforeRepeating()
+    {
+        QFETCH(int, answer);
+        QFETCH(int, shots);
+        Files files;
+        const QStringList names = files.writeShots(3);
+        Bench bench;
+        import(bench, names.mid(0, 2));
+        QVERIFY(bench.prompts->questions.empty());
+        bench.prompts->answers = {QMessageBox::StandardButton(answer)};
         import(bench, names);
-    });
-    import(bench, names);
-    QCOMPARE(turns, 4);
-    QCOMPARE(bench.firstSamples(), (QVector<double>{1.0, 2.0, 3.0, 4.0}));
-    QVERIFY(bench.prompts->questions.empty() && bench.prompts->fileDialogs.isEmpty());
-    QVERIFY(quit.isEmpty());
-}
+        QCOMPARE(bench.prompts->questions.size(), std::size_t(1));
+        QVERIFY(bench.prompts->questions[0].text.startsWith("2 der Dateien"_s));
+        QCOMPARE(bench.shots(), shots);
+        QCOMPARE(bench.firstSamples().last(), 3.0);
+    }
 
-void TestBlackBox::manyFiles()
-{
-    Files files;
-    const QStringList names = files.writeShots(300);
-    Bench bench;
-    bench.view.show();
-    auto *progress = bench.view.tabBlackBox()->findChild<QLabel *>(QStringLiteral("labelProgress"));
-    QStringList shown;
-    QObject::connect(&bench.model, &Model::dataChanged, &bench.model, [&] { shown << progress->text(); });
-    bool turned = false;
-    QTimer::singleShot(0, &bench.view, [&] { turned = shown.size() < names.size(); });
-    import(bench, names);
-    QVERIFY(turned); // the event loop, before the end
-    QCOMPARE(shown.value(3), QStringLiteral("3 von 300"));
-    QVERIFY(progress->text().isEmpty());
-    QCOMPARE(bench.shots(), 300);
-    QVERIFY(!bench.view.findChild<QProgressBar *>()->isVisible());
-}
+    void refusesWhileRecording()
+    {
+        Files files;
+        Bench bench;
+        bench.say("run=1");
+        import(bench, files.writeShots(2));
+        QCOMPARE(bench.shots(), 1);
+        QCOMPARE(bench.prompts->messages.size(), std::size_t(1));
+        bench.say("0;7;7;7;7;7");
+        bench.say("run=0");
+        QCOMPARE(bench.samples(2, 0), QVector<double>{7.0});
+        import(bench, files.writeShots(2));
+        QCOMPARE(bench.firstSamples(), (QVector<double>{7.0, 1.0, 2.0}));
+    }
+
+    /// A run that the box starts while files are being read begins behind them.
+    void linesWaitMeanwhile()
+    {
+        Files files;
+        Bench bench;
+        bool started = false;
+        QObject::connect(&bench.model, &Model::dataChanged, &bench.model, [&] {
+            if (std::exchange(started, true))
+                return;
+            bench.say("run=1");
+            bench.say("0;9;9;9;9;9");
+        });
+        import(bench, files.writeShots(3));
+        QTRY_COMPARE(bench.firstSamples(), (QVector<double>{1.0, 2.0, 3.0, 9.0}));
+        QVERIFY(bench.controller.isRecordingRunning());
+    }
+
+    void nothingElseStartsMeanwhile()
+    {
+        Files files;
+        const QStringList names = files.writeShots(4);
+        Bench bench;
+        int turns = 0;
+        QSignalSpy quit(QCoreApplication::instance(), &QCoreApplication::aboutToQuit);
+        QObject::connect(&bench.model, &Model::dataChanged, &bench.model, [&] {
+            ++turns;
+            emit bench.view.newProject();
+            emit bench.view.openProject();
+            emit bench.view.saveProject();
+            emit bench.view.quit();
+            emit bench.view.tabOszi()->deleteMeasurements("1"_s);
+            import(bench, names);
+        });
+        import(bench, names);
+        QCOMPARE(turns, 4);
+        QCOMPARE(bench.firstSamples(), (QVector<double>{1.0, 2.0, 3.0, 4.0}));
+        QVERIFY(bench.prompts->questions.empty() && bench.prompts->fileDialogs.isEmpty());
+        QVERIFY(quit.isEmpty());
+    }
+
+    void manyFiles()
+    {
+        Files files;
+        const QStringList names = files.writeShots(300);
+        Bench bench;
+        bench.view.show();
+        auto *progress = bench.view.tabBlackBox()->findChild<QLabel *>("labelProgress"_s);
+        QStringList shown;
+        QObject::connect(&bench.model, &Model::dataChanged, &bench.model, [&] { shown << progress->text(); });
+        bool turned = false;
+        QTimer::singleShot(0, &bench.view, [&] { turned = shown.size() < names.size(); });
+        import(bench, names);
+        QVERIFY(turned); // the event loop, before the end
+        QCOMPARE(shown.value(3), "3 von 300"_s);
+        QVERIFY(progress->text().isEmpty());
+        QCOMPARE(bench.shots(), 300);
+        QVERIFY(!bench.view.findChild<QProgressBar *>()->isVisible());
+    }
+};
 
 QTEST_MAIN(TestBlackBox)
 #include "tst_blackbox.moc"

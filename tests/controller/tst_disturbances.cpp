@@ -1,4 +1,6 @@
 #include "rig.h"
+#include "tests/support/literals.h"
+#include "tests/support/rows.h"
 
 #include <QTemporaryDir>
 
@@ -7,15 +9,126 @@ class TestDisturbances : public QObject
     Q_OBJECT
 
 private slots:
-    void linkLost_data();
-    void linkLost();
-    void linkLostDuringProjectQuestion();
-    void refusedThenAnotherAddress();
-    void attemptGivenUp_data();
-    void attemptGivenUp();
-    void misbehaviour_data();
-    void misbehaviour();
-    void lineFeedThatNeverComes();
+    void linkLost_data()
+    {
+        columns<QByteArray>("state");
+        for (const char *state : {"idle", "recording", "calibrating", "deleting", "saving", "quitting"})
+            row(state, QByteArray(state));
+    }
+
+    void linkLost()
+    {
+        QFETCH(QByteArray, state);
+        Rig rig;
+        QVERIFY(rig.connectQuickly());
+        QVERIFY(rig.start());
+        QTRY_VERIFY(rig.sent.size() > 3);
+        loseLinkWhile(state, rig);
+        QTRY_VERIFY(!rig.bench.model.isConnected());
+        QVERIFY2(state == "calibrating" || rig.allArrived(), "every sample that was sent is kept");
+        expectRecovery(rig);
+    }
+
+    void linkLostDuringProjectQuestion()
+    {
+        BoxOptions options;
+        options.sendsProjectDescription = true;
+        Rig rig(options);
+        rig.bench.prompts->answers = {QMessageBox::Yes};
+        rig.bench.prompts->whileOpen = [&] {
+            rig.box.dropLink();
+            QTest::qWait(60);
+        };
+        QVERIFY(rig.connectToBox());
+        expectRecovery(rig);
+        QVERIFY(!rig.bench.model.projectData().name.isEmpty());
+    }
+
+    void refusedThenAnotherAddress()
+    {
+        Rig rig;
+        rig.box.reboot(); // for a while nobody listens
+        rig.bench.prompts->addresses = {"127.0.0.1"_s, QString()};
+        emit rig.bench.view.connectDisconnect();
+        QTRY_COMPARE(rig.bench.prompts->addressDialogs, 2);
+        QCOMPARE(rig.bench.prompts->messages.size(), std::size_t(2));
+        QCOMPARE(rig.bench.prompts->mostOpenAtOnce, 1);
+        QVERIFY(!rig.bench.view.isProgressShown());
+    }
+
+    void attemptGivenUp_data()
+    {
+        columns<QByteArray>("how");
+        for (const char *how : {"cancelled", "new project", "quit"})
+            row(how, QByteArray(how));
+    }
+
+    void attemptGivenUp()
+    {
+        QFETCH(QByteArray, how);
+        Rig rig;
+        rig.bench.recordShots(1);
+        rig.bench.prompts->answers = {QMessageBox::Discard};
+        emit rig.bench.view.connectDisconnect();
+        if (how == "cancelled")
+            emit rig.bench.view.progressCancelled();
+        else if (how == "quit")
+            emit rig.bench.view.quit();
+        else
+            emit rig.bench.view.newProject();
+        QVERIFY(!rig.bench.view.isProgressShown());
+        QTest::qWait(100);
+        QVERIFY(!rig.bench.model.isConnected());
+        QCOMPARE(rig.bench.prompts->addressDialogs, 0);
+        emit rig.bench.view.connectDisconnect();
+        emit rig.bench.view.startStopRecording(); // too early: must not take effect when the link comes up
+        QTRY_VERIFY(rig.bench.model.isConnected() && !rig.isWaitingForDescriptions());
+        QCOMPARE(rig.box.receivedCommands().first(), "t=100"_s);
+        QVERIFY(!rig.box.isRunning());
+    }
+
+    void misbehaviour_data()
+    {
+        columns<QByteArray>("kind");
+        for (const char *kind : {"none", "undescribed", "garbage", "long lines", "burst"})
+            row(kind, QByteArray(kind));
+    }
+
+    void misbehaviour()
+    {
+        QFETCH(QByteArray, kind);
+        BoxOptions options;
+        options.describesSensors = kind != "undescribed";
+        options.garbage = kind == "garbage";
+        options.longLines = kind == "long lines";
+        options.burst = kind == "burst" ? 20000 : 0;
+        Rig rig(options);
+        QVERIFY(rig.connectQuickly());
+        QCOMPARE(rig.bench.controller.areValuesInThousandths(), kind == "undescribed");
+        QVERIFY(rig.start());
+        QTRY_VERIFY(rig.sent.size() > 40 + options.burst);
+        emit rig.bench.view.startStopRecording();
+        QTRY_VERIFY(!rig.bench.controller.isRecordingRunning());
+        QTRY_VERIFY(rig.allArrived(kind == "undescribed" ? 1000.0 : 1.0));
+        QCOMPARE(rig.bench.shots(), 1);
+        QVERIFY(rig.bench.prompts->messages.empty());
+    }
+
+    void lineFeedThatNeverComes()
+    {
+        Rig rig;
+        QVERIFY(rig.connectQuickly());
+        QVERIFY(rig.start());
+        QTRY_VERIFY(rig.sent.size() > 2);
+        BoxOptions mute;
+        mute.silent = true; // a sample line behind it would end the line before a slow program has looked
+        rig.box.setOptions(mute);
+        (void)rig.box.sendRaw(QByteArray(2 * 1024 * 1024, 'x')); // may be cut off by the program hanging up
+        QTRY_COMPARE(rig.bench.prompts->addressDialogs, 1);
+        QVERIFY(!rig.bench.model.isConnected());
+        QVERIFY(!rig.bench.controller.isRecordingRunning());
+        QVERIFY(rig.bench.samples(0, 0).size() > 2);
+    }
 
 private:
     void loseLinkWhile(const QByteArray &state, Rig &rig);
@@ -23,13 +136,6 @@ private:
 
     QTemporaryDir m_folder;
 };
-
-void TestDisturbances::linkLost_data()
-{
-    QTest::addColumn<QByteArray>("state");
-    for (const char *state : {"idle", "recording", "calibrating", "deleting", "saving", "quitting"})
-        QTest::newRow(state) << QByteArray(state);
-}
 
 /// Brings the program into a state and drops the link there.
 void TestDisturbances::loseLinkWhile(const QByteArray &state, Rig &rig)
@@ -48,7 +154,7 @@ void TestDisturbances::loseLinkWhile(const QByteArray &state, Rig &rig)
         return;
     }
     if (state == "saving") {
-        bench.prompts->saveNames = {m_folder.filePath(QStringLiteral("lost.vnt"))};
+        bench.prompts->saveNames = {m_folder.filePath("lost.vnt"_s)};
         bench.model.setYield([dropOnce](int) mutable { dropOnce(); });
         emit bench.view.saveProject();
         return;
@@ -58,7 +164,7 @@ void TestDisturbances::loseLinkWhile(const QByteArray &state, Rig &rig)
     if (state == "calibrating")
         emit bench.view.calibrate();
     else if (state == "deleting")
-        emit bench.view.tabOszi()->deleteMeasurements(QStringLiteral("1"));
+        emit bench.view.tabOszi()->deleteMeasurements("1"_s);
     else
         emit bench.view.quit();
 }
@@ -71,8 +177,7 @@ void TestDisturbances::expectRecovery(Rig &rig)
     QVERIFY(!bench.model.isConnected());
     QVERIFY(!bench.controller.isRecordingRunning());
     const auto lost = std::count_if(bench.prompts->messages.begin(), bench.prompts->messages.end(), [](const auto &m) {
-        return m.text == QLatin1String("Die Mesotra Hardware ist nicht mehr erreichbar.")
-               && m.title == QLatin1String("Netzwerk Fehler");
+        return m.text == "Die Mesotra Hardware ist nicht mehr erreichbar."_s && m.title == "Netzwerk Fehler"_s;
     });
     QCOMPARE(lost, 1);
     QCOMPARE(bench.prompts->mostOpenAtOnce, 1);
@@ -84,120 +189,6 @@ void TestDisturbances::expectRecovery(Rig &rig)
     QVERIFY(rig.recordShot(3));
     QCOMPARE(bench.shots(), shots + 1);
     QCOMPARE(bench.prompts->addressDialogs, 1);
-}
-
-void TestDisturbances::linkLost()
-{
-    QFETCH(QByteArray, state);
-    Rig rig;
-    QVERIFY(rig.connectQuickly());
-    QVERIFY(rig.start());
-    QTRY_VERIFY(rig.sent.size() > 3);
-    loseLinkWhile(state, rig);
-    QTRY_VERIFY(!rig.bench.model.isConnected());
-    QVERIFY2(state == "calibrating" || rig.allArrived(), "every sample that was sent is kept");
-    expectRecovery(rig);
-}
-
-void TestDisturbances::linkLostDuringProjectQuestion()
-{
-    BoxOptions options;
-    options.sendsProjectDescription = true;
-    Rig rig(options);
-    rig.bench.prompts->answers = {QMessageBox::Yes};
-    rig.bench.prompts->whileOpen = [&] {
-        rig.box.dropLink();
-        QTest::qWait(60);
-    };
-    QVERIFY(rig.connectToBox());
-    expectRecovery(rig);
-    QVERIFY(!rig.bench.model.projectData().name.isEmpty());
-}
-
-void TestDisturbances::refusedThenAnotherAddress()
-{
-    Rig rig;
-    rig.box.reboot(); // for a while nobody listens
-    rig.bench.prompts->addresses = {QStringLiteral("127.0.0.1"), QString()};
-    emit rig.bench.view.connectDisconnect();
-    QTRY_COMPARE(rig.bench.prompts->addressDialogs, 2);
-    QCOMPARE(rig.bench.prompts->messages.size(), std::size_t(2));
-    QCOMPARE(rig.bench.prompts->mostOpenAtOnce, 1);
-    QVERIFY(!rig.bench.view.isProgressShown());
-}
-
-void TestDisturbances::attemptGivenUp_data()
-{
-    QTest::addColumn<QByteArray>("how");
-    for (const char *how : {"cancelled", "new project", "quit"})
-        QTest::newRow(how) << QByteArray(how);
-}
-
-void TestDisturbances::attemptGivenUp()
-{
-    QFETCH(QByteArray, how);
-    Rig rig;
-    rig.bench.recordShots(1);
-    rig.bench.prompts->answers = {QMessageBox::Discard};
-    emit rig.bench.view.connectDisconnect();
-    if (how == "cancelled")
-        emit rig.bench.view.progressCancelled();
-    else if (how == "quit")
-        emit rig.bench.view.quit();
-    else
-        emit rig.bench.view.newProject();
-    QVERIFY(!rig.bench.view.isProgressShown());
-    QTest::qWait(100);
-    QVERIFY(!rig.bench.model.isConnected());
-    QCOMPARE(rig.bench.prompts->addressDialogs, 0);
-    emit rig.bench.view.connectDisconnect();
-    emit rig.bench.view.startStopRecording(); // too early: must not take effect when the link comes up
-    QTRY_VERIFY(rig.bench.model.isConnected() && !rig.isWaitingForDescriptions());
-    QCOMPARE(rig.box.receivedCommands().first(), QStringLiteral("t=100"));
-    QVERIFY(!rig.box.isRunning());
-}
-
-void TestDisturbances::misbehaviour_data()
-{
-    QTest::addColumn<QByteArray>("kind");
-    for (const char *kind : {"none", "undescribed", "garbage", "long lines", "burst"})
-        QTest::newRow(kind) << QByteArray(kind);
-}
-
-void TestDisturbances::misbehaviour()
-{
-    QFETCH(QByteArray, kind);
-    BoxOptions options;
-    options.describesSensors = kind != "undescribed";
-    options.garbage = kind == "garbage";
-    options.longLines = kind == "long lines";
-    options.burst = kind == "burst" ? 20000 : 0;
-    Rig rig(options);
-    QVERIFY(rig.connectQuickly());
-    QCOMPARE(rig.bench.controller.areValuesInThousandths(), kind == "undescribed");
-    QVERIFY(rig.start());
-    QTRY_VERIFY(rig.sent.size() > 40 + options.burst);
-    emit rig.bench.view.startStopRecording();
-    QTRY_VERIFY(!rig.bench.controller.isRecordingRunning());
-    QTRY_VERIFY(rig.allArrived(kind == "undescribed" ? 1000.0 : 1.0));
-    QCOMPARE(rig.bench.shots(), 1);
-    QVERIFY(rig.bench.prompts->messages.empty());
-}
-
-void TestDisturbances::lineFeedThatNeverComes()
-{
-    Rig rig;
-    QVERIFY(rig.connectQuickly());
-    QVERIFY(rig.start());
-    QTRY_VERIFY(rig.sent.size() > 2);
-    BoxOptions mute;
-    mute.silent = true; // a sample line behind it would end the line before a slow program has looked
-    rig.box.setOptions(mute);
-    (void)rig.box.sendRaw(QByteArray(2 * 1024 * 1024, 'x')); // may be cut off by the program hanging up
-    QTRY_COMPARE(rig.bench.prompts->addressDialogs, 1);
-    QVERIFY(!rig.bench.model.isConnected());
-    QVERIFY(!rig.bench.controller.isRecordingRunning());
-    QVERIFY(rig.bench.samples(0, 0).size() > 2);
 }
 
 QTEST_MAIN(TestDisturbances)

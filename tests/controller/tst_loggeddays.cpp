@@ -2,6 +2,7 @@
 
 #include "app/theme.h"
 #include "simulator/datalogger.h"
+#include "tests/support/literals.h"
 #include "tests/support/sshserver.h"
 #include "view/tabblackbox.h"
 
@@ -32,8 +33,55 @@ class TestLoggedDays : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void threeDaysAreListedFetchedImportedAndShown();
+    void initTestCase()
+    {
+        const QString missing = SshServer::whatIsMissing();
+        if (!missing.isEmpty())
+            QSKIP(qPrintable(missing));
+        QVERIFY(m_server.start());
+        qputenv("VENTARO_SCP_PORT", QByteArray::number(m_server.port()));
+        logDays();
+    }
+
+    void threeDaysAreListedFetchedImportedAndShown()
+    {
+        BoxOptions boxOptions;
+        boxOptions.dataFolder = m_server.stick().filePath("data"_s);
+        BoxSimulator box(boxOptions);
+        QVERIFY(box.listen());
+        const QTemporaryDir folder;
+        ControllerOptions options = optionsFor(box.port());
+        options.scpToolFile = QStringLiteral(VENTARO_SCP_BRIDGE);
+        options.temporaryDirectory = folder.filePath("with blank/tmp-blackbox-dir"_s);
+        Bench bench(options);
+        bench.view.resize(1280, 800);
+        bench.view.show();
+        emit bench.view.connectDisconnect();
+        QTRY_VERIFY(bench.model.isConnected());
+
+        TabBlackBox *tab = bench.view.tabBlackBox();
+        const auto click = [tab](const char *name) { tab->findChild<QPushButton *>(QLatin1String(name))->click(); };
+        click("buttonList");
+        QTRY_COMPARE(tab->list().size(), kDays);
+        click("buttonSelectAll");
+        QCOMPARE(tab->selectedDates(), (QStringList{"07.03.2024"_s, "06.03.2024"_s, "05.03.2024"_s}));
+        click("buttonFetch");
+        QVERIFY(bench.prompts->messages.empty());
+        QCOMPARE(tab->selectedFiles().size(), kDays * kShotsADay);
+        click("buttonImport");
+        QVERIFY(bench.prompts->messages.empty());
+
+        QCOMPARE(bench.shots(), kDays * kShotsADay);
+        for (int shot = 0; shot < bench.shots(); ++shot) {
+            for (int sensor = 0; sensor < kNumSensors; ++sensor) {
+                QVector<double> expected;
+                for (int sample = 0; sample < samplesOf(shot); ++sample)
+                    expected.append(valueOf(shot, sample, sensor));
+                QCOMPARE(bench.samples(sensor, shot), expected);
+            }
+        }
+        QVERIFY(bench.slotsMatchModel());
+    }
 
 private:
     void logDays() const;
@@ -41,20 +89,10 @@ private:
     SshServer m_server{theme::deviceUser, theme::devicePassword};
 };
 
-void TestLoggedDays::initTestCase()
-{
-    const QString missing = SshServer::whatIsMissing();
-    if (!missing.isEmpty())
-        QSKIP(qPrintable(missing));
-    QVERIFY(m_server.start());
-    qputenv("VENTARO_SCP_PORT", QByteArray::number(m_server.port()));
-    logDays();
-}
-
 void TestLoggedDays::logDays() const
 {
     DataLogger logger;
-    logger.setFolder(m_server.stick().filePath(QStringLiteral("data")));
+    logger.setFolder(m_server.stick().filePath("data"_s));
     for (int shot = 0; shot < kDays * kShotsADay; ++shot) {
         const QDateTime time({2024, 3, 5 + shot / kShotsADay}, {8 + shot % kShotsADay, 0});
         logger.begin(time, 100);
@@ -66,47 +104,6 @@ void TestLoggedDays::logDays() const
         }
         logger.end();
     }
-}
-
-void TestLoggedDays::threeDaysAreListedFetchedImportedAndShown()
-{
-    BoxOptions boxOptions;
-    boxOptions.dataFolder = m_server.stick().filePath(QStringLiteral("data"));
-    BoxSimulator box(boxOptions);
-    QVERIFY(box.listen());
-    const QTemporaryDir folder;
-    ControllerOptions options = optionsFor(box.port());
-    options.scpToolFile = QStringLiteral(VENTARO_SCP_BRIDGE);
-    options.temporaryDirectory = folder.filePath(QStringLiteral("with blank/tmp-blackbox-dir"));
-    Bench bench(options);
-    bench.view.resize(1280, 800);
-    bench.view.show();
-    emit bench.view.connectDisconnect();
-    QTRY_VERIFY(bench.model.isConnected());
-
-    TabBlackBox *tab = bench.view.tabBlackBox();
-    const auto click = [tab](const char *name) { tab->findChild<QPushButton *>(QLatin1String(name))->click(); };
-    click("buttonList");
-    QTRY_COMPARE(tab->list().size(), kDays);
-    click("buttonSelectAll");
-    QCOMPARE(tab->selectedDates(),
-             (QStringList{QStringLiteral("07.03.2024"), QStringLiteral("06.03.2024"), QStringLiteral("05.03.2024")}));
-    click("buttonFetch");
-    QVERIFY(bench.prompts->messages.empty());
-    QCOMPARE(tab->selectedFiles().size(), kDays * kShotsADay);
-    click("buttonImport");
-    QVERIFY(bench.prompts->messages.empty());
-
-    QCOMPARE(bench.shots(), kDays * kShotsADay);
-    for (int shot = 0; shot < bench.shots(); ++shot) {
-        for (int sensor = 0; sensor < kNumSensors; ++sensor) {
-            QVector<double> expected;
-            for (int sample = 0; sample < samplesOf(shot); ++sample)
-                expected.append(valueOf(shot, sample, sensor));
-            QCOMPARE(bench.samples(sensor, shot), expected);
-        }
-    }
-    QVERIFY(bench.slotsMatchModel());
 }
 
 QTEST_MAIN(TestLoggedDays)

@@ -1,5 +1,6 @@
 #include "rig.h"
 
+#include "tests/support/literals.h"
 #include "view/tabproject.h"
 
 #include <QComboBox>
@@ -61,37 +62,144 @@ class TestSession : public QObject
     Q_OBJECT
 
 private slots:
-    void connectingDescribesTheBox();
-    void fromBoxToProjectAndBack();
-    void disconnectStopsTheBox();
-    void boxAndProjectStayMatched();
-    void independentBox();
+    void connectingDescribesTheBox()
+    {
+        Rig rig;
+        QVERIFY(rig.isListening);
+        QSignalSpy appState(&rig.bench.model, &Model::appStateChanged);
+        emit rig.bench.view.connectDisconnect();
+        QVERIFY(rig.bench.view.isProgressShown());
+        QTRY_VERIFY(rig.bench.model.isConnected());
+        QVERIFY(!rig.bench.view.isProgressShown());
+        QVERIFY(!appState.isEmpty());
+        QTRY_VERIFY(!rig.isWaitingForDescriptions());
+        QCOMPARE(rig.box.receivedCommands(), (QStringList{"t=100"_s, "deviceDescription"_s, "sensorDescription"_s}));
+        QCOMPARE(rig.bench.model.clock(), 100);
+        QVERIFY(!rig.bench.model.hardwareVersion().isEmpty());
+        QTest::qWait(200); // both waits are over
+        QVERIFY(!rig.bench.controller.areValuesInThousandths());
+        QVERIFY(rig.bench.prompts->messages.empty());
+    }
+
+    void fromBoxToProjectAndBack()
+    {
+        const QString file = m_folder.filePath("Tag.vnt"_s);
+        Rig rig;
+        Bench &bench = rig.bench;
+        bench.view.show();
+        QVERIFY(rig.connectQuickly());
+        emit bench.view.terminalSend("t=1"_s);
+        QTRY_COMPARE(bench.model.clock(), 1);
+        for (int shot = 0; shot < 3; ++shot)
+            QVERIFY(rig.recordShot(40));
+        QCOMPARE(bench.shots(), 3);
+
+        bench.prompts->answers = {QMessageBox::Yes};
+        emit bench.view.tabOszi()->deleteMeasurements("2"_s);
+        QCOMPARE(bench.shots(), 2);
+        QVERIFY(rig.allArrived()); // in what is now shot 2
+        emit bench.view.tabOszi()->markerChangedAbsolute(2, 17);
+        emit bench.view.tabProject()->phaseEditChanged(1, "Füllen <ß>"_s);
+        QPixmap picture(20, 10);
+        picture.fill(Qt::darkCyan);
+        bench.model.setImage(2, picture);
+        bench.model.setComment("Größe \"7\"\n\tZeile 2"_s);
+        bench.prompts->whileOpen = [&] { QTest::qWait(30); };
+        emit bench.view.calibrate();
+
+        bench.prompts->saveNames = {file};
+        emit bench.view.saveProject();
+        QVERIFY(!bench.model.isProjectModified());
+        const Snapshot before(bench.model);
+        emit bench.view.newProject();
+        QCOMPARE(bench.shots(), 0);
+        bench.prompts->openNames = {file};
+        emit bench.view.openProject();
+        expectSame(Snapshot(bench.model), before);
+        QVERIFY(bench.slotsMatchModel());
+        QCOMPARE(bench.prompts->unexpected, 0);
+    }
+
+    void disconnectStopsTheBox()
+    {
+        Rig rig;
+        QVERIFY(rig.connectToBox());
+        QVERIFY(rig.start());
+        QTRY_VERIFY(rig.sent.size() > 2);
+        emit rig.bench.view.connectDisconnect();
+        QVERIFY(!rig.bench.controller.isRecordingRunning());
+        QVERIFY(!rig.bench.model.isConnected());
+        QTRY_COMPARE(rig.box.receivedCommands().last(), "run=0"_s);
+        QTRY_VERIFY(!rig.box.hasClient());
+        QVERIFY(rig.bench.prompts->messages.empty());
+        QCOMPARE(rig.bench.prompts->addressDialogs, 0);
+        QVERIFY(rig.bench.samples(0, 0).size() > 0);
+    }
+
+    /// The user chooses the period of the project; a new one brings its own, which the box takes, and keeps the
+    /// sensors.
+    void boxAndProjectStayMatched()
+    {
+        Rig rig;
+        Bench &bench = rig.bench;
+        auto *periods = bench.view.findChild<QComboBox *>("comboBoxClock"_s);
+        QVERIFY(periods && periods->count() == 11 && !periods->isEnabled());
+        QVERIFY(rig.connectToBox());
+        QVERIFY(periods->isEnabled());
+        const auto choose = [&](const char *text) {
+            periods->setCurrentText(QLatin1String(text));
+            emit periods->activated(periods->currentIndex());
+        };
+        choose("5 ms");
+        QTRY_COMPARE(bench.model.clock(), 5);
+        QCOMPARE(periods->currentText(), "5 ms"_s);
+        QVERIFY(rig.start());
+        choose("1 ms"); // refused
+        QVERIFY(rig.stopAfter(3));
+        bench.prompts->answers = {QMessageBox::No, QMessageBox::Yes};
+        choose("20 ms");
+        QCOMPARE(periods->currentText(), "5 ms"_s);
+        choose("10 ms");
+        QTRY_COMPARE(bench.model.clock(), 10);
+        QCOMPARE(rig.box.receivedCommands().filter("t="_s), (QStringList{"t=100"_s, "t=5"_s, "t=10"_s}));
+        bench.model.setProjectModifiedFlag(false);
+        emit bench.view.newProject();
+        QTRY_COMPARE(rig.box.receivedCommands().constLast(), "t=100"_s);
+        QVERIFY(!bench.model.sensorDescription().sensorGroup(0).sensorName(0).isEmpty()); // the box is still the same
+        QVERIFY(!bench.model.hardwareVersion().isEmpty() && !bench.model.isProjectModified());
+    }
+
+    void independentBox()
+    {
+        QProcess box;
+        box.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        box.start("python3"_s, {QStringLiteral(VENTARO_INDEPENDENT_BOX), "--port"_s, "0"_s, "--period"_s, "5"_s});
+        while (!box.canReadLine())
+            QVERIFY2(box.waitForReadyRead(10000), "the box says which port it listens on");
+        const quint16 port = box.readLine().trimmed().split(' ').last().toUShort();
+        QVERIFY(port != 0);
+        Bench bench(optionsFor(port));
+        emit bench.view.connectDisconnect();
+        QTRY_VERIFY(bench.model.isConnected());
+        QTRY_VERIFY(!bench.model.sensorDescription().sensorGroup(0).sensorName(0).isEmpty());
+        for (int shot = 0; shot < 2; ++shot) {
+            emit bench.view.startStopRecording();
+            QTRY_COMPARE(bench.shots(), shot + 1);
+            QTRY_VERIFY(bench.samples(4, shot).size() >= 20);
+            emit bench.view.startStopRecording();
+            QTRY_VERIFY(!bench.controller.isRecordingRunning());
+        }
+        box.kill();
+        QTRY_VERIFY(!bench.model.isConnected());
+        box.waitForFinished(5000);
+        QCOMPARE(bench.shots(), 2);
+    }
 
 private:
     static void expectSame(const Snapshot &after, const Snapshot &before);
 
     QTemporaryDir m_folder;
 };
-
-void TestSession::connectingDescribesTheBox()
-{
-    Rig rig;
-    QVERIFY(rig.isListening);
-    QSignalSpy appState(&rig.bench.model, &Model::appStateChanged);
-    emit rig.bench.view.connectDisconnect();
-    QVERIFY(rig.bench.view.isProgressShown());
-    QTRY_VERIFY(rig.bench.model.isConnected());
-    QVERIFY(!rig.bench.view.isProgressShown());
-    QVERIFY(!appState.isEmpty());
-    QTRY_VERIFY(!rig.isWaitingForDescriptions());
-    QCOMPARE(rig.box.receivedCommands(), (QStringList{QStringLiteral("t=100"), QStringLiteral("deviceDescription"),
-                                                      QStringLiteral("sensorDescription")}));
-    QCOMPARE(rig.bench.model.clock(), 100);
-    QVERIFY(!rig.bench.model.hardwareVersion().isEmpty());
-    QTest::qWait(200); // both waits are over
-    QVERIFY(!rig.bench.controller.areValuesInThousandths());
-    QVERIFY(rig.bench.prompts->messages.empty());
-}
 
 void TestSession::expectSame(const Snapshot &after, const Snapshot &before)
 {
@@ -106,121 +214,6 @@ void TestSession::expectSame(const Snapshot &after, const Snapshot &before)
     QCOMPARE(after.offsets, before.offsets);
     QCOMPARE(after.markers, before.markers);
     QCOMPARE(after.names, before.names);
-}
-
-void TestSession::fromBoxToProjectAndBack()
-{
-    const QString file = m_folder.filePath(QStringLiteral("Tag.vnt"));
-    Rig rig;
-    Bench &bench = rig.bench;
-    bench.view.show();
-    QVERIFY(rig.connectQuickly());
-    emit bench.view.terminalSend(QStringLiteral("t=1"));
-    QTRY_COMPARE(bench.model.clock(), 1);
-    for (int shot = 0; shot < 3; ++shot)
-        QVERIFY(rig.recordShot(40));
-    QCOMPARE(bench.shots(), 3);
-
-    bench.prompts->answers = {QMessageBox::Yes};
-    emit bench.view.tabOszi()->deleteMeasurements(QStringLiteral("2"));
-    QCOMPARE(bench.shots(), 2);
-    QVERIFY(rig.allArrived()); // in what is now shot 2
-    emit bench.view.tabOszi()->markerChangedAbsolute(2, 17);
-    emit bench.view.tabProject()->phaseEditChanged(1, QStringLiteral("Füllen <ß>"));
-    QPixmap picture(20, 10);
-    picture.fill(Qt::darkCyan);
-    bench.model.setImage(2, picture);
-    bench.model.setComment(QStringLiteral("Größe \"7\"\n\tZeile 2"));
-    bench.prompts->whileOpen = [&] { QTest::qWait(30); };
-    emit bench.view.calibrate();
-
-    bench.prompts->saveNames = {file};
-    emit bench.view.saveProject();
-    QVERIFY(!bench.model.isProjectModified());
-    const Snapshot before(bench.model);
-    emit bench.view.newProject();
-    QCOMPARE(bench.shots(), 0);
-    bench.prompts->openNames = {file};
-    emit bench.view.openProject();
-    expectSame(Snapshot(bench.model), before);
-    QVERIFY(bench.slotsMatchModel());
-    QCOMPARE(bench.prompts->unexpected, 0);
-}
-
-void TestSession::disconnectStopsTheBox()
-{
-    Rig rig;
-    QVERIFY(rig.connectToBox());
-    QVERIFY(rig.start());
-    QTRY_VERIFY(rig.sent.size() > 2);
-    emit rig.bench.view.connectDisconnect();
-    QVERIFY(!rig.bench.controller.isRecordingRunning());
-    QVERIFY(!rig.bench.model.isConnected());
-    QTRY_COMPARE(rig.box.receivedCommands().last(), QStringLiteral("run=0"));
-    QTRY_VERIFY(!rig.box.hasClient());
-    QVERIFY(rig.bench.prompts->messages.empty());
-    QCOMPARE(rig.bench.prompts->addressDialogs, 0);
-    QVERIFY(rig.bench.samples(0, 0).size() > 0);
-}
-
-/// The user chooses the period of the project; a new one brings its own, which the box takes, and keeps the sensors.
-void TestSession::boxAndProjectStayMatched()
-{
-    Rig rig;
-    Bench &bench = rig.bench;
-    auto *periods = bench.view.findChild<QComboBox *>(QStringLiteral("comboBoxClock"));
-    QVERIFY(periods && periods->count() == 11 && !periods->isEnabled());
-    QVERIFY(rig.connectToBox());
-    QVERIFY(periods->isEnabled());
-    const auto choose = [&](const char *text) {
-        periods->setCurrentText(QLatin1String(text));
-        emit periods->activated(periods->currentIndex());
-    };
-    choose("5 ms");
-    QTRY_COMPARE(bench.model.clock(), 5);
-    QCOMPARE(periods->currentText(), QStringLiteral("5 ms"));
-    QVERIFY(rig.start());
-    choose("1 ms"); // refused
-    QVERIFY(rig.stopAfter(3));
-    bench.prompts->answers = {QMessageBox::No, QMessageBox::Yes};
-    choose("20 ms");
-    QCOMPARE(periods->currentText(), QStringLiteral("5 ms"));
-    choose("10 ms");
-    QTRY_COMPARE(bench.model.clock(), 10);
-    QCOMPARE(rig.box.receivedCommands().filter(QStringLiteral("t=")),
-             (QStringList{QStringLiteral("t=100"), QStringLiteral("t=5"), QStringLiteral("t=10")}));
-    bench.model.setProjectModifiedFlag(false);
-    emit bench.view.newProject();
-    QTRY_COMPARE(rig.box.receivedCommands().constLast(), QStringLiteral("t=100"));
-    QVERIFY(!bench.model.sensorDescription().sensorGroup(0).sensorName(0).isEmpty()); // the box is still the same
-    QVERIFY(!bench.model.hardwareVersion().isEmpty() && !bench.model.isProjectModified());
-}
-
-void TestSession::independentBox()
-{
-    QProcess box;
-    box.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    box.start(QStringLiteral("python3"), {QStringLiteral(VENTARO_INDEPENDENT_BOX), QStringLiteral("--port"),
-                                          QStringLiteral("0"), QStringLiteral("--period"), QStringLiteral("5")});
-    while (!box.canReadLine())
-        QVERIFY2(box.waitForReadyRead(10000), "the box says which port it listens on");
-    const quint16 port = box.readLine().trimmed().split(' ').last().toUShort();
-    QVERIFY(port != 0);
-    Bench bench(optionsFor(port));
-    emit bench.view.connectDisconnect();
-    QTRY_VERIFY(bench.model.isConnected());
-    QTRY_VERIFY(!bench.model.sensorDescription().sensorGroup(0).sensorName(0).isEmpty());
-    for (int shot = 0; shot < 2; ++shot) {
-        emit bench.view.startStopRecording();
-        QTRY_COMPARE(bench.shots(), shot + 1);
-        QTRY_VERIFY(bench.samples(4, shot).size() >= 20);
-        emit bench.view.startStopRecording();
-        QTRY_VERIFY(!bench.controller.isRecordingRunning());
-    }
-    box.kill();
-    QTRY_VERIFY(!bench.model.isConnected());
-    box.waitForFinished(5000);
-    QCOMPARE(bench.shots(), 2);
 }
 
 QTEST_MAIN(TestSession)

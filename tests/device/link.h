@@ -1,6 +1,7 @@
 #pragma once
 
 #include "device/mesotraconnector.h"
+#include "tests/support/literals.h"
 
 #include <QStringList>
 #include <QTcpServer>
@@ -19,17 +20,15 @@ public:
     {
         QObject::connect(connector.get(), &MesotraConnector::messageReceived, &context,
                          [this](const QString &message) { record(message); });
-        QObject::connect(connector.get(), &MesotraConnector::connected, &context,
-                         [this] { record(QStringLiteral("[up]")); });
-        QObject::connect(connector.get(), &MesotraConnector::disconnected, &context,
-                         [this] { record(QStringLiteral("[down]")); });
+        QObject::connect(connector.get(), &MesotraConnector::connected, &context, [this] { record("[up]"_s); });
+        QObject::connect(connector.get(), &MesotraConnector::disconnected, &context, [this] { record("[down]"_s); });
         QObject::connect(connector.get(), &MesotraConnector::error, &context,
-                         [this](QAbstractSocket::SocketError e) { record(QStringLiteral("[error %1]").arg(e)); });
+                         [this](QAbstractSocket::SocketError e) { record("[error %1]"_s.arg(e)); });
     }
     ~Link() { connector.reset(); }
     Q_DISABLE_COPY(Link)
 
-    static QString loopback() { return QStringLiteral("127.0.0.1"); }
+    static QString loopback() { return "127.0.0.1"_s; }
     [[nodiscard]] bool open()
     {
         connector->connect(loopback());

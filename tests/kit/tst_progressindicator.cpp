@@ -1,6 +1,7 @@
 #include "kit/progressindicator.h"
 #include "kit/qtmaterialstyle.h"
 #include "kit/qtmaterialtheme.h"
+#include "tests/support/rows.h"
 
 #include <QTest>
 
@@ -26,69 +27,63 @@ class TestProgressIndicator : public QObject
     Q_OBJECT
 
 private slots:
-    void turnsOnlyInSight();
-    void showsPercent_data();
-    void showsPercent();
-    void followsTheTheme();
+    void turnsOnlyInSight()
+    {
+        useTheme(Qt::darkBlue);
+        ProgressIndicator indicator;
+        indicator.startAnimation();
+        QVERIFY(!indicator.isTimerRunning()); // not shown yet
+        indicator.show();
+        QVERIFY(indicator.isTimerRunning());
+        const QImage before = picture(indicator);
+        QTRY_VERIFY(picture(indicator) != before);
+        indicator.hide();
+        QVERIFY(!indicator.isTimerRunning() && indicator.isAnimated());
+        indicator.show();
+        QVERIFY(indicator.isTimerRunning());
+        indicator.setPercent(40);
+        QVERIFY(!indicator.isTimerRunning()); // nothing turns
+        indicator.setPercent(ProgressIndicator::kTurning);
+        QVERIFY(indicator.isTimerRunning());
+        indicator.stopAnimation();
+        QVERIFY(!indicator.isTimerRunning() && !indicator.isAnimated());
+    }
+
+    void showsPercent_data()
+    {
+        columns<int, int>("given", "taken");
+        row("none", 0, 0);
+        row("half", 50, 50);
+        row("too much", 1000, 100);
+        row("negative", -7, int(ProgressIndicator::kTurning));
+    }
+
+    void showsPercent()
+    {
+        QFETCH(int, given);
+        QFETCH(int, taken);
+        useTheme(Qt::darkBlue);
+        ProgressIndicator indicator;
+        indicator.resize(60, 40);
+        const QImage atRest = picture(indicator);
+        indicator.setPercent(given);
+        QCOMPARE(indicator.percent(), taken);
+        QVERIFY(picture(indicator) == atRest);
+        indicator.startAnimation();
+        QVERIFY(picture(indicator) != atRest);
+    }
+
+    void followsTheTheme()
+    {
+        useTheme(Qt::darkBlue);
+        ProgressIndicator indicator;
+        indicator.startAnimation();
+        indicator.setPercent(30);
+        const QImage before = picture(indicator);
+        useTheme(Qt::darkRed);
+        QVERIFY(picture(indicator) != before);
+    }
 };
-
-void TestProgressIndicator::turnsOnlyInSight()
-{
-    useTheme(Qt::darkBlue);
-    ProgressIndicator indicator;
-    indicator.startAnimation();
-    QVERIFY(!indicator.isTimerRunning()); // not shown yet
-    indicator.show();
-    QVERIFY(indicator.isTimerRunning());
-    const QImage before = picture(indicator);
-    QTRY_VERIFY(picture(indicator) != before);
-    indicator.hide();
-    QVERIFY(!indicator.isTimerRunning() && indicator.isAnimated());
-    indicator.show();
-    QVERIFY(indicator.isTimerRunning());
-    indicator.setPercent(40);
-    QVERIFY(!indicator.isTimerRunning()); // nothing turns
-    indicator.setPercent(ProgressIndicator::kTurning);
-    QVERIFY(indicator.isTimerRunning());
-    indicator.stopAnimation();
-    QVERIFY(!indicator.isTimerRunning() && !indicator.isAnimated());
-}
-
-void TestProgressIndicator::showsPercent_data()
-{
-    QTest::addColumn<int>("given");
-    QTest::addColumn<int>("taken");
-    QTest::newRow("none") << 0 << 0;
-    QTest::newRow("half") << 50 << 50;
-    QTest::newRow("too much") << 1000 << 100;
-    QTest::newRow("negative") << -7 << int(ProgressIndicator::kTurning);
-}
-
-void TestProgressIndicator::showsPercent()
-{
-    QFETCH(int, given);
-    QFETCH(int, taken);
-    useTheme(Qt::darkBlue);
-    ProgressIndicator indicator;
-    indicator.resize(60, 40);
-    const QImage atRest = picture(indicator);
-    indicator.setPercent(given);
-    QCOMPARE(indicator.percent(), taken);
-    QVERIFY(picture(indicator) == atRest);
-    indicator.startAnimation();
-    QVERIFY(picture(indicator) != atRest);
-}
-
-void TestProgressIndicator::followsTheTheme()
-{
-    useTheme(Qt::darkBlue);
-    ProgressIndicator indicator;
-    indicator.startAnimation();
-    indicator.setPercent(30);
-    const QImage before = picture(indicator);
-    useTheme(Qt::darkRed);
-    QVERIFY(picture(indicator) != before);
-}
 
 QTEST_MAIN(TestProgressIndicator)
 #include "tst_progressindicator.moc"

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/projectfile.h"
+#include "tests/support/literals.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -20,49 +21,49 @@ QJsonArray array(const Items &items)
 
 inline QJsonObject viewData(const ProjectDocument &document)
 {
-    return {{QStringLiteral("checkBoxMarkerAbsolute"), document.markersAbsolute},
-            {QStringLiteral("osziMinValues"), array(document.osziMinimum)},
-            {QStringLiteral("osziMaxValues"), array(document.osziMaximum)}};
+    return {{"checkBoxMarkerAbsolute"_s, document.markersAbsolute},
+            {"osziMinValues"_s, array(document.osziMinimum)},
+            {"osziMaxValues"_s, array(document.osziMaximum)}};
 }
 
 inline QJsonObject description(const ProjectDocument &document)
 {
-    return {{QStringLiteral("fileVersion"), QStringLiteral("7")},
-            {QStringLiteral("projectName"), document.data.name},
-            {QStringLiteral("projectNumber"), document.data.number},
-            {QStringLiteral("projectUser"), document.data.user},
-            {QStringLiteral("projectDate"), document.data.date},
-            {QStringLiteral("projectCustomer"), document.data.customer},
-            {QStringLiteral("paramClosingForce"), document.data.closingForce},
-            {QStringLiteral("paramInjectionTime"), document.data.injectionTime},
-            {QStringLiteral("paramPressureTime"), document.data.pressTime},
-            {QStringLiteral("paramPressure"), document.data.pressure},
-            {QStringLiteral("clock"), document.clock},
-            {QStringLiteral("comment"), document.comment},
-            {QStringLiteral("mesotraType"), document.mesotraType},
-            {QStringLiteral("hwVersion"), document.hardwareVersion},
-            {QStringLiteral("swVersion"), document.softwareVersion},
-            {QStringLiteral("ViewData"), viewData(document)},
-            {QStringLiteral("markers"), array(document.markers)},
-            {QStringLiteral("phases"), array(document.phases)},
-            {QStringLiteral("corrections"), array(document.corrections)},
-            {QStringLiteral("sensor minValues"), array(document.sensorMinimum)},
-            {QStringLiteral("sensor maxValues"), array(document.sensorMaximum)}};
+    return {{"fileVersion"_s, "7"_s},
+            {"projectName"_s, document.data.name},
+            {"projectNumber"_s, document.data.number},
+            {"projectUser"_s, document.data.user},
+            {"projectDate"_s, document.data.date},
+            {"projectCustomer"_s, document.data.customer},
+            {"paramClosingForce"_s, document.data.closingForce},
+            {"paramInjectionTime"_s, document.data.injectionTime},
+            {"paramPressureTime"_s, document.data.pressTime},
+            {"paramPressure"_s, document.data.pressure},
+            {"clock"_s, document.clock},
+            {"comment"_s, document.comment},
+            {"mesotraType"_s, document.mesotraType},
+            {"hwVersion"_s, document.hardwareVersion},
+            {"swVersion"_s, document.softwareVersion},
+            {"ViewData"_s, viewData(document)},
+            {"markers"_s, array(document.markers)},
+            {"phases"_s, array(document.phases)},
+            {"corrections"_s, array(document.corrections)},
+            {"sensor minValues"_s, array(document.sensorMinimum)},
+            {"sensor maxValues"_s, array(document.sensorMaximum)}};
 }
 
 inline QByteArray text(const ProjectDocument &document)
 {
     QJsonObject json = description(document);
     for (std::size_t i = 0; i < document.images.size(); ++i) {
-        const QString key = i == 0 ? QStringLiteral("projectImage") : QStringLiteral("projectImage%1").arg(i);
+        const QString key = i == 0 ? "projectImage"_s : "projectImage%1"_s.arg(i);
         json[key] = QString::fromLatin1(document.images[i].toBase64());
     }
     for (std::size_t sensor = 0; sensor < document.samples.size(); ++sensor) {
         QJsonArray measurements;
         for (const SampleRun &run : document.samples[sensor])
             measurements.append(array(run.samples->mid(0, run.count)));
-        json[QStringLiteral("sensor %1").arg(sensor + 1)] = measurements;
-        json[QStringLiteral("sensorName %1").arg(sensor + 1)] = document.sensorNames[sensor];
+        json["sensor %1"_s.arg(sensor + 1)] = measurements;
+        json["sensorName %1"_s.arg(sensor + 1)] = document.sensorNames[sensor];
     }
     return QJsonDocument(json).toJson(QJsonDocument::Indented);
 }

@@ -1,6 +1,8 @@
 #include "model/csvexport.h"
 #include "model/pacer.h"
 #include "tests/support/faildevice.h"
+#include "tests/support/literals.h"
+#include "tests/support/rows.h"
 
 #include <QBuffer>
 #include <QtTest>
@@ -10,25 +12,25 @@ namespace {
 ProjectDocument document()
 {
     ProjectDocument result;
-    result.data.name = QStringLiteral("Deckel");
-    result.data.number = QStringLiteral("47");
-    result.data.user = QStringLiteral("Öz");
-    result.data.date = QStringLiteral("heute");
+    result.data.name = "Deckel"_s;
+    result.data.number = "47"_s;
+    result.data.user = "Öz"_s;
+    result.data.date = "heute"_s;
     result.clock = 250;
-    result.sensorNames[1] = QStringLiteral("Weg");
+    result.sensorNames[1] = "Weg"_s;
     return result;
 }
 
 bool write(QIODevice &target, const ProjectDocument &source)
 {
     Pacer pacer([](int) {}, 1);
-    return writeCsv(target, QStringLiteral("a.vnt"), source, pacer);
+    return writeCsv(target, "a.vnt"_s, source, pacer);
 }
 
 QByteArray csv(const ProjectDocument &source)
 {
     QBuffer buffer;
-    return buffer.open(QIODevice::WriteOnly) && write(buffer, source) ? buffer.data() : QByteArray("failed");
+    return buffer.open(QIODevice::WriteOnly) && write(buffer, source) ? buffer.data() : "failed"_ba;
 }
 
 } // namespace
@@ -38,55 +40,49 @@ class TestCsvExport : public QObject
     Q_OBJECT
 
 private slots:
-    void writesTheLayout();
-    void writesNumbers_data();
-    void writesNumbers();
-    void reportsAFullDevice();
-};
-
-void TestCsvExport::writesTheLayout()
-{
-    const SampleList first{1.5, 1234567.0, -2.0};
-    const SampleList empty;
-    ProjectDocument source = document();
-    source.samples[1] = {{&first, 3}, {&empty, 0}, {&first, 1}};
-    QCOMPARE(csv(source), QByteArray("Dateiname: a.vnt\nProjekt: Deckel\nProj.Nr.: 47\nBearbeiter: Öz\nDatum: heute\n\n"
-                                     "Abtastrate: 250ms\nSensor 1: \nSensor 2: Weg\n"
-                                     "data 0;1,5;1,23457e+06;-2\ndata 1;\ndata 2;1,5\n"
-                                     "Sensor 3: \nSensor 4: \nSensor 5: \n"));
-}
-
-void TestCsvExport::writesNumbers_data()
-{
-    QTest::addColumn<double>("value");
-    QTest::addColumn<QByteArray>("text");
-    QTest::newRow("groups") << 12345.6 << QByteArray("12.345,6");
-    QTest::newRow("rounds to an exponent") << 999999.5 << QByteArray("1e+06");
-    QTest::newRow("half up") << 416230.5 << QByteArray("416.231");
-    QTest::newRow("negative zero") << -0.0 << QByteArray("0");
-}
-
-void TestCsvExport::writesNumbers()
-{
-    QFETCH(double, value);
-    QFETCH(QByteArray, text);
-    const SampleList samples{value};
-    ProjectDocument source = document();
-    source.samples[4] = {{&samples, 1}};
-    QVERIFY(csv(source).endsWith("Sensor 5: \ndata 0;" + text + '\n'));
-}
-
-void TestCsvExport::reportsAFullDevice()
-{
-    const SampleList samples(30000, 1.25);
-    ProjectDocument source = document();
-    source.samples[0] = {{&samples, samples.size()}};
-    const int size = csv(source).size();
-    for (int limit : {0, 1, 65536, size / 2, size - 1, size}) {
-        FailDevice device(limit);
-        QCOMPARE(write(device, source), limit == size);
+    void writesTheLayout()
+    {
+        const SampleList first{1.5, 1234567.0, -2.0};
+        const SampleList empty;
+        ProjectDocument source = document();
+        source.samples[1] = {{&first, 3}, {&empty, 0}, {&first, 1}};
+        QCOMPARE(csv(source), "Dateiname: a.vnt\nProjekt: Deckel\nProj.Nr.: 47\nBearbeiter: Öz\nDatum: heute\n\n"
+                              "Abtastrate: 250ms\nSensor 1: \nSensor 2: Weg\n"
+                              "data 0;1,5;1,23457e+06;-2\ndata 1;\ndata 2;1,5\n"
+                              "Sensor 3: \nSensor 4: \nSensor 5: \n"_ba);
     }
-}
+
+    void writesNumbers_data()
+    {
+        columns<double, QByteArray>("value", "text");
+        row("groups", 12345.6, "12.345,6"_ba);
+        row("rounds to an exponent", 999999.5, "1e+06"_ba);
+        row("half up", 416230.5, "416.231"_ba);
+        row("negative zero", -0.0, "0"_ba);
+    }
+
+    void writesNumbers()
+    {
+        QFETCH(double, value);
+        QFETCH(QByteArray, text);
+        const SampleList samples{value};
+        ProjectDocument source = document();
+        source.samples[4] = {{&samples, 1}};
+        QVERIFY(csv(source).endsWith("Sensor 5: \ndata 0;" + text + '\n'));
+    }
+
+    void reportsAFullDevice()
+    {
+        const SampleList samples(30000, 1.25);
+        ProjectDocument source = document();
+        source.samples[0] = {{&samples, samples.size()}};
+        const int size = csv(source).size();
+        for (int limit : {0, 1, 65536, size / 2, size - 1, size}) {
+            FailDevice device(limit);
+            QCOMPARE(write(device, source), limit == size);
+        }
+    }
+};
 
 QTEST_GUILESS_MAIN(TestCsvExport)
 #include "tst_csvexport.moc"

@@ -1,4 +1,6 @@
 #include "model/germannumber.h"
+#include "tests/support/literals.h"
+#include "tests/support/rows.h"
 
 #include <QLocale>
 #include <QtTest>
@@ -35,9 +37,8 @@ struct Comparison
         const QByteArray expected = german().toString(value, 'g', 6).toUtf8();
         const QByteArray actual = written(value);
         if (expected != actual && difference.isEmpty())
-            difference =
-                QStringLiteral("%1: %2 instead of %3")
-                    .arg(QString::number(value, 'g', 17), QString::fromUtf8(actual), QString::fromUtf8(expected));
+            difference = "%1: %2 instead of %3"_s.arg(QString::number(value, 'g', 17), QString::fromUtf8(actual),
+                                                      QString::fromUtf8(expected));
     }
 
     void addWithNeighbours(double value)
@@ -90,75 +91,68 @@ class TestGermanNumber : public QObject
     Q_OBJECT
 
 private slots:
-    void knownTexts_data();
-    void knownTexts();
-    void sameBytesAsTheLocale_data();
-    void sameBytesAsTheLocale();
-};
-
-void TestGermanNumber::knownTexts_data()
-{
-    QTest::addColumn<double>("value");
-    QTest::addColumn<QByteArray>("text");
-    QTest::newRow("comma") << 1.5 << QByteArray("1,5");
-    QTest::newRow("group") << 1234.5 << QByteArray("1.234,5");
-    QTest::newRow("six digits") << 1234567.0 << QByteArray("1,23457e+06");
-    QTest::newRow("tie away from zero") << 1573.625 << QByteArray("1.573,63");
-    QTest::newRow("negative tie") << -1573.625 << QByteArray("-1.573,63");
-    QTest::newRow("below a tie") << std::nextafter(1573.625, 0.0) << QByteArray("1.573,62");
-    QTest::newRow("no tie as a double") << 2.000005 << QByteArray("2");
-    QTest::newRow("carry") << 999999.5 << QByteArray("1e+06");
-    QTest::newRow("last without exponent") << 0.0001 << QByteArray("0,0001");
-    QTest::newRow("first with exponent") << 0.00001 << QByteArray("1e-05");
-    QTest::newRow("largest") << std::numeric_limits<double>::max() << QByteArray("1,79769e+308");
-    QTest::newRow("smallest") << 5e-324 << QByteArray("4,94066e-324");
-    QTest::newRow("negative zero") << -0.0 << QByteArray("0");
-}
-
-void TestGermanNumber::knownTexts()
-{
-    QFETCH(double, value);
-    QFETCH(QByteArray, text);
-    QCOMPARE(written(value), text);
-    QCOMPARE(german().toString(value, 'g', 6).toUtf8(), text);
-}
-
-void TestGermanNumber::sameBytesAsTheLocale_data()
-{
-    QTest::addColumn<Source>("source");
-    QTest::addColumn<int>("count");
-    QTest::newRow("any bits") << Source(randomBits) << 250000;
-    QTest::newRow("measured") << Source(measured) << 250000;
-    QTest::newRow("near ties") << Source(nearTie) << 75000;   // with their neighbours
-    QTest::newRow("exact ties") << Source(exactTie) << 75000; // with their neighbours
-    QTest::newRow("extremes") << Source(nullptr) << 0;
-}
-
-void TestGermanNumber::sameBytesAsTheLocale()
-{
-    QFETCH(Source, source);
-    QFETCH(int, count);
-    Engine engine(20240305);
-    Comparison comparison;
-    const bool hasTies = source == Source(nearTie) || source == Source(exactTie);
-    for (int i = 0; i < count; ++i) {
-        if (hasTies)
-            comparison.addWithNeighbours(source(engine));
-        else
-            comparison.add(source(engine));
+    void knownTexts_data()
+    {
+        columns<double, QByteArray>("value", "text");
+        row("comma", 1.5, "1,5"_ba);
+        row("group", 1234.5, "1.234,5"_ba);
+        row("six digits", 1234567.0, "1,23457e+06"_ba);
+        row("tie away from zero", 1573.625, "1.573,63"_ba);
+        row("negative tie", -1573.625, "-1.573,63"_ba);
+        row("below a tie", std::nextafter(1573.625, 0.0), "1.573,62"_ba);
+        row("no tie as a double", 2.000005, "2"_ba);
+        row("carry", 999999.5, "1e+06"_ba);
+        row("last without exponent", 0.0001, "0,0001"_ba);
+        row("first with exponent", 0.00001, "1e-05"_ba);
+        row("largest", std::numeric_limits<double>::max(), "1,79769e+308"_ba);
+        row("smallest", 5e-324, "4,94066e-324"_ba);
+        row("negative zero", -0.0, "0"_ba);
     }
-    if (!source) {
-        for (int exponent = -324; exponent <= 308; ++exponent) {
-            for (double digits : {1.0, 9.0, 1.234565, 4.999995, 9.999994999999, 9.999995, 9.99999500001})
-                comparison.addWithNeighbours(digits * std::pow(10.0, exponent));
+
+    void knownTexts()
+    {
+        QFETCH(double, value);
+        QFETCH(QByteArray, text);
+        QCOMPARE(written(value), text);
+        QCOMPARE(german().toString(value, 'g', 6).toUtf8(), text);
+    }
+
+    void sameBytesAsTheLocale_data()
+    {
+        columns<Source, int>("source", "count");
+        row("any bits", Source(randomBits), 250000);
+        row("measured", Source(measured), 250000);
+        row("near ties", Source(nearTie), 75000);   // with their neighbours
+        row("exact ties", Source(exactTie), 75000); // with their neighbours
+        row("extremes", Source(nullptr), 0);
+    }
+
+    void sameBytesAsTheLocale()
+    {
+        QFETCH(Source, source);
+        QFETCH(int, count);
+        Engine engine(20240305);
+        Comparison comparison;
+        const bool hasTies = source == Source(nearTie) || source == Source(exactTie);
+        for (int i = 0; i < count; ++i) {
+            if (hasTies)
+                comparison.addWithNeighbours(source(engine));
+            else
+                comparison.add(source(engine));
         }
-        const double infinity = std::numeric_limits<double>::infinity();
-        for (double value : {infinity, -infinity, std::numeric_limits<double>::quiet_NaN(), 0.0})
-            comparison.add(value);
+        if (!source) {
+            for (int exponent = -324; exponent <= 308; ++exponent) {
+                for (double digits : {1.0, 9.0, 1.234565, 4.999995, 9.999994999999, 9.999995, 9.99999500001})
+                    comparison.addWithNeighbours(digits * std::pow(10.0, exponent));
+            }
+            const double infinity = std::numeric_limits<double>::infinity();
+            for (double value : {infinity, -infinity, std::numeric_limits<double>::quiet_NaN(), 0.0})
+                comparison.add(value);
+        }
+        QVERIFY(comparison.count >= 13000);
+        QCOMPARE(comparison.difference, QString());
     }
-    QVERIFY(comparison.count >= 13000);
-    QCOMPARE(comparison.difference, QString());
-}
+};
 
 QTEST_GUILESS_MAIN(TestGermanNumber)
 #include "tst_germannumber.moc"

@@ -1,6 +1,8 @@
 #include "model/atomicfile.h"
 #include "model/model.h"
+#include "tests/support/literals.h"
 #include "tests/support/logcapture.h"
+#include "tests/support/rows.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -15,7 +17,7 @@ namespace {
 QByteArray contentOf(const QString &fileName)
 {
     QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : "cannot be read"_ba;
 }
 
 void writeText(const QString &fileName, const QByteArray &text)
@@ -46,17 +48,16 @@ QPixmap checkered(int width)
 
 void fill(Model &model)
 {
-    model.setProjectData({QStringLiteral("Deckel"), QStringLiteral("4711"), QStringLiteral("Öz"),
-                          QStringLiteral("heute"), QStringLiteral("Kunde"), 850, 1.25, 0.1, -1200});
-    model.setComment(QStringLiteral("Zeile 1\nZeile 2"));
+    model.setProjectData({"Deckel"_s, "4711"_s, "Öz"_s, "heute"_s, "Kunde"_s, 850, 1.25, 0.1, -1200});
+    model.setComment("Zeile 1\nZeile 2"_s);
     model.setClock(20);
-    model.setDeviceDescription({QStringLiteral("hw"), QStringLiteral("fw"), 0, {}});
+    model.setDeviceDescription({"hw"_s, "fw"_s, 0, {}});
     for (int i = 0; i < 5; ++i) {
         model.setOffset(i, 0.1 * i - 0.2);
-        model.setSensorName(i, QStringLiteral("Größe %1").arg(i));
+        model.setSensorName(i, "Größe %1"_s.arg(i));
         model.setSensorMinimum(0, i, -i - 0.5);
         model.setSensorMaximum(0, i, i + 0.5);
-        model.setPhaseName(i, QStringLiteral("Phase %1").arg(i));
+        model.setPhaseName(i, "Phase %1"_s.arg(i));
         model.setOsziMinimum(i, -1.0 * i);
         model.setOsziMaximum(i, 1e5 + i);
         model.setImage(i, i == 3 ? QPixmap() : checkered(i + 1));
@@ -96,231 +97,221 @@ class TestModelFiles : public QObject
 
 private slots:
     void init() { QVERIFY(m_folder.isValid()); }
-    void opensWhatItSaved();
-    void emitsInOrderAfterOpening();
-    void failedOpenTouchesNothing_data();
-    void failedOpenTouchesNothing();
-    void failedSaveKeepsTheOldFile();
-    void savesOnlyToRegularFiles();
-    void freesWhatItReplaces();
-    void refusesSecondTaskWhileBusy();
-    void keepsSamplesThatArriveWhileSaving();
+
+    void opensWhatItSaved()
+    {
+        Model model{QString()};
+        fill(model);
+        model.setProjectModifiedFlag(true);
+        const QString file = path("saved.vnt");
+        {
+            const LogCapture log;
+            QVERIFY(model.save(file));
+            QVERIFY(log.contains("bool Model::save(const QString&) emit projectChanged()"_s));
+        }
+        QVERIFY(!model.isProjectModified());
+        QCOMPARE(model.currentFile(), file);
+        Model opened{QString()};
+        opened.setVerticalMarkerAbsolute(0, 5000); // markers survive clear() and must not hold up smaller ones
+        QVERIFY(opened.open(file));
+        QCOMPARE(summary(opened), summary(model));
+        for (int i = 0; i < 5; ++i)
+            QCOMPARE(opened.image(i).toImage().convertToFormat(QImage::Format_ARGB32),
+                     model.image(i).toImage().convertToFormat(QImage::Format_ARGB32));
+        QCOMPARE(opened.timestamp(2), QDateTime());
+        QVERIFY(opened.save(path("again.vnt")));
+        QCOMPARE(contentOf(path("again.vnt")), contentOf(file));
+    }
+
+    void emitsInOrderAfterOpening()
+    {
+        const QString file = path("order.vnt");
+        writeText(file, "{}");
+        Model model{QString()};
+        addMeasurements(model, 1, 5);
+        const SampleList *shown = model.measurement(0, 0);
+        QStringList emitted;
+        connect(&model, &Model::projectChanged, &model, [&] {
+            emitted << "project"_s;
+            QCOMPARE(shown->size(), 5); // a paint may still show the old shot
+        });
+        connect(&model, &Model::dataChanged, &model, [&] { emitted << "data"_s; });
+        connect(&model, &Model::viewDataChanged, &model, [&] { emitted << "view"_s; });
+        model.setProjectModifiedFlag(true);
+        model.blockSignals(true); // as a deletion with a syntax error leaves it
+        const LogCapture log;
+        QVERIFY(model.open(file));
+        QCOMPARE(emitted.join(QLatin1Char(' ')), "project data view"_s);
+        QVERIFY(log.indexOf("emitting projectChanged()"_s) > log.indexOf("no array!"_s));
+        QVERIFY(log.indexOf("emitting viewDataChanged()"_s) > log.indexOf("emitting dataC"_s));
+        QVERIFY(!model.isProjectModified() && !model.signalsBlocked());
+    }
+
+    void failedOpenTouchesNothing_data()
+    {
+        columns<QByteArray, QString>("text", "error");
+        const QString notOpened = "could not open file:"_s;
+        const QString noObject = " jdoc is no object!"_s;
+        row("folder", "folder"_ba, notOpened);
+        row("pipe", "pipe"_ba, notOpened);
+        row("empty", QByteArray(), noObject);
+        row("list", "[1]"_ba, noObject);
+        row("cut", R"({"projectName":"x","sensor 1":[[1,2)"_ba, noObject);
+    }
+
+    void failedOpenTouchesNothing()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QString, error);
+        QString file = path("bad.vnt");
+        QFile::remove(file);
+        if (text == "folder")
+            file = m_folder.path();
+        else if (text == "pipe")
+            QCOMPARE(mkfifo(QFile::encodeName(file).constData(), 0600), 0);
+        else if (text != "missing")
+            writeText(file, text);
+        Model model{QString()};
+        fill(model);
+        model.setProjectModifiedFlag(true);
+        const QString before = summary(model);
+        QSignalSpy changed(&model, &Model::projectChanged);
+        const LogCapture log;
+        QVERIFY(!model.open(file));
+        QVERIFY(log.contains(error));
+        QVERIFY(log.contains("filename="_s + file));
+        QCOMPARE(summary(model), before);
+        QVERIFY(model.isProjectModified() && changed.isEmpty() && !model.isBusy());
+        QFile::remove(path("bad.vnt"));
+    }
+
+    void failedSaveKeepsTheOldFile()
+    {
+        Model model{QString()};
+        fill(model);
+        const QString file = path("kept.vnt");
+        QVERIFY(model.save(file));
+        const QByteArray old = contentOf(file);
+        addMeasurements(model, 20, 500);
+        QVERIFY(model.save(path("whole.vnt")));
+        const auto size = static_cast<rlim_t>(contentOf(path("whole.vnt")).size());
+        model.setCurrentFile(file);
+        model.setProjectModifiedFlag(true);
+        QVERIFY(!model.save(path("no such folder/x.vnt")));
+
+        // A limit of the file size makes writes fail as a full disk does.
+        rlimit before{};
+        QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
+        const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+        for (rlim_t limit : {rlim_t(0), rlim_t(1), rlim_t(65536), size / 2, size - 5000, size - 1}) {
+            const rlimit low{limit, before.rlim_max};
+            QCOMPARE(setrlimit(RLIMIT_FSIZE, &low), 0);
+            const bool saved = model.save(file) || (limit < 1000 && Model(QString()).save(file)); // buffered to its end
+            QCOMPARE(setrlimit(RLIMIT_FSIZE, &before), 0);
+            QVERIFY(!saved);
+            QCOMPARE(contentOf(file), old);
+            QVERIFY(model.isProjectModified() && !model.isBusy());
+        }
+        (void)std::signal(SIGXFSZ, handler);
+        QCOMPARE(model.currentFile(), file);
+        QCOMPARE(QDir(m_folder.path()).entryList({"kept*"_s}, QDir::Files).size(), 1);
+        QVERIFY(model.save(file));
+        QCOMPARE(contentOf(file), contentOf(path("whole.vnt")));
+    }
+
+    void savesOnlyToRegularFiles()
+    {
+        Model model{QString()};
+        QVERIFY(!model.save(QString()));
+        QVERIFY(!model.save(m_folder.path()));
+        const QString pipe = path("pipe");
+        QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+        QVERIFY(!model.save(pipe) && !model.saveCsv(pipe));
+        QVERIFY(QFileInfo::exists(pipe) && !QFileInfo(pipe).isFile());
+        const QString target = path("target.vnt");
+        writeText(target, "old");
+        QVERIFY(QFile::link(target, path("link.vnt")));
+        QVERIFY(model.save(path("link.vnt")));
+        QVERIFY(QFileInfo(path("link.vnt")).isSymLink());
+        QVERIFY(contentOf(target).startsWith('{'));
+    }
+
+    /// The space of a large old file is given back step by step, but never under another name or another reader.
+    void freesWhatItReplaces()
+    {
+        const QByteArray content(20000000, 'x');
+        const auto replace = [this] {
+            int pauses = 0;
+            const auto write = [](QIODevice &target) { return target.write("new") == 3; };
+            const bool replaced = replaceFile(path("big.csv"), write, [&pauses] { ++pauses; });
+            return replaced && contentOf(path("big.csv")) == "new" ? pauses : -1;
+        };
+        QCOMPARE(replace(), 0);
+        writeText(path("big.csv"), content);
+        QVERIFY(replace() > 3);
+        writeText(path("big.csv"), content);
+        QCOMPARE(::link(qPrintable(path("big.csv")), qPrintable(path("other.csv"))), 0);
+        QCOMPARE(replace(), 0);
+        QVERIFY(contentOf(path("other.csv")) == content);
+        writeText(path("big.csv"), content);
+        QFile reader(path("big.csv"));
+        QVERIFY(reader.open(QIODevice::ReadOnly));
+        QCOMPARE(replace(), 0);
+        QVERIFY(reader.readAll() == content);
+    }
+
+    void refusesSecondTaskWhileBusy()
+    {
+        Model model{QString()};
+        fill(model);
+        const QString file = path("busy.vnt");
+        QVERIFY(model.save(file));
+        const QString before = summary(model);
+        int turns = 0;
+        model.setYield([&](int) {
+            ++turns;
+            QVERIFY(model.isBusy());
+            QVERIFY(!model.open(file) && !model.save(path("second.vnt")) && !model.saveCsv(path("second.csv")));
+            QVERIFY(!model.deleteChannel(0));
+            model.clearData();
+            model.clear();
+            QCOMPARE(summary(model), before);
+        });
+        QVERIFY(model.save(file));
+        QVERIFY(model.saveCsv(path("busy.csv")));
+        QVERIFY(model.open(file));
+        QVERIFY(turns >= 3);
+        QCOMPARE(summary(model), before);
+        QVERIFY(!model.isBusy() && !QFile::exists(path("second.vnt")) && !QFile::exists(path("second.csv")));
+    }
+
+    void keepsSamplesThatArriveWhileSaving()
+    {
+        Model model{QString()};
+        addMeasurements(model, 2, 100);
+        QVERIFY(model.save(path("before.vnt")));
+        model.setYield([&](int) {
+            for (int sensor = 0; sensor < kNumSensors; ++sensor) {
+                QVERIFY(model.appendSample(sensor, 1, 1e6));
+                QVERIFY(model.appendSample(sensor, model.appendMeasurement(sensor), 2e6));
+            }
+            model.setComment("later"_s);
+        });
+        QVERIFY(model.save(path("during.vnt")));
+        QCOMPARE(contentOf(path("during.vnt")), contentOf(path("before.vnt")));
+        QVERIFY(model.isProjectModified()); // the file lacks what has come since
+        QCOMPARE(model.measurement(4, 1)->constLast(), 1e6);
+        model.setYield([](int) {});
+        QVERIFY(model.save(path("during.vnt")));
+        QVERIFY(!model.isProjectModified());
+        QVERIFY(contentOf(path("during.vnt")) != contentOf(path("before.vnt")));
+    }
 
 private:
     [[nodiscard]] QString path(const char *name) const { return m_folder.filePath(QLatin1String(name)); }
 
     QTemporaryDir m_folder;
 };
-
-void TestModelFiles::opensWhatItSaved()
-{
-    Model model{QString()};
-    fill(model);
-    model.setProjectModifiedFlag(true);
-    const QString file = path("saved.vnt");
-    {
-        const LogCapture log;
-        QVERIFY(model.save(file));
-        QVERIFY(log.contains(QStringLiteral("bool Model::save(const QString&) emit projectChanged()")));
-    }
-    QVERIFY(!model.isProjectModified());
-    QCOMPARE(model.currentFile(), file);
-    Model opened{QString()};
-    opened.setVerticalMarkerAbsolute(0, 5000); // markers survive clear() and must not hold up smaller ones
-    QVERIFY(opened.open(file));
-    QCOMPARE(summary(opened), summary(model));
-    for (int i = 0; i < 5; ++i)
-        QCOMPARE(opened.image(i).toImage().convertToFormat(QImage::Format_ARGB32),
-                 model.image(i).toImage().convertToFormat(QImage::Format_ARGB32));
-    QCOMPARE(opened.timestamp(2), QDateTime());
-    QVERIFY(opened.save(path("again.vnt")));
-    QCOMPARE(contentOf(path("again.vnt")), contentOf(file));
-}
-
-void TestModelFiles::emitsInOrderAfterOpening()
-{
-    const QString file = path("order.vnt");
-    writeText(file, "{}");
-    Model model{QString()};
-    addMeasurements(model, 1, 5);
-    const SampleList *shown = model.measurement(0, 0);
-    QStringList emitted;
-    connect(&model, &Model::projectChanged, &model, [&] {
-        emitted << QStringLiteral("project");
-        QCOMPARE(shown->size(), 5); // a paint may still show the old shot
-    });
-    connect(&model, &Model::dataChanged, &model, [&] { emitted << QStringLiteral("data"); });
-    connect(&model, &Model::viewDataChanged, &model, [&] { emitted << QStringLiteral("view"); });
-    model.setProjectModifiedFlag(true);
-    model.blockSignals(true); // as a deletion with a syntax error leaves it
-    const LogCapture log;
-    QVERIFY(model.open(file));
-    QCOMPARE(emitted.join(QLatin1Char(' ')), QStringLiteral("project data view"));
-    QVERIFY(log.indexOf(QStringLiteral("emitting projectChanged()")) > log.indexOf(QStringLiteral("no array!")));
-    QVERIFY(log.indexOf(QStringLiteral("emitting viewDataChanged()")) > log.indexOf(QStringLiteral("emitting dataC")));
-    QVERIFY(!model.isProjectModified() && !model.signalsBlocked());
-}
-
-void TestModelFiles::failedOpenTouchesNothing_data()
-{
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QString>("error");
-    const QString notOpened = QStringLiteral("could not open file:");
-    const QString noObject = QStringLiteral(" jdoc is no object!");
-    QTest::newRow("folder") << QByteArray("folder") << notOpened;
-    QTest::newRow("pipe") << QByteArray("pipe") << notOpened;
-    QTest::newRow("empty") << QByteArray() << noObject;
-    QTest::newRow("list") << QByteArray("[1]") << noObject;
-    QTest::newRow("cut") << QByteArray(R"({"projectName":"x","sensor 1":[[1,2)") << noObject;
-}
-
-void TestModelFiles::failedOpenTouchesNothing()
-{
-    QFETCH(QByteArray, text);
-    QFETCH(QString, error);
-    QString file = path("bad.vnt");
-    QFile::remove(file);
-    if (text == "folder")
-        file = m_folder.path();
-    else if (text == "pipe")
-        QCOMPARE(mkfifo(QFile::encodeName(file).constData(), 0600), 0);
-    else if (text != "missing")
-        writeText(file, text);
-    Model model{QString()};
-    fill(model);
-    model.setProjectModifiedFlag(true);
-    const QString before = summary(model);
-    QSignalSpy changed(&model, &Model::projectChanged);
-    const LogCapture log;
-    QVERIFY(!model.open(file));
-    QVERIFY(log.contains(error));
-    QVERIFY(log.contains(QStringLiteral("filename=") + file));
-    QCOMPARE(summary(model), before);
-    QVERIFY(model.isProjectModified() && changed.isEmpty() && !model.isBusy());
-    QFile::remove(path("bad.vnt"));
-}
-
-void TestModelFiles::failedSaveKeepsTheOldFile()
-{
-    Model model{QString()};
-    fill(model);
-    const QString file = path("kept.vnt");
-    QVERIFY(model.save(file));
-    const QByteArray old = contentOf(file);
-    addMeasurements(model, 20, 500);
-    QVERIFY(model.save(path("whole.vnt")));
-    const auto size = static_cast<rlim_t>(contentOf(path("whole.vnt")).size());
-    model.setCurrentFile(file);
-    model.setProjectModifiedFlag(true);
-    QVERIFY(!model.save(path("no such folder/x.vnt")));
-
-    // A limit of the file size makes writes fail as a full disk does.
-    rlimit before{};
-    QCOMPARE(getrlimit(RLIMIT_FSIZE, &before), 0);
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    for (rlim_t limit : {rlim_t(0), rlim_t(1), rlim_t(65536), size / 2, size - 5000, size - 1}) {
-        const rlimit low{limit, before.rlim_max};
-        QCOMPARE(setrlimit(RLIMIT_FSIZE, &low), 0);
-        const bool saved = model.save(file) || (limit < 1000 && Model(QString()).save(file)); // buffered to its end
-        QCOMPARE(setrlimit(RLIMIT_FSIZE, &before), 0);
-        QVERIFY(!saved);
-        QCOMPARE(contentOf(file), old);
-        QVERIFY(model.isProjectModified() && !model.isBusy());
-    }
-    (void)std::signal(SIGXFSZ, handler);
-    QCOMPARE(model.currentFile(), file);
-    QCOMPARE(QDir(m_folder.path()).entryList({QStringLiteral("kept*")}, QDir::Files).size(), 1);
-    QVERIFY(model.save(file));
-    QCOMPARE(contentOf(file), contentOf(path("whole.vnt")));
-}
-
-void TestModelFiles::savesOnlyToRegularFiles()
-{
-    Model model{QString()};
-    QVERIFY(!model.save(QString()));
-    QVERIFY(!model.save(m_folder.path()));
-    const QString pipe = path("pipe");
-    QCOMPARE(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
-    QVERIFY(!model.save(pipe) && !model.saveCsv(pipe));
-    QVERIFY(QFileInfo::exists(pipe) && !QFileInfo(pipe).isFile());
-    const QString target = path("target.vnt");
-    writeText(target, "old");
-    QVERIFY(QFile::link(target, path("link.vnt")));
-    QVERIFY(model.save(path("link.vnt")));
-    QVERIFY(QFileInfo(path("link.vnt")).isSymLink());
-    QVERIFY(contentOf(target).startsWith('{'));
-}
-
-/// The space of a large old file is given back step by step, but never under another name or another reader.
-void TestModelFiles::freesWhatItReplaces()
-{
-    const QByteArray content(20000000, 'x');
-    const auto replace = [this] {
-        int pauses = 0;
-        const auto write = [](QIODevice &target) { return target.write("new") == 3; };
-        const bool replaced = replaceFile(path("big.csv"), write, [&pauses] { ++pauses; });
-        return replaced && contentOf(path("big.csv")) == "new" ? pauses : -1;
-    };
-    QCOMPARE(replace(), 0);
-    writeText(path("big.csv"), content);
-    QVERIFY(replace() > 3);
-    writeText(path("big.csv"), content);
-    QCOMPARE(::link(qPrintable(path("big.csv")), qPrintable(path("other.csv"))), 0);
-    QCOMPARE(replace(), 0);
-    QVERIFY(contentOf(path("other.csv")) == content);
-    writeText(path("big.csv"), content);
-    QFile reader(path("big.csv"));
-    QVERIFY(reader.open(QIODevice::ReadOnly));
-    QCOMPARE(replace(), 0);
-    QVERIFY(reader.readAll() == content);
-}
-
-void TestModelFiles::refusesSecondTaskWhileBusy()
-{
-    Model model{QString()};
-    fill(model);
-    const QString file = path("busy.vnt");
-    QVERIFY(model.save(file));
-    const QString before = summary(model);
-    int turns = 0;
-    model.setYield([&](int) {
-        ++turns;
-        QVERIFY(model.isBusy());
-        QVERIFY(!model.open(file) && !model.save(path("second.vnt")) && !model.saveCsv(path("second.csv")));
-        QVERIFY(!model.deleteChannel(0));
-        model.clearData();
-        model.clear();
-        QCOMPARE(summary(model), before);
-    });
-    QVERIFY(model.save(file));
-    QVERIFY(model.saveCsv(path("busy.csv")));
-    QVERIFY(model.open(file));
-    QVERIFY(turns >= 3);
-    QCOMPARE(summary(model), before);
-    QVERIFY(!model.isBusy() && !QFile::exists(path("second.vnt")) && !QFile::exists(path("second.csv")));
-}
-
-void TestModelFiles::keepsSamplesThatArriveWhileSaving()
-{
-    Model model{QString()};
-    addMeasurements(model, 2, 100);
-    QVERIFY(model.save(path("before.vnt")));
-    model.setYield([&](int) {
-        for (int sensor = 0; sensor < kNumSensors; ++sensor) {
-            QVERIFY(model.appendSample(sensor, 1, 1e6));
-            QVERIFY(model.appendSample(sensor, model.appendMeasurement(sensor), 2e6));
-        }
-        model.setComment(QStringLiteral("later"));
-    });
-    QVERIFY(model.save(path("during.vnt")));
-    QCOMPARE(contentOf(path("during.vnt")), contentOf(path("before.vnt")));
-    QVERIFY(model.isProjectModified()); // the file lacks what has come since
-    QCOMPARE(model.measurement(4, 1)->constLast(), 1e6);
-    model.setYield([](int) {});
-    QVERIFY(model.save(path("during.vnt")));
-    QVERIFY(!model.isProjectModified());
-    QVERIFY(contentOf(path("during.vnt")) != contentOf(path("before.vnt")));
-}
 
 QTEST_MAIN(TestModelFiles)
 #include "tst_modelfiles.moc"

@@ -1,5 +1,7 @@
 #include "model/model.h"
+#include "tests/support/literals.h"
 #include "tests/support/logcapture.h"
+#include "tests/support/rows.h"
 
 #include <QBuffer>
 #include <QTemporaryDir>
@@ -17,7 +19,7 @@ QByteArray pngOf(const QImage &image)
 {
     QByteArray png;
     QBuffer buffer(&png);
-    return buffer.open(QIODevice::WriteOnly) && image.save(&buffer, "PNG") ? png : QByteArray("failed");
+    return buffer.open(QIODevice::WriteOnly) && image.save(&buffer, "PNG") ? png : "failed"_ba;
 }
 
 } // namespace
@@ -29,166 +31,148 @@ class TestOpenedFields : public QObject
 
 private slots:
     void init() { QVERIFY(m_folder.isValid()); }
-    void readsOddFields_data();
-    void readsOddFields();
-    void readsOldVersions_data();
-    void readsOldVersions();
-    void readsOsziRanges_data();
-    void readsOsziRanges();
-    void readsImages_data();
-    void readsImages();
+
+    void readsOddFields_data()
+    {
+        columns<QByteArray, QString, QString>("text", "logged", "found");
+        const auto row = [](const QByteArray &text, const char *logged, const char *found) {
+            ::row(qPrintable(QString::fromUtf8(text + logged)), text, QString::fromUtf8(logged),
+                  QString::fromUtf8(found));
+        };
+        // found: clock, firmware version, closing force, marker 4, phase 5, offset 1, maximum 1, name 5, shots
+        const char *defaults = "100 8.0 0 40 WZ öffnen 0 100000 Sensor 5 00000";
+        row("{}", " jSensor1 is no array!", defaults);
+        row("{}", " jCorrections is no array!", defaults);
+        row(R"({"sensor 2":{},"sensor 3":"[]"})", " jSensor3 is no array!", defaults);
+        row(R"({"sensor 2":[[1,2],[]],"sensor 4":[[]]})", "jSensor1Array.size()=2",
+            "100 8.0 0 40 WZ öffnen 0 100000 Sensor 5 02010");
+        row(R"({"clock":99.5,"swVersion":"x","paramClosingForce":12,"markers":[1,2,3,4.6]})", " index=3 pos=5",
+            "100 x 12 5 WZ öffnen 0 100000 Sensor 5 00000");
+        row(R"({"clock":"20","swVersion":7,"paramClosingForce":null,"corrections":5})", " jCorrections is no array!",
+            defaults);
+        row(R"({"clock":1e300,"paramClosingForce":1e300,"markers":[0,0,0,1e300]})", " pos=2147483647",
+            "3600000 8.0 2147483647 2147483647 WZ öffnen 0 100000 Sensor 5 00000");
+        row(R"({"clock":-3,"phases":["a","b","c","d","e","f"]})", " ERROR: index out of range! (5",
+            "1 8.0 0 40 e 0 100000 Sensor 5 00000");
+        row(R"({"clock":1e999,"corrections":[1.5,2,3,4,5,6,7]})", " offset[0]=1.5",
+            "1 8.0 0 40 WZ öffnen 1.5 100000 Sensor 5 00000");
+        row(R"({"sensor maxValues":[7.25],"sensor minValues":[-3]})", " sensor maximum(0)=7.25",
+            "100 8.0 0 40 WZ öffnen 0 7.25 Sensor 5 00000");
+        row(R"({"sensorName 5":"N","sensorName 1":3})", " numSensors(0)=5", "100 8.0 0 40 WZ öffnen 0 100000 N 00000");
+        row(R"({"measurement":[[1]],"sensor 6":[[1]],"sensor1":[[1]]})", " numSensorGroups=1", defaults);
+    }
+
+    void readsOddFields()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QString, logged);
+        QFETCH(QString, found);
+        writeText(path("odd.vnt"), text);
+        Model model{QString()};
+        model.setVerticalMarkerAbsolute(3, 40);
+        const LogCapture log;
+        QVERIFY(model.open(path("odd.vnt")));
+        QVERIFY(log.contains(logged));
+        const SensorGroup &group = model.sensorDescription().sensorGroup(0);
+        QString state = "%1 %2 %3 %4 %5 %6 %7 %8 "_s.arg(
+            QString::number(model.clock()), model.firmwareVersion(), QString::number(model.projectData().closingForce),
+            QString::number(model.verticalMarker(3)), model.phaseName(4), QString::number(model.offset(0)),
+            QString::number(group.sensorMaximum(0)), group.sensorName(4));
+        for (int sensor = 0; sensor < kNumSensors; ++sensor)
+            state += QString::number(model.numChannels(sensor));
+        QCOMPARE(state, found);
+    }
+
+    void readsOldVersions_data()
+    {
+        columns<QByteArray, QString, bool>("version", "logged", "isOld");
+        row("current", R"("7")"_ba, " file version=7", false);
+        row("older", R"("5")"_ba, " file version=5", true);
+        row("not an integer", R"("7.5")"_ba, " file version=7.5", true);
+        row("number", "7"_ba, " file version=6.0", true);
+    }
+
+    void readsOldVersions()
+    {
+        QFETCH(QByteArray, version);
+        QFETCH(QString, logged);
+        QFETCH(bool, isOld);
+        writeText(path("version.vnt"), "{\"fileVersion\":" + version + "}");
+        const LogCapture log;
+        Model model{QString()};
+        SensorDescription description;
+        description.setNumSensorGroups(3);
+        model.setSensorDescription(description);
+        QVERIFY(model.open(path("version.vnt")));
+        QVERIFY(log.contains(logged));
+        QCOMPARE(log.contains(" file version < 7 -> using defaults (1 group, 5 sensors, distance)"_s), isOld);
+        QCOMPARE(model.sensorDescription().numSensorGroups(), 1);
+        QCOMPARE(model.sensorDescription().sensorGroup(0).numSensors(), 5);
+        QCOMPARE(model.sensorDescription().sensorGroup(0).sensorType(4), isOld ? "Distance"_s : QString());
+    }
+
+    void readsOsziRanges_data()
+    {
+        columns<QByteArray, QString, double, bool>("viewData", "logged", "firstMaximum", "absolute");
+        const QString undefined = "jViewData is undefined (key 'ViewData' not found)!"_s;
+        const QString empty = "jViewDataObj is empty!  (Qt bug? doesn't matter!)"_s;
+        const QString limits = "osziMin and osziMax not given or equal -> use sensor min/max values:"_s;
+        row("missing", R"("x":0)"_ba, undefined, 8.0, false);
+        row("text", R"("ViewData":"x")"_ba, "jViewData is no object!", 8.0, false);
+        row("empty", R"("ViewData":{})"_ba, empty, 8.0, false);
+        row("no ranges", R"("ViewData":{"checkBoxMarkerAbsolute":true})"_ba, "jOsziMinArray is no array!", 8.0, true);
+        row("first alone",
+            QByteArray(
+                R"("ViewData":{"osziMinValues":[0,0,0,0,0],"osziMaxValues":[10,0,0,0,0,9],"checkBoxMarkerAbsolute":1})"),
+            limits, 10.0, false);
+    }
+
+    void readsOsziRanges()
+    {
+        QFETCH(QByteArray, viewData);
+        QFETCH(QString, logged);
+        QFETCH(double, firstMaximum);
+        QFETCH(bool, absolute);
+        writeText(path("view.vnt"),
+                  "{" + viewData + R"(,"sensor minValues":[0,-2,0,0,0],"sensor maxValues":[8,9,0,0,0]})");
+        const LogCapture log;
+        Model model{QString()};
+        QVERIFY(model.open(path("view.vnt")));
+        QVERIFY(log.contains(logged));
+        QCOMPARE(model.osziMaximum(0), firstMaximum);
+        QCOMPARE(model.osziMinimum(1), -2.0);
+        QCOMPARE(model.osziMaximum(1), 9.0);
+        QCOMPARE(model.markersAbsolute(), absolute);
+    }
+
+    void readsImages_data()
+    {
+        columns<QByteArray, QSize>("json", "size");
+        const QByteArray png = pngOf(QImage(3, 9, QImage::Format_ARGB32));
+        QByteArray huge = png;
+        huge.replace(16, 8, QByteArray::fromHex("0000ffff0000ffff")); // width and height in its head
+        row("image", QByteArray('"' + png.toBase64() + '"'), QSize(3, 9));
+        row("gigabytes", QByteArray('"' + huge.toBase64() + '"'), QSize());
+        row("cut", QByteArray('"' + png.left(20).toBase64() + '"'), QSize());
+        row("not Base64", R"("\u00e4%&")"_ba, QSize());
+    }
+
+    void readsImages()
+    {
+        QFETCH(QByteArray, json);
+        QFETCH(QSize, size);
+        writeText(path("image.vnt"), "{\"projectImage4\":" + json + "}");
+        const LogCapture log;
+        const Model model(path("image.vnt"));
+        QCOMPARE(model.currentFile(), path("image.vnt"));
+        QCOMPARE(model.image(4).size(), size.isValid() ? size : QSize(0, 0));
+    }
 
 private:
     [[nodiscard]] QString path(const char *name) const { return m_folder.filePath(QLatin1String(name)); }
 
     QTemporaryDir m_folder;
 };
-
-void TestOpenedFields::readsOddFields_data()
-{
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QString>("logged");
-    QTest::addColumn<QString>("found");
-    const auto row = [](const QByteArray &text, const char *logged, const char *found) {
-        QTest::newRow(qPrintable(QString::fromUtf8(text + logged)))
-            << text << QString::fromUtf8(logged) << QString::fromUtf8(found);
-    };
-    // found: clock, firmware version, closing force, marker 4, phase 5, offset 1, maximum 1, name 5, shots
-    const char *defaults = "100 8.0 0 40 WZ öffnen 0 100000 Sensor 5 00000";
-    row("{}", " jSensor1 is no array!", defaults);
-    row("{}", " jCorrections is no array!", defaults);
-    row(R"({"sensor 2":{},"sensor 3":"[]"})", " jSensor3 is no array!", defaults);
-    row(R"({"sensor 2":[[1,2],[]],"sensor 4":[[]]})", "jSensor1Array.size()=2",
-        "100 8.0 0 40 WZ öffnen 0 100000 Sensor 5 02010");
-    row(R"({"clock":99.5,"swVersion":"x","paramClosingForce":12,"markers":[1,2,3,4.6]})", " index=3 pos=5",
-        "100 x 12 5 WZ öffnen 0 100000 Sensor 5 00000");
-    row(R"({"clock":"20","swVersion":7,"paramClosingForce":null,"corrections":5})", " jCorrections is no array!",
-        defaults);
-    row(R"({"clock":1e300,"paramClosingForce":1e300,"markers":[0,0,0,1e300]})", " pos=2147483647",
-        "3600000 8.0 2147483647 2147483647 WZ öffnen 0 100000 Sensor 5 00000");
-    row(R"({"clock":-3,"phases":["a","b","c","d","e","f"]})", " ERROR: index out of range! (5",
-        "1 8.0 0 40 e 0 100000 Sensor 5 00000");
-    row(R"({"clock":1e999,"corrections":[1.5,2,3,4,5,6,7]})", " offset[0]=1.5",
-        "1 8.0 0 40 WZ öffnen 1.5 100000 Sensor 5 00000");
-    row(R"({"sensor maxValues":[7.25],"sensor minValues":[-3]})", " sensor maximum(0)=7.25",
-        "100 8.0 0 40 WZ öffnen 0 7.25 Sensor 5 00000");
-    row(R"({"sensorName 5":"N","sensorName 1":3})", " numSensors(0)=5", "100 8.0 0 40 WZ öffnen 0 100000 N 00000");
-    row(R"({"measurement":[[1]],"sensor 6":[[1]],"sensor1":[[1]]})", " numSensorGroups=1", defaults);
-}
-
-void TestOpenedFields::readsOddFields()
-{
-    QFETCH(QByteArray, text);
-    QFETCH(QString, logged);
-    QFETCH(QString, found);
-    writeText(path("odd.vnt"), text);
-    Model model{QString()};
-    model.setVerticalMarkerAbsolute(3, 40);
-    const LogCapture log;
-    QVERIFY(model.open(path("odd.vnt")));
-    QVERIFY(log.contains(logged));
-    const SensorGroup &group = model.sensorDescription().sensorGroup(0);
-    QString state =
-        QStringLiteral("%1 %2 %3 %4 %5 %6 %7 %8 ")
-            .arg(QString::number(model.clock()), model.firmwareVersion(),
-                 QString::number(model.projectData().closingForce), QString::number(model.verticalMarker(3)),
-                 model.phaseName(4), QString::number(model.offset(0)), QString::number(group.sensorMaximum(0)),
-                 group.sensorName(4));
-    for (int sensor = 0; sensor < kNumSensors; ++sensor)
-        state += QString::number(model.numChannels(sensor));
-    QCOMPARE(state, found);
-}
-
-void TestOpenedFields::readsOldVersions_data()
-{
-    QTest::addColumn<QByteArray>("version");
-    QTest::addColumn<QString>("logged");
-    QTest::addColumn<bool>("isOld");
-    QTest::newRow("current") << QByteArray(R"("7")") << QStringLiteral(" file version=7") << false;
-    QTest::newRow("older") << QByteArray(R"("5")") << QStringLiteral(" file version=5") << true;
-    QTest::newRow("not an integer") << QByteArray(R"("7.5")") << QStringLiteral(" file version=7.5") << true;
-    QTest::newRow("number") << QByteArray("7") << QStringLiteral(" file version=6.0") << true;
-}
-
-void TestOpenedFields::readsOldVersions()
-{
-    QFETCH(QByteArray, version);
-    QFETCH(QString, logged);
-    QFETCH(bool, isOld);
-    writeText(path("version.vnt"), "{\"fileVersion\":" + version + "}");
-    const LogCapture log;
-    Model model{QString()};
-    SensorDescription description;
-    description.setNumSensorGroups(3);
-    model.setSensorDescription(description);
-    QVERIFY(model.open(path("version.vnt")));
-    QVERIFY(log.contains(logged));
-    QCOMPARE(log.contains(QStringLiteral(" file version < 7 -> using defaults (1 group, 5 sensors, distance)")), isOld);
-    QCOMPARE(model.sensorDescription().numSensorGroups(), 1);
-    QCOMPARE(model.sensorDescription().sensorGroup(0).numSensors(), 5);
-    QCOMPARE(model.sensorDescription().sensorGroup(0).sensorType(4), isOld ? QStringLiteral("Distance") : QString());
-}
-
-void TestOpenedFields::readsOsziRanges_data()
-{
-    QTest::addColumn<QByteArray>("viewData");
-    QTest::addColumn<QString>("logged");
-    QTest::addColumn<double>("firstMaximum");
-    QTest::addColumn<bool>("absolute");
-    const QString undefined = QStringLiteral("jViewData is undefined (key 'ViewData' not found)!");
-    const QString empty = QStringLiteral("jViewDataObj is empty!  (Qt bug? doesn't matter!)");
-    const QString limits = QStringLiteral("osziMin and osziMax not given or equal -> use sensor min/max values:");
-    QTest::newRow("missing") << QByteArray(R"("x":0)") << undefined << 8.0 << false;
-    QTest::newRow("text") << QByteArray(R"("ViewData":"x")") << QStringLiteral("jViewData is no object!") << 8.0
-                          << false;
-    QTest::newRow("empty") << QByteArray(R"("ViewData":{})") << empty << 8.0 << false;
-    QTest::newRow("no ranges") << QByteArray(R"("ViewData":{"checkBoxMarkerAbsolute":true})")
-                               << QStringLiteral("jOsziMinArray is no array!") << 8.0 << true;
-    QTest::newRow("first alone") << QByteArray(
-        R"("ViewData":{"osziMinValues":[0,0,0,0,0],"osziMaxValues":[10,0,0,0,0,9],"checkBoxMarkerAbsolute":1})")
-                                 << limits << 10.0 << false;
-}
-
-void TestOpenedFields::readsOsziRanges()
-{
-    QFETCH(QByteArray, viewData);
-    QFETCH(QString, logged);
-    QFETCH(double, firstMaximum);
-    QFETCH(bool, absolute);
-    writeText(path("view.vnt"), "{" + viewData + R"(,"sensor minValues":[0,-2,0,0,0],"sensor maxValues":[8,9,0,0,0]})");
-    const LogCapture log;
-    Model model{QString()};
-    QVERIFY(model.open(path("view.vnt")));
-    QVERIFY(log.contains(logged));
-    QCOMPARE(model.osziMaximum(0), firstMaximum);
-    QCOMPARE(model.osziMinimum(1), -2.0);
-    QCOMPARE(model.osziMaximum(1), 9.0);
-    QCOMPARE(model.markersAbsolute(), absolute);
-}
-
-void TestOpenedFields::readsImages_data()
-{
-    QTest::addColumn<QByteArray>("json");
-    QTest::addColumn<QSize>("size");
-    const QByteArray png = pngOf(QImage(3, 9, QImage::Format_ARGB32));
-    QByteArray huge = png;
-    huge.replace(16, 8, QByteArray::fromHex("0000ffff0000ffff")); // width and height in its head
-    QTest::newRow("image") << QByteArray('"' + png.toBase64() + '"') << QSize(3, 9);
-    QTest::newRow("gigabytes") << QByteArray('"' + huge.toBase64() + '"') << QSize();
-    QTest::newRow("cut") << QByteArray('"' + png.left(20).toBase64() + '"') << QSize();
-    QTest::newRow("not Base64") << QByteArray(R"("\u00e4%&")") << QSize();
-}
-
-void TestOpenedFields::readsImages()
-{
-    QFETCH(QByteArray, json);
-    QFETCH(QSize, size);
-    writeText(path("image.vnt"), "{\"projectImage4\":" + json + "}");
-    const LogCapture log;
-    const Model model(path("image.vnt"));
-    QCOMPARE(model.currentFile(), path("image.vnt"));
-    QCOMPARE(model.image(4).size(), size.isValid() ? size : QSize(0, 0));
-}
 
 QTEST_MAIN(TestOpenedFields)
 #include "tst_openedfields.moc"

@@ -1,6 +1,8 @@
 #include "model/model.h"
 #include "tests/support/faildevice.h"
+#include "tests/support/literals.h"
 #include "tests/support/logcapture.h"
+#include "tests/support/rows.h"
 
 #include <QBuffer>
 #include <QElapsedTimer>
@@ -16,7 +18,7 @@ const QDateTime kMorning(QDate(2026, 3, 9), QTime(6, 0, 1, 250));
 QByteArray contentOf(const QString &fileName)
 {
     QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : "cannot be read"_ba;
 }
 
 void writeText(const QString &fileName, const QByteArray &text)
@@ -38,11 +40,11 @@ void fill(Model &model)
     ProjectMeta meta;
     meta.sensors[1].startThreshold = 12.5;
     meta.sensors[4].stopThreshold = -0.1;
-    meta.sensors[2].chosenQuantity = QStringLiteral("mean");
-    meta.sensors[2].at(QStringLiteral("mean")) = {QStringLiteral("mean"), true, 1.0, std::nullopt};
-    meta.sensors[2].at(QStringLiteral("marker1")) = {QStringLiteral("marker1"), false, std::nullopt, 0.3};
+    meta.sensors[2].chosenQuantity = "mean"_s;
+    meta.sensors[2].at("mean"_s) = {"mean"_s, true, 1.0, std::nullopt};
+    meta.sensors[2].at("marker1"_s) = {"marker1"_s, false, std::nullopt, 0.3};
     model.setProjectMeta(meta);
-    model.setShotLabel(1, QStringLiteral("Anfahrteil \"ö\"\n"));
+    model.setShotLabel(1, "Anfahrteil \"ö\"\n"_s);
     model.setTimestamp(0, kMorning);
     model.setTimestamp(2, kMorning.addSecs(60));
 }
@@ -62,187 +64,175 @@ class TestProjectMeta : public QObject
     Q_OBJECT
 
 private slots:
-    void savedAndOpenedAgain();
-    void theProjectFileStaysAsItIs();
-    void labelsStayWithTheirShots();
-    void labelsOfOtherShotsAreNotTaken();
-    void aBadFileKeepsNothingFromOpening_data();
-    void aBadFileKeepsNothingFromOpening();
-    void onlyRegularFilesAreRead();
-    void aFailedWriteIsTold();
-    void badEntriesAreLeftOut();
-    void aShortWriteIsNoticed();
-    void idsTellMeasurementsApart();
+    void savedAndOpenedAgain()
+    {
+        Model model{QString()};
+        fill(model);
+        QVERIFY(model.save(path("a.vnt")));
+        QVERIFY(model.isProjectMetaSaved());
+        Model opened(path("a.vnt"));
+        QVERIFY(opened.projectMeta().sensors == model.projectMeta().sensors);
+        QCOMPARE(opened.shotLabel(0), QString());
+        QCOMPARE(opened.shotLabel(1), "Anfahrteil \"ö\"\n"_s);
+        QCOMPARE(opened.timestamp(0), kMorning);
+        QVERIFY(!opened.timestamp(1).isValid());
+        QCOMPARE(opened.timestamp(2), kMorning.addSecs(60));
+        QVERIFY(!opened.isProjectModified());
+        opened.clear();
+        QVERIFY(opened.projectMeta() == ProjectMeta());
+    }
+
+    void theProjectFileStaysAsItIs()
+    {
+        Model plain{QString()};
+        addShots(plain, 3);
+        QVERIFY(plain.save(path("plain.vnt")));
+        Model model{QString()};
+        fill(model);
+        QVERIFY(model.save(path("full.vnt")));
+        QCOMPARE(contentOf(path("full.vnt")), contentOf(path("plain.vnt")));
+    }
+
+    void labelsStayWithTheirShots()
+    {
+        Model model{QString()};
+        fill(model);
+        QVERIFY(model.deleteChannel(0));
+        QCOMPARE(model.shotLabel(0), "Anfahrteil \"ö\"\n"_s);
+        QCOMPARE(model.timestamp(1), kMorning.addSecs(60));
+        model.clearData();
+        addShots(model, 2);
+        QCOMPARE(model.shotLabel(0), QString());
+        QCOMPARE(model.projectMeta().sensors[1].startThreshold, 12.5); // settings are no data
+    }
+
+    // The project was written by something that knows nothing of the file beside it.
+    void labelsOfOtherShotsAreNotTaken()
+    {
+        Model model{QString()};
+        fill(model);
+        QVERIFY(model.save(path("b.vnt")));
+        const QByteArray meta = contentOf(path("b.vnt.meta"));
+        QVERIFY(model.deleteChannel(0));
+        QVERIFY(model.save(path("b.vnt")));
+        writeText(path("b.vnt.meta"), meta);
+        Model opened(path("b.vnt"));
+        QCOMPARE(opened.numChannels(0), 2);
+        for (int shot = 0; shot < 2; ++shot) {
+            QCOMPARE(opened.shotLabel(shot), QString());
+            QVERIFY(!opened.timestamp(shot).isValid());
+        }
+        QCOMPARE(opened.projectMeta().sensors[1].startThreshold, 12.5);
+    }
+
+    void aBadFileKeepsNothingFromOpening_data()
+    {
+        columns<QByteArray>("text");
+        row("no JSON", QByteArray("\xFF\x00garbage", 9));
+        row("cut off", "{\"metaVersion\":1,\"sensors\":[{\"startThre"_ba);
+        row("later version", "{\"metaVersion\":2,\"sensors\":[{\"startThreshold\":3}]}"_ba);
+        row("deep", "{\"metaVersion\":1,\"shots\":"_ba + QByteArray(100000, '['));
+        row("huge", QByteArray(static_cast<int>(kLargestMeta) + 1, ' '));
+    }
+
+    void aBadFileKeepsNothingFromOpening()
+    {
+        QFETCH(QByteArray, text);
+        Model model{QString()};
+        addShots(model, 2);
+        QVERIFY(model.save(path("c.vnt")));
+        writeText(path("c.vnt.meta"), text);
+        LogCapture log;
+        QVERIFY(model.open(path("c.vnt")));
+        QVERIFY(log.contains("ERROR: could not read file:"_s));
+        QCOMPARE(model.numChannels(4), 2);
+        QVERIFY(model.projectMeta() == ProjectMeta());
+        QFile::remove(path("c.vnt.meta"));
+    }
+
+    void onlyRegularFilesAreRead()
+    {
+        Model model{QString()};
+        fill(model);
+        QCOMPARE(::mkfifo(qPrintable(path("d.vnt.meta")), 0600), 0);
+        QVERIFY(model.save(path("d.vnt")));
+        QVERIFY(!model.isProjectMetaSaved());
+        QElapsedTimer timer;
+        timer.start();
+        QVERIFY(model.open(path("d.vnt")));
+        QVERIFY(timer.elapsed() < 10000); // nobody writes to the pipe
+        QCOMPARE(model.numChannels(0), 3);
+    }
+
+    void aFailedWriteIsTold()
+    {
+        Model model{QString()};
+        fill(model);
+        QVERIFY(QDir().mkpath(path("e.vnt.meta")));
+        LogCapture log;
+        QVERIFY(model.save(path("e.vnt")));
+        QVERIFY(!model.isProjectMetaSaved());
+        QVERIFY(log.contains("ERROR: could not write file:"_s));
+        QVERIFY(QDir().rmdir(path("e.vnt.meta")));
+        QVERIFY(model.save(path("e.vnt")));
+        QVERIFY(model.isProjectMetaSaved());
+        QVERIFY(QFile::exists(path("e.vnt.meta")));
+        // A project that cannot be written leaves the file beside it alone.
+        const QByteArray before = contentOf(path("e.vnt.meta"));
+        QVERIFY(QFile::remove(path("e.vnt")) && QDir().mkpath(path("e.vnt")));
+        model.setShotLabel(0, "later"_s);
+        QVERIFY(!model.save(path("e.vnt")));
+        QCOMPARE(contentOf(path("e.vnt.meta")), before);
+    }
+
+    void badEntriesAreLeftOut()
+    {
+        const auto meta = readText("{\"metaVersion\":1,\"sensors\":[7,{\"startThreshold\":\"x\",\"stopThreshold\":2,"
+                                   "\"quantities\":[{\"quantity\":\"mean\",\"lowerLimit\":\"low\",\"upperLimit\":4},3,"
+                                   "{\"quantity\":\"mean\",\"upperLimit\":5},{\"upperLimit\":6}]},{},{},{},{},{}],"
+                                   "\"shots\":[{\"check\":1,\"label\":5,\"time\":\"soon\"},\"no\",{\"check\":3,"
+                                   "\"label\":\"l\"},{\"check\":4,\"label\":\"too many\"}]}",
+                                   {1, 2, 3});
+        QVERIFY(meta);
+        QCOMPARE(meta->sensors[1].startThreshold, 0.0);
+        QCOMPARE(meta->sensors[1].stopThreshold, 2.0);
+        QCOMPARE(meta->sensors[1].quantities.size(), size_t(1));
+        QVERIFY(!meta->sensors[1].quantities[0].lowerLimit);
+        QVERIFY(meta->sensors[1].quantities[0].upperLimit == 4.0);
+        QCOMPARE(meta->labels.size(), size_t(3));
+        QCOMPARE(meta->labels[2], "l"_s);
+        QVERIFY(!meta->timestamps[0].isValid());
+    }
+
+    void aShortWriteIsNoticed()
+    {
+        FailDevice device(20);
+        QVERIFY(!writeProjectMeta(device, ProjectMeta(), {1, 2}));
+    }
+
+    void idsTellMeasurementsApart()
+    {
+        Model model{QString()};
+        addShots(model, 3);
+        QSet<quint64> seen;
+        for (int shot = 0; shot < 3; ++shot)
+            for (int sensor = 0; sensor < kNumSensors; ++sensor)
+                seen.insert(model.measurementId(sensor, shot));
+        QCOMPARE(seen.size(), 15);
+        const quint64 last = model.measurementId(0, 2);
+        QVERIFY(model.deleteChannel(1));
+        QCOMPARE(model.measurementId(0, 1), last);
+        model.clearData();
+        addShots(model, 1);
+        QVERIFY(!seen.contains(model.measurementId(0, 0)));
+        QVERIFY(model.save(path("g.vnt")) && model.open(path("g.vnt")));
+        QVERIFY(model.measurementId(0, 0) > last);
+    }
 
 private:
     [[nodiscard]] QString path(const char *name) const { return m_folder.filePath(QString::fromLatin1(name)); }
     QTemporaryDir m_folder;
 };
-
-void TestProjectMeta::savedAndOpenedAgain()
-{
-    Model model{QString()};
-    fill(model);
-    QVERIFY(model.save(path("a.vnt")));
-    QVERIFY(model.isProjectMetaSaved());
-    Model opened(path("a.vnt"));
-    QVERIFY(opened.projectMeta().sensors == model.projectMeta().sensors);
-    QCOMPARE(opened.shotLabel(0), QString());
-    QCOMPARE(opened.shotLabel(1), QStringLiteral("Anfahrteil \"ö\"\n"));
-    QCOMPARE(opened.timestamp(0), kMorning);
-    QVERIFY(!opened.timestamp(1).isValid());
-    QCOMPARE(opened.timestamp(2), kMorning.addSecs(60));
-    QVERIFY(!opened.isProjectModified());
-    opened.clear();
-    QVERIFY(opened.projectMeta() == ProjectMeta());
-}
-
-void TestProjectMeta::theProjectFileStaysAsItIs()
-{
-    Model plain{QString()};
-    addShots(plain, 3);
-    QVERIFY(plain.save(path("plain.vnt")));
-    Model model{QString()};
-    fill(model);
-    QVERIFY(model.save(path("full.vnt")));
-    QCOMPARE(contentOf(path("full.vnt")), contentOf(path("plain.vnt")));
-}
-
-void TestProjectMeta::labelsStayWithTheirShots()
-{
-    Model model{QString()};
-    fill(model);
-    QVERIFY(model.deleteChannel(0));
-    QCOMPARE(model.shotLabel(0), QStringLiteral("Anfahrteil \"ö\"\n"));
-    QCOMPARE(model.timestamp(1), kMorning.addSecs(60));
-    model.clearData();
-    addShots(model, 2);
-    QCOMPARE(model.shotLabel(0), QString());
-    QCOMPARE(model.projectMeta().sensors[1].startThreshold, 12.5); // settings are no data
-}
-
-// The project was written by something that knows nothing of the file beside it.
-void TestProjectMeta::labelsOfOtherShotsAreNotTaken()
-{
-    Model model{QString()};
-    fill(model);
-    QVERIFY(model.save(path("b.vnt")));
-    const QByteArray meta = contentOf(path("b.vnt.meta"));
-    QVERIFY(model.deleteChannel(0));
-    QVERIFY(model.save(path("b.vnt")));
-    writeText(path("b.vnt.meta"), meta);
-    Model opened(path("b.vnt"));
-    QCOMPARE(opened.numChannels(0), 2);
-    for (int shot = 0; shot < 2; ++shot) {
-        QCOMPARE(opened.shotLabel(shot), QString());
-        QVERIFY(!opened.timestamp(shot).isValid());
-    }
-    QCOMPARE(opened.projectMeta().sensors[1].startThreshold, 12.5);
-}
-
-void TestProjectMeta::aBadFileKeepsNothingFromOpening_data()
-{
-    QTest::addColumn<QByteArray>("text");
-    QTest::newRow("no JSON") << QByteArray("\xFF\x00garbage", 9);
-    QTest::newRow("cut off") << QByteArray("{\"metaVersion\":1,\"sensors\":[{\"startThre");
-    QTest::newRow("later version") << QByteArray("{\"metaVersion\":2,\"sensors\":[{\"startThreshold\":3}]}");
-    QTest::newRow("deep") << QByteArray("{\"metaVersion\":1,\"shots\":") + QByteArray(100000, '[');
-    QTest::newRow("huge") << QByteArray(static_cast<int>(kLargestMeta) + 1, ' ');
-}
-
-void TestProjectMeta::aBadFileKeepsNothingFromOpening()
-{
-    QFETCH(QByteArray, text);
-    Model model{QString()};
-    addShots(model, 2);
-    QVERIFY(model.save(path("c.vnt")));
-    writeText(path("c.vnt.meta"), text);
-    LogCapture log;
-    QVERIFY(model.open(path("c.vnt")));
-    QVERIFY(log.contains(QStringLiteral("ERROR: could not read file:")));
-    QCOMPARE(model.numChannels(4), 2);
-    QVERIFY(model.projectMeta() == ProjectMeta());
-    QFile::remove(path("c.vnt.meta"));
-}
-
-void TestProjectMeta::onlyRegularFilesAreRead()
-{
-    Model model{QString()};
-    fill(model);
-    QCOMPARE(::mkfifo(qPrintable(path("d.vnt.meta")), 0600), 0);
-    QVERIFY(model.save(path("d.vnt")));
-    QVERIFY(!model.isProjectMetaSaved());
-    QElapsedTimer timer;
-    timer.start();
-    QVERIFY(model.open(path("d.vnt")));
-    QVERIFY(timer.elapsed() < 10000); // nobody writes to the pipe
-    QCOMPARE(model.numChannels(0), 3);
-}
-
-void TestProjectMeta::aFailedWriteIsTold()
-{
-    Model model{QString()};
-    fill(model);
-    QVERIFY(QDir().mkpath(path("e.vnt.meta")));
-    LogCapture log;
-    QVERIFY(model.save(path("e.vnt")));
-    QVERIFY(!model.isProjectMetaSaved());
-    QVERIFY(log.contains(QStringLiteral("ERROR: could not write file:")));
-    QVERIFY(QDir().rmdir(path("e.vnt.meta")));
-    QVERIFY(model.save(path("e.vnt")));
-    QVERIFY(model.isProjectMetaSaved());
-    QVERIFY(QFile::exists(path("e.vnt.meta")));
-    // A project that cannot be written leaves the file beside it alone.
-    const QByteArray before = contentOf(path("e.vnt.meta"));
-    QVERIFY(QFile::remove(path("e.vnt")) && QDir().mkpath(path("e.vnt")));
-    model.setShotLabel(0, QStringLiteral("later"));
-    QVERIFY(!model.save(path("e.vnt")));
-    QCOMPARE(contentOf(path("e.vnt.meta")), before);
-}
-
-void TestProjectMeta::badEntriesAreLeftOut()
-{
-    const auto meta = readText("{\"metaVersion\":1,\"sensors\":[7,{\"startThreshold\":\"x\",\"stopThreshold\":2,"
-                               "\"quantities\":[{\"quantity\":\"mean\",\"lowerLimit\":\"low\",\"upperLimit\":4},3,"
-                               "{\"quantity\":\"mean\",\"upperLimit\":5},{\"upperLimit\":6}]},{},{},{},{},{}],"
-                               "\"shots\":[{\"check\":1,\"label\":5,\"time\":\"soon\"},\"no\",{\"check\":3,"
-                               "\"label\":\"l\"},{\"check\":4,\"label\":\"too many\"}]}",
-                               {1, 2, 3});
-    QVERIFY(meta);
-    QCOMPARE(meta->sensors[1].startThreshold, 0.0);
-    QCOMPARE(meta->sensors[1].stopThreshold, 2.0);
-    QCOMPARE(meta->sensors[1].quantities.size(), size_t(1));
-    QVERIFY(!meta->sensors[1].quantities[0].lowerLimit);
-    QVERIFY(meta->sensors[1].quantities[0].upperLimit == 4.0);
-    QCOMPARE(meta->labels.size(), size_t(3));
-    QCOMPARE(meta->labels[2], QStringLiteral("l"));
-    QVERIFY(!meta->timestamps[0].isValid());
-}
-
-void TestProjectMeta::aShortWriteIsNoticed()
-{
-    FailDevice device(20);
-    QVERIFY(!writeProjectMeta(device, ProjectMeta(), {1, 2}));
-}
-
-void TestProjectMeta::idsTellMeasurementsApart()
-{
-    Model model{QString()};
-    addShots(model, 3);
-    QSet<quint64> seen;
-    for (int shot = 0; shot < 3; ++shot)
-        for (int sensor = 0; sensor < kNumSensors; ++sensor)
-            seen.insert(model.measurementId(sensor, shot));
-    QCOMPARE(seen.size(), 15);
-    const quint64 last = model.measurementId(0, 2);
-    QVERIFY(model.deleteChannel(1));
-    QCOMPARE(model.measurementId(0, 1), last);
-    model.clearData();
-    addShots(model, 1);
-    QVERIFY(!seen.contains(model.measurementId(0, 0)));
-    QVERIFY(model.save(path("g.vnt")) && model.open(path("g.vnt")));
-    QVERIFY(model.measurementId(0, 0) > last);
-}
 
 QTEST_MAIN(TestProjectMeta)
 #include "tst_projectmeta.moc"

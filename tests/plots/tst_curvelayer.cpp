@@ -1,5 +1,6 @@
 #include "plots/curvelayer.h"
 #include "plots/oszipainter.h"
+#include "tests/support/rows.h"
 
 #include <QPainter>
 #include <QTest>
@@ -122,122 +123,115 @@ class TestCurveLayer : public QObject
     Q_OBJECT
 
 private slots:
-    void pictureMatchesThePlainOne_data();
-    void pictureMatchesThePlainOne();
-    void keptPictureFollowsTheScene_data();
-    void keptPictureFollowsTheScene();
-    void leavesBlendingToThePainter();
-};
+    void pictureMatchesThePlainOne_data()
+    {
+        columns<Kind, int>("kind", "scenes");
 
-void TestCurveLayer::pictureMatchesThePlainOne_data()
-{
-    QTest::addColumn<Kind>("kind");
-    QTest::addColumn<int>("scenes");
-
-    const auto row = [](const char *name, int scenes, const std::function<void(Kind &)> &change) {
-        Kind kind;
-        change(kind);
-        QTest::newRow(name) << kind << scenes;
-    };
-    row("one colour", 25, [](Kind &) {});
-    row("many curves", 6, [](Kind &k) { k.curves = 300; });
-    row("many colours", 20, [](Kind &k) { k.colors = 12, k.curves = 60; });
-    row("rough", 20, [](Kind &k) { k.noise = 120.0; });
-    row("jumps", 20, [](Kind &k) { k.jumps = 0.1; });
-    row("partly outside", 20, [](Kind &k) { k.reach = 160.0, k.jumps = 0.05; });
-    row("far outside", 20, [](Kind &k) { k.reach = 1e6, k.jumps = 0.3; });
-    row("beyond all pixels", 15, [](Kind &k) { k.reach = 1e300, k.jumps = 0.3; });
-    row("shifted, zoom", 20, [](Kind &k) { k.shift = 90, k.largestZoom = 12; });
-    row("large zoom", 20, [](Kind &k) { k.largestZoom = 400, k.jumps = 0.05; });
-    row("zoom, many colours, far outside", 20,
-        [](Kind &k) { k.largestZoom = 5, k.colors = 7, k.reach = 1e5, k.jumps = 0.1; });
-    row("tall row", 12, [](Kind &k) { k.height = 600, k.jumps = 0.05; });
-}
-
-void TestCurveLayer::pictureMatchesThePlainOne()
-{
-    QFETCH(Kind, kind);
-    QFETCH(int, scenes);
-    CurveLayer layer;
-    for (int seed = 0; seed < scenes; ++seed) {
-        Random random{unsigned(seed)};
-        World world;
-        fillWorld(random, kind, world);
-        layer.invalidate();
-        QVERIFY(layer.update(world.scene));
-        const QByteArray where = difference(layer.picture(), plainPicture(world.scene));
-        QVERIFY2(where.isEmpty(), "scene " + QByteArray::number(seed) + ": " + where);
+        const auto row = [](const char *name, int scenes, const std::function<void(Kind &)> &change) {
+            Kind kind;
+            change(kind);
+            ::row(name, kind, scenes);
+        };
+        row("one colour", 25, [](Kind &) {});
+        row("many curves", 6, [](Kind &k) { k.curves = 300; });
+        row("many colours", 20, [](Kind &k) { k.colors = 12, k.curves = 60; });
+        row("rough", 20, [](Kind &k) { k.noise = 120.0; });
+        row("jumps", 20, [](Kind &k) { k.jumps = 0.1; });
+        row("partly outside", 20, [](Kind &k) { k.reach = 160.0, k.jumps = 0.05; });
+        row("far outside", 20, [](Kind &k) { k.reach = 1e6, k.jumps = 0.3; });
+        row("beyond all pixels", 15, [](Kind &k) { k.reach = 1e300, k.jumps = 0.3; });
+        row("shifted, zoom", 20, [](Kind &k) { k.shift = 90, k.largestZoom = 12; });
+        row("large zoom", 20, [](Kind &k) { k.largestZoom = 400, k.jumps = 0.05; });
+        row("zoom, many colours, far outside", 20,
+            [](Kind &k) { k.largestZoom = 5, k.colors = 7, k.reach = 1e5, k.jumps = 0.1; });
+        row("tall row", 12, [](Kind &k) { k.height = 600, k.jumps = 0.05; });
     }
-}
 
-void TestCurveLayer::keptPictureFollowsTheScene_data()
-{
-    QTest::addColumn<Kind>("kind");
-
-    const auto row = [](const char *name, const std::function<void(Kind &)> &change) {
-        Kind kind;
-        change(kind);
-        QTest::newRow(name) << kind;
-    };
-    row("one colour", [](Kind &) {});
-    row("many colours", [](Kind &k) { k.colors = 12; });
-    row("jumps far outside", [](Kind &k) { k.reach = 1e4, k.jumps = 0.2; });
-    row("zoom", [](Kind &k) { k.largestZoom = 9, k.jumps = 0.1; });
-    row("large zoom", [](Kind &k) { k.largestZoom = 300, k.samples = 20; });
-    row("tall row", [](Kind &k) { k.height = 500, k.curves = 8; });
-}
-
-/// Scrolls, lets curves grow, changes the offset and the highlighted curve: the picture is never drawn from scratch on
-/// demand, and always equal to one that is.
-void TestCurveLayer::keptPictureFollowsTheScene()
-{
-    QFETCH(Kind, kind);
-    Random random{99};
-    for (int sequence = 0; sequence < 5; ++sequence) {
-        World world;
-        fillWorld(random, kind, world);
-        OsziScene &scene = world.scene;
+    void pictureMatchesThePlainOne()
+    {
+        QFETCH(Kind, kind);
+        QFETCH(int, scenes);
         CurveLayer layer;
-        QVERIFY(layer.update(scene));
-        for (int step = 0; step < 12; ++step) {
-            for (int grown = between(random, 0, 2); grown > 0; --grown) {
-                OsziCurve &curve = scene.curves[size_t(between(random, 0, int(scene.curves.size()) - 1))];
-                if (!curve.samples)
-                    continue;
-                const int oldCount = curve.samples->size();
-                for (int n = between(random, 1, 20); n > 0; --n)
-                    const_cast<SampleList *>(curve.samples)->append(real(random, -0.2, 1.2) * kind.reach);
-                if (curve.shown && &curve != scene.highlightedCurve())
-                    layer.extend(curve, oldCount);
-            }
-            if (between(random, 0, 3))
-                scene.geometry.startIndex += between(random, -30, 30);
-            if (between(random, 0, 7) == 0)
-                scene.offset += 1.5;
-            if (between(random, 0, 7) == 0)
-                scene.highlighted = between(random, -1, kind.curves);
-            QVERIFY(layer.update(scene));
-            const QByteArray where = difference(layer.picture(), plainPicture(scene));
-            QVERIFY2(where.isEmpty(), QByteArray::number(sequence) + '/' + QByteArray::number(step) + ": " + where);
+        for (int seed = 0; seed < scenes; ++seed) {
+            Random random{unsigned(seed)};
+            World world;
+            fillWorld(random, kind, world);
+            layer.invalidate();
+            QVERIFY(layer.update(world.scene));
+            const QByteArray where = difference(layer.picture(), plainPicture(world.scene));
+            QVERIFY2(where.isEmpty(), "scene " + QByteArray::number(seed) + ": " + where);
         }
     }
-}
 
-void TestCurveLayer::leavesBlendingToThePainter()
-{
-    Random random{3};
-    World world;
-    fillWorld(random, Kind(), world);
-    CurveLayer layer;
-    QVERIFY(layer.update(world.scene));
-    OsziCurve &curve = world.scene.curves[5];
-    curve = {&world.lists.front(), QColor(0, 0, 255, 128), true, 0.0};
-    layer.invalidate();
-    QVERIFY(!layer.update(world.scene));
-    curve.shown = false;
-    layer.invalidate();
-    QVERIFY(layer.update(world.scene));
-}
+    void keptPictureFollowsTheScene_data()
+    {
+        columns<Kind>("kind");
+
+        const auto row = [](const char *name, const std::function<void(Kind &)> &change) {
+            Kind kind;
+            change(kind);
+            ::row(name, kind);
+        };
+        row("one colour", [](Kind &) {});
+        row("many colours", [](Kind &k) { k.colors = 12; });
+        row("jumps far outside", [](Kind &k) { k.reach = 1e4, k.jumps = 0.2; });
+        row("zoom", [](Kind &k) { k.largestZoom = 9, k.jumps = 0.1; });
+        row("large zoom", [](Kind &k) { k.largestZoom = 300, k.samples = 20; });
+        row("tall row", [](Kind &k) { k.height = 500, k.curves = 8; });
+    }
+
+    /// Scrolls, lets curves grow, changes the offset and the highlighted curve: the picture is never drawn from scratch
+    /// on demand, and always equal to one that is.
+    void keptPictureFollowsTheScene()
+    {
+        QFETCH(Kind, kind);
+        Random random{99};
+        for (int sequence = 0; sequence < 5; ++sequence) {
+            World world;
+            fillWorld(random, kind, world);
+            OsziScene &scene = world.scene;
+            CurveLayer layer;
+            QVERIFY(layer.update(scene));
+            for (int step = 0; step < 12; ++step) {
+                for (int grown = between(random, 0, 2); grown > 0; --grown) {
+                    OsziCurve &curve = scene.curves[size_t(between(random, 0, int(scene.curves.size()) - 1))];
+                    if (!curve.samples)
+                        continue;
+                    const int oldCount = curve.samples->size();
+                    for (int n = between(random, 1, 20); n > 0; --n)
+                        const_cast<SampleList *>(curve.samples)->append(real(random, -0.2, 1.2) * kind.reach);
+                    if (curve.shown && &curve != scene.highlightedCurve())
+                        layer.extend(curve, oldCount);
+                }
+                if (between(random, 0, 3))
+                    scene.geometry.startIndex += between(random, -30, 30);
+                if (between(random, 0, 7) == 0)
+                    scene.offset += 1.5;
+                if (between(random, 0, 7) == 0)
+                    scene.highlighted = between(random, -1, kind.curves);
+                QVERIFY(layer.update(scene));
+                const QByteArray where = difference(layer.picture(), plainPicture(scene));
+                QVERIFY2(where.isEmpty(), QByteArray::number(sequence) + '/' + QByteArray::number(step) + ": " + where);
+            }
+        }
+    }
+
+    void leavesBlendingToThePainter()
+    {
+        Random random{3};
+        World world;
+        fillWorld(random, Kind(), world);
+        CurveLayer layer;
+        QVERIFY(layer.update(world.scene));
+        OsziCurve &curve = world.scene.curves[5];
+        curve = {&world.lists.front(), QColor(0, 0, 255, 128), true, 0.0};
+        layer.invalidate();
+        QVERIFY(!layer.update(world.scene));
+        curve.shown = false;
+        layer.invalidate();
+        QVERIFY(layer.update(world.scene));
+    }
+};
 
 QTEST_MAIN(TestCurveLayer)
 

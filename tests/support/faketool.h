@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/support/literals.h"
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -16,7 +17,7 @@ public:
     /// For the runs to come, in the language of sh; "$1" is the argument text.
     void setScript(const QByteArray &script)
     {
-        (void)QDir(m_folder.path()).mkpath(QStringLiteral("with blank/winscp"));
+        (void)QDir(m_folder.path()).mkpath("with blank/winscp"_s);
         QFile tool(file());
         (void)tool.open(QIODevice::WriteOnly | QIODevice::Truncate);
         tool.write(
@@ -39,7 +40,7 @@ public:
 private:
     [[nodiscard]] QString path(const char *name) const
     {
-        return m_folder.filePath(QStringLiteral("with blank/winscp/") + QLatin1String(name));
+        return m_folder.filePath("with blank/winscp/"_s + QLatin1String(name));
     }
     [[nodiscard]] QStringList lines(const char *name) const
     {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/support/literals.h"
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -35,26 +36,25 @@ public:
     [[nodiscard]] static QString whatIsMissing()
     {
         if (::geteuid() != 0)
-            return QStringLiteral("only root may confine an SSH server to a folder");
-        for (const QString &program :
-             {sshd(), QStringLiteral("ssh-keygen"), QStringLiteral("sshpass"), QStringLiteral("sftp")}) {
+            return "only root may confine an SSH server to a folder"_s;
+        for (const QString &program : {sshd(), "ssh-keygen"_s, "sshpass"_s, "sftp"_s}) {
             if (QStandardPaths::findExecutable(program).isEmpty())
-                return program + QStringLiteral(" is not installed");
+                return program + " is not installed"_s;
         }
         return {};
     }
 
     [[nodiscard]] bool start()
     {
-        if (!QDir().mkpath(QStringLiteral("/run/sshd")) || !makeFiles())
+        if (!QDir().mkpath("/run/sshd"_s) || !makeFiles())
             return false;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("LD_PRELOAD"), QStringLiteral("libnss_wrapper.so"));
+        environment.insert("LD_PRELOAD"_s, "libnss_wrapper.so"_s);
         for (const char *table : {"passwd", "shadow", "group"})
-            environment.insert(QStringLiteral("NSS_WRAPPER_") + QString::fromLatin1(table).toUpper(), file(table));
+            environment.insert("NSS_WRAPPER_"_s + QString::fromLatin1(table).toUpper(), file(table));
         m_server.setProcessEnvironment(environment);
         m_server.setStandardErrorFile(file("log"));
-        m_server.start(sshd(), {QStringLiteral("-D"), QStringLiteral("-e"), QStringLiteral("-f"), file("config")});
+        m_server.start(sshd(), {"-D"_s, "-e"_s, "-f"_s, file("config")});
         return m_server.waitForStarted() && QTest::qWaitFor([this] { return answers(); });
     }
 
@@ -81,7 +81,7 @@ public:
 private:
     static constexpr int kAccount = 65534; ///< owns nothing
 
-    [[nodiscard]] static QString sshd() { return QStringLiteral("/usr/sbin/sshd"); }
+    [[nodiscard]] static QString sshd() { return "/usr/sbin/sshd"_s; }
     [[nodiscard]] QString file(const char *name) const { return m_folder.filePath(QString::fromLatin1(name)); }
     void writeFile(const char *name, const QString &content) const
     {
@@ -92,7 +92,7 @@ private:
 
     static void killChildren(const QString &process)
     {
-        QFile children(QStringLiteral("/proc/%1/task/%1/children").arg(process));
+        QFile children("/proc/%1/task/%1/children"_s.arg(process));
         if (!children.open(QIODevice::ReadOnly))
             return;
         for (const QByteArray &child : children.readAll().simplified().split(' ')) {
@@ -111,35 +111,32 @@ private:
         m_port = probe.serverPort();
         // Whoever is confined to a folder may not own it.
         QFile::setPermissions(m_folder.path(), QFileDevice::Permissions(0x7755));
-        stick().mkpath(QStringLiteral("data"));
-        for (const QString &folder : {stick().path(), stick().filePath(QStringLiteral("data"))})
+        stick().mkpath("data"_s);
+        for (const QString &folder : {stick().path(), stick().filePath("data"_s)})
             (void)::chown(folder.toUtf8().constData(), kAccount, kAccount); // else the upload fails, which is noticed
         writeAccounts();
         writeConfig();
-        return QProcess::execute(QStringLiteral("ssh-keygen"),
-                                 {QStringLiteral("-q"), QStringLiteral("-t"), QStringLiteral("ed25519"),
-                                  QStringLiteral("-N"), QString(), QStringLiteral("-f"), file("key")})
+        return QProcess::execute("ssh-keygen"_s, {"-q"_s, "-t"_s, "ed25519"_s, "-N"_s, QString(), "-f"_s, file("key")})
                == 0;
     }
 
     void writeAccounts() const
     {
         const QString hash = QString::fromLatin1(::crypt(m_password.toUtf8().constData(), "$6$ventarotest"));
-        writeFile("passwd", QStringLiteral("root:x:0:0::/root:/bin/sh\nsshd:x:102:65534::/run/sshd:/bin/false\n"
-                                           "%1:x:%2:%2::/:/bin/sh\n")
-                                .arg(m_user)
+        writeFile("passwd", "root:x:0:0::/root:/bin/sh\nsshd:x:102:65534::/run/sshd:/bin/false\n"
+                            "%1:x:%2:%2::/:/bin/sh\n"_s.arg(m_user)
                                 .arg(kAccount));
-        writeFile("shadow", QStringLiteral("%1:%2:19000:0:99999:7:::\n").arg(m_user, hash));
-        writeFile("group", QStringLiteral("root:x:0:\nnogroup:x:%1:\n").arg(kAccount));
+        writeFile("shadow", "%1:%2:19000:0:99999:7:::\n"_s.arg(m_user, hash));
+        writeFile("group", "root:x:0:\nnogroup:x:%1:\n"_s.arg(kAccount));
     }
 
     void writeConfig() const
     {
-        writeFile("config", QStringLiteral("ListenAddress 127.0.0.1\nPort %1\nHostKey %2\nPidFile none\nUsePAM no\n"
-                                           "PasswordAuthentication yes\nPubkeyAuthentication no\n"
-                                           "KbdInteractiveAuthentication no\nChrootDirectory %3\n"
-                                           "Subsystem sftp internal-sftp\nForceCommand internal-sftp\n")
-                                .arg(QString::number(m_port), file("key"), file("root")));
+        writeFile("config", "ListenAddress 127.0.0.1\nPort %1\nHostKey %2\nPidFile none\nUsePAM no\n"
+                            "PasswordAuthentication yes\nPubkeyAuthentication no\n"
+                            "KbdInteractiveAuthentication no\nChrootDirectory %3\n"
+                            "Subsystem sftp internal-sftp\nForceCommand internal-sftp\n"_s.arg(
+                                QString::number(m_port), file("key"), file("root")));
     }
 
     [[nodiscard]] bool answers() const
@@ -151,7 +148,7 @@ private:
 
     QString m_user;
     QString m_password;
-    QTemporaryDir m_folder{QStringLiteral("/run/ventaro-ssh-XXXXXX")}; ///< nobody but root may write on its way
+    QTemporaryDir m_folder{"/run/ventaro-ssh-XXXXXX"_s}; ///< nobody but root may write on its way
     QProcess m_server;
     int m_port = 0;
 };

@@ -1,10 +1,12 @@
+#include "tests/support/literals.h"
+#include "tests/support/rows.h"
 #include "tools/scp-bridge/script.h"
 
 #include <QtTest>
 
 namespace {
 
-const QString kOpen = QStringLiteral("open pi:secret@192.168.4.1 -hostkey=* ");
+const QString kOpen = "open pi:secret@192.168.4.1 -hostkey=* "_s;
 
 } // namespace
 
@@ -13,88 +15,76 @@ class TestScpScript : public QObject
     Q_OBJECT
 
 private slots:
-    void arguments_data();
-    void arguments();
-    void scripts_data();
-    void scripts();
-    void account();
+    void arguments_data()
+    {
+        columns<QStringList, QStringList>("arguments", "commands");
+        const QStringList both{"open a b "_s, "exit"_s};
+        row("one text", QStringList("/command \"open a b \" \"exit\""_s), both);
+        row("arguments", QStringList{"/command"_s, both[0], both[1]}, both);
+        row("quoted arguments", QStringList{"/command"_s, "\"open a b \""_s, "\"exit\""_s}, both);
+        row("not closed", QStringList("/command \"open a b"_s), QStringList());
+        row("something else", QStringList{"/log"_s, "x"_s}, QStringList());
+        row("nothing", QStringList(), QStringList());
+        row("blank", QStringList(" "_s), QStringList());
+    }
+
+    void arguments()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QStringList, commands);
+        QCOMPARE(scriptCommands(arguments).value_or(QStringList()), commands);
+    }
+
+    void scripts_data()
+    {
+        // batch: empty: an error
+        columns<QStringList, QString>("commands", "batch");
+        const auto move = [](const char *name, const QString &command, const char *batch) {
+            row(name, QStringList{kOpen, command, "exit"_s}, QString::fromLatin1(batch));
+        };
+        move("get", "get -preservetime /media/usbstick/data/dir-20240305"_s,
+             "get -r -p \"/media/usbstick/data/dir-20240305\"\n");
+        move("put", "put -preservetime /fw/a.tgz /media/usbstick/"_s, "put -p \"/fw/a.tgz\" \"/media/usbstick/\"\n");
+        move("without times", "put /fw/a.tgz /media/"_s, "put  \"/fw/a.tgz\" \"/media/\"\n");
+        move("blanks", "put -preservetime /my fw/a 8.tgz /media/"_s, "put -p \"/my fw/a 8.tgz\" \"/media/\"\n");
+        move("quoted for sftp", "put -preservetime /a\\n\"!rm /media/"_s, "put -p \"/a\\\\n\\\"!rm\" \"/media/\"\n");
+        move("two lines", "put -preservetime /a\n!rm /media/"_s, "");
+        move("no target", "put -preservetime /a"_s, "");
+        move("no source", "get -preservetime "_s, "");
+        move("unknown option", "put -preservetime -delete /a /media/"_s, "");
+        move("unknown command", "rm /a"_s, "");
+        row("not opened", QStringList{"get /a"_s}, QString());
+        row("nothing moved", QStringList{kOpen, "exit"_s}, QString());
+        row("two moves", QStringList{kOpen, "get /a"_s, "get /b"_s}, QString());
+        for (const char *open : {"open", "open pi@host", "open pi:x@ho st", "open :x@host", "open -o:x@host",
+                                 "open pi:x@-host", "open pi:x@host -rawsettings"})
+            row(open, QStringList{QString::fromLatin1(open), "get /a"_s}, QString());
+    }
+
+    void scripts()
+    {
+        QFETCH(QStringList, commands);
+        QFETCH(QString, batch);
+        const TransferScript script = parseScript(commands);
+        QCOMPARE(script.error.isEmpty(), !batch.isEmpty());
+        if (!batch.isEmpty())
+            QCOMPARE(sftpBatch(script), batch);
+    }
+
+    void account()
+    {
+        const TransferScript script = parseScript({"open pi:s@:c@box"_s, "get /a"_s});
+        QCOMPARE(script.error, QString());
+        QCOMPARE(script.password, "s@:c"_s);
+        const QStringList strict = sftpArguments(script, 2200);
+        QCOMPARE(strict.last(), "pi@box"_s);
+        QVERIFY(strict.contains("2200"_s));
+        QVERIFY(strict.contains("StrictHostKeyChecking=yes"_s));
+        QCOMPARE(strict.filter(script.password), QStringList());
+        const TransferScript any = parseScript({kOpen, "get /a"_s});
+        QVERIFY(sftpArguments(any, 22).contains("StrictHostKeyChecking=no"_s));
+    }
 };
-
-void TestScpScript::arguments_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QStringList>("commands");
-    const QStringList both{QStringLiteral("open a b "), QStringLiteral("exit")};
-    QTest::newRow("one text") << QStringList(QStringLiteral("/command \"open a b \" \"exit\"")) << both;
-    QTest::newRow("arguments") << QStringList{QStringLiteral("/command"), both[0], both[1]} << both;
-    QTest::newRow("quoted arguments") << QStringList{QStringLiteral("/command"), QStringLiteral("\"open a b \""),
-                                                     QStringLiteral("\"exit\"")}
-                                      << both;
-    QTest::newRow("not closed") << QStringList(QStringLiteral("/command \"open a b")) << QStringList();
-    QTest::newRow("something else") << QStringList{QStringLiteral("/log"), QStringLiteral("x")} << QStringList();
-    QTest::newRow("nothing") << QStringList() << QStringList();
-    QTest::newRow("blank") << QStringList(QStringLiteral(" ")) << QStringList();
-}
-
-void TestScpScript::arguments()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(QStringList, commands);
-    QCOMPARE(scriptCommands(arguments).value_or(QStringList()), commands);
-}
-
-void TestScpScript::scripts_data()
-{
-    QTest::addColumn<QStringList>("commands");
-    QTest::addColumn<QString>("batch"); // empty: an error
-    const auto row = [](const char *name, const QString &command, const char *batch) {
-        QTest::newRow(name) << QStringList{kOpen, command, QStringLiteral("exit")} << QString::fromLatin1(batch);
-    };
-    row("get", QStringLiteral("get -preservetime /media/usbstick/data/dir-20240305"),
-        "get -r -p \"/media/usbstick/data/dir-20240305\"\n");
-    row("put", QStringLiteral("put -preservetime /fw/a.tgz /media/usbstick/"),
-        "put -p \"/fw/a.tgz\" \"/media/usbstick/\"\n");
-    row("without times", QStringLiteral("put /fw/a.tgz /media/"), "put  \"/fw/a.tgz\" \"/media/\"\n");
-    row("blanks", QStringLiteral("put -preservetime /my fw/a 8.tgz /media/"),
-        "put -p \"/my fw/a 8.tgz\" \"/media/\"\n");
-    row("quoted for sftp", QStringLiteral("put -preservetime /a\\n\"!rm /media/"),
-        "put -p \"/a\\\\n\\\"!rm\" \"/media/\"\n");
-    row("two lines", QStringLiteral("put -preservetime /a\n!rm /media/"), "");
-    row("no target", QStringLiteral("put -preservetime /a"), "");
-    row("no source", QStringLiteral("get -preservetime "), "");
-    row("unknown option", QStringLiteral("put -preservetime -delete /a /media/"), "");
-    row("unknown command", QStringLiteral("rm /a"), "");
-    QTest::newRow("not opened") << QStringList{QStringLiteral("get /a")} << QString();
-    QTest::newRow("nothing moved") << QStringList{kOpen, QStringLiteral("exit")} << QString();
-    QTest::newRow("two moves") << QStringList{kOpen, QStringLiteral("get /a"), QStringLiteral("get /b")} << QString();
-    for (const char *open : {"open", "open pi@host", "open pi:x@ho st", "open :x@host", "open -o:x@host",
-                             "open pi:x@-host", "open pi:x@host -rawsettings"})
-        QTest::newRow(open) << QStringList{QString::fromLatin1(open), QStringLiteral("get /a")} << QString();
-}
-
-void TestScpScript::scripts()
-{
-    QFETCH(QStringList, commands);
-    QFETCH(QString, batch);
-    const TransferScript script = parseScript(commands);
-    QCOMPARE(script.error.isEmpty(), !batch.isEmpty());
-    if (!batch.isEmpty())
-        QCOMPARE(sftpBatch(script), batch);
-}
-
-void TestScpScript::account()
-{
-    const TransferScript script = parseScript({QStringLiteral("open pi:s@:c@box"), QStringLiteral("get /a")});
-    QCOMPARE(script.error, QString());
-    QCOMPARE(script.password, QStringLiteral("s@:c"));
-    const QStringList strict = sftpArguments(script, 2200);
-    QCOMPARE(strict.last(), QStringLiteral("pi@box"));
-    QVERIFY(strict.contains(QStringLiteral("2200")));
-    QVERIFY(strict.contains(QStringLiteral("StrictHostKeyChecking=yes")));
-    QCOMPARE(strict.filter(script.password), QStringList());
-    const TransferScript any = parseScript({kOpen, QStringLiteral("get /a")});
-    QVERIFY(sftpArguments(any, 22).contains(QStringLiteral("StrictHostKeyChecking=no")));
-}
 
 QTEST_GUILESS_MAIN(TestScpScript)
 #include "tst_scpscript.moc"

@@ -1,6 +1,8 @@
 #include "device/mesotraconnector.h"
 #include "model/model.h"
+#include "tests/support/literals.h"
 #include "tests/support/logcapture.h"
+#include "tests/support/rows.h"
 #include "tests/support/scriptedprompts.h"
 #include "view/multilanguageutils.h"
 #include "view/qttexts.h"
@@ -81,9 +83,9 @@ QSet<QString> germanTexts()
     QSet<QString> texts;
     QString source;
     for (QXmlStreamReader xml(&file); !xml.atEnd(); xml.readNext()) {
-        if (xml.isStartElement() && xml.name() == QLatin1String("source"))
+        if (xml.isStartElement() && xml.name() == "source"_s)
             source = xml.readElementText();
-        else if (xml.isStartElement() && xml.name() == QLatin1String("translation") && xml.readElementText() != source)
+        else if (xml.isStartElement() && xml.name() == "translation"_s && xml.readElementText() != source)
             texts.insert(source);
     }
     return texts;
@@ -95,7 +97,7 @@ void describe(Model &model)
     project.injectionTime = 1.25;
     project.pressTime = 1234.5;
     model.setProjectData(project);
-    model.setPhaseName(4, QStringLiteral("Auswerfen"));
+    model.setPhaseName(4, "Auswerfen"_s);
     for (int sensor = 0; sensor < kNumSensors; ++sensor)
         model.appendSample(sensor, model.appendMeasurement(sensor), 1.5);
     model.setConnected(true);
@@ -119,7 +121,7 @@ struct Bench
         view.tabs()->setCurrentIndex(2); // the sensors show the newest values while they are in front
         view.show();
         dialog.show();
-        view.showProgress(QStringLiteral("192.168.4.1"));
+        view.showProgress("192.168.4.1"_s);
         settle();
     }
 
@@ -149,179 +151,161 @@ class TestMultiLanguage : public QObject
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-    void menuListsTheFilesFound_data();
-    void menuListsTheFilesFound();
-    void systemLanguageIsChecked();
-    void unusableFileIsReported_data();
-    void unusableFileIsReported();
-    void everyTextSwitchesAndReturns();
-    void numbersSwitchAndReturn();
-    void phaseNamesFollowUntilEdited();
-    void choiceIsRemembered();
-};
-
-void TestMultiLanguage::init()
-{
-    QSettings(QStringLiteral("Tarnwald"), QStringLiteral("Ventaro")).clear();
-    QLocale::setDefault(QLocale(QLocale::German));
-    installQtTexts(QStringLiteral("de"));
-}
-
-void TestMultiLanguage::cleanup()
-{
-    init();
-}
-
-void TestMultiLanguage::menuListsTheFilesFound_data()
-{
-    QTest::addColumn<QStringList>("files");
-    QTest::addColumn<QStringList>("texts");
-    QTest::newRow("none") << QStringList() << QStringList();
-    QTest::newRow("one") << QStringList{QStringLiteral("ventaro-en.qm")} << QStringList{QStringLiteral("English")};
-    QTest::newRow("several, others between")
-        << QStringList{QStringLiteral("ventaro-de.qm"), QStringLiteral("ventaro-fr.qm"),
-                       QStringLiteral("ventaro.qm"),    QStringLiteral("ventaro-it.ts"),
-                       QStringLiteral("qtbase-es.qm"),  QStringLiteral("ventaro-en.qm")}
-        << QStringList{QStringLiteral("German"), QStringLiteral("English"), QStringLiteral("French")};
-}
-
-void TestMultiLanguage::menuListsTheFilesFound()
-{
-    QFETCH(QStringList, files);
-    QFETCH(QStringList, texts);
-    const QTemporaryDir folder;
-    for (const QString &file : files)
-        write(folder.filePath(file));
-    QPixmap flag(8, 8);
-    flag.fill(Qt::red);
-    QVERIFY(flag.save(folder.filePath(QStringLiteral("en.png"))));
-    QMainWindow window;
-    MultiLanguageUtils languages(files.isEmpty() ? folder.filePath(QStringLiteral("missing")) : folder.path());
-    const QMenu *menu = languages.createLanguageMenu(&window);
-    QVERIFY(window.menuBar()->actions().contains(menu->menuAction()));
-    QCOMPARE(menu->title(), QStringLiteral("Sprache"));
-    QStringList shown;
-    for (const auto *action : menu->actions()) {
-        shown << action->text();
-        QVERIFY(action->isCheckable());
-        QVERIFY(action->actionGroup() && action->actionGroup()->isExclusive());
-        QVERIFY(languages.isOffered(action->data().toString()));
-        QCOMPARE(action->icon().pixmap(8).isNull(), action->data() != QStringLiteral("en"));
-    }
-    QCOMPARE(shown, texts);
-}
-
-void TestMultiLanguage::systemLanguageIsChecked()
-{
-    const QTemporaryDir folder;
-    const QString system = MultiLanguageUtils::languageOfLocale(QLocale::system().name());
-    write(folder.filePath(QStringLiteral("ventaro-%1.qm").arg(system)));
-    write(folder.filePath(QStringLiteral("ventaro-xx.qm")));
-    QMainWindow window;
-    MultiLanguageUtils languages(folder.path());
-    for (const auto *action : languages.createLanguageMenu(&window)->actions())
-        QCOMPARE(action->isChecked(), action->data() == system);
-}
-
-void TestMultiLanguage::unusableFileIsReported_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::newRow("missing") << QByteArray();
-    QTest::newRow("no translation") << QByteArray("ventaro");
-    QTest::newRow("cut off") << QByteArray::fromHex("3cb86418caef9c95cd211cbf60a1bddd");
-}
-
-void TestMultiLanguage::unusableFileIsReported()
-{
-    QFETCH(QByteArray, content);
-    const QTemporaryDir folder;
-    if (!content.isEmpty())
-        write(folder.filePath(QStringLiteral("ventaro-fr.qm")), content);
-    MultiLanguageUtils languages(folder.path());
-    const LogCapture log;
-    languages.loadLanguage(QStringLiteral("fr"));
-    QVERIFY(log.contains(QStringLiteral("Loading translator file ventaro-fr.qm")));
-    const QStringList lines = log.all();
-    QCOMPARE(lines.filter(QStringLiteral("translator failed!  filename=ventaro-fr.qm")).size(), 1);
-    QVERIFY(!log.contains(QStringLiteral("OK: translator installed")));
-    QCOMPARE(QCoreApplication::translate("View", "Sensoren"), QStringLiteral("Sensoren"));
-    QCOMPARE(languages.language(), QStringLiteral("fr"));
-    QCOMPARE(QLocale().language(), QLocale::French);
-}
-
-void TestMultiLanguage::everyTextSwitchesAndReturns()
-{
-    Bench bench;
-    const QStringList german = textsOf(bench.view);
-    const QSet<QString> translated = germanTexts();
-    QVERIFY(translated.size() > 200);
-    bench.choose("actionLanguageEnglish");
-    const QStringList english = textsOf(bench.view);
-    QCOMPARE(english.size(), german.size());
-    for (const QString &text : english)
-        QVERIFY2(!translated.contains(text), qPrintable(text));
-    QCOMPARE(english.filter(QRegularExpression(QStringLiteral("[äöüÄÖÜß]"))), QStringList());
-    QCOMPARE(QCoreApplication::translate("QDialogButtonBox", "Cancel"), QStringLiteral("Cancel"));
-    bench.choose("actionLanguageGerman");
-    QCOMPARE(textsOf(bench.view), german);
-}
-
-void TestMultiLanguage::numbersSwitchAndReturn()
-{
-    Bench bench;
-    const auto *time = bench.view.findChild<QDoubleSpinBox *>(QStringLiteral("spinBoxInjectionTime"));
-    QVERIFY(time);
-    const struct
+    void init()
     {
-        const char *action;
-        QChar point;
-    } steps[] = {{"actionLanguageEnglish", QLatin1Char('.')}, {"actionLanguageGerman", QLatin1Char(',')}};
-    for (const auto &step : steps) {
-        bench.choose(step.action);
-        QCOMPARE(time->text(), QStringLiteral("1") + step.point + QStringLiteral("250 s"));
-        QCOMPARE(bench.text("sensorValue"), QStringLiteral("1") + step.point + QLatin1Char('5'));
-        for (const auto *box : bench.view.findChildren<QAbstractSpinBox *>())
-            QCOMPARE(box->locale().decimalPoint(), step.point);
+        QSettings("Tarnwald"_s, "Ventaro"_s).clear();
+        QLocale::setDefault(QLocale(QLocale::German));
+        installQtTexts("de"_s);
     }
-}
 
-void TestMultiLanguage::phaseNamesFollowUntilEdited()
-{
-    Bench bench;
-    const bool modified = bench.model.isProjectModified();
-    const auto *edit = bench.view.findChild<QLineEdit *>(QStringLiteral("lineEditPhase1"));
-    bench.choose("actionLanguageEnglish");
-    QCOMPARE(bench.model.phaseName(0), QStringLiteral("Mould closing"));
-    QCOMPARE(edit->text(), QStringLiteral("Mould closing"));
-    QCOMPARE(bench.model.phaseName(4), QStringLiteral("Auswerfen"));
-    bench.choose("actionLanguageGerman");
-    QCOMPARE(bench.model.phaseName(0), QStringLiteral("WZ schließen"));
-    QCOMPARE(edit->text(), QStringLiteral("WZ schließen"));
-    QCOMPARE(bench.model.phaseName(4), QStringLiteral("Auswerfen"));
-    QCOMPARE(bench.model.isProjectModified(), modified);
-}
+    void cleanup() { init(); }
 
-void TestMultiLanguage::choiceIsRemembered()
-{
+    void menuListsTheFilesFound_data()
+    {
+        columns<QStringList, QStringList>("files", "texts");
+        row("none", QStringList(), QStringList());
+        row("one", QStringList{"ventaro-en.qm"_s}, QStringList{"English"_s});
+        row("several, others between",
+            QStringList{"ventaro-de.qm"_s, "ventaro-fr.qm"_s, "ventaro.qm"_s, "ventaro-it.ts"_s, "qtbase-es.qm"_s,
+                        "ventaro-en.qm"_s},
+            QStringList{"German"_s, "English"_s, "French"_s});
+    }
+
+    void menuListsTheFilesFound()
+    {
+        QFETCH(QStringList, files);
+        QFETCH(QStringList, texts);
+        const QTemporaryDir folder;
+        for (const QString &file : files)
+            write(folder.filePath(file));
+        QPixmap flag(8, 8);
+        flag.fill(Qt::red);
+        QVERIFY(flag.save(folder.filePath("en.png"_s)));
+        QMainWindow window;
+        MultiLanguageUtils languages(files.isEmpty() ? folder.filePath("missing"_s) : folder.path());
+        const QMenu *menu = languages.createLanguageMenu(&window);
+        QVERIFY(window.menuBar()->actions().contains(menu->menuAction()));
+        QCOMPARE(menu->title(), "Sprache"_s);
+        QStringList shown;
+        for (const auto *action : menu->actions()) {
+            shown << action->text();
+            QVERIFY(action->isCheckable());
+            QVERIFY(action->actionGroup() && action->actionGroup()->isExclusive());
+            QVERIFY(languages.isOffered(action->data().toString()));
+            QCOMPARE(action->icon().pixmap(8).isNull(), action->data() != "en"_s);
+        }
+        QCOMPARE(shown, texts);
+    }
+
+    void systemLanguageIsChecked()
+    {
+        const QTemporaryDir folder;
+        const QString system = MultiLanguageUtils::languageOfLocale(QLocale::system().name());
+        write(folder.filePath("ventaro-%1.qm"_s.arg(system)));
+        write(folder.filePath("ventaro-xx.qm"_s));
+        QMainWindow window;
+        MultiLanguageUtils languages(folder.path());
+        for (const auto *action : languages.createLanguageMenu(&window)->actions())
+            QCOMPARE(action->isChecked(), action->data() == system);
+    }
+
+    void unusableFileIsReported_data()
+    {
+        columns<QByteArray>("content");
+        row("missing", QByteArray());
+        row("no translation", "ventaro"_ba);
+        row("cut off", QByteArray::fromHex("3cb86418caef9c95cd211cbf60a1bddd"));
+    }
+
+    void unusableFileIsReported()
+    {
+        QFETCH(QByteArray, content);
+        const QTemporaryDir folder;
+        if (!content.isEmpty())
+            write(folder.filePath("ventaro-fr.qm"_s), content);
+        MultiLanguageUtils languages(folder.path());
+        const LogCapture log;
+        languages.loadLanguage("fr"_s);
+        QVERIFY(log.contains("Loading translator file ventaro-fr.qm"_s));
+        const QStringList lines = log.all();
+        QCOMPARE(lines.filter("translator failed!  filename=ventaro-fr.qm"_s).size(), 1);
+        QVERIFY(!log.contains("OK: translator installed"_s));
+        QCOMPARE(QCoreApplication::translate("View", "Sensoren"), "Sensoren"_s);
+        QCOMPARE(languages.language(), "fr"_s);
+        QCOMPARE(QLocale().language(), QLocale::French);
+    }
+
+    void everyTextSwitchesAndReturns()
     {
         Bench bench;
+        const QStringList german = textsOf(bench.view);
+        const QSet<QString> translated = germanTexts();
+        QVERIFY(translated.size() > 200);
         bench.choose("actionLanguageEnglish");
+        const QStringList english = textsOf(bench.view);
+        QCOMPARE(english.size(), german.size());
+        for (const QString &text : english)
+            QVERIFY2(!translated.contains(text), qPrintable(text));
+        QCOMPARE(english.filter(QRegularExpression("[äöüÄÖÜß]"_s)), QStringList());
+        QCOMPARE(QCoreApplication::translate("QDialogButtonBox", "Cancel"), "Cancel"_s);
+        bench.choose("actionLanguageGerman");
+        QCOMPARE(textsOf(bench.view), german);
     }
-    QLocale::setDefault(QLocale(QLocale::German));
+
+    void numbersSwitchAndReturn()
     {
-        const Bench bench;
-        QCOMPARE(bench.view.tabs()->tabText(1), QStringLiteral("Project"));
-        QVERIFY(bench.view.findChild<QAction *>(QStringLiteral("actionLanguageEnglish"))->isChecked());
-        QCOMPARE(QLocale().decimalPoint(), QLatin1Char('.'));
+        Bench bench;
+        const auto *time = bench.view.findChild<QDoubleSpinBox *>("spinBoxInjectionTime"_s);
+        QVERIFY(time);
+        const struct
+        {
+            const char *action;
+            QChar point;
+        } steps[] = {{"actionLanguageEnglish", QLatin1Char('.')}, {"actionLanguageGerman", QLatin1Char(',')}};
+        for (const auto &step : steps) {
+            bench.choose(step.action);
+            QCOMPARE(time->text(), "1"_s + step.point + "250 s"_s);
+            QCOMPARE(bench.text("sensorValue"), "1"_s + step.point + QLatin1Char('5'));
+            for (const auto *box : bench.view.findChildren<QAbstractSpinBox *>())
+                QCOMPARE(box->locale().decimalPoint(), step.point);
+        }
     }
-    QSettings(QStringLiteral("Tarnwald"), QStringLiteral("Ventaro"))
-        .setValue(QStringLiteral("language"), QStringLiteral("xx"));
-    QLocale::setDefault(QLocale(QLocale::German));
-    const Bench bench;
-    QCOMPARE(bench.view.tabs()->tabText(1), QStringLiteral("Projekt"));
-}
+
+    void phaseNamesFollowUntilEdited()
+    {
+        Bench bench;
+        const bool modified = bench.model.isProjectModified();
+        const auto *edit = bench.view.findChild<QLineEdit *>("lineEditPhase1"_s);
+        bench.choose("actionLanguageEnglish");
+        QCOMPARE(bench.model.phaseName(0), "Mould closing"_s);
+        QCOMPARE(edit->text(), "Mould closing"_s);
+        QCOMPARE(bench.model.phaseName(4), "Auswerfen"_s);
+        bench.choose("actionLanguageGerman");
+        QCOMPARE(bench.model.phaseName(0), "WZ schließen"_s);
+        QCOMPARE(edit->text(), "WZ schließen"_s);
+        QCOMPARE(bench.model.phaseName(4), "Auswerfen"_s);
+        QCOMPARE(bench.model.isProjectModified(), modified);
+    }
+
+    void choiceIsRemembered()
+    {
+        {
+            Bench bench;
+            bench.choose("actionLanguageEnglish");
+        }
+        QLocale::setDefault(QLocale(QLocale::German));
+        {
+            const Bench bench;
+            QCOMPARE(bench.view.tabs()->tabText(1), "Project"_s);
+            QVERIFY(bench.view.findChild<QAction *>("actionLanguageEnglish"_s)->isChecked());
+            QCOMPARE(QLocale().decimalPoint(), QLatin1Char('.'));
+        }
+        QSettings("Tarnwald"_s, "Ventaro"_s).setValue("language"_s, "xx"_s);
+        QLocale::setDefault(QLocale(QLocale::German));
+        const Bench bench;
+        QCOMPARE(bench.view.tabs()->tabText(1), "Projekt"_s);
+    }
+};
 
 QTEST_MAIN(TestMultiLanguage)
 #include "tst_multilanguage.moc"

@@ -3,6 +3,7 @@
 #include "plots/dashboardtile.h"
 #include "plots/tabevaluationruntime.h"
 #include "plots/tabevaluationvalues.h"
+#include "tests/support/literals.h"
 #include "view/tabevaluation.h"
 
 #include <QAbstractButton>
@@ -32,55 +33,48 @@ class TestTabEvaluation : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void thresholdsAreKeptWithTheProject();
-    void tilesOpenTheirPages();
+    void initTestCase() { prepareApplication(*qobject_cast<QApplication *>(QCoreApplication::instance())); }
+
+    void thresholdsAreKeptWithTheProject()
+    {
+        const QTemporaryDir folder;
+        const QString file = folder.filePath("p.vnt"_s);
+        Model model{QString()};
+        fill(model, 2);
+        TabEvaluation tab;
+        tab.setModel(&model);
+        auto *page = tab.findChild<TabEvaluationRuntime *>();
+        model.setProjectModifiedFlag(false);
+        page->findChild<QDoubleSpinBox *>("spinBoxStopValue"_s)->setValue(12.5);
+        QVERIFY(model.isProjectModified());
+        QVERIFY(model.save(file));
+        model.clear();
+        QCOMPARE(page->stopThreshold(0), 0.0);
+        QVERIFY(model.open(file));
+        QCOMPARE(page->stopThreshold(0), 12.5);
+        QCOMPARE(page->findChild<QDoubleSpinBox *>("spinBoxStopValue"_s)->value(), 12.5);
+        QVERIFY(!model.isProjectModified());
+    }
+
+    void tilesOpenTheirPages()
+    {
+        Model model{QString()};
+        fill(model, 2);
+        TabEvaluation tab;
+        tab.setModel(&model);
+        tab.resize(1080, 640);
+        tab.show();
+        QVERIFY(tab.currentPage() == TabEvaluation::Page::Dashboard);
+        tab.findChild<DashboardTile *>("tile3"_s)->click();
+        QVERIFY(tab.currentPage() == TabEvaluation::Page::Values);
+        QCOMPARE(tab.findChild<TabEvaluationValues *>()->currentSensor(), 3);
+        tab.findChild<QAbstractButton *>("pageButton0"_s)->click();
+        QVERIFY(tab.currentPage() == TabEvaluation::Page::Dashboard);
+        tab.findChild<QAbstractButton *>("tileCycle"_s)->click();
+        QVERIFY(tab.currentPage() == TabEvaluation::Page::Runtime);
+        QVERIFY(tab.findChild<QAbstractButton *>("pageButton2"_s)->isChecked());
+    }
 };
-
-void TestTabEvaluation::initTestCase()
-{
-    prepareApplication(*qobject_cast<QApplication *>(QCoreApplication::instance()));
-}
-
-void TestTabEvaluation::thresholdsAreKeptWithTheProject()
-{
-    const QTemporaryDir folder;
-    const QString file = folder.filePath(QStringLiteral("p.vnt"));
-    Model model{QString()};
-    fill(model, 2);
-    TabEvaluation tab;
-    tab.setModel(&model);
-    auto *page = tab.findChild<TabEvaluationRuntime *>();
-    model.setProjectModifiedFlag(false);
-    page->findChild<QDoubleSpinBox *>(QStringLiteral("spinBoxStopValue"))->setValue(12.5);
-    QVERIFY(model.isProjectModified());
-    QVERIFY(model.save(file));
-    model.clear();
-    QCOMPARE(page->stopThreshold(0), 0.0);
-    QVERIFY(model.open(file));
-    QCOMPARE(page->stopThreshold(0), 12.5);
-    QCOMPARE(page->findChild<QDoubleSpinBox *>(QStringLiteral("spinBoxStopValue"))->value(), 12.5);
-    QVERIFY(!model.isProjectModified());
-}
-
-void TestTabEvaluation::tilesOpenTheirPages()
-{
-    Model model{QString()};
-    fill(model, 2);
-    TabEvaluation tab;
-    tab.setModel(&model);
-    tab.resize(1080, 640);
-    tab.show();
-    QVERIFY(tab.currentPage() == TabEvaluation::Page::Dashboard);
-    tab.findChild<DashboardTile *>(QStringLiteral("tile3"))->click();
-    QVERIFY(tab.currentPage() == TabEvaluation::Page::Values);
-    QCOMPARE(tab.findChild<TabEvaluationValues *>()->currentSensor(), 3);
-    tab.findChild<QAbstractButton *>(QStringLiteral("pageButton0"))->click();
-    QVERIFY(tab.currentPage() == TabEvaluation::Page::Dashboard);
-    tab.findChild<QAbstractButton *>(QStringLiteral("tileCycle"))->click();
-    QVERIFY(tab.currentPage() == TabEvaluation::Page::Runtime);
-    QVERIFY(tab.findChild<QAbstractButton *>(QStringLiteral("pageButton2"))->isChecked());
-}
 
 QTEST_MAIN(TestTabEvaluation)
 #include "tst_tabevaluation.moc"
