@@ -1,8 +1,10 @@
 #include "kit/progressindicator.h"
 
+#include "kit/accessibles.h"
 #include "kit/logging.h"
 #include "kit/qtmaterialstyle.h"
 
+#include <QAccessible>
 #include <QPainter>
 
 #include <algorithm>
@@ -42,6 +44,7 @@ void drawPercent(QPainter &painter, const QRectF &ring, int percent)
 ProgressIndicator::ProgressIndicator(QWidget *parent)
     : QWidget(parent)
 {
+    installKitAccessibility();
     setAttribute(Qt::WA_TransparentForMouseEvents);
     m_timer.setInterval(kInterval);
     connect(&m_timer, &QTimer::timeout, this, &ProgressIndicator::turn);
@@ -82,6 +85,8 @@ void ProgressIndicator::setPercent(int percent)
     m_percent = next;
     updateTimer();
     update();
+    QAccessibleValueChangeEvent change(this, m_percent);
+    QAccessible::updateAccessibility(&change);
 }
 
 void ProgressIndicator::updateTimer()

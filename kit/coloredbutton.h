@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QColor>
+#include <QPushButton>
+
+/// A push button filled with a colour of its own, its text black or white, whichever reads better. A checkable one is
+/// filled and ticked while checked, pale with an outline otherwise. Font, smallest size and the disabled look come from
+/// the style sheet in force (selector "ColoredButton").
+class ColoredButton : public QPushButton
+{
+    Q_OBJECT
+    Q_PROPERTY(QColor color READ color WRITE setColor)
+    Q_PROPERTY(bool picksColor READ picksColor WRITE setPicksColor)
+
+public:
+    explicit ColoredButton(QWidget *parent = nullptr);
+    explicit ColoredButton(const QString &text, QWidget *parent = nullptr);
+
+    /// The theme's "primary1" until one is set.
+    [[nodiscard]] QColor color() const;
+    /// An invalid colour is logged and ignored.
+    void setColor(const QColor &color);
+
+    /// A button that picks its colour shows an arrow, and a click on it opens the colour dialog, which does not block.
+    [[nodiscard]] bool picksColor() const { return m_picksColor; }
+    void setPicksColor(bool picks);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+signals:
+    /// The user chose a colour other than the present one in the dialog. The button does not take it by itself: whoever
+    /// owns the colour decides and calls setColor().
+    void colorPicked(const QColor &color);
+
+protected:
+    void changeEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    struct Look;
+
+    [[nodiscard]] Look look() const;
+    [[nodiscard]] int symbolRoom() const;
+    [[nodiscard]] QString elidedText(int width) const;
+    void describe();
+    void onClicked();
+    void drawDisabled(QPainter &painter) const;
+    void drawLabel(QPainter &painter, const QColor &color) const;
+    void drawSymbol(QPainter &painter, const QColor &color) const;
+
+    QColor m_color; ///< invalid: the theme's
+    bool m_picksColor = false;
+};
