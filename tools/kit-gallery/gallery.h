@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QWidget>
+
+class QGridLayout;
+
+/// A page of the gallery: one kind of widget in its states, in rows of captioned samples.
+class GalleryPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// How the last sample added is to look in a picture; in the window the user makes it look so.
+    enum class State { Normal, Hovered, Pressed, Focused };
+
+    /// The name is the class and, in lower case, the picture's file name.
+    explicit GalleryPage(const QString &name, QWidget *parent = nullptr);
+
+    [[nodiscard]] QString name() const { return m_name; }
+
+    /// Begins a row.
+    void addRow(const QString &title);
+    /// Adds a sample to the last row; the page takes it over.
+    void addSample(const QString &caption, QWidget *sample, State state = State::Normal);
+
+    /// The page with every sample in its state. Lets time pass, so that changes that take time are over.
+    [[nodiscard]] QPixmap picture();
+
+private:
+    struct Forced
+    {
+        QWidget *sample;
+        State state;
+    };
+
+    void force(const Forced &forced) const;
+    void replaceByPicture(QWidget *sample);
+
+    QString m_name;
+    QGridLayout *m_grid;
+    int m_row = 0;
+    int m_column = 0;
+    QList<Forced> m_forced;
+};
+
+/// All pages, without a parent; whoever asks owns them.
+[[nodiscard]] QList<GalleryPage *> createPages();
