@@ -48,6 +48,17 @@
     </message>
 </context>
 <context>
+    <name>ColoredButton</name>
+    <message>
+        <source>Farbe %1, Klick öffnet die Farbauswahl</source>
+        <translation>Colour %1, click to choose another</translation>
+    </message>
+    <message>
+        <source>Farbe wählen</source>
+        <translation>Choose a colour</translation>
+    </message>
+</context>
+<context>
     <name>ConnectionProgress</name>
     <message>
         <source>Abbrechen</source>
