@@ -757,6 +757,24 @@ double click fits the value range.</translation>
     </message>
 </context>
 <context>
+    <name>QcAttitudeMeter</name>
+    <message>
+        <source>Querneigung %1°, Längsneigung %2°</source>
+        <translation>Roll %1°, pitch %2°</translation>
+    </message>
+</context>
+<context>
+    <name>QcGaugeWidget</name>
+    <message>
+        <source>kein Wert</source>
+        <translation>no value</translation>
+    </message>
+    <message>
+        <source>%1, veraltet</source>
+        <translation>%1, out of date</translation>
+    </message>
+</context>
+<context>
     <name>QuantityPicker</name>
     <message>
         <source>Wert</source>

@@ -1,0 +1,140 @@
+#include "kit/qccanvas.h"
+
+#include "kit/qtmaterialstyle.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QWidget>
+#include <QtMath>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr int kSmallestFont = 10; // pixels
+constexpr int kSixteenths = 16;   // QPainter counts in sixteenths of a degree
+
+QColor themeColor(const char *key)
+{
+    return QtMaterialStyle::instance().themeColor(QLatin1String(key));
+}
+
+/// Black or white, whichever stands out.
+QColor opposite(const QColor &color)
+{
+    return color.lightness() > 127 ? Qt::black : Qt::white;
+}
+
+} // namespace
+
+bool operator==(const QcBand &a, const QcBand &b)
+{
+    return a.from == b.from && a.to == b.to && a.color == b.color;
+}
+
+QcColors QcColors::fromTheme(bool muted)
+{
+    QcColors colors;
+    colors.muted = muted;
+    colors.face = themeColor("canvas");
+    const QColor ink = qcgauge::mixed(themeColor("text"), opposite(colors.face), 0.55);
+    colors.ink = colors.shaded(ink);
+    colors.soft = colors.shaded(qcgauge::mixed(ink, colors.face, 0.4));
+    colors.ring = themeColor("border");
+    colors.track = qcgauge::mixed(colors.ring, colors.face, 0.35);
+    colors.needle = colors.shaded(themeColor("accent1"));
+    return colors;
+}
+
+QColor QcColors::shaded(const QColor &color) const
+{
+    if (!muted)
+        return color;
+    const int grey = qGray(color.rgb());
+    return qcgauge::mixed(QColor(grey, grey, grey, color.alpha()), face, 0.55);
+}
+
+void QcCanvas::adopt(const QWidget &widget, bool muted)
+{
+    centre = QRectF(widget.rect()).center();
+    radius = std::min(widget.width(), widget.height()) / 2.0;
+    ratio = widget.devicePixelRatioF();
+    baseFont = widget.font();
+    locale = widget.locale();
+    colors = QcColors::fromTheme(muted);
+}
+
+bool QcCanvas::changesWith(QEvent::Type type)
+{
+    switch (type) {
+    case QEvent::EnabledChange:
+    case QEvent::FontChange:
+    case QEvent::LocaleChange:
+    case QEvent::LanguageChange:
+    case QEvent::StyleChange:
+        return true;
+    default:
+        return false;
+    }
+}
+
+QPointF QcCanvas::point(double angle, double percent) const
+{
+    const double radians = qDegreesToRadians(angle);
+    return centre + length(percent) * QPointF(std::sin(radians), -std::cos(radians));
+}
+
+QRectF QcCanvas::square(double percent) const
+{
+    const double half = length(percent);
+    return {centre.x() - half, centre.y() - half, 2.0 * half, 2.0 * half};
+}
+
+QFont QcCanvas::font(double percent, QFont::Weight weight) const
+{
+    QFont font(baseFont);
+    font.setPixelSize(std::max(kSmallestFont, static_cast<int>(length(percent))));
+    font.setWeight(weight);
+    return font;
+}
+
+double QcCanvas::stroke(double percent) const
+{
+    return std::max(1.0 / ratio, length(percent));
+}
+
+namespace qcgauge {
+
+QColor mixed(const QColor &one, const QColor &other, double part)
+{
+    const auto mix = [part](double a, double b) { return a + (b - a) * part; };
+    return QColor::fromRgbF(mix(one.redF(), other.redF()), mix(one.greenF(), other.greenF()),
+                            mix(one.blueF(), other.blueF()), mix(one.alphaF(), other.alphaF()));
+}
+
+void drawRing(QPainter &painter, const QcCanvas &canvas, double radius, double width, double fromAngle, double toAngle,
+              const QColor &color)
+{
+    painter.setPen(QPen(color, canvas.length(width), Qt::SolidLine, Qt::FlatCap));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawArc(canvas.square(radius - width / 2.0), qRound((90.0 - fromAngle) * kSixteenths),
+                    qRound((fromAngle - toAngle) * kSixteenths));
+}
+
+QPixmap emptyPicture(const QWidget &widget)
+{
+    const qreal ratio = widget.devicePixelRatioF();
+    QPixmap picture((QSizeF(widget.size()) * ratio).toSize());
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    return picture;
+}
+
+void drawCentred(QPainter &painter, const QPointF &point, const QString &text)
+{
+    const QFontMetricsF metrics(painter.font());
+    painter.drawText(point + QPointF(-metrics.horizontalAdvance(text) / 2.0, metrics.capHeight() / 2.0), text);
+}
+
+} // namespace qcgauge

@@ -1,0 +1,145 @@
+#include "kit/qcgaugemath.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace qcgauge {
+
+namespace {
+
+constexpr double kOverrun = 5.0;          // degrees
+constexpr double kTolerance = 1e-9;       // steps; what a sum of rounding errors may be
+constexpr double kMostMultiples = 1000.0; // more cannot be told apart on any screen
+constexpr double kExactIntegers = 9e15;   // above that a double skips integers
+constexpr int kMostDecimals = 15;
+constexpr double kLongNumber = 1e9; // from here on with an exponent
+
+double powerOfTen(double step)
+{
+    return std::pow(10.0, std::floor(std::log10(step) + kTolerance));
+}
+
+/// 1, 2 or 5 for a step of the ladder.
+int leadingDigit(double step)
+{
+    return static_cast<int>(std::lround(step / powerOfTen(step)));
+}
+
+} // namespace
+
+double fraction(double value, double from, double to)
+{
+    if (from == to || !std::isfinite(value))
+        return 0.0;
+    return (value / 2 - from / 2) / (to / 2 - from / 2); // halves: the span of two large numbers may overflow
+}
+
+double clampedFraction(double value, double from, double to)
+{
+    return std::clamp(fraction(value, from, to), 0.0, 1.0);
+}
+
+double lengthAt(double value, double from, double to, double length)
+{
+    return clampedFraction(value, from, to) * length;
+}
+
+double angleAt(const Scale &scale, double value, double beyond)
+{
+    const double extent = std::abs(scale.sweep);
+    const double way = std::clamp(fraction(value, scale.from, scale.to) * extent, -beyond, extent + beyond);
+    return scale.start + std::copysign(1.0, scale.sweep) * way;
+}
+
+double valueAt(const Scale &scale, double angle)
+{
+    const double part = clampedFraction(angle, scale.start, scale.start + scale.sweep);
+    return scale.from * (1.0 - part) + scale.to * part;
+}
+
+double overrun(const Scale &scale)
+{
+    return std::clamp((360.0 - std::abs(scale.sweep)) / 3.0, 0.0, kOverrun);
+}
+
+double niceStep(double span, int atMost)
+{
+    const double extent = std::min(std::abs(span), std::numeric_limits<double>::max());
+    if (!(extent > 0.0)) // also not a number
+        return 0.0;
+    const double least = extent / (std::max(atMost, 2) - 1);
+    if (least < std::numeric_limits<double>::min())
+        return 0.0;
+    const double power = powerOfTen(least);
+    for (const double digit : {1.0, 2.0, 5.0}) {
+        if (digit * power >= least * (1.0 - kTolerance))
+            return digit * power;
+    }
+    return 10.0 * power;
+}
+
+double coarserStep(double step)
+{
+    if (!(step > 0.0))
+        return 0.0;
+    return leadingDigit(step) == 2 ? step * 2.5 : step * 2.0;
+}
+
+int partsOfStep(double step)
+{
+    return step > 0.0 && leadingDigit(step) == 2 ? 4 : 5;
+}
+
+std::vector<double> multiples(double from, double to, double step)
+{
+    if (!(step > 0.0))
+        return {};
+    const double low = std::min(from, to);
+    const double high = std::max(from, to);
+    const double first = std::ceil(low / step - kTolerance);
+    const double last = std::floor(high / step + kTolerance);
+    if (std::max(std::abs(first), std::abs(last)) > kExactIntegers || last - first >= kMostMultiples)
+        return {low, high};
+    std::vector<double> result;
+    for (double index = first; index <= last; ++index)
+        result.push_back(index * step + 0.0); // + 0.0: no negative zero
+    return result;
+}
+
+int decimalsOfStep(double step)
+{
+    if (!(step > 0.0))
+        return 0;
+    return std::clamp(static_cast<int>(-std::floor(std::log10(step) + kTolerance)), 0, kMostDecimals);
+}
+
+QString numberText(double value, int decimals, const QLocale &locale)
+{
+    QLocale plain(locale);
+    plain.setNumberOptions(QLocale::OmitGroupSeparator);
+    if (std::abs(value) >= kLongNumber)
+        return plain.toString(value, 'e', std::min(decimals, 2));
+    const QString text = plain.toString(value, 'f', decimals);
+    const bool isZero = std::abs(value) * 2.0 < std::pow(10.0, -decimals);
+    return isZero ? plain.toString(0.0, 'f', decimals) : text; // never "-0.0"
+}
+
+QString fittingNumber(double value, int decimals, const QLocale &locale, double room,
+                      const std::function<double(const QString &)> &widthOf)
+{
+    QString text = numberText(value, decimals, locale);
+    for (int fewer = decimals - 1; fewer >= 0 && widthOf(text) > room; --fewer)
+        text = numberText(value, fewer, locale);
+    return text;
+}
+
+double normalizedAngle(double degrees)
+{
+    if (!std::isfinite(degrees))
+        return 0.0;
+    const double angle = std::remainder(degrees, 360.0);
+    return angle <= -180.0 ? 180.0 : angle;
+}
+
+} // namespace qcgauge

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <QLocale>
+#include <QString>
+
+#include <functional>
+#include <vector>
+
+/// What gauges and linear displays compute, without any widget. Angles are degrees clockwise from the top, as a clock's
+/// hand counts them. A range may be reversed (from > to) and may be empty (from == to); its ends are finite.
+namespace qcgauge {
+
+/// Where values stand on a dial.
+struct Scale
+{
+    double from = 0.0;
+    double to = 100.0;
+    double start = -120.0; ///< angle of `from`
+    double sweep = 240.0;  ///< from there to `to`; negative: against the clock
+};
+
+/// 0 at `from`, 1 at `to`, beyond that outside the range; 0 for an empty range and for what is not a number.
+[[nodiscard]] double fraction(double value, double from, double to);
+/// The same, kept within 0 and 1.
+[[nodiscard]] double clampedFraction(double value, double from, double to);
+/// The way from the beginning of a bar of this length to the value; within the bar.
+[[nodiscard]] double lengthAt(double value, double from, double to, double length);
+
+/// The angle of a value, which stays at most `beyond` degrees (not negative) outside the scale.
+[[nodiscard]] double angleAt(const Scale &scale, double value, double beyond = 0.0);
+/// The value at an angle, which is taken to the nearest end when it is outside the scale.
+[[nodiscard]] double valueAt(const Scale &scale, double angle);
+/// How far a needle may go past the ends: a few degrees, less where the ends of the scale are close to each other.
+[[nodiscard]] double overrun(const Scale &scale);
+
+/// The smallest step 1, 2 or 5 times a power of ten of which a range of this span holds no more than `atMost` multiples
+/// (at least 2). 0 if the span is empty or not a number.
+[[nodiscard]] double niceStep(double span, int atMost);
+/// The next step of that ladder. 0 for 0.
+[[nodiscard]] double coarserStep(double step);
+/// Into how many parts minor marks cut a step of that ladder: 5, or 4 for steps that begin with 2.
+[[nodiscard]] int partsOfStep(double step);
+/// The multiples of the step within the range, ascending. Only the ends where there would be more than a thousand or
+/// where the numbers are too large to tell them apart; none for a step that is not positive.
+[[nodiscard]] std::vector<double> multiples(double from, double to, double step);
+/// Decimals that tell the multiples of a step apart; 0 to 15.
+[[nodiscard]] int decimalsOfStep(double step);
+
+/// A number as the user reads it, without group separators; with an exponent when it would be very long.
+[[nodiscard]] QString numberText(double value, int decimals, const QLocale &locale);
+/// The same with as many of the decimals as the room allows; 0 decimals if nothing fits.
+[[nodiscard]] QString fittingNumber(double value, int decimals, const QLocale &locale, double room,
+                                    const std::function<double(const QString &)> &widthOf);
+
+/// The angle from -180 (excluded) to 180 that points the same way; 0 for what is not finite.
+[[nodiscard]] double normalizedAngle(double degrees);
+
+} // namespace qcgauge

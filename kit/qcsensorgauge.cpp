@@ -1,0 +1,42 @@
+#include "kit/qcbackgrounditem.h"
+#include "kit/qccolorbanditem.h"
+#include "kit/qcdegreesitem.h"
+#include "kit/qcgaugewidget.h"
+#include "kit/qcglassitem.h"
+#include "kit/qclabelitem.h"
+#include "kit/qcneedleitem.h"
+#include "kit/qcscaleitem.h"
+#include "kit/qcvaluesitem.h"
+
+#include <cmath>
+
+namespace {
+
+QcLabelItem *addLabel(QcGaugeWidget *gauge, QcLabelItem::Source source, double height, double size, double width)
+{
+    auto *label = gauge->append<QcLabelItem>(source, std::abs(height), height > 0.0 ? 0.0 : 180.0);
+    label->setSize(size);
+    label->setWidth(width);
+    return label;
+}
+
+} // namespace
+
+QcGaugeWidget *QcGaugeWidget::createSensorGauge(QWidget *parent)
+{
+    auto *gauge = new QcGaugeWidget(parent);
+    gauge->append<QcBackgroundItem>();
+    gauge->append<QcScaleItem>();
+    gauge->append<QcColorBandItem>();
+    gauge->append<QcDegreesItem>();
+    gauge->append<QcValuesItem>();
+    addLabel(gauge, QcLabelItem::Source::Title, -84.0, 9.5, 74.0);
+    addLabel(gauge, QcLabelItem::Source::Unit, -70.0, 10.5, 60.0);
+    addLabel(gauge, QcLabelItem::Source::Value, -51.0, 25.0, 84.0)->setWeight(QFont::Bold);
+    using Needle = QcNeedleItem;
+    gauge->append<Needle>(Needle::Source::HeldMinimum, Needle::Shape::Marker, 89.0);
+    gauge->append<Needle>(Needle::Source::HeldMaximum, Needle::Shape::Marker, 89.0);
+    gauge->append<Needle>(Needle::Source::Value, Needle::Shape::Needle, 82.0);
+    gauge->append<QcGlassItem>();
+    return gauge;
+}

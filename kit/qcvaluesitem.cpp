@@ -1,0 +1,81 @@
+#include "kit/qcvaluesitem.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QtMath>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr int kMostNumerals = 12;
+
+/// With a gap around it that keeps neighbours apart.
+QRectF withGap(const QRectF &box)
+{
+    const double gap = box.height() * 0.3;
+    return box.adjusted(-gap, -gap / 2.0, gap, gap / 2.0);
+}
+
+/// How far the box's centre is from the point where it touches a circle from inside, in this direction.
+double reach(const QSizeF &box, double angle)
+{
+    const double radians = qDegreesToRadians(angle);
+    return std::hypot(box.width() / 2.0 * std::sin(radians), box.height() / 2.0 * std::cos(radians));
+}
+
+} // namespace
+
+QcValuesItem::QcValuesItem(double radius)
+    : QcItem(radius)
+{}
+
+void QcValuesItem::setSize(double percent)
+{
+    if (std::isfinite(percent))
+        assign(m_size, std::clamp(percent, 1.0, 100.0));
+}
+
+QFont QcValuesItem::font(const QcCanvas &canvas) const
+{
+    return canvas.font(m_size, QFont::Medium);
+}
+
+/// In ascending order, without those that have no room beside the ones before.
+QVector<QcValuesItem::Numeral> QcValuesItem::numerals(const QcCanvas &canvas, double step) const
+{
+    const QFontMetricsF metrics(font(canvas));
+    const int decimals = qcgauge::decimalsOfStep(step);
+    QVector<Numeral> result;
+    for (const double value : qcgauge::multiples(canvas.scale.from, canvas.scale.to, step)) {
+        const QString text = qcgauge::numberText(value, decimals, canvas.locale);
+        QRectF box(QPointF(), QSizeF(metrics.horizontalAdvance(text), metrics.capHeight()));
+        const double angle = qcgauge::angleAt(canvas.scale, value);
+        box.moveCenter(canvas.point(angle, radius() - reach(box.size(), angle) / canvas.length(1.0)));
+        const auto touches = [&](const Numeral &other) { return withGap(other.box).intersects(withGap(box)); };
+        if (std::none_of(result.cbegin(), result.cend(), touches))
+            result.append({text, box});
+    }
+    return result;
+}
+
+double QcValuesItem::neededStep(const QcCanvas &canvas) const
+{
+    const auto marks = [&](double step) {
+        return static_cast<int>(qcgauge::multiples(canvas.scale.from, canvas.scale.to, step).size());
+    };
+    double step = qcgauge::niceStep(canvas.scale.to - canvas.scale.from, kMostNumerals);
+    while (numerals(canvas, step).size() < marks(step) && marks(qcgauge::coarserStep(step)) >= 2)
+        step = qcgauge::coarserStep(step);
+    return step;
+}
+
+void QcValuesItem::paint(QPainter &painter, const QcCanvas &canvas, const QcReading &) const
+{
+    painter.setFont(font(canvas));
+    painter.setPen(canvas.colors.ink);
+    const QVector<Numeral> all = numerals(canvas, canvas.step);
+    for (const Numeral &numeral : all)
+        qcgauge::drawCentred(painter, numeral.box.center(), numeral.text);
+}

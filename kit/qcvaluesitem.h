@@ -1,0 +1,29 @@
+#pragma once
+
+#include "kit/qcitem.h"
+
+/// The numerals of the scale, upright, inside a circle of this radius. They never overlap: they make the steps of the
+/// scale as wide as they need.
+class QcValuesItem : public QcItem
+{
+public:
+    explicit QcValuesItem(double radius = 75.0);
+
+    [[nodiscard]] double size() const { return m_size; }
+    /// Height of the font in percent.
+    void setSize(double percent);
+
+    [[nodiscard]] double neededStep(const QcCanvas &canvas) const override;
+    void paint(QPainter &painter, const QcCanvas &canvas, const QcReading &reading) const override;
+
+private:
+    struct Numeral
+    {
+        QString text;
+        QRectF box;
+    };
+    [[nodiscard]] QFont font(const QcCanvas &canvas) const;
+    [[nodiscard]] QVector<Numeral> numerals(const QcCanvas &canvas, double step) const;
+
+    double m_size = 12.0;
+};
