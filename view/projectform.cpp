@@ -226,7 +226,7 @@ void ProjectForm::retranslateUi()
 {
     const std::array<QString, NumRows> texts{
         tr("&Projekt:"),      tr("Projekt&nummer:"), tr("Bea&rbeiter:"),    tr("&Datum:"), tr("&Kunde:"),
-        tr("&Schließkraft:"), tr("&Einspritzzeit:"), tr("Na&chdruckzeit:"), tr("Dru&ck:"),
+        tr("&Schließkraft:"), tr("&Einspritzzeit:"), tr("Na&chdruckzeit:"), tr("Dr&uck:"),
     };
     for (std::size_t i = 0; i < texts.size(); ++i)
         d->labels[i]->setText(texts[i]);

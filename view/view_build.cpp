@@ -25,6 +25,7 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QSettings>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QVBoxLayout>
@@ -42,6 +43,12 @@ constexpr int kTitleBarHeight = 30;
 QSettings settings()
 {
     return QSettings(theme::organisationName, theme::applicationName);
+}
+
+/// Ctrl+1 for the first.
+QKeySequence tabKey(int tab)
+{
+    return Qt::CTRL + Qt::Key_1 + tab;
 }
 
 /// A window whose title bar lies on no screen (a monitor was taken away) could not be moved back by hand.
@@ -115,6 +122,18 @@ void View::Private::createTabs()
     add(tabLogger = new TabDataLogger, "tabLogger");
     add(tabTerminal = new TabTerminal, "tabTerminal");
     add(tabBlackBox = new TabBlackBox, "tabBlackBox");
+    createTabKeys();
+}
+
+void View::Private::createTabKeys()
+{
+    for (int i = 0; i < tabs->count(); ++i) {
+        const auto *key = new QShortcut(tabKey(i), q);
+        QObject::connect(key, &QShortcut::activated, q, [this, i] {
+            if (tabs->isTabEnabled(i))
+                tabs->setCurrentIndex(i);
+        });
+    }
 }
 
 void View::Private::createStatusBar()
@@ -256,8 +275,10 @@ void View::Private::retranslate()
     const QString titles[] = {tr("Home"),        tr("Projekt"),    tr("Sensoren"),
                               tr("Oszilloskop"), tr("Auswertung"), tr("Web Configuration"),
                               tr("Datenlogger"), tr("Terminal"),   tr("BlackBox")};
-    for (int i = 0; i < tabs->count(); ++i)
+    for (int i = 0; i < tabs->count(); ++i) {
         tabs->setTabText(i, titles[i]);
+        tabs->setTabToolTip(i, QStringLiteral("%1 (%2)").arg(titles[i], tabKey(i).toString(QKeySequence::NativeText)));
+    }
     toolBar->setWindowTitle(tr("Werkzeugleiste"));
     actions.retranslate();
     actions.nameToolButtons();

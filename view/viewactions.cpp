@@ -2,6 +2,7 @@
 
 #include "app/theme.h"
 #include "view/actionicon.h"
+#include "view/actiontips.h"
 
 #include <QAction>
 #include <QMenu>
@@ -61,9 +62,10 @@ void ViewActions::createProjectActions(QWidget *owner)
 void ViewActions::createBoxActions(QWidget *owner)
 {
     connectBox = newAction(owner, "actionConnect", {}, Qt::Key_F5);
-    disconnectBox = newAction(owner, "actionDisconnect", QStringLiteral("close.png"));
+    disconnectBox = newAction(owner, "actionDisconnect", QStringLiteral("close.png"), Qt::SHIFT + Qt::Key_F5);
     calibrate = newAction(owner, "actionCalibrate", {}, Qt::Key_F6);
     startRecording = newAction(owner, "actionStartRecording", {}, Qt::Key_F7);
+    startRecording->setShortcuts({Qt::Key_F7, Qt::CTRL + Qt::Key_R}); // small keyboards hide the row of function keys
     firmwareUpdate = newAction(owner, "actionFirmwareUpdate", QStringLiteral("update.png"));
     disconnectBox->setEnabled(false);
 }
@@ -72,12 +74,12 @@ void ViewActions::createOtherActions(QWidget *owner)
 {
     menu = newAction(owner, "actionMenu", {}, Qt::Key_F10);
     menu->setIcon(actionIcon(QStringLiteral("menu.png"), theme::qColorBackground));
-    about = newAction(owner, "actionAbout", QStringLiteral("information.png"));
+    about = newAction(owner, "actionAbout", QStringLiteral("information.png"), QKeySequence::HelpContents);
     quit = newAction(owner, "actionQuit", QStringLiteral("exit.png"), Qt::CTRL + Qt::Key_Q);
     quit->setMenuRole(QAction::QuitRole);
     about->setMenuRole(QAction::AboutRole);
-    german = newAction(owner, "actionLanguageGerman");
-    english = newAction(owner, "actionLanguageEnglish");
+    german = newAction(owner, "actionLanguageGerman", {}, Qt::CTRL + Qt::SHIFT + Qt::Key_D);
+    english = newAction(owner, "actionLanguageEnglish", {}, Qt::CTRL + Qt::SHIFT + Qt::Key_E);
     for (QAction *language : {german, english})
         language->setCheckable(true);
     german->setData(QStringLiteral("de"));
@@ -111,7 +113,7 @@ void ViewActions::retranslateBox() const
     setTexts(disconnectBox, tr("Trennen"), tr("Mesotra Verbindung trennen."), tr("Trennt die Verbindung zur Box"));
     setTexts(calibrate, tr("Kalibrieren"), {}, tr("Setzt die aktuellen Werte aller Sensoren auf null"));
     setTexts(startRecording, tr("Start"), {}, tr("Startet oder beendet eine Aufzeichnung"));
-    setTexts(firmwareUpdate, tr("Firmware Update…"), {}, tr("Überträgt eine neue Firmware auf die Box"));
+    setTexts(firmwareUpdate, tr("&Firmware Update…"), {}, tr("Überträgt eine neue Firmware auf die Box"));
 }
 
 void ViewActions::retranslateOther() const
@@ -146,6 +148,7 @@ void ViewActions::fillToolBar(QToolBar *bar)
     addIconButton(bar, saveProject, QStringLiteral("content-save.png"));
     m_dispensable.append(bar->addSeparator());
     bar->addAction(menu);
+    new ActionTips(bar);
 }
 
 void ViewActions::setCompact(QToolBar *bar, bool compact) const
@@ -159,7 +162,7 @@ void ViewActions::nameToolButtons() const
 {
     for (const auto &[button, action] : m_iconButtons) {
         button->setAccessibleName(action->iconText());
-        button->setToolTip(action->toolTip());
+        button->setToolTip(tipWithKey(*action));
         button->setStatusTip(action->statusTip());
     }
 }

@@ -62,6 +62,7 @@ struct View::Private
     void createWindow();
     void createToolBar();
     void createTabs();
+    void createTabKeys();
     void createStatusBar();
     void createTimers();
     void connectActions();

@@ -728,7 +728,7 @@ double click fits the value range.</translation>
         <translation>H&amp;olding time:</translation>
     </message>
     <message>
-        <source>Dru&amp;ck:</source>
+        <source>Dr&amp;uck:</source>
         <translation>P&amp;ressure:</translation>
     </message>
     <message>
@@ -1946,8 +1946,8 @@ Arrow up and down: earlier lines</translation>
         <translation>Starts or stops a recording</translation>
     </message>
     <message>
-        <source>Firmware Update…</source>
-        <translation>Firmware update…</translation>
+        <source>&amp;Firmware Update…</source>
+        <translation>&amp;Firmware update…</translation>
     </message>
     <message>
         <source>Überträgt eine neue Firmware auf die Box</source>

@@ -3,15 +3,61 @@
 #include "tests/support/scriptedprompts.h"
 #include "view/view.h"
 
+#include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QDropEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QSettings>
+#include <QShortcut>
 #include <QSignalSpy>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
+
+namespace {
+
+struct Key
+{
+    QKeySequence sequence;
+    QString meaning;
+};
+
+/// What works wherever the focus is.
+QVector<Key> windowKeys(const View &view)
+{
+    QVector<Key> keys;
+    for (const auto *action : view.findChildren<QAction *>()) {
+        for (const QKeySequence &key : action->shortcuts())
+            keys.append({key, action->objectName()});
+    }
+    for (const auto *shortcut : view.findChildren<QShortcut *>()) {
+        if (shortcut->parent() == &view)
+            keys.append({shortcut->key(), QStringLiteral("shortcut")});
+    }
+    return keys;
+}
+
+/// The underlined letters of a page.
+QVector<Key> pageKeys(const QWidget &page)
+{
+    QVector<Key> keys;
+    for (const auto *button : page.findChildren<QAbstractButton *>()) {
+        if (button->isVisible() && !button->shortcut().isEmpty())
+            keys.append({button->shortcut(), button->text()});
+    }
+    for (const auto *label : page.findChildren<QLabel *>()) {
+        const QKeySequence key = QKeySequence::mnemonic(label->text());
+        if (label->isVisible() && label->buddy() && !key.isEmpty())
+            keys.append({key, label->text()});
+    }
+    return keys;
+}
+
+} // namespace
 
 /// The window as a part of the desktop: what is dropped on it, its keys, what it says to assistive tools.
 class TestDesktop : public QObject
@@ -23,6 +69,9 @@ private slots:
     void init() { QSettings(QStringLiteral("Tarnwald"), QStringLiteral("Ventaro")).clear(); }
     void takesOneProjectFile_data();
     void takesOneProjectFile();
+    void everyKeyHasOneMeaning_data();
+    void everyKeyHasOneMeaning();
+    void digitsSelectTabs();
 };
 
 void TestDesktop::takesOneProjectFile_data()
@@ -78,6 +127,52 @@ void TestDesktop::takesOneProjectFile()
     QVERIFY(field->text().isEmpty());
     if (taken)
         QCOMPARE(spy.last().first().toString(), folder.filePath(names.first()));
+}
+
+void TestDesktop::everyKeyHasOneMeaning_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::newRow("German") << QStringLiteral("actionLanguageGerman");
+    QTest::newRow("English") << QStringLiteral("actionLanguageEnglish");
+}
+
+void TestDesktop::everyKeyHasOneMeaning()
+{
+    QFETCH(QString, language);
+    Model model{QString()};
+    View view(&model, std::make_unique<ScriptedPrompts>());
+    view.findChild<QAction *>(language)->trigger();
+    view.resize(1280, 800);
+    view.show();
+    QCoreApplication::processEvents(); // the change of language is on its way
+    for (int tab = 0; tab < view.tabs()->count(); ++tab) {
+        view.tabs()->setCurrentIndex(tab);
+        const QVector<Key> keys = windowKeys(view) + pageKeys(*view.tabs()->currentWidget());
+        QVERIFY(keys.size() >= 24);
+        QHash<QString, QString> meanings;
+        for (const Key &key : keys) {
+            const QString text = key.sequence.toString();
+            QVERIFY2(text != QStringLiteral("Ctrl+P"), "there is nothing to print");
+            QVERIFY2(!meanings.contains(text),
+                     qPrintable(QStringLiteral("%1: %2 and %3").arg(text, meanings.value(text), key.meaning)));
+            meanings.insert(text, key.meaning);
+        }
+    }
+}
+
+void TestDesktop::digitsSelectTabs()
+{
+    Model model{QString()};
+    View view(&model, std::make_unique<ScriptedPrompts>());
+    view.show();
+    QApplication::setActiveWindow(&view);
+    for (int tab = view.tabs()->count() - 1; tab >= 0; --tab) {
+        QTest::keyClick(&view, Qt::Key(Qt::Key_1 + tab), Qt::ControlModifier);
+        QCOMPARE(view.tabs()->currentIndex(), tab);
+    }
+    view.setTabEnabled(4, false);
+    QTest::keyClick(&view, Qt::Key_5, Qt::ControlModifier);
+    QCOMPARE(view.tabs()->currentIndex(), 0);
 }
 
 QTEST_MAIN(TestDesktop)
