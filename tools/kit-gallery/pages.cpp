@@ -1,8 +1,9 @@
 #include "tools/kit-gallery/gallery.h"
+#include "tools/kit-gallery/gaugepages.h"
 #include "tools/kit-gallery/smallpages.h"
 
 QList<GalleryPage *> createPages()
 {
-    return {createColoredButtonPage(), createStepBoxPage(), createClickableLabelPage(), createShadowFramePage(),
-            createProgressIndicatorPage()};
+    return {createGaugePage(),   createGaugePartsPage(),     createAttitudeMeterPage(), createColoredButtonPage(),
+            createStepBoxPage(), createClickableLabelPage(), createShadowFramePage(),   createProgressIndicatorPage()};
 }

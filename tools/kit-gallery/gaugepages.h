@@ -1,0 +1,7 @@
+#pragma once
+
+class GalleryPage;
+
+[[nodiscard]] GalleryPage *createGaugePage();
+[[nodiscard]] GalleryPage *createGaugePartsPage();
+[[nodiscard]] GalleryPage *createAttitudeMeterPage();
