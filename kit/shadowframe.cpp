@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr double kRadius = 4.0;
+constexpr double kRadius = ShadowFrame::kRadius;
 // A corner of the picture, and what lies between two. Both make whole device pixels at all usual resolutions.
 constexpr int kCorner = 24;
 constexpr int kMiddle = 4;

@@ -18,6 +18,7 @@ public:
 
     /// Pixels between the widget's edge and the card, at all sides and elevations.
     static constexpr int kShadow = 10;
+    static constexpr double kRadius = 4.0; ///< of the card's corners
 
     explicit ShadowFrame(QWidget *parent = nullptr);
 

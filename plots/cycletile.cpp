@@ -51,12 +51,12 @@ void CycleTile::describe()
 
 QSize CycleTile::sizeHint() const
 {
-    return {340, 260};
+    return {360, 280};
 }
 
 QSize CycleTile::minimumSizeHint() const
 {
-    return {260, 210};
+    return {280, 230};
 }
 
 void CycleTile::changeEvent(QEvent *event)
@@ -83,7 +83,7 @@ void CycleTile::paintEvent(QPaintEvent *event)
     Q_UNUSED(event)
     QPainter painter(this);
     drawTileFrame(painter, *this, theme::qColorPrimary);
-    const QRect inside = rect().adjusted(22, 10, -14, -8);
+    const QRect inside = tileContents(*this);
     const auto line = [&](int y, int height, const QString &text, Qt::Alignment alignment) {
         painter.drawText(QRect(inside.left(), inside.top() + y, inside.width(), height),
                          int(alignment | Qt::AlignVCenter) | Qt::TextSingleLine, text);

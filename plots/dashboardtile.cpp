@@ -1,6 +1,8 @@
 #include "plots/dashboardtile.h"
 
 #include "app/theme.h"
+#include "kit/paintaid.h"
+#include "kit/shadowframe.h"
 #include "plots/evaluationdata.h"
 #include "plots/trendchart.h"
 
@@ -59,13 +61,24 @@ void drawLine(QPainter &painter, const QRect &area, const QString &text, Qt::Ali
 
 void drawTileFrame(QPainter &painter, const QAbstractButton &tile, const QColor &edge)
 {
-    const bool isHot = tile.underMouse() || tile.hasFocus();
-    painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.fillRect(tile.rect(), tile.isDown() ? theme::qColorLight : theme::qColorBackground);
-    painter.fillRect(QRect(0, 0, kEdge, tile.height()), edge);
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(isHot ? theme::qColorPrimary : theme::qColorMedium, isHot ? 2 : 1));
-    painter.drawRect(isHot ? tile.rect().adjusted(1, 1, -1, -1) : tile.rect().adjusted(0, 0, -1, -1));
+    using Elevation = ShadowFrame::Elevation;
+    const QRect card = ShadowFrame::cardRect(tile.rect());
+    const bool isRaised = tile.underMouse() && !tile.isDown();
+    ShadowFrame::paintCard(painter, tile.rect(), isRaised ? Elevation::High : Elevation::Low,
+                           tile.isDown() ? theme::qColorLight : theme::qColorBackground);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(edge);
+    painter.setClipRect(QRect(card.topLeft(), QSize(kEdge, card.height())));
+    painter.drawRoundedRect(card, ShadowFrame::kRadius, ShadowFrame::kRadius);
+    painter.setClipping(false);
+    if (tile.hasFocus())
+        paintaid::drawFocusRing(painter, card, ShadowFrame::kRadius, theme::qColorPrimary);
+}
+
+QRect tileContents(const QAbstractButton &tile)
+{
+    return ShadowFrame::cardRect(tile.rect()).adjusted(kEdge + kPadding, 10, -kPadding, -8);
 }
 
 DashboardTile::DashboardTile(QWidget *parent)
@@ -122,12 +135,12 @@ void DashboardTile::describe()
 
 QSize DashboardTile::sizeHint() const
 {
-    return {340, 260};
+    return {360, 280};
 }
 
 QSize DashboardTile::minimumSizeHint() const
 {
-    return {260, 210};
+    return {280, 230};
 }
 
 void DashboardTile::changeEvent(QEvent *event)
@@ -224,7 +237,7 @@ void DashboardTile::paintEvent(QPaintEvent *event)
     Q_UNUSED(event)
     QPainter painter(this);
     drawTileFrame(painter, *this, m_content.color);
-    const QRect inside = rect().adjusted(kEdge + kPadding, 10, -kPadding, -8);
+    const QRect inside = tileContents(*this);
     const QRect value(inside.left(), inside.top() + kHeadHeight, inside.width() - kBadgeWidth - 8, kValueHeight);
     const QRect badge(inside.right() - kBadgeWidth, value.center().y() - kBadgeHeight / 2, kBadgeWidth, kBadgeHeight);
     const int sparklineTop = value.bottom() + 6;

@@ -62,3 +62,5 @@ private:
 
 /// The frame that all tiles of the dashboard have: a card with a coloured edge; it shows hovering, pressing and focus.
 void drawTileFrame(QPainter &painter, const QAbstractButton &tile, const QColor &edge);
+/// What the frame leaves for the contents.
+[[nodiscard]] QRect tileContents(const QAbstractButton &tile);
