@@ -2,7 +2,7 @@
 
 #include "kit/accessibles.h"
 #include "kit/logging.h"
-#include "kit/paintaid.h"
+#include "kit/qtmaterialpaint.h"
 #include "kit/qtmaterialstyle.h"
 
 #include <QMouseEvent>
@@ -85,9 +85,10 @@ void ClickableLabel::mouseReleaseEvent(QMouseEvent *event)
 
 void ClickableLabel::drawFocus(QPainter &painter) const
 {
+    painter.setRenderHint(QPainter::Antialiasing);
     if (hasFocus())
-        paintaid::drawFocusRing(painter, rect(), 3.0,
-                                QtMaterialStyle::instance().themeColor(QStringLiteral("primary1")));
+        QtMaterialPaint::drawFocusRing(painter, rect(), 3.0,
+                                       QtMaterialStyle::instance().themeColor(QStringLiteral("primary1")));
 }
 
 void ClickableLabel::paintEvent(QPaintEvent *event)

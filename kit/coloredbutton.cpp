@@ -1,7 +1,8 @@
 #include "kit/coloredbutton.h"
 
+#include "kit/colorcontrast.h"
 #include "kit/logging.h"
-#include "kit/paintaid.h"
+#include "kit/qtmaterialpaint.h"
 #include "kit/qtmaterialstyle.h"
 
 #include <QColorDialog>
@@ -124,14 +125,14 @@ void ColoredButton::changeEvent(QEvent *event)
 ColoredButton::Look ColoredButton::look() const
 {
     const QColor canvas = Qt::white;
-    const QColor full = paintaid::flattened(color(), canvas);
-    QColor fill = isCheckable() && !isChecked() ? paintaid::mixed(canvas, full, kPale) : full;
-    const QColor text = paintaid::readableOn(fill);
+    const QColor full = QtMaterialPaint::blended(color(), canvas);
+    QColor fill = isCheckable() && !isChecked() ? QtMaterialPaint::between(canvas, full, kPale) : full;
+    const QColor text = colorcontrast::readableOn(fill);
     if (isDown())
-        fill = paintaid::mixed(fill, full == fill ? text : full, kPressed);
+        fill = QtMaterialPaint::between(fill, full == fill ? text : full, kPressed);
     else if (underMouse())
-        fill = paintaid::mixed(fill, full == fill ? text : full, kHover);
-    return {fill, paintaid::visibleOnWhite(full), text};
+        fill = QtMaterialPaint::between(fill, full == fill ? text : full, kHover);
+    return {fill, colorcontrast::visibleOnWhite(full), text};
 }
 
 QString ColoredButton::elidedText(int width) const
@@ -206,5 +207,5 @@ void ColoredButton::paintEvent(QPaintEvent *event)
     drawLabel(painter, look.text);
     drawSymbol(painter, look.text);
     if (hasFocus())
-        paintaid::drawFocusRing(painter, QRectF(rect()).adjusted(3, 3, -3, -3), kRadius, look.text);
+        QtMaterialPaint::drawFocusRing(painter, QRectF(rect()).adjusted(3, 3, -3, -3), kRadius, look.text);
 }

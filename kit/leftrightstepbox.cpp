@@ -2,7 +2,7 @@
 
 #include "kit/accessibles.h"
 #include "kit/logging.h"
-#include "kit/paintaid.h"
+#include "kit/qtmaterialpaint.h"
 #include "kit/qtmaterialstyle.h"
 
 #include <QAccessible>
@@ -31,7 +31,7 @@ constexpr int kMostDigits = 11; // with the sign
 
 QColor themeColor(const char *key)
 {
-    return QtMaterialStyle::instance().themeColor(QLatin1String(key));
+    return QtMaterialPaint::themeColor(QLatin1String(key));
 }
 
 } // namespace
@@ -407,7 +407,7 @@ void LeftRightStepBox::drawArrow(QPainter &painter, Part part) const
     const bool isActive = canStep(part);
     QColor fill = isActive ? themeColor("primary1") : themeColor("disabled3");
     if (isActive && part == m_hovered)
-        fill = paintaid::mixed(fill, Qt::black, m_pressed == part ? 0.3 : 0.12);
+        fill = QtMaterialPaint::between(fill, Qt::black, m_pressed == part ? 0.3 : 0.12);
     const QRectF area = areaOf(part);
     painter.setPen(Qt::NoPen);
     painter.setBrush(fill);
@@ -444,5 +444,5 @@ void LeftRightStepBox::paintEvent(QPaintEvent *event)
     if (!isEditing())
         drawNumber(painter);
     if (hasFocus() || isEditing())
-        paintaid::drawFocusRing(painter, areaOf(Part::Number), kRadius, themeColor("primary1"));
+        QtMaterialPaint::drawFocusRing(painter, areaOf(Part::Number), kRadius, themeColor("primary1"));
 }

@@ -1,6 +1,5 @@
 #include "kit/shadowframe.h"
 
-#include "kit/paintaid.h"
 #include "kit/qtmaterialstyle.h"
 
 #include <QEvent>

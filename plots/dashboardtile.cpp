@@ -1,7 +1,7 @@
 #include "plots/dashboardtile.h"
 
 #include "app/theme.h"
-#include "kit/paintaid.h"
+#include "kit/qtmaterialpaint.h"
 #include "kit/shadowframe.h"
 #include "plots/evaluationdata.h"
 #include "plots/trendchart.h"
@@ -73,7 +73,7 @@ void drawTileFrame(QPainter &painter, const QAbstractButton &tile, const QColor 
     painter.drawRoundedRect(card, ShadowFrame::kRadius, ShadowFrame::kRadius);
     painter.setClipping(false);
     if (tile.hasFocus())
-        paintaid::drawFocusRing(painter, card, ShadowFrame::kRadius, theme::qColorPrimary);
+        QtMaterialPaint::drawFocusRing(painter, card, ShadowFrame::kRadius, theme::qColorPrimary);
 }
 
 QRect tileContents(const QAbstractButton &tile)

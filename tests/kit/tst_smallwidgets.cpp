@@ -1,7 +1,8 @@
 #include "kit/clickablelabel.h"
+#include "kit/colorcontrast.h"
 #include "kit/coloredbutton.h"
 #include "kit/leftrightstepbox.h"
-#include "kit/paintaid.h"
+#include "kit/qtmaterialpaint.h"
 #include "kit/qtmaterialstyle.h"
 #include "kit/qtmaterialtheme.h"
 #include "kit/shadowframe.h"
@@ -47,14 +48,14 @@ private slots:
         button.setColor(color);
         button.resize(100, 40);
         const QColor ground = button.grab().toImage().pixelColor(50, 20);
-        QCOMPARE(ground, paintaid::flattened(color, Qt::white));
-        QVERIFY(paintaid::contrast(ground, paintaid::readableOn(ground)) >= 4.5);
+        QCOMPARE(ground, QtMaterialPaint::blended(color, Qt::white));
+        QVERIFY(colorcontrast::contrast(ground, colorcontrast::readableOn(ground)) >= 4.5);
         button.setCheckable(true);
         const QImage unchecked = button.grab().toImage();
         button.setChecked(true);
         const QImage checked = button.grab().toImage();
         QVERIFY(checked != unchecked);
-        QVERIFY(paintaid::contrast(unchecked.pixelColor(50, 1), Qt::white) >= 2.9); // the outline, on a white page
+        QVERIFY(colorcontrast::contrast(unchecked.pixelColor(50, 1), Qt::white) >= 2.9); // the outline, on a white page
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("invalid colour"_s));
         button.setColor(QColor());
         QCOMPARE(button.color(), color);
