@@ -1,9 +1,13 @@
 #include "tools/kit-gallery/gallery.h"
 #include "tools/kit-gallery/gaugepages.h"
+#include "tools/kit-gallery/materialpages.h"
 #include "tools/kit-gallery/smallpages.h"
 
 QList<GalleryPage *> createPages()
 {
-    return {createGaugePage(),   createGaugePartsPage(),     createAttitudeMeterPage(), createColoredButtonPage(),
-            createStepBoxPage(), createClickableLabelPage(), createShadowFramePage(),   createProgressIndicatorPage()};
+    return {
+        createGaugePage(),          createGaugePartsPage(),  createAttitudeMeterPage(),     createRaisedButtonPage(),
+        createFlatButtonPage(),     createTogglePage(),      createColoredButtonPage(),     createStepBoxPage(),
+        createClickableLabelPage(), createShadowFramePage(), createProgressIndicatorPage(),
+    };
 }

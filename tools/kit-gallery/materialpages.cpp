@@ -1,0 +1,91 @@
+#include "tools/kit-gallery/materialpages.h"
+
+#include "kit/qtmaterialflatbutton.h"
+#include "kit/qtmaterialraisedbutton.h"
+#include "kit/qtmaterialtoggle.h"
+#include "tools/kit-gallery/gallery.h"
+
+#include <QIcon>
+
+namespace {
+
+using State = GalleryPage::State;
+
+QIcon icon()
+{
+    return QIcon(QStringLiteral(":/icons/delete.png"));
+}
+
+template <typename Button>
+Button *createButton(bool checkable = false, bool checked = false)
+{
+    auto *button = new Button(QStringLiteral("Messen"));
+    button->setCheckable(checkable);
+    button->setChecked(checked);
+    return button;
+}
+
+/// Both kinds of button have the same states.
+template <typename Button>
+GalleryPage *createButtonPage(const QString &name)
+{
+    auto *page = new GalleryPage(name);
+    page->addRow(QStringLiteral("States"));
+    page->addSample(QStringLiteral("normal"), createButton<Button>());
+    page->addSample(QStringLiteral("hovered"), createButton<Button>(), State::Hovered);
+    page->addSample(QStringLiteral("pressed"), createButton<Button>(), State::Pressed);
+    page->addSample(QStringLiteral("focused"), createButton<Button>(), State::Focused);
+    auto *disabled = createButton<Button>();
+    disabled->setEnabled(false);
+    page->addSample(QStringLiteral("disabled"), disabled);
+    page->addRow(QStringLiteral("Checkable, and other contents"));
+    page->addSample(QStringLiteral("unchecked"), createButton<Button>(true));
+    page->addSample(QStringLiteral("checked"), createButton<Button>(true, true));
+    page->addSample(QStringLiteral("icon and text"), new Button(icon(), QStringLiteral("Löschen")));
+    page->addSample(QStringLiteral("icon"), new Button(icon(), QString()));
+    auto *other = createButton<Button>();
+    other->setColorKey(QStringLiteral("primary2"));
+    page->addSample(QStringLiteral("\"primary2\""), other);
+    return page;
+}
+
+QtMaterialToggle *createToggle(bool checked, bool enabled = true)
+{
+    auto *toggle = new QtMaterialToggle(QStringLiteral("Alle"));
+    toggle->setChecked(checked);
+    toggle->setEnabled(enabled);
+    return toggle;
+}
+
+} // namespace
+
+GalleryPage *createRaisedButtonPage()
+{
+    return createButtonPage<QtMaterialRaisedButton>(QStringLiteral("QtMaterialRaisedButton"));
+}
+
+GalleryPage *createFlatButtonPage()
+{
+    return createButtonPage<QtMaterialFlatButton>(QStringLiteral("QtMaterialFlatButton"));
+}
+
+GalleryPage *createTogglePage()
+{
+    auto *page = new GalleryPage(QStringLiteral("QtMaterialToggle"));
+    page->addRow(QStringLiteral("On"));
+    page->addSample(QStringLiteral("normal"), createToggle(true));
+    page->addSample(QStringLiteral("hovered"), createToggle(true), State::Hovered);
+    page->addSample(QStringLiteral("focused"), createToggle(true), State::Focused);
+    page->addSample(QStringLiteral("disabled"), createToggle(true, false));
+    page->addRow(QStringLiteral("Off"));
+    page->addSample(QStringLiteral("normal"), createToggle(false));
+    page->addSample(QStringLiteral("hovered"), createToggle(false), State::Hovered);
+    page->addSample(QStringLiteral("focused"), createToggle(false), State::Focused);
+    page->addSample(QStringLiteral("disabled"), createToggle(false, false));
+    page->addRow(QStringLiteral("Other"));
+    page->addSample(QStringLiteral("without a label"), new QtMaterialToggle);
+    auto *mirrored = createToggle(true);
+    mirrored->setLayoutDirection(Qt::RightToLeft);
+    page->addSample(QStringLiteral("mirrored"), mirrored);
+    return page;
+}

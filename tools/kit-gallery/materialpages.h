@@ -1,0 +1,7 @@
+#pragma once
+
+class GalleryPage;
+
+[[nodiscard]] GalleryPage *createRaisedButtonPage();
+[[nodiscard]] GalleryPage *createFlatButtonPage();
+[[nodiscard]] GalleryPage *createTogglePage();
