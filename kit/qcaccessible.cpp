@@ -6,6 +6,8 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 
+#include <utility>
+
 namespace {
 
 constexpr int kPause = 1000; // ms
@@ -83,8 +85,9 @@ void installQcAccessibility()
     Q_UNUSED(installed)
 }
 
-QcAnnouncer::QcAnnouncer(QWidget *widget)
+QcAnnouncer::QcAnnouncer(QWidget *widget, Tell tell)
     : m_widget(widget)
+    , m_tell(std::move(tell))
 {
     m_pause.setInterval(kPause);
     m_pause.setSingleShot(true);
@@ -93,7 +96,7 @@ QcAnnouncer::QcAnnouncer(QWidget *widget)
 
 void QcAnnouncer::changed()
 {
-    if (QAccessible::isActive() && m_widget->isVisible() && !m_pause.isActive())
+    if ((m_tell || QAccessible::isActive()) && m_widget->isVisible() && !m_pause.isActive())
         announce();
 }
 
@@ -104,7 +107,11 @@ void QcAnnouncer::announce()
     if (text == m_told)
         return;
     m_told = text;
+    m_pause.start();
+    if (m_tell) {
+        m_tell(text);
+        return;
+    }
     QAccessibleValueChangeEvent event(m_widget, text);
     QAccessible::updateAccessibility(&event);
-    m_pause.start();
 }

@@ -3,6 +3,8 @@
 #include <QString>
 #include <QTimer>
 
+#include <functional>
+
 class QWidget;
 
 /// What screen readers learn about gauges: a dial with its value and range; the attitude meter is an indicator with a
@@ -14,7 +16,10 @@ void installQcAccessibility();
 class QcAnnouncer
 {
 public:
-    explicit QcAnnouncer(QWidget *widget);
+    using Tell = std::function<void(const QString &text)>;
+
+    /// Without `tell` it tells whoever listens to QAccessible.
+    explicit QcAnnouncer(QWidget *widget, Tell tell = {});
 
     void changed();
 
@@ -22,6 +27,7 @@ private:
     void announce();
 
     QWidget *m_widget;
+    Tell m_tell;
     QString m_told;
     QTimer m_pause;
 };

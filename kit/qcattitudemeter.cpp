@@ -230,7 +230,7 @@ void QcAttitudeMeter::renew()
 
 void QcAttitudeMeter::paintEvent(QPaintEvent *)
 {
-    if (d->still.isNull() || d->canvas.ratio != devicePixelRatioF()) {
+    if (d->still.isNull() || !d->canvas.fits(*this)) {
         d->canvas.adopt(*this, !isEnabled());
         d->still = qcgauge::emptyPicture(*this);
         QPainter still(&d->still);
@@ -243,12 +243,6 @@ void QcAttitudeMeter::paintEvent(QPaintEvent *)
     paintHorizon(painter, d->canvas, d->roll, d->pitch);
     paintRollHand(painter, d->canvas, d->roll);
     painter.drawPixmap(0, 0, d->still);
-}
-
-void QcAttitudeMeter::resizeEvent(QResizeEvent *event)
-{
-    QWidget::resizeEvent(event);
-    renew();
 }
 
 void QcAttitudeMeter::changeEvent(QEvent *event)

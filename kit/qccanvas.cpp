@@ -57,12 +57,18 @@ QColor QcColors::shaded(const QColor &color) const
 
 void QcCanvas::adopt(const QWidget &widget, bool muted)
 {
+    size = widget.size();
     centre = QRectF(widget.rect()).center();
     radius = std::min(widget.width(), widget.height()) / 2.0;
     ratio = widget.devicePixelRatioF();
     baseFont = widget.font();
     locale = widget.locale();
     colors = QcColors::fromTheme(muted);
+}
+
+bool QcCanvas::fits(const QWidget &widget) const
+{
+    return size == widget.size() && ratio == widget.devicePixelRatioF();
 }
 
 bool QcCanvas::changesWith(QEvent::Type type)

@@ -8,6 +8,7 @@
 #include <QPixmap>
 #include <QPointF>
 #include <QRectF>
+#include <QSize>
 #include <QVector>
 
 class QPainter;
@@ -53,6 +54,7 @@ struct QcColors
 /// gauge's half size, so that a gauge looks the same in every size.
 struct QcCanvas
 {
+    QSize size;          ///< logical pixels
     QPointF centre;      ///< logical pixels
     double radius = 0.0; ///< half the size in logical pixels
     double ratio = 1.0;  ///< device pixels in a logical one
@@ -68,7 +70,9 @@ struct QcCanvas
 
     /// Takes over what comes from the widget and the theme in force.
     void adopt(const QWidget &widget, bool muted);
-    /// Whether what adopt() takes over changes with such an event.
+    /// Whether it still has the widget's size and resolution.
+    [[nodiscard]] bool fits(const QWidget &widget) const;
+    /// Whether what adopt() takes over changes otherwise with such an event.
     [[nodiscard]] static bool changesWith(QEvent::Type type);
 
     [[nodiscard]] double length(double percent) const { return radius * percent / 100.0; }

@@ -12,12 +12,20 @@ constexpr double kOverrun = 5.0;          // degrees
 constexpr double kTolerance = 1e-9;       // steps; what a sum of rounding errors may be
 constexpr double kMostMultiples = 1000.0; // more cannot be told apart on any screen
 constexpr double kExactIntegers = 9e15;   // above that a double skips integers
-constexpr int kMostDecimals = 15;
-constexpr double kLongNumber = 1e9; // from here on with an exponent
+constexpr int kMarkDecimals = 5;          // numbers with more have an exponent
+constexpr int kFigures = 6;               // of a number with one
+constexpr double kLongNumber = 1e9;       // from here on with an exponent
 
 double powerOfTen(double step)
 {
     return std::pow(10.0, std::floor(std::log10(step) + kTolerance));
+}
+
+QLocale withoutGroups(const QLocale &locale)
+{
+    QLocale plain(locale);
+    plain.setNumberOptions(QLocale::OmitGroupSeparator);
+    return plain;
 }
 
 /// 1, 2 or 5 for a step of the ladder.
@@ -107,22 +115,23 @@ std::vector<double> multiples(double from, double to, double step)
     return result;
 }
 
-int decimalsOfStep(double step)
-{
-    if (!(step > 0.0))
-        return 0;
-    return std::clamp(static_cast<int>(-std::floor(std::log10(step) + kTolerance)), 0, kMostDecimals);
-}
-
 QString numberText(double value, int decimals, const QLocale &locale)
 {
-    QLocale plain(locale);
-    plain.setNumberOptions(QLocale::OmitGroupSeparator);
+    const QLocale plain = withoutGroups(locale);
     if (std::abs(value) >= kLongNumber)
-        return plain.toString(value, 'e', std::min(decimals, 2));
+        return plain.toString(value, 'g', kFigures);
     const QString text = plain.toString(value, 'f', decimals);
     const bool isZero = std::abs(value) * 2.0 < std::pow(10.0, -decimals);
     return isZero ? plain.toString(0.0, 'f', decimals) : text; // never "-0.0"
+}
+
+QString markText(double value, double step, const QLocale &locale)
+{
+    if (!(step > 0.0))
+        return numberText(value, 0, locale);
+    const int decimals = static_cast<int>(std::max(0.0, -std::floor(std::log10(step) + kTolerance)));
+    return decimals <= kMarkDecimals ? numberText(value, decimals, locale)
+                                     : withoutGroups(locale).toString(value, 'g', kFigures);
 }
 
 QString fittingNumber(double value, int decimals, const QLocale &locale, double room,

@@ -19,6 +19,11 @@ struct Scale
     double sweep = 240.0;  ///< from there to `to`; negative: against the clock
 };
 
+[[nodiscard]] inline bool operator==(const Scale &a, const Scale &b)
+{
+    return a.from == b.from && a.to == b.to && a.start == b.start && a.sweep == b.sweep;
+}
+
 /// 0 at `from`, 1 at `to`, beyond that outside the range; 0 for an empty range and for what is not a number.
 [[nodiscard]] double fraction(double value, double from, double to);
 /// The same, kept within 0 and 1.
@@ -43,12 +48,12 @@ struct Scale
 /// The multiples of the step within the range, ascending. Only the ends where there would be more than a thousand or
 /// where the numbers are too large to tell them apart; none for a step that is not positive.
 [[nodiscard]] std::vector<double> multiples(double from, double to, double step);
-/// Decimals that tell the multiples of a step apart; 0 to 15.
-[[nodiscard]] int decimalsOfStep(double step);
 
-/// A number as the user reads it, without group separators; with an exponent when it would be very long.
+/// A number as the user reads it, without group separators; with an exponent from 1e9 on.
 [[nodiscard]] QString numberText(double value, int decimals, const QLocale &locale);
-/// The same with as many of the decimals as the room allows; 0 decimals if nothing fits.
+/// A multiple of a step with as many decimals as tell the multiples apart; with an exponent when it would be long.
+[[nodiscard]] QString markText(double value, double step, const QLocale &locale);
+/// A number with as many of the decimals as the room allows; 0 decimals if nothing fits.
 [[nodiscard]] QString fittingNumber(double value, int decimals, const QLocale &locale, double room,
                                     const std::function<double(const QString &)> &widthOf);
 

@@ -10,6 +10,8 @@
 #include <memory>
 #include <vector>
 
+class QcScaleItem;
+
 struct QcGaugeWidget::Part
 {
     std::unique_ptr<QcItem> item;
@@ -25,6 +27,14 @@ struct QcGaugeWidget::Private
     explicit Private(QcGaugeWidget *gauge)
         : announcer(gauge)
     {}
+
+    void dropPictures();
+    /// Drops the one that the part is in.
+    void dropPicture(std::vector<Part>::iterator part);
+    void spreadScales();
+    [[nodiscard]] static const QcScaleItem *scaleOf(const Part &part);
+    [[nodiscard]] static double neededStep(const QcCanvas &canvas, std::vector<Part>::const_iterator first,
+                                           std::vector<Part>::const_iterator end);
 
     std::vector<Part> parts;
     double from = 0.0;

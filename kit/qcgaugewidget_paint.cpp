@@ -7,57 +7,87 @@
 
 #include <algorithm>
 
+const QcScaleItem *QcGaugeWidget::Private::scaleOf(const Part &part)
+{
+    return dynamic_cast<const QcScaleItem *>(part.item.get());
+}
+
+double QcGaugeWidget::Private::neededStep(const QcCanvas &canvas, std::vector<Part>::const_iterator first,
+                                          std::vector<Part>::const_iterator end)
+{
+    double step = 0.0;
+    for (; first != end; ++first) {
+        if (first->item->isVisible())
+            step = std::max(step, first->item->neededStep(canvas));
+    }
+    return step;
+}
+
+void QcGaugeWidget::Private::dropPictures()
+{
+    for (Part &part : parts)
+        part.picture = QPixmap();
+}
+
+void QcGaugeWidget::Private::dropPicture(std::vector<Part>::iterator part)
+{
+    if (part->item->isMoving())
+        return;
+    while (part != parts.begin() && !std::prev(part)->item->isMoving())
+        --part;
+    part->picture = QPixmap();
+}
+
+/// Tells every part which scale it refers to. Pictures of parts that see something else than before are dropped.
+void QcGaugeWidget::Private::spreadScales()
+{
+    QcCanvas seen = canvas;
+    seen.scale.from = from;
+    seen.scale.to = to;
+    for (auto first = parts.begin(); first != parts.end();) {
+        const auto end = std::find_if(std::next(first), parts.end(), [](const Part &part) { return scaleOf(part); });
+        const QcScaleItem *scale = scaleOf(*first);
+        if (scale)
+            seen.scale = scale->scale(from, to);
+        seen.step = scale ? scale->step() : 0.0;
+        if (seen.step <= 0.0)
+            seen.step = neededStep(seen, first, end);
+        for (; first != end; ++first) {
+            if (first->scale == seen.scale && first->step == seen.step)
+                continue;
+            first->scale = seen.scale;
+            first->step = seen.step;
+            dropPicture(first);
+        }
+    }
+}
+
 void QcGaugeWidget::renew()
 {
     d->prepared = false;
-    for (Part &part : d->parts)
-        part.picture = QPixmap();
+    d->dropPictures();
     update();
 }
 
-/// Drops the picture that the part is in. Others follow when it turns out that they see another scale.
 void QcGaugeWidget::partChanged(const QcItem &item)
 {
     d->prepared = false;
-    const auto own =
-        std::find_if(d->parts.begin(), d->parts.end(), [&](const Part &part) { return part.item.get() == &item; });
-    for (auto part = own; !item.isMoving(); --part) {
-        part->picture = QPixmap();
-        if (part == d->parts.begin() || std::prev(part)->item->isMoving())
-            break;
-    }
+    const auto isIt = [&](const Part &part) { return part.item.get() == &item; };
+    d->dropPicture(std::find_if(d->parts.begin(), d->parts.end(), isIt));
     update();
 }
 
-/// Brings the canvas and what each part sees of the scales up to date. Pictures of parts that see something else than
-/// before are dropped.
+/// Brings the canvas and what each part sees of the scales up to date.
 void QcGaugeWidget::prepare() const
 {
-    if (d->prepared)
+    const bool fits = d->canvas.fits(*this);
+    if (d->prepared && fits)
         return;
     d->prepared = true;
-    QcCanvas &canvas = d->canvas;
-    canvas.adopt(*this, d->stale || !isEnabled());
-    QcCanvas seen = canvas;
-    seen.scale.from = d->from;
-    seen.scale.to = d->to;
-    double fixedStep = 0.0;
-    for (auto first = d->parts.begin(); first != d->parts.end();) {
-        if (const auto *scale = dynamic_cast<const QcScaleItem *>(first->item.get())) {
-            seen.scale = scale->scale(d->from, d->to);
-            fixedStep = scale->step();
-        }
-        const auto end = std::find_if(std::next(first), d->parts.end(), [](const Part &part) {
-            return dynamic_cast<const QcScaleItem *>(part.item.get()) != nullptr;
-        });
-        seen.step = fixedStep;
-        for (auto part = first; fixedStep <= 0.0 && part != end; ++part)
-            seen.step = std::max(seen.step, part->item->isVisible() ? part->item->neededStep(seen) : 0.0);
-        for (; first != end; ++first) {
-            first->scale = seen.scale;
-            first->step = seen.step;
-        }
-    }
+    d->canvas.adopt(*this, d->stale || !isEnabled());
+    if (!fits)
+        d->dropPictures();
+    d->spreadScales();
 }
 
 QcCanvas QcGaugeWidget::canvas(int index) const
@@ -108,8 +138,6 @@ void QcGaugeWidget::paintStill(QPainter &painter, int first, int end)
 
 void QcGaugeWidget::paintEvent(QPaintEvent *event)
 {
-    if (d->canvas.ratio != devicePixelRatioF())
-        renew();
     prepare();
     QPainter painter(this);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
@@ -127,12 +155,6 @@ void QcGaugeWidget::paintEvent(QPaintEvent *event)
         paintStill(painter, i, end);
         i = end;
     }
-}
-
-void QcGaugeWidget::resizeEvent(QResizeEvent *event)
-{
-    QWidget::resizeEvent(event);
-    renew();
 }
 
 void QcGaugeWidget::changeEvent(QEvent *event)

@@ -15,8 +15,8 @@ constexpr double kTail = 15.0;
 constexpr double kHalfTail = 1.9;
 constexpr double kHalfBase = 2.5;
 constexpr double kHalfTip = 0.55;
-constexpr double kMarkerLength = 8.0;
-constexpr double kHalfMarker = 4.2;
+constexpr double kMarkerLength = 9.0;
+constexpr double kHalfMarker = 4.8;
 constexpr double kShadow = 1.2;
 constexpr int kShadowOpacity = 34; // of 255
 

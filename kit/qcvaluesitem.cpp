@@ -46,10 +46,9 @@ QFont QcValuesItem::font(const QcCanvas &canvas) const
 QVector<QcValuesItem::Numeral> QcValuesItem::numerals(const QcCanvas &canvas, double step) const
 {
     const QFontMetricsF metrics(font(canvas));
-    const int decimals = qcgauge::decimalsOfStep(step);
     QVector<Numeral> result;
     for (const double value : qcgauge::multiples(canvas.scale.from, canvas.scale.to, step)) {
-        const QString text = qcgauge::numberText(value, decimals, canvas.locale);
+        const QString text = qcgauge::markText(value, step, canvas.locale);
         QRectF box(QPointF(), QSizeF(metrics.horizontalAdvance(text), metrics.capHeight()));
         const double angle = qcgauge::angleAt(canvas.scale, value);
         box.moveCenter(canvas.point(angle, radius() - reach(box.size(), angle) / canvas.length(1.0)));

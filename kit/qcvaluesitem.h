@@ -7,7 +7,7 @@
 class QcValuesItem : public QcItem
 {
 public:
-    explicit QcValuesItem(double radius = 75.0);
+    explicit QcValuesItem(double radius = 73.5);
 
     [[nodiscard]] double size() const { return m_size; }
     /// Height of the font in percent.
