@@ -299,9 +299,9 @@ private slots:
         QCOMPARE(label->text(), "Neues Projekt"_s);
         bench.model.setCurrentFile("/daten/deckel.vnt"_s);
         bench.model.setProjectModifiedFlag(true); // the model tells nobody
-        QTRY_COMPARE(label->text(), "deckel.vnt – nicht gespeichert"_s);
+        QTRY_COMPARE(label->text(), "deckel.vnt – geändert"_s);
         bench.model.setProjectModifiedFlag(false);
-        QTRY_COMPARE(label->text(), "deckel.vnt"_s);
+        QTRY_COMPARE(label->text(), "deckel.vnt – gespeichert"_s);
     }
 
     void editInTheProjectTabIsNotLost()
