@@ -217,6 +217,8 @@ void View::Private::connectTabs()
     QObject::connect(tabs, &QTabWidget::currentChanged, q, &View::onTabSelected);
     tabHome->setActions(actions.connectBox, actions.newProject, actions.openProject);
     QObject::connect(tabProject, &TabProject::commentChanged, q, &View::commentChanged);
+    QObject::connect(tabProject, &TabProject::imageButtonClicked, q, &View::imageButtonClicked);
+    QObject::connect(tabProject, &TabProject::imageLabelClicked, q, &View::imageLabelClicked);
     QObject::connect(tabLogger, &TabDataLogger::clearRequested, q, &View::clearLogger);
     QObject::connect(tabLogger, &TabDataLogger::headlineRequested, q, &View::loggerHeadline);
     QObject::connect(tabTerminal, &TabTerminal::sendRequested, q, &View::terminalSend);
