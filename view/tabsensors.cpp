@@ -2,33 +2,49 @@
 
 #include "model/model.h"
 #include "view/logging.h"
-#include "view/sensorpanel.h"
-#include "view/tabstyle.h"
+#include "view/sensortile.h"
+#include "view/sensortreemodel.h"
+#include "view/tabsensors_p.h"
+#include "view/tilegrid.h"
 
 #include <QEvent>
-#include <QVBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QStackedWidget>
+#include <QTreeView>
 
-#include <array>
+#include <algorithm>
 
-struct TabSensors::Private
+namespace {
+
+constexpr int kRepaintInterval = 50; // ms: 20 times a second
+constexpr int kStatusInterval = 250; // digits in the tree could not be read faster
+
+} // namespace
+
+TabSensors::Private::Private(TabSensors *tab)
+    : q(tab)
+    , now([this] { return elapsed.elapsed(); })
 {
-    Model *model = nullptr;
-    std::array<SensorPanel *, kNumSensors> panels{};
-};
+    elapsed.start();
+}
+
+void TabSensors::Private::createTimers()
+{
+    repaintTimer.setSingleShot(true);
+    repaintTimer.setTimerType(Qt::PreciseTimer); // a coarse one would be early now and then
+    repaintTimer.setInterval(kRepaintInterval);
+    statusTimer.setInterval(kStatusInterval);
+    connect(&repaintTimer, &QTimer::timeout, q, [this] { refreshTiles(); });
+    connect(&statusTimer, &QTimer::timeout, q, [this] { checkFreshness(); });
+}
 
 TabSensors::TabSensors(QWidget *parent)
     : QWidget(parent)
-    , d(std::make_unique<Private>())
+    , d(std::make_unique<Private>(this))
 {
-    QWidget *page = tabstyle::addScrolledPage(this);
-    auto *rows = new QVBoxLayout(page);
-    rows->setContentsMargins(16, 16, 16, 16);
-    rows->setSpacing(12);
-    for (std::size_t i = 0; i < d->panels.size(); ++i) {
-        d->panels[i] = new SensorPanel(page);
-        d->panels[i]->setObjectName(QStringLiteral("sensorPanel%1").arg(i + 1));
-        rows->addWidget(d->panels[i], 1);
-    }
+    d->build();
+    d->retranslateUi();
 }
 
 TabSensors::~TabSensors() = default;
@@ -36,44 +52,287 @@ TabSensors::~TabSensors() = default;
 void TabSensors::setModel(Model *model)
 {
     d->model = model;
+    connect(model, &Model::appStateChanged, this, [this] { d->showHint(); });
     updateDescription();
     updateValues();
 }
+
+void TabSensors::setTimeSource(std::function<qint64()> now)
+{
+    d->now = std::move(now);
+}
+
+// --- Which sensors ---------------------------------------------------------------------------------------------
 
 void TabSensors::updateDescription()
 {
     if (!d->model)
         return;
-    const SensorDescription &description = d->model->sensorDescription();
-    const SensorGroup group = description.numSensorGroups() > 0 ? description.sensorGroup(0) : SensorGroup();
-    for (int i = 0; i < kNumSensors; ++i) {
-        const bool described = i < group.numSensors();
-        const QString name = described ? group.sensorName(i) : QString();
-        d->panels[static_cast<std::size_t>(i)]->setDescription(name.isEmpty() ? tr("Sensor %1").arg(i + 1) : name,
-                                                               described ? group.sensorUnit(i) : QString(),
-                                                               d->model->color(i));
+    const SensorList list = listSensors(*d->model);
+    if (!(list == d->sensors->sensors()))
+        d->showSensors(list);
+}
+
+void TabSensors::Private::showSensors(const SensorList &list)
+{
+    sensors->setSensors(list);
+    showChecks();
+    showTiles();
+    refresh();
+}
+
+void TabSensors::Private::showChecks()
+{
+    const QVector<SensorInfo> &all = sensors->sensors().sensors;
+    for (int i = 0; i < all.size(); ++i)
+        sensors->setShown(i, choices.isShown(all.at(i).key, all.at(i).channel >= 0));
+}
+
+void TabSensors::Private::showTiles()
+{
+    const int count = sensors->sensors().sensors.size();
+    QVector<SensorTile *> unused = tiles.mid(std::min(count, tiles.size()));
+    tiles.resize(count);
+    QVector<QWidget *> shown;
+    for (int i = 0; i < count; ++i) {
+        if (!sensors->isShown(i)) {
+            unused.append(std::exchange(tiles[i], nullptr));
+            continue;
+        }
+        if (!tiles.at(i))
+            tiles[i] = createTile(i);
+        fitTile(i);
+        shown.append(tiles.at(i));
     }
+    grid->setTiles(shown);
+    for (SensorTile *tile : qAsConst(unused)) {
+        if (tile)
+            tile->deleteLater(); // its own button may be at work
+    }
+    orderTabs();
+    showHint();
+    enlarge(static_cast<SensorTile *>(grid->enlarged()));
+}
+
+SensorTile *TabSensors::Private::createTile(int index)
+{
+    auto *tile = new SensorTile(grid);
+    tile->setObjectName(QStringLiteral("sensorTile%1").arg(index + 1));
+    connect(tile, &SensorTile::kindChosen, q, [this, index](DisplayKind kind) {
+        choices.setKind(sensors->sensors().sensors.at(index).key, kind);
+        tiles.at(index)->setKind(kind);
+    });
+    connect(tile, &SensorTile::resetRequested, q, [this, index] { resetHeld(index); });
+    connect(tile, &SensorTile::enlargeToggled, q, [this, tile] { enlarge(grid->enlarged() == tile ? nullptr : tile); });
+    connect(tile, &SensorTile::focusMoved, q, [this, tile](int key) {
+        if (QWidget *next = grid->neighbour(tile, key))
+            next->setFocus(Qt::TabFocusReason);
+    });
+    return tile;
+}
+
+void TabSensors::Private::fitTile(int index)
+{
+    const SensorInfo &sensor = sensors->sensors().sensors.at(index);
+    SensorTile *tile = tiles.at(index);
+    tile->setSensor(sensor);
+    tile->setKind(choices.kind(sensor.key));
+    tile->setReading(readingOf(sensor));
+    tile->describeReading();
+}
+
+void TabSensors::Private::orderTabs() const
+{
+    QWidget *before = nullptr;
+    for (QWidget *tile : grid->tiles()) {
+        for (QWidget *next : static_cast<SensorTile *>(tile)->tabOrder()) {
+            if (before)
+                setTabOrder(before, next);
+            before = next;
+        }
+    }
+}
+
+void TabSensors::Private::showHint()
+{
+    const QString text = hintText();
+    hint->setText(text);
+    pages->setCurrentWidget(text.isEmpty() ? tilePage : hint);
+}
+
+QString TabSensors::Private::hintText() const
+{
+    const SensorList &list = sensors->sensors();
+    const bool anyValue =
+        !live.isEmpty() || std::any_of(recorded.cbegin(), recorded.cend(), [](const auto &value) { return !!value; });
+    const bool isConnected = model && model->isConnected();
+    if (list.sensors.isEmpty() || !(list.isDescribed() || anyValue || isConnected))
+        return TabSensors::tr("Noch keine Sensoren bekannt – bitte verbinden.");
+    if (grid->tiles().isEmpty())
+        return TabSensors::tr("Kein Sensor ausgewählt.\nLinks die Sensoren ankreuzen, die gezeigt werden sollen.");
+    return {};
+}
+
+void TabSensors::Private::enlarge(SensorTile *tile)
+{
+    auto *before = static_cast<SensorTile *>(grid->enlarged());
+    if (before && before != tile)
+        before->setEnlarged(false);
+    grid->setEnlarged(tile);
+    side->setVisible(!tile);
+    if (tile)
+        tile->setEnlarged(true);
+    if (tile && before != tile)
+        tile->setFocus(Qt::OtherFocusReason);
+}
+
+// --- Values ----------------------------------------------------------------------------------------------------
+
+void TabSensors::addSample(const std::array<double, kNumSensors> &values)
+{
+    const bool isFirst = d->live.isEmpty();
+    d->live.add(values, d->now());
+    if (!isVisible())
+        return;
+    if (isFirst)
+        d->showHint();
+    if (!d->repaintTimer.isActive())
+        d->repaintTimer.start();
+    if (!d->statusTimer.isActive())
+        d->statusTimer.start();
 }
 
 void TabSensors::updateValues()
 {
-    if (!d->model)
+    if (!d->model || !d->live.isEmpty())
         return;
+    const auto before = d->recorded;
     for (int i = 0; i < kNumSensors; ++i) {
-        SensorPanel *panel = d->panels[static_cast<std::size_t>(i)];
         const SampleList *newest = d->model->measurement(i, d->model->numChannels(i) - 1);
-        if (newest && !newest->isEmpty())
-            panel->setValue(newest->constLast());
-        else
-            panel->clearValue();
+        d->recorded.at(static_cast<std::size_t>(i)) =
+            newest && !newest->isEmpty() ? std::optional<double>(newest->constLast()) : std::nullopt;
     }
+    if (d->recorded == before)
+        return;
+    d->showHint();
+    d->refresh();
+}
+
+bool TabSensors::Private::isFresh() const
+{
+    return model && live.isFresh(now(), model->clock());
+}
+
+SensorReading TabSensors::Private::readingOf(const SensorInfo &sensor) const
+{
+    SensorReading reading;
+    if (sensor.channel < 0)
+        return reading;
+    const auto place = static_cast<std::size_t>(sensor.channel);
+    std::optional<double> value = live.isEmpty() ? recorded.at(place) : live.latest(sensor.channel);
+    if (value)
+        value = *value + sensor.offset;
+    reading.status = sensorStatus(value, isFresh(), sensor.limits);
+    reading.value = value.value_or(0.0);
+    reading.held = live.held(sensor.channel);
+    if (reading.held)
+        reading.held = HeldRange{reading.held->minimum + sensor.offset, reading.held->maximum + sensor.offset};
+    return reading;
+}
+
+void TabSensors::Private::refreshTiles()
+{
+    const QVector<SensorInfo> &all = sensors->sensors().sensors;
+    for (int i = 0; i < all.size(); ++i) {
+        if (SensorTile *tile = tiles.at(i))
+            tile->setReading(readingOf(all.at(i)));
+    }
+}
+
+void TabSensors::Private::refreshTree()
+{
+    const QVector<SensorInfo> &all = sensors->sensors().sensors;
+    for (int i = 0; i < all.size(); ++i) {
+        const SensorReading reading = readingOf(all.at(i));
+        const SensorScale scale = sensorScale(all.at(i).limits, reading.held);
+        const QString text =
+            reading.hasValue() ? sensorValueText(reading.value, scale.valueDecimals) : QStringLiteral("–");
+        sensors->setReading(i, text, reading.status);
+        if (tiles.at(i))
+            tiles.at(i)->describeReading();
+    }
+}
+
+void TabSensors::Private::refresh()
+{
+    refreshTiles();
+    refreshTree();
+}
+
+void TabSensors::Private::checkFreshness()
+{
+    if (isFresh()) {
+        refreshTree();
+        return;
+    }
+    statusTimer.stop();
+    refresh();
+}
+
+void TabSensors::Private::resetHeld(int index)
+{
+    if (index < 0)
+        return;
+    live.resetHeld(sensors->sensors().sensors.at(index).channel);
+    refresh();
+}
+
+void TabSensors::Private::resetAll()
+{
+    for (int channel = 0; channel < kNumSensors; ++channel)
+        live.resetHeld(channel);
+    refresh();
+}
+
+// --- Events ----------------------------------------------------------------------------------------------------
+
+void TabSensors::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    d->showHint();
+    d->refresh();
+    if (d->isFresh())
+        d->statusTimer.start();
+}
+
+void TabSensors::hideEvent(QHideEvent *event)
+{
+    d->repaintTimer.stop();
+    d->statusTimer.stop();
+    QWidget::hideEvent(event);
+}
+
+void TabSensors::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape && d->grid->enlarged())
+        d->enlarge(nullptr);
+    else
+        QWidget::keyPressEvent(event);
+}
+
+bool TabSensors::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == d->tree && event->type() == QEvent::KeyPress && d->handleTreeKey(*static_cast<QKeyEvent *>(event)))
+        return true;
+    return QWidget::eventFilter(watched, event);
 }
 
 void TabSensors::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
-        updateDescription();
-        updateValues();
+        updateDescription(); // names that stand in for missing ones
+        d->retranslateUi();
+        d->refresh();
     }
     QWidget::changeEvent(event);
 }

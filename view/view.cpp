@@ -6,6 +6,7 @@
 #include "view/logging.h"
 #include "view/sidetabs.h"
 #include "view/tabdatalogger.h"
+#include "view/tabsensors.h"
 #include "view/tabterminal.h"
 #include "view/viewprivate.h"
 
@@ -107,6 +108,11 @@ void View::logSample(double seconds, const std::array<double, kNumSensors> &valu
     d->tabLogger->addSample(seconds, values);
 }
 
+void View::showLiveValues(const std::array<double, kNumSensors> &values)
+{
+    d->tabSensors->addSample(values);
+}
+
 void View::showProgress(const QString &text)
 {
     qCDebug(lcView) << Q_FUNC_INFO << text;
@@ -178,7 +184,5 @@ void View::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange)
         languageChanged();
-    else if (event->type() == QEvent::WindowStateChange)
-        d->noteNormalPlacement(static_cast<QWindowStateChangeEvent *>(event)->oldState());
     QMainWindow::changeEvent(event);
 }

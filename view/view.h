@@ -92,6 +92,9 @@ public:
     /// Takes over what is being typed into a field that waits for the end of the input.
     void commitInput();
 
+    /// What a sample line holds, recorded or not; cheap enough for every line.
+    void showLiveValues(const std::array<double, kNumSensors> &values);
+
     // --- Live text of terminal and data logger; both cheap enough for every line ---
     void terminalReceived(const QString &line);
     void terminalSent(const QString &line);

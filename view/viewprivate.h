@@ -3,7 +3,6 @@
 #include "view/multilanguageutils.h"
 #include "view/view.h"
 #include "view/viewactions.h"
-#include "view/windowplacement.h"
 
 #include <QTimer>
 #include <QVector>
@@ -53,7 +52,6 @@ struct View::Private
     bool dataPending = false;
     bool projectPending = false;
     QString lastDir;
-    WindowPlacement placement; // of the window when it does not fill the screen, up to date while it does
     QVector<Message> waitingMessages;
     QTimer dataTimer;    // bundles data changes
     QTimer projectTimer; // bundles changes of description and settings
@@ -74,7 +72,6 @@ struct View::Private
     void connectModel();
     void connectLanguages();
     void readSettings();
-    void noteNormalPlacement(Qt::WindowStates before);
     void retranslate();
 
     // --- State ---

@@ -317,50 +317,6 @@ Noch einmal importieren?</source>
         <translation>%1 of the files are already in this project.
 Import them again?</translation>
     </message>
-    <message>
-        <source>Bilder (%1)</source>
-        <translation>Pictures (%1)</translation>
-    </message>
-    <message>
-        <source>Die Datei &quot;%1&quot; konnte nicht gelesen werden!</source>
-        <translation>The file &quot;%1&quot; could not be read!</translation>
-    </message>
-    <message>
-        <source>Das Bild &quot;%1&quot; ist zu groß: Es hat mehr als %2 Millionen Bildpunkte!</source>
-        <translation>The picture &quot;%1&quot; is too large: it has more than %2 million pixels!</translation>
-    </message>
-    <message>
-        <source>Die Datei &quot;%1&quot; enthält kein Bild, das gelesen werden kann!</source>
-        <translation>The file &quot;%1&quot; holds no picture that can be read!</translation>
-    </message>
-    <message>
-        <source>Bild auswählen</source>
-        <translation>Choose a picture</translation>
-    </message>
-    <message>
-        <source>Nur %1 von %2 Bildern übernommen, mehr Plätze sind nicht frei.</source>
-        <translation>Only %1 of %2 pictures taken over, no more places are free.</translation>
-    </message>
-    <message>
-        <source>Bild %1 wird aus dem Projekt gelöscht.
-Fortfahren?</source>
-        <translation>Picture %1 will be deleted from the project.
-Continue?</translation>
-    </message>
-    <message>
-        <source>Bild löschen</source>
-        <translation>Delete picture</translation>
-    </message>
-    <message>
-        <source>Bild %1 wird durch ein anderes ersetzt.
-Fortfahren?</source>
-        <translation>Picture %1 will be replaced by another one.
-Continue?</translation>
-    </message>
-    <message>
-        <source>Bild ersetzen</source>
-        <translation>Replace picture</translation>
-    </message>
 </context>
 <context>
     <name>CycleTile</name>
@@ -542,88 +498,6 @@ Continue?</translation>
     <message>
         <source>Bitte eine IPv4-Adresse (z. B. 192.168.4.1) oder einen Rechnernamen eingeben.</source>
         <translation>Please enter an IPv4 address (e.g. 192.168.4.1) or a host name.</translation>
-    </message>
-</context>
-<context>
-    <name>ImagePreview</name>
-    <message>
-        <source>Klicken zum Schließen</source>
-        <translation>Click to close</translation>
-    </message>
-</context>
-<context>
-    <name>ImageTile</name>
-    <message>
-        <source>%1 × %2 Bildpunkte</source>
-        <translation>%1 × %2 pixels</translation>
-    </message>
-    <message>
-        <source>Bild auswählen</source>
-        <translation>Choose a picture</translation>
-    </message>
-    <message>
-        <source>Anderes Bild auswählen</source>
-        <translation>Choose another picture</translation>
-    </message>
-    <message>
-        <source>Bild auswählen, ablegen oder einfügen (Strg+V)</source>
-        <translation>Choose, drop or paste a picture (Ctrl+V)</translation>
-    </message>
-    <message>
-        <source>Klicken zum Vergrößern, Entf zum Löschen</source>
-        <translation>Click to enlarge, Del to delete</translation>
-    </message>
-    <message>
-        <source>kein Bild</source>
-        <translation>no picture</translation>
-    </message>
-    <message>
-        <source>&amp;Vergrößern</source>
-        <translation>&amp;Enlarge</translation>
-    </message>
-    <message>
-        <source>&amp;Auswählen...</source>
-        <translation>&amp;Choose...</translation>
-    </message>
-    <message>
-        <source>&amp;Einfügen</source>
-        <translation>&amp;Paste</translation>
-    </message>
-    <message>
-        <source>&amp;Kopieren</source>
-        <translation>C&amp;opy</translation>
-    </message>
-    <message>
-        <source>&amp;Löschen...</source>
-        <translation>&amp;Delete...</translation>
-    </message>
-    <message>
-        <source>Bild %1</source>
-        <translation>Picture %1</translation>
-    </message>
-    <message>
-        <source>Auswählen oder hier ablegen</source>
-        <translation>Choose or drop here</translation>
-    </message>
-    <message>
-        <source>Hier ablegen</source>
-        <translation>Drop here</translation>
-    </message>
-    <message>
-        <source>Das ist kein Bild</source>
-        <translation>This is not a picture</translation>
-    </message>
-    <message>
-        <source>Bild %1 auswählen</source>
-        <translation>Choose picture %1</translation>
-    </message>
-    <message>
-        <source>Bild löschen</source>
-        <translation>Delete picture</translation>
-    </message>
-    <message>
-        <source>Bild %1 löschen</source>
-        <translation>Delete picture %1</translation>
     </message>
 </context>
 <context>
@@ -820,29 +694,6 @@ double click fits the value range.</translation>
     </message>
 </context>
 <context>
-    <name>PhaseStrip</name>
-    <message>
-        <source>&amp;%1</source>
-        <translation>&amp;%1</translation>
-    </message>
-    <message>
-        <source>ab %1 s</source>
-        <translation>from %1 s</translation>
-    </message>
-    <message>
-        <source>%1 – %2 s</source>
-        <translation>%1 – %2 s</translation>
-    </message>
-    <message>
-        <source>Name der Phase %1</source>
-        <translation>Name of phase %1</translation>
-    </message>
-    <message>
-        <source>Name der Phase %1; der vorige Marker beginnt sie, der nächste beendet sie.</source>
-        <translation>Name of phase %1; the marker before begins it, the next one ends it.</translation>
-    </message>
-</context>
-<context>
     <name>ProjectForm</name>
     <message>
         <source>&amp;Projekt:</source>
@@ -903,13 +754,6 @@ double click fits the value range.</translation>
     <message>
         <source> bar</source>
         <translation> bar</translation>
-    </message>
-</context>
-<context>
-    <name>ProjectImages</name>
-    <message>
-        <source>Bild %1</source>
-        <translation>Picture %1</translation>
     </message>
 </context>
 <context>
@@ -1029,6 +873,185 @@ double click fits the value range.</translation>
     <message>
         <source>Pause [s]</source>
         <translation>Pause [s]</translation>
+    </message>
+</context>
+<context>
+    <name>SensorDialog</name>
+    <message>
+        <source>Sensor bearbeiten</source>
+        <translation>Edit sensor</translation>
+    </message>
+    <message>
+        <source>Ü&amp;bernehmen</source>
+        <translation>Ap&amp;ply</translation>
+    </message>
+    <message>
+        <source>&amp;Abbrechen</source>
+        <translation>&amp;Cancel</translation>
+    </message>
+    <message>
+        <source>Untere Grenze</source>
+        <translation>Lower limit</translation>
+    </message>
+    <message>
+        <source>Obere Grenze</source>
+        <translation>Upper limit</translation>
+    </message>
+    <message>
+        <source>Ohne Haken gibt es keine Grenze.</source>
+        <translation>Without a tick there is no limit.</translation>
+    </message>
+    <message>
+        <source>Farbe wählen</source>
+        <translation>Choose colour</translation>
+    </message>
+    <message>
+        <source>&amp;Name</source>
+        <translation>&amp;Name</translation>
+    </message>
+    <message>
+        <source>Die Einheit kommt von der Box.</source>
+        <translation>The unit comes from the box.</translation>
+    </message>
+    <message>
+        <source>Einheit</source>
+        <translation>Unit</translation>
+    </message>
+    <message>
+        <source>&amp;Farbe</source>
+        <translation>Co&amp;lour</translation>
+    </message>
+    <message>
+        <source>Bitte einen Namen eingeben.</source>
+        <translation>Please enter a name.</translation>
+    </message>
+    <message>
+        <source>Die untere Grenze muss kleiner als die obere sein.</source>
+        <translation>The lower limit must be below the upper one.</translation>
+    </message>
+    <message>
+        <source>Grenzen liegen zwischen -100000 und 100000.</source>
+        <translation>Limits lie between -100000 and 100000.</translation>
+    </message>
+</context>
+<context>
+    <name>SensorList</name>
+    <message>
+        <source>Sensor %1</source>
+        <translation>Sensor %1</translation>
+    </message>
+    <message>
+        <source>Gruppe %1</source>
+        <translation>Group %1</translation>
+    </message>
+</context>
+<context>
+    <name>SensorReading</name>
+    <message>
+        <source>kein Wert</source>
+        <translation>no value</translation>
+    </message>
+    <message>
+        <source>veraltet</source>
+        <translation>out of date</translation>
+    </message>
+    <message>
+        <source>aktuell</source>
+        <translation>up to date</translation>
+    </message>
+    <message>
+        <source>unter der Grenze</source>
+        <translation>below the limit</translation>
+    </message>
+    <message>
+        <source>über der Grenze</source>
+        <translation>above the limit</translation>
+    </message>
+    <message>
+        <source>min %1   max %2</source>
+        <translation>min %1   max %2</translation>
+    </message>
+</context>
+<context>
+    <name>SensorTile</name>
+    <message>
+        <source>Linear</source>
+        <translation>Linear</translation>
+    </message>
+    <message>
+        <source>Rund</source>
+        <translation>Round</translation>
+    </message>
+    <message>
+        <source>Balken</source>
+        <translation>Bar</translation>
+    </message>
+    <message>
+        <source>Digital</source>
+        <translation>Digital</translation>
+    </message>
+    <message>
+        <source>Art der Anzeige (Tasten 1 bis 4)</source>
+        <translation>Kind of display (keys 1 to 4)</translation>
+    </message>
+    <message>
+        <source>%1: Art der Anzeige</source>
+        <translation>%1: kind of display</translation>
+    </message>
+    <message>
+        <source>Minimum und Maximum neu beginnen (Entf)</source>
+        <translation>Start minimum and maximum anew (Del)</translation>
+    </message>
+    <message>
+        <source>%1: Minimum und Maximum neu beginnen</source>
+        <translation>%1: start minimum and maximum anew</translation>
+    </message>
+    <message>
+        <source>Alle Sensoren zeigen (Esc)</source>
+        <translation>Show all sensors (Esc)</translation>
+    </message>
+    <message>
+        <source>Groß zeigen (Eingabetaste oder Doppelklick)</source>
+        <translation>Enlarge (Enter or double click)</translation>
+    </message>
+    <message>
+        <source>Alle Sensoren zeigen</source>
+        <translation>Show all sensors</translation>
+    </message>
+    <message>
+        <source>%1: groß zeigen</source>
+        <translation>%1: enlarge</translation>
+    </message>
+</context>
+<context>
+    <name>SensorTreeModel</name>
+    <message>
+        <source>Die Box sendet für diesen Sensor keine Werte.</source>
+        <translation>The box sends no values for this sensor.</translation>
+    </message>
+    <message>
+        <source>%1
+F2 oder Doppelklick: umbenennen
+Eingabetaste: bearbeiten</source>
+        <translation>%1
+F2 or double click: rename
+Enter: edit</translation>
+    </message>
+    <message>
+        <source>Sensor</source>
+        <translation>Sensor</translation>
+    </message>
+    <message>
+        <source>Wert</source>
+        <translation>Value</translation>
+    </message>
+    <message>
+        <source>Einheit</source>
+        <translation>Unit</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
     </message>
 </context>
 <context>
@@ -1682,6 +1705,14 @@ Esc cancels.</translation>
         <translation>Comment</translation>
     </message>
     <message>
+        <source>Namen der Phasen</source>
+        <translation>Names of the phases</translation>
+    </message>
+    <message>
+        <source>Phase &amp;%1:</source>
+        <translation>Phase &amp;%1:</translation>
+    </message>
+    <message>
         <source>&amp;Alle Messdaten löschen...</source>
         <translation>Delete all &amp;measured data...</translation>
     </message>
@@ -1689,24 +1720,50 @@ Esc cancels.</translation>
         <source>Löscht die Messdaten aller Sensoren; die Projektbeschreibung bleibt.</source>
         <translation>Deletes the measured data of all sensors; the project description stays.</translation>
     </message>
-    <message>
-        <source>Bilder</source>
-        <translation>Pictures</translation>
-    </message>
-    <message>
-        <source>K&amp;ommentar</source>
-        <translation>&amp;Comment</translation>
-    </message>
-    <message>
-        <source>Phasen</source>
-        <translation>Phases</translation>
-    </message>
 </context>
 <context>
     <name>TabSensors</name>
     <message>
-        <source>Sensor %1</source>
-        <translation>Sensor %1</translation>
+        <source>Noch keine Sensoren bekannt – bitte verbinden.</source>
+        <translation>No sensors known yet – please connect.</translation>
+    </message>
+    <message>
+        <source>Kein Sensor ausgewählt.
+Links die Sensoren ankreuzen, die gezeigt werden sollen.</source>
+        <translation>No sensor chosen.
+Tick the sensors to be shown on the left.</translation>
+    </message>
+    <message>
+        <source>Sensoren</source>
+        <translation>Sensors</translation>
+    </message>
+    <message>
+        <source>&amp;Bearbeiten…</source>
+        <translation>&amp;Edit…</translation>
+    </message>
+    <message>
+        <source>Name, Farbe und Grenzen des gewählten Sensors (Eingabetaste)</source>
+        <translation>Name, colour and limits of the selected sensor (Enter)</translation>
+    </message>
+    <message>
+        <source>&amp;Min/Max neu</source>
+        <translation>Reset &amp;min/max</translation>
+    </message>
+    <message>
+        <source>Minimum und Maximum aller Sensoren neu beginnen</source>
+        <translation>Start minimum and maximum of all sensors anew</translation>
+    </message>
+    <message>
+        <source>Umbenennen (F2)</source>
+        <translation>Rename (F2)</translation>
+    </message>
+    <message>
+        <source>Bearbeiten…</source>
+        <translation>Edit…</translation>
+    </message>
+    <message>
+        <source>Minimum und Maximum neu beginnen</source>
+        <translation>Start minimum and maximum anew</translation>
     </message>
 </context>
 <context>
@@ -1994,6 +2051,10 @@ Arrow up and down: earlier lines</translation>
         <translation>New project</translation>
     </message>
     <message>
+        <source> – nicht gespeichert</source>
+        <translation> – not saved</translation>
+    </message>
+    <message>
         <source>&amp;Neues Projekt</source>
         <translation>&amp;New project</translation>
     </message>
@@ -2148,14 +2209,6 @@ Arrow up and down: earlier lines</translation>
     <message>
         <source>Zeigt die Texte auf Englisch</source>
         <translation>Shows the texts in English</translation>
-    </message>
-    <message>
-        <source>geändert</source>
-        <translation>changed</translation>
-    </message>
-    <message>
-        <source>gespeichert</source>
-        <translation>saved</translation>
     </message>
 </context>
 </TS>

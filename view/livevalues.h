@@ -1,0 +1,46 @@
+#pragma once
+
+#include "model/sensordescription.h"
+
+#include <array>
+#include <optional>
+
+/// Lowest and highest value that a sensor had.
+struct HeldRange
+{
+    double minimum = 0.0;
+    double maximum = 0.0;
+
+    [[nodiscard]] bool operator==(const HeldRange &other) const
+    {
+        return minimum == other.minimum && maximum == other.maximum;
+    }
+};
+
+/// The newest sample line, and what was held since the last reset. Keeps nothing else, so that it costs the same
+/// however long the box sends.
+class LiveValues
+{
+public:
+    /// A value counts as fresh for three sampling periods, but at least for so many milliseconds.
+    static constexpr qint64 kShortestFreshness = 1000;
+
+    /// `now` in milliseconds of any clock that only goes forward; a number that is not finite counts as 0.
+    void add(const std::array<double, kNumSensors> &values, qint64 now);
+    /// The next value of the channel begins a new range.
+    void resetHeld(int channel);
+
+    [[nodiscard]] bool isEmpty() const { return !m_any; }
+    /// Nothing before the first sample or for a channel outside 0 to 4.
+    [[nodiscard]] std::optional<double> latest(int channel) const;
+    [[nodiscard]] std::optional<HeldRange> held(int channel) const;
+    /// `clock`: the sampling period in milliseconds.
+    [[nodiscard]] bool isFresh(qint64 now, int clock) const;
+
+private:
+    std::array<double, kNumSensors> m_latest{};
+    std::array<HeldRange, kNumSensors> m_held{};
+    std::array<bool, kNumSensors> m_isHeld{};
+    qint64 m_time = 0;
+    bool m_any = false;
+};

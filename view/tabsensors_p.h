@@ -1,0 +1,99 @@
+#pragma once
+
+#include "view/livevalues.h"
+#include "view/sensorchoices.h"
+#include "view/sensorlist.h"
+#include "view/sensorreading.h"
+#include "view/tabsensors.h"
+
+#include <QElapsedTimer>
+#include <QTimer>
+#include <QVector>
+
+class QAction;
+class QBoxLayout;
+class QKeyEvent;
+class QLabel;
+class QModelIndex;
+class QPushButton;
+class QSplitter;
+class QStackedWidget;
+class QTreeView;
+class SensorTile;
+class SensorTreeModel;
+class TileGrid;
+
+struct TabSensors::Private
+{
+    explicit Private(TabSensors *tab);
+
+    TabSensors *q;
+    Model *model = nullptr;
+    SensorChoices choices;
+    SensorTreeModel *sensors = nullptr;
+
+    // --- Values ---
+    LiveValues live;
+    std::array<std::optional<double>, kNumSensors> recorded; ///< shown until something live comes
+    QElapsedTimer elapsed;
+    std::function<qint64()> now;
+    QTimer repaintTimer; ///< bundles samples; runs only in sight
+    QTimer statusTimer;  ///< runs only in sight and while values are fresh
+
+    // --- Widgets ---
+    QSplitter *splitter = nullptr;
+    QWidget *side = nullptr;
+    QTreeView *tree = nullptr;
+    QPushButton *editButton = nullptr;
+    QPushButton *resetButton = nullptr;
+    QAction *renameAction = nullptr;
+    QAction *editAction = nullptr;
+    QAction *resetAction = nullptr;
+    QStackedWidget *pages = nullptr;
+    QWidget *tilePage = nullptr;
+    TileGrid *grid = nullptr;
+    QLabel *hint = nullptr;
+    QVector<SensorTile *> tiles; ///< one a sensor; null for one that is not shown
+
+    // --- Building ---
+    void build();
+    void createTimers();
+    [[nodiscard]] QWidget *createSide();
+    void createTree();
+    void createActions();
+    [[nodiscard]] QWidget *createPages();
+    void connectTree();
+    void sizeColumns();
+    void restoreWidth();
+    void retranslateUi();
+
+    // --- Which sensors ---
+    void showSensors(const SensorList &list);
+    void showChecks();
+    void showTiles();
+    void fitTile(int index);
+    void orderTabs() const;
+    [[nodiscard]] SensorTile *createTile(int index);
+    void showHint();
+    [[nodiscard]] QString hintText() const;
+    void enlarge(SensorTile *tile);
+
+    // --- Values ---
+    [[nodiscard]] bool isFresh() const;
+    [[nodiscard]] SensorReading readingOf(const SensorInfo &sensor) const;
+    void refreshTiles();
+    void refreshTree();
+    void refresh();
+    void checkFreshness();
+    void resetHeld(int index);
+    void resetAll();
+
+    // --- Editing ---
+    [[nodiscard]] int currentSensor() const;
+    void showEditable();
+    [[nodiscard]] bool handleTreeKey(const QKeyEvent &event);
+    void rename(int index, const QString &name);
+    void renameInPlace();
+    void edit(int index);
+    void applyEdit(const SensorInfo &before, const SensorInfo &after);
+};
