@@ -9,6 +9,7 @@
 #include "view/tabblackbox.h"
 #include "view/taboszilloscope.h"
 #include "view/tabproject.h"
+#include "view/tabsensors.h"
 #include "view/view.h"
 
 #include <QApplication>
@@ -84,11 +85,6 @@ void Controller::connectTabs()
     QObject::connect(project, &TabProject::phaseEditChanged, this, &Controller::onTabProject_onPhaseEditChanged);
     QObject::connect(project, &TabProject::commentChanged, this, &Controller::onTabProject_commentChanged);
 
-    QObject::connect(project, &TabProject::imageButtonClicked, this, &Controller::onTabProject_imageButtonClicked);
-    QObject::connect(project, &TabProject::imageDeleteClicked, this, &Controller::onTabProject_imageDeleteClicked);
-    QObject::connect(project, &TabProject::imageFilesGiven, this, &Controller::onTabProject_imageFilesGiven);
-    QObject::connect(project, &TabProject::imageGiven, this, &Controller::onTabProject_imageGiven);
-
     const TabOszilloscope *oszi = d->view->tabOszi();
     QObject::connect(oszi, &TabOszilloscope::deleteMeasurements, this, &Controller::onTabOszi_deleteMeasurements);
     QObject::connect(oszi, &TabOszilloscope::markerChangedAbsolute, this, &Controller::onTabOszi_markerChangedAbsolute);
@@ -98,6 +94,11 @@ void Controller::connectTabs()
     QObject::connect(oszi, &TabOszilloscope::offsetEdited, this, &Controller::onTabOszi_offsetEdited);
     QObject::connect(oszi, &TabOszilloscope::rangeEdited, this, &Controller::onTabOszi_rangeEdited);
     QObject::connect(oszi, &TabOszilloscope::samplingPeriodChosen, this, &Controller::onTabOszi_samplingPeriodChosen);
+
+    const TabSensors *sensors = d->view->tabSensors();
+    QObject::connect(sensors, &TabSensors::sensorNameEdited, this, &Controller::onTabSensors_nameEdited);
+    QObject::connect(sensors, &TabSensors::sensorColorEdited, this, &Controller::onTabSensors_colorEdited);
+    QObject::connect(sensors, &TabSensors::sensorLimitsEdited, this, &Controller::onTabSensors_limitsEdited);
 
     const TabBlackBox *blackBox = d->view->tabBlackBox();
     QObject::connect(blackBox, &TabBlackBox::listRequested, this, &Controller::onTabBlackBox_listClicked);

@@ -12,9 +12,8 @@
 
 class MesotraConnector;
 class Model;
+class QColor;
 class QDir;
-class QImage;
-class QPixmap;
 class View;
 class SensorDescription;
 struct ReceivedProject;
@@ -78,10 +77,6 @@ public slots:
     void onTabProject_clearDataClicked();
     void onTabProject_onPhaseEditChanged(int phase, const QString &name);
     void onTabProject_commentChanged();
-    void onTabProject_imageButtonClicked(int image);
-    void onTabProject_imageDeleteClicked(int image);
-    void onTabProject_imageFilesGiven(int image, const QStringList &files);
-    void onTabProject_imageGiven(int image, const QImage &picture);
     void onTabOszi_deleteMeasurements(const QString &range);
     void onTabOszi_markerChangedAbsolute(int index, int pos_ms);
     void onTabOszi_markerChangedRelative(int index, int pos_ms);
@@ -89,6 +84,9 @@ public slots:
     void onTabOszi_offsetEdited(int position, double offset);
     void onTabOszi_rangeEdited();
     void onTabOszi_samplingPeriodChosen(const QString &label);
+    void onTabSensors_nameEdited(int sensor, const QString &name);
+    void onTabSensors_colorEdited(int sensor, const QColor &color);
+    void onTabSensors_limitsEdited(int group, int sensor, double minimum, double maximum);
     void onTabBlackBox_listClicked();
     void onTabBlackBox_importClicked(const QStringList &files);
     void onTabBlackBox_fetchBlackBoxDataClicked();
@@ -168,9 +166,6 @@ private:
     void showDeviceState();
     [[nodiscard]] QString askProjectFileToSave();
     void applyEdit(const std::function<void()> &edit);
-    [[nodiscard]] bool mayReplaceImage(int image);
-    [[nodiscard]] bool takeImageFile(int image, const QString &file);
-    void setImage(int image, const QPixmap &picture);
 
     struct Private;
     std::unique_ptr<Private> d;
