@@ -143,8 +143,8 @@ void paintLevelSymbol(QPainter &painter, const QcCanvas &canvas)
     QPainterPath symbol;
     for (const double side : {-1.0, 1.0}) {
         symbol.moveTo(side * 60.0, 0.0);
-        symbol.lineTo(side * 34.0, 0.0);
-        symbol.lineTo(side * 34.0, 7.0);
+        symbol.lineTo(side * 36.0, 0.0);
+        symbol.lineTo(side * 36.0, 7.0);
     }
     QTransform place;
     place.translate(canvas.centre.x(), canvas.centre.y());

@@ -1,6 +1,7 @@
 #include "kit/qccanvas.h"
 
-#include "kit/qtmaterialstyle.h"
+#include "kit/colorcontrast.h"
+#include "kit/qtmaterialpaint.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -10,21 +11,13 @@
 #include <algorithm>
 #include <cmath>
 
+using QtMaterialPaint::between;
+using QtMaterialPaint::themeColor;
+
 namespace {
 
 constexpr int kSmallestFont = 10; // pixels
 constexpr int kSixteenths = 16;   // QPainter counts in sixteenths of a degree
-
-QColor themeColor(const char *key)
-{
-    return QtMaterialStyle::instance().themeColor(QLatin1String(key));
-}
-
-/// Black or white, whichever stands out.
-QColor opposite(const QColor &color)
-{
-    return color.lightness() > 127 ? Qt::black : Qt::white;
-}
 
 } // namespace
 
@@ -37,13 +30,13 @@ QcColors QcColors::fromTheme(bool muted)
 {
     QcColors colors;
     colors.muted = muted;
-    colors.face = themeColor("canvas");
-    const QColor ink = qcgauge::mixed(themeColor("text"), opposite(colors.face), 0.55);
+    colors.face = themeColor(QLatin1String("canvas"));
+    const QColor ink = between(themeColor(QLatin1String("text")), colorcontrast::readableOn(colors.face), 0.55);
     colors.ink = colors.shaded(ink);
-    colors.soft = colors.shaded(qcgauge::mixed(ink, colors.face, 0.4));
-    colors.ring = themeColor("border");
-    colors.track = qcgauge::mixed(colors.ring, colors.face, 0.35);
-    colors.needle = colors.shaded(themeColor("accent1"));
+    colors.soft = colors.shaded(between(ink, colors.face, muted ? 0.15 : 0.35));
+    colors.ring = themeColor(QLatin1String("border"));
+    colors.track = between(colors.ring, colors.face, 0.35);
+    colors.needle = colors.shaded(themeColor(QLatin1String("accent1")));
     return colors;
 }
 
@@ -52,7 +45,7 @@ QColor QcColors::shaded(const QColor &color) const
     if (!muted)
         return color;
     const int grey = qGray(color.rgb());
-    return qcgauge::mixed(QColor(grey, grey, grey, color.alpha()), face, 0.55);
+    return between(QColor(grey, grey, grey, color.alpha()), face, 0.45);
 }
 
 void QcCanvas::adopt(const QWidget &widget, bool muted)
@@ -111,13 +104,6 @@ double QcCanvas::stroke(double percent) const
 }
 
 namespace qcgauge {
-
-QColor mixed(const QColor &one, const QColor &other, double part)
-{
-    const auto mix = [part](double a, double b) { return a + (b - a) * part; };
-    return QColor::fromRgbF(mix(one.redF(), other.redF()), mix(one.greenF(), other.greenF()),
-                            mix(one.blueF(), other.blueF()), mix(one.alphaF(), other.alphaF()));
-}
 
 void drawRing(QPainter &painter, const QcCanvas &canvas, double radius, double width, double fromAngle, double toAngle,
               const QColor &color)

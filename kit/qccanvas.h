@@ -87,8 +87,6 @@ struct QcCanvas
 
 namespace qcgauge {
 
-/// Part of the way from one colour (0) to the other (1).
-[[nodiscard]] QColor mixed(const QColor &one, const QColor &other, double part);
 /// Part of a ring between two angles; the radius is that of its outer edge, in percent as the width.
 void drawRing(QPainter &painter, const QcCanvas &canvas, double radius, double width, double fromAngle, double toAngle,
               const QColor &color);

@@ -3,6 +3,7 @@
 #include "kit/logging.h"
 #include "kit/qcaccessible.h"
 #include "kit/qcgaugewidget_p.h"
+#include "kit/qcneedleitem.h"
 #include "kit/qtmaterialstyle.h"
 
 #include <QEvent>
@@ -138,6 +139,15 @@ QString QcGaugeWidget::title() const
 void QcGaugeWidget::setUnit(const QString &unit)
 {
     assign(d->canvas.unit, unit);
+}
+
+void QcGaugeWidget::setNeedleColor(const QColor &color)
+{
+    for (const Part &part : d->parts) {
+        auto *needle = dynamic_cast<QcNeedleItem *>(part.item.get());
+        if (needle && needle->source() == QcNeedleItem::Source::Value)
+            needle->setColor(color);
+    }
 }
 
 void QcGaugeWidget::setDecimals(int decimals)

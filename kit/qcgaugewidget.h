@@ -65,6 +65,8 @@ public:
     void setTitle(const QString &title);
     [[nodiscard]] QString title() const;
     void setUnit(const QString &unit);
+    /// Of all needles that point at the value. Invalid: the theme's.
+    void setNeedleColor(const QColor &color);
     /// Of the value as a number: 0 to 15, else the nearest.
     void setDecimals(int decimals);
     /// The true value also outside the range, where the needle stays just beyond the end. What is not finite is no

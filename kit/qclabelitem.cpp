@@ -9,7 +9,9 @@
 namespace {
 
 constexpr double kSmallestShare = 0.6; // of the font's size, before decimals are dropped
-constexpr double kLineHeight = 1.4;    // of the font's size: what a line may cover
+constexpr double kShareStep = 0.05;
+constexpr double kTooLarge = 1.8;   // for an optional text: its font compared with the wanted one
+constexpr double kLineHeight = 1.4; // of the font's size: what a line may cover
 
 } // namespace
 
@@ -42,6 +44,11 @@ void QcLabelItem::setWidth(double percent)
         assign(m_width, std::clamp(percent, 1.0, 200.0));
 }
 
+void QcLabelItem::setOptional(bool optional)
+{
+    assign(m_optional, optional);
+}
+
 void QcLabelItem::setWeight(QFont::Weight weight)
 {
     assign(m_weight, weight);
@@ -71,14 +78,16 @@ QString QcLabelItem::shownText(const QcCanvas &canvas, const QcReading &reading)
 /// All values within the range have the same size of font, so that the digits do not jump.
 QFont QcLabelItem::fittingFont(const QcCanvas &canvas, const QString &text) const
 {
-    const QFont font = canvas.font(m_size, m_weight);
-    const QFontMetricsF metrics(font);
-    double widest = metrics.horizontalAdvance(text);
-    for (const double end : {canvas.scale.from, canvas.scale.to}) {
-        const QString atEnd = qcgauge::numberText(end, canvas.decimals, canvas.locale);
-        widest = std::max(widest, metrics.horizontalAdvance(atEnd));
-    }
-    const double share = std::clamp(canvas.length(m_width) / widest, kSmallestShare, 1.0);
+    const QString first = qcgauge::numberText(canvas.scale.from, canvas.decimals, canvas.locale);
+    const QString last = qcgauge::numberText(canvas.scale.to, canvas.decimals, canvas.locale);
+    const auto fits = [&](const QFont &font) {
+        const QFontMetricsF metrics(font);
+        const auto widthOf = [&](const QString &any) { return metrics.horizontalAdvance(any); };
+        return std::max({widthOf(text), widthOf(first), widthOf(last)}) <= canvas.length(m_width);
+    };
+    double share = 1.0;
+    while (share > kSmallestShare && !fits(canvas.font(m_size * share, m_weight)))
+        share -= kShareStep;
     return canvas.font(m_size * share, m_weight);
 }
 
@@ -106,6 +115,8 @@ QRectF QcLabelItem::area(const QcCanvas &canvas, const QcReading &) const
 
 void QcLabelItem::paint(QPainter &painter, const QcCanvas &canvas, const QcReading &reading) const
 {
+    if (m_optional && canvas.font(m_size).pixelSize() > kTooLarge * canvas.length(m_size))
+        return;
     QString text = shownText(canvas, reading);
     const double room = canvas.length(m_width);
     const bool isValue = m_source == Source::Value && reading.hasValue;

@@ -20,6 +20,8 @@ public:
     void setSize(double percent);
     /// The room for the text in percent. A value is made smaller and loses decimals to fit, other texts are cut.
     void setWidth(double percent);
+    /// Left out where the gauge is so small that a readable font would be far too large for it.
+    void setOptional(bool optional);
     void setWeight(QFont::Weight weight);
     /// Invalid: the theme's.
     void setColor(const QColor &color);
@@ -42,4 +44,5 @@ private:
     double m_size = 10.0;
     double m_width = 80.0;
     QFont::Weight m_weight = QFont::Normal;
+    bool m_optional = false;
 };

@@ -11,6 +11,8 @@
 namespace {
 
 // In percent, of a needle that points up.
+constexpr double kNeedleRadius = 82.0;
+constexpr double kMarkerRadius = 87.5;
 constexpr double kTail = 15.0;
 constexpr double kHalfTail = 1.9;
 constexpr double kHalfBase = 2.5;
@@ -21,6 +23,10 @@ constexpr double kShadow = 1.2;
 constexpr int kShadowOpacity = 34; // of 255
 
 } // namespace
+
+QcNeedleItem::QcNeedleItem(Source source, Shape shape)
+    : QcNeedleItem(source, shape, shape == Shape::Needle ? kNeedleRadius : kMarkerRadius)
+{}
 
 QcNeedleItem::QcNeedleItem(Source source, Shape shape, double radius)
     : QcItem(radius)

@@ -13,7 +13,12 @@ public:
     };
     enum class Source { Value, HeldMinimum, HeldMaximum, Own };
 
-    explicit QcNeedleItem(Source source = Source::Value, Shape shape = Shape::Needle, double radius = 80.0);
+    /// With its tip where it suits the other parts' usual radii.
+    explicit QcNeedleItem(Source source = Source::Value, Shape shape = Shape::Needle);
+    QcNeedleItem(Source source, Shape shape, double radius);
+
+    [[nodiscard]] Source source() const { return m_source; }
+    [[nodiscard]] Shape shape() const { return m_shape; }
 
     /// For Source::Own; finite, else it points at nothing.
     void setOwnValue(double value);

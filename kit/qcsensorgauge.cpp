@@ -30,13 +30,13 @@ QcGaugeWidget *QcGaugeWidget::createSensorGauge(QWidget *parent)
     gauge->append<QcColorBandItem>();
     gauge->append<QcDegreesItem>();
     gauge->append<QcValuesItem>();
-    addLabel(gauge, QcLabelItem::Source::Title, -85.0, 10.0, 74.0);
-    addLabel(gauge, QcLabelItem::Source::Unit, -69.0, 10.5, 60.0);
-    addLabel(gauge, QcLabelItem::Source::Value, -50.0, 25.0, 84.0)->setWeight(QFont::Bold);
+    addLabel(gauge, QcLabelItem::Source::Title, -85.0, 10.5, 78.0)->setOptional(true);
+    addLabel(gauge, QcLabelItem::Source::Unit, -69.5, 10.5, 70.0);
+    addLabel(gauge, QcLabelItem::Source::Value, -49.5, 25.0, 88.0)->setWeight(QFont::Bold);
     using Needle = QcNeedleItem;
-    gauge->append<Needle>(Needle::Source::HeldMinimum, Needle::Shape::Marker, 87.5);
-    gauge->append<Needle>(Needle::Source::HeldMaximum, Needle::Shape::Marker, 87.5);
-    gauge->append<Needle>(Needle::Source::Value, Needle::Shape::Needle, 82.0);
+    gauge->append<Needle>(Needle::Source::HeldMinimum, Needle::Shape::Marker);
+    gauge->append<Needle>(Needle::Source::HeldMaximum, Needle::Shape::Marker);
+    gauge->append<Needle>();
     gauge->append<QcGlassItem>();
     return gauge;
 }

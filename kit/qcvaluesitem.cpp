@@ -10,6 +10,7 @@
 namespace {
 
 constexpr int kMostNumerals = 12;
+constexpr double kMiddle = 15.0; // percent; a needle's hub
 
 /// With a gap around it that keeps neighbours apart.
 QRectF withGap(const QRectF &box)
@@ -42,30 +43,32 @@ QFont QcValuesItem::font(const QcCanvas &canvas) const
     return canvas.font(m_size, QFont::Medium);
 }
 
-/// In ascending order, without those that have no room beside the ones before.
-QVector<QcValuesItem::Numeral> QcValuesItem::numerals(const QcCanvas &canvas, double step) const
+/// In ascending order, without those that have no room beside the ones before or that would reach the middle.
+QcValuesItem::Row QcValuesItem::row(const QcCanvas &canvas, double step) const
 {
     const QFontMetricsF metrics(font(canvas));
-    QVector<Numeral> result;
+    Row result;
     for (const double value : qcgauge::multiples(canvas.scale.from, canvas.scale.to, step)) {
         const QString text = qcgauge::markText(value, step, canvas.locale);
         QRectF box(QPointF(), QSizeF(metrics.horizontalAdvance(text), metrics.capHeight()));
         const double angle = qcgauge::angleAt(canvas.scale, value);
         box.moveCenter(canvas.point(angle, radius() - reach(box.size(), angle) / canvas.length(1.0)));
+        if (box.intersects(canvas.square(kMiddle)))
+            continue; // a coarser step would not help
         const auto touches = [&](const Numeral &other) { return withGap(other.box).intersects(withGap(box)); };
-        if (std::none_of(result.cbegin(), result.cend(), touches))
-            result.append({text, box});
+        if (std::none_of(result.numerals.cbegin(), result.numerals.cend(), touches))
+            result.numerals.append({text, box});
+        else
+            result.crowded = true;
     }
     return result;
 }
 
 double QcValuesItem::neededStep(const QcCanvas &canvas) const
 {
-    const auto marks = [&](double step) {
-        return static_cast<int>(qcgauge::multiples(canvas.scale.from, canvas.scale.to, step).size());
-    };
+    const auto marks = [&](double step) { return qcgauge::multiples(canvas.scale.from, canvas.scale.to, step).size(); };
     double step = qcgauge::niceStep(canvas.scale.to - canvas.scale.from, kMostNumerals);
-    while (numerals(canvas, step).size() < marks(step) && marks(qcgauge::coarserStep(step)) >= 2)
+    while (row(canvas, step).crowded && marks(qcgauge::coarserStep(step)) >= 2)
         step = qcgauge::coarserStep(step);
     return step;
 }
@@ -74,7 +77,7 @@ void QcValuesItem::paint(QPainter &painter, const QcCanvas &canvas, const QcRead
 {
     painter.setFont(font(canvas));
     painter.setPen(canvas.colors.ink);
-    const QVector<Numeral> all = numerals(canvas, canvas.step);
-    for (const Numeral &numeral : all)
+    const Row all = row(canvas, canvas.step);
+    for (const Numeral &numeral : all.numerals)
         qcgauge::drawCentred(painter, numeral.box.center(), numeral.text);
 }

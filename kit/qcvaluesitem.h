@@ -2,8 +2,8 @@
 
 #include "kit/qcitem.h"
 
-/// The numerals of the scale, upright, inside a circle of this radius. They never overlap: they make the steps of the
-/// scale as wide as they need.
+/// The numerals of the scale, upright, inside a circle of this radius. They never overlap, nor do they reach the
+/// middle: they make the steps of the scale as wide as they need.
 class QcValuesItem : public QcItem
 {
 public:
@@ -23,7 +23,12 @@ private:
         QRectF box;
     };
     [[nodiscard]] QFont font(const QcCanvas &canvas) const;
-    [[nodiscard]] QVector<Numeral> numerals(const QcCanvas &canvas, double step) const;
+    struct Row
+    {
+        QVector<Numeral> numerals;
+        bool crowded = false; ///< some are left out for want of room between them
+    };
+    [[nodiscard]] Row row(const QcCanvas &canvas, double step) const;
 
     double m_size = 12.0;
 };
