@@ -2,8 +2,6 @@
 #include "tests/support/literals.h"
 #include "tests/support/rows.h"
 
-#include <QtTest>
-
 class TestMachineLicence : public QObject
 {
     Q_OBJECT

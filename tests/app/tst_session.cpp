@@ -8,7 +8,6 @@
 #include <QDialog>
 #include <QTcpServer>
 #include <QTimer>
-#include <QtTest>
 
 #include <functional>
 

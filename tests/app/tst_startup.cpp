@@ -6,7 +6,6 @@
 #include <QApplication>
 #include <QFontDatabase>
 #include <QFontInfo>
-#include <QtTest>
 
 /// Runs on a font configuration without any font, so that an installed Roboto cannot stand in for the resources.
 class TestStartup : public QObject

@@ -1,6 +1,7 @@
 #include "app/startup.h"
 #include "app/stylesheets.h"
 #include "tests/support/literals.h"
+#include "tests/support/logcapture.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -8,31 +9,6 @@
 #include <functional>
 
 namespace {
-
-QStringList *collected = nullptr;
-
-void collect(QtMsgType, const QMessageLogContext &, const QString &text)
-{
-    collected->append(text);
-}
-
-/// Messages written while it lives.
-class Messages
-{
-public:
-    Messages()
-    {
-        collected = &m_texts;
-        m_before = qInstallMessageHandler(collect);
-    }
-    ~Messages() { qInstallMessageHandler(m_before); }
-    Q_DISABLE_COPY(Messages)
-    [[nodiscard]] QStringList texts() const { return m_texts; }
-
-private:
-    QStringList m_texts;
-    QtMessageHandler m_before;
-};
 
 using MakeWidget = std::function<QWidget *(QWidget *)>;
 
@@ -58,11 +34,11 @@ private slots:
              {make<QToolBar>(), make<QMenu>(), make<QTabWidget>(), make<QDoubleSpinBox>(), make<QSpinBox>(),
               make<QPushButton>(), make<QToolButton>(), make<QRadioButton>(), make<QTableWidget>(), make<QTextEdit>()})
             create(&window);
-        const Messages messages;
+        const LogCapture log;
         window.setStyleSheet(theme::styleApplication);
         window.show();
         (void)window.grab(); // properties are looked at when they are painted
-        QCOMPARE(messages.texts().join(u'\n'), QString());
+        QCOMPARE(log.all().join(u'\n'), QString());
     }
 
     void spinBoxShowsItsArrows()

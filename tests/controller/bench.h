@@ -14,7 +14,7 @@
 struct Bench
 {
     explicit Bench(const ControllerOptions &options = {})
-        : view(&model, scripted())
+        : view(&model, scripted(prompts))
         , controller(&model, &view, options)
     {}
 
@@ -63,12 +63,4 @@ struct Bench
     Model model{QString()};
     View view;
     Controller controller;
-
-private:
-    std::unique_ptr<UserPrompts> scripted()
-    {
-        auto script = std::make_unique<ScriptedPrompts>();
-        prompts = script.get();
-        return script;
-    }
 };

@@ -4,13 +4,7 @@
 #include "tests/support/rows.h"
 #include "view/tabblackbox.h"
 
-#include <QDir>
-#include <QFile>
-#include <QLabel>
-#include <QProgressBar>
-#include <QSignalSpy>
-#include <QStatusBar>
-#include <QTemporaryDir>
+#include <QtWidgets>
 
 namespace {
 

@@ -4,8 +4,6 @@
 #include "tests/support/logcapture.h"
 #include "tests/support/rows.h"
 
-#include <QSignalSpy>
-
 class TestDeletion : public QObject
 {
     Q_OBJECT
@@ -119,22 +117,6 @@ private slots:
         QCOMPARE(bench.samples(0, 1), (QVector<double>{5, 6}));
         QVERIFY(bench.slotsMatchModel());
         QVERIFY(bench.controller.isRecordingRunning());
-    }
-
-    void paintAfterDeletion()
-    {
-        Bench bench;
-        bench.view.resize(1280, 800);
-        bench.view.show();
-        bench.recordShots(4);
-        bench.prompts->answers = {QMessageBox::Yes, QMessageBox::Yes, QMessageBox::Yes};
-        for (const char *range : {"1-2", "1-2-3", "2,1-1-1"}) {
-            bench.view.tabOszi()->row(0)->refresh(); // a paint is pending while the samples go
-            bench.controller.onTabOszi_deleteMeasurements(QString::fromLatin1(range));
-            QCoreApplication::processEvents();
-            bench.say("0;1;1;1;1;1");
-        }
-        QCOMPARE(bench.firstSamples(), QVector<double>{3});
     }
 };
 

@@ -130,6 +130,27 @@ private slots:
         QVERIFY(rig.bench.samples(0, 0).size() > 2);
     }
 
+    void errorTexts_data()
+    {
+        columns<int, QString>("error", "text");
+        row("closed", int(QAbstractSocket::RemoteHostClosedError), "Die Mesotra Hardware ist nicht mehr erreichbar.");
+        row("not found", int(QAbstractSocket::HostNotFoundError),
+            "Die Mesotra Hardware wurde nicht gefunden! Bitte IP-Adresse überprüfen!");
+        row("refused", int(QAbstractSocket::ConnectionRefusedError),
+            "Die Verbindung wurde abgelehnt!\n(Die IP-Adresse wurde jedoch gefunden.)");
+        row("other", int(QAbstractSocket::NetworkError), QString());
+    }
+
+    void errorTexts()
+    {
+        QFETCH(int, error);
+        Bench bench;
+        bench.view.showProgress("Verbinden ..."_s);
+        bench.controller.connectionError(QAbstractSocket::SocketError(error));
+        QVERIFY(!bench.view.isProgressShown());
+        QTEST(bench.prompts->messages.empty() ? QString() : bench.prompts->messages[0].text, "text");
+    }
+
 private:
     void loseLinkWhile(const QByteArray &state, Rig &rig);
     static void expectRecovery(Rig &rig);

@@ -4,8 +4,6 @@
 #include "tests/support/rows.h"
 #include "view/tabblackbox.h"
 
-#include <QSignalSpy>
-
 namespace {
 
 const QByteArray kProject =

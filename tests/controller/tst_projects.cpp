@@ -13,37 +13,50 @@ class TestProjects : public QObject
 private slots:
     void init() { QVERIFY(m_folder.isValid()); }
 
-    void newProject_data()
+    void unsavedChanges_data()
     {
-        columns<bool, int, QString, bool>("modified", "answer", "saveName", "cleared");
-        const QString good = path("new.vnt"_s);
-        row("nothing to save", false, 0, QString(), true);
-        row("Speichern", true, int(QMessageBox::Save), good, true);
-        row("Verwerfen", true, int(QMessageBox::Discard), QString(), true);
-        row("Speichern, cancelled", true, int(QMessageBox::Save), QString(), false);
-        row("Speichern, fails", true, int(QMessageBox::Save), path("no/such/a.vnt"_s), false);
+        // how: "drop": a file on the window
+        columns<QByteArray, int, QString, bool>("how", "answer", "saveName", "goesOn");
+        row("new, nothing to save", "new"_ba, 0, QString(), true);
+        row("new, Speichern", "new"_ba, int(QMessageBox::Save), path("new.vnt"_s), true);
+        row("new, Verwerfen", "new"_ba, int(QMessageBox::Discard), QString(), true);
+        row("new, cancelled", "new"_ba, int(QMessageBox::Save), QString(), false);
+        row("new, Speichern fails", "new"_ba, int(QMessageBox::Save), path("no/such/a.vnt"_s), false);
+        row("open, Speichern", "open"_ba, int(QMessageBox::Save), path("kept.vnt"_s), true);
+        row("open, cancelled", "open"_ba, int(QMessageBox::Save), QString(), false);
+        row("drop, cancelled", "drop"_ba, int(QMessageBox::Save), QString(), false);
+        row("drop, Verwerfen", "drop"_ba, int(QMessageBox::Discard), QString(), true);
     }
 
-    void newProject()
+    void unsavedChanges()
     {
-        QFETCH(bool, modified);
+        QFETCH(QByteArray, how);
         QFETCH(int, answer);
         QFETCH(QString, saveName);
-        QFETCH(bool, cleared);
+        QFETCH(bool, goesOn);
+        const QString file = path("other.vnt"_s);
+        QVERIFY(Model(QString()).save(file));
         Bench bench;
         bench.recordShots(2);
-        bench.model.setProjectModifiedFlag(modified);
+        bench.model.setProjectModifiedFlag(answer != 0);
         if (answer)
             bench.prompts->answers = {QMessageBox::StandardButton(answer)};
         bench.prompts->saveNames = {saveName};
-        emit bench.view.newProject();
-        QCOMPARE(bench.shots(), cleared ? 0 : 2);
-        QCOMPARE(bench.model.isProjectModified(), !cleared);
-        QCOMPARE(bench.prompts->questions.size(), std::size_t(modified ? 1 : 0));
-        if (modified)
+        bench.prompts->openNames = {file};
+        if (how == "new")
+            emit bench.view.newProject();
+        else if (how == "open")
+            emit bench.view.openProject();
+        else
+            emit bench.view.openProjectFile(file);
+        QCOMPARE(bench.shots(), goesOn ? 0 : 2);
+        QCOMPARE(bench.model.isProjectModified(), !goesOn);
+        QCOMPARE(bench.model.currentFile(), goesOn && how != "new" ? file : QString());
+        QCOMPARE(bench.prompts->questions.size(), std::size_t(answer ? 1 : 0));
+        if (answer)
             QCOMPARE(bench.prompts->questions[0].text, "Projekt speichern?"_s);
+        QVERIFY(saveName.isEmpty() || QFile::exists(saveName) == goesOn);
         QVERIFY(bench.slotsMatchModel());
-        QVERIFY(bench.model.currentFile().isEmpty());
     }
 
     void saveNames_data()
@@ -72,20 +85,6 @@ private slots:
         QVERIFY(!bench.model.isProjectModified());
     }
 
-    void existingFileIsNotReplacedUnasked()
-    {
-        QFile old(path("old.vnt"_s));
-        QVERIFY(old.open(QIODevice::WriteOnly));
-        old.write("precious");
-        old.close();
-        Bench bench;
-        bench.prompts->saveNames = {path("old"_s)};
-        bench.prompts->answers = {QMessageBox::No};
-        emit bench.view.saveProjectAs();
-        QVERIFY(old.open(QIODevice::ReadOnly));
-        QCOMPARE(old.readAll(), "precious"_ba);
-    }
-
     void openProject()
     {
         Bench bench;
@@ -106,39 +105,6 @@ private slots:
         bench.say("0;9;9;9;9;9"); // a late answer must not land in a shot of the file
         QCOMPARE(bench.samples(0, 2), QVector<double>{3});
         QVERIFY(bench.prompts->questions.empty());
-    }
-
-    void openWithUnsavedChanges_data()
-    {
-        columns<int, QString, bool>("answer", "saveName", "opened");
-        row("Speichern", int(QMessageBox::Save), path("kept.vnt"_s), true);
-        row("Speichern, cancelled", int(QMessageBox::Save), QString(), false);
-        row("Verwerfen", int(QMessageBox::Discard), QString(), true);
-        row("dropped file, cancelled", int(QMessageBox::Save), QString(), false);
-        row("dropped file", int(QMessageBox::Discard), QString(), true);
-    }
-
-    void openWithUnsavedChanges()
-    {
-        QFETCH(int, answer);
-        QFETCH(QString, saveName);
-        QFETCH(bool, opened);
-        const QString file = path("other.vnt"_s);
-        QVERIFY(Model(QString()).save(file));
-        Bench bench;
-        bench.recordShots(2);
-        bench.prompts->openNames = {file};
-        bench.prompts->saveNames = {saveName};
-        bench.prompts->answers = {QMessageBox::StandardButton(answer)};
-        if (QByteArray(QTest::currentDataTag()).startsWith("dropped"))
-            emit bench.view.openProjectFile(file);
-        else
-            emit bench.view.openProject();
-        QCOMPARE(bench.shots(), opened ? 0 : 2);
-        QCOMPARE(bench.model.currentFile(), opened ? file : QString());
-        QCOMPARE(bench.prompts->questions.size(), std::size_t(1));
-        if (!saveName.isEmpty())
-            QVERIFY(QFile::exists(saveName));
     }
 
     void openFails()

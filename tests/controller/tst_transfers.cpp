@@ -4,17 +4,13 @@
 #include "device/mesotraconnector.h"
 #include "device/scptransfer.h"
 #include "tests/support/faketool.h"
+#include "tests/support/files.h"
 #include "tests/support/literals.h"
 #include "tests/support/logcapture.h"
-#include "tests/support/rows.h"
 #include "view/tabblackbox.h"
 #include "view/updatedialog.h"
 
-#include <QAction>
-#include <QApplication>
-#include <QLabel>
-#include <QPushButton>
-#include <QTemporaryDir>
+#include <QtWidgets>
 
 namespace {
 
@@ -104,27 +100,10 @@ private slots:
         QVERIFY(transfers.isOver());
     }
 
-    void stopsWhereNothingCanWork_data()
+    void stopsWithoutAFolder()
     {
-        columns<QString, bool, bool>("address", "isToolThere", "isTargetFree");
-        row("no tool", "box", false, true);
-        row("no address", QString(), true, true);
-        row("address of two words", "box -delete", true, true);
-        row("no folder", "box", true, false);
-    }
-
-    void stopsWhereNothingCanWork()
-    {
-        QFETCH(QString, address);
-        QFETCH(bool, isToolThere);
-        QFETCH(bool, isTargetFree);
         Transfers transfers(kFetches);
-        transfers.bench.controller.connector()->scp().setOptions(
-            {isToolThere ? transfers.tool.file() : "/not/there"_s, "pi"_s, "x"_s, address, ScpTimeouts{}});
-        if (!isTargetFree) {
-            QFile obstacle(transfers.target());
-            QVERIFY(obstacle.open(QIODevice::WriteOnly));
-        }
+        writeFile(transfers.target(), {}); // in its way
         transfers.click("buttonFetch");
         QCOMPARE(transfers.titles(), QStringList("Problem"_s));
         QVERIFY(transfers.tool.arguments().isEmpty());
@@ -177,11 +156,8 @@ private slots:
     {
         Transfers transfers(kFetches);
         QTemporaryDir source;
-        for (const char *name : {"b.bb", "a.bb", "c.txt"}) {
-            QFile file(source.filePath(QLatin1String(name)));
-            QVERIFY(file.open(QIODevice::WriteOnly));
-            file.write(name);
-        }
+        for (const char *name : {"b.bb", "a.bb", "c.txt"})
+            writeFile(source.filePath(QLatin1String(name)), name);
         transfers.bench.prompts->folders = {source.path()};
         transfers.click("buttonOpenFolder");
         QCOMPARE(QDir(transfers.target()).entryList(QDir::Files), (QStringList{"a.bb"_s, "b.bb"_s}));

@@ -3,7 +3,6 @@
 #include "tests/support/rows.h"
 
 #include <QElapsedTimer>
-#include <QTest>
 
 #include <cmath>
 #include <cstring>
@@ -82,31 +81,30 @@ private slots:
     void convertsFieldsLikeToDouble_data()
     {
         columns<QString>("field");
-        const char *const fields[]{"0",
-                                   "-0",
-                                   "-1.5",
-                                   ".5",
-                                   ".",
-                                   "",
-                                   " 7 ",
-                                   "7\r",
-                                   "1e5",
-                                   "1e400",
-                                   "nan",
-                                   "inf",
-                                   "0x10",
-                                   "1,5",
-                                   "--1",
-                                   "1abc",
-                                   "007",
-                                   "0.3",
-                                   "123.456",
-                                   "9007199254740993",
-                                   "0.1234567890123456789",
-                                   "9223372036854775808.5",
-                                   "1.7976931348623157e308",
-                                   "179769313486231580000.25"};
-        for (const char *field : fields)
+        for (const char *field : {"0",
+                                  "-0",
+                                  "-1.5",
+                                  ".5",
+                                  ".",
+                                  "",
+                                  " 7 ",
+                                  "7\r",
+                                  "1e5",
+                                  "1e400",
+                                  "nan",
+                                  "inf",
+                                  "0x10",
+                                  "1,5",
+                                  "--1",
+                                  "1abc",
+                                  "007",
+                                  "0.3",
+                                  "123.456",
+                                  "9007199254740993",
+                                  "0.1234567890123456789",
+                                  "9223372036854775808.5",
+                                  "1.7976931348623157e308",
+                                  "179769313486231580000.25"})
             row(qPrintable("\"%1\""_s.arg(QString::fromUtf8(field))), field);
         row("NUL inside", QString::fromLatin1("1\0002", 3));
         row("no-break space", QString(QChar(0xA0)) + QLatin1Char('5'));
@@ -164,25 +162,6 @@ private slots:
             QCOMPARE(QVector<double>(sample->values.begin(), sample->values.end()), values);
     }
 
-    void readsClockEchoes_data()
-    {
-        columns<QString, bool, int>("line", "valid", "period");
-        row("usual", "t=250\n", true, 250);
-        row("zero", "t=0\n", true, 0);
-        row("largest", "t=2147483647\n", true, std::numeric_limits<int>::max());
-        row("too large", "t=2147483648\n", false, 0);
-        row("hexadecimal", "t=0x10\n", false, 0);
-        row("no echo", "5\n", false, 0);
-    }
-
-    void readsClockEchoes()
-    {
-        QFETCH(QString, line);
-        const std::optional<int> period = parseClockEcho(line);
-        QTEST(period.has_value(), "valid");
-        QTEST(period.value_or(0), "period");
-    }
-
     void readsADeviceDescription()
     {
         const DeviceDescription device = parseDeviceDescription(deviceLine());
@@ -206,22 +185,6 @@ private slots:
         QCOMPARE(parseSensorDescription("<sensorDescription numGroups=\"-3\">"_s).numGroups, 0);
         QCOMPARE(parseSensorDescription("<sensorDescription numGroups=\"\">"_s).numGroups, 0);
         QCOMPARE(parseDeviceDescription("<deviceDescription numGroups="_s).numGroups, 0);
-    }
-
-    void readsAProjectDescription()
-    {
-        QVERIFY(!parseProjectDescription(deviceLine()));
-        const auto project = parseProjectDescription(
-            deviceLine().trimmed()
-            + "<projectDescription projectName=\"Cap\" projectNumber=\"P-1\" projectPerson=\"Ada\" "
-              "projectDate=\"05.03.2024\" projectCustomer=\"Acme\" closePower=\"850\" injectionTime=\"1.25\" "
-              "pressTime=\"4.5\" pressure=\"620\" phase1=\"a\" phase2=\"b\" phase3=\"\" phase4=\"d\" "
-              "phase5=\"e\"/>\n"_s);
-        QVERIFY(project);
-        const ProjectData expected{"Cap"_s, "P-1"_s, "Ada"_s, "05.03.2024"_s, "Acme"_s, 850, 1.25, 4.5, 620};
-        QCOMPARE(project->data, expected);
-        const std::array<QString, kNumPhases> phases{"a"_s, "b"_s, QString(), "d"_s, "e"_s};
-        QVERIFY(project->phases == phases);
     }
 
     void readsASensorDescription()

@@ -4,7 +4,6 @@
 #include "tests/support/rows.h"
 
 #include <QDir>
-#include <QtTest>
 
 namespace {
 

@@ -1,11 +1,8 @@
-#include "device/mesotraconnector.h"
 #include "device/scptransfer.h"
 #include "tests/support/faketool.h"
 #include "tests/support/literals.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/rows.h"
-
-#include <QtTest>
 
 Q_DECLARE_METATYPE(ScpOutcome)
 
@@ -50,18 +47,6 @@ class TestScpTransfer : public QObject
     Q_OBJECT
 
 private slots:
-    void success()
-    {
-        Rig rig("echo done");
-        QCOMPARE(rig.fetch(), ScpOutcome::Done);
-        QCOMPARE(rig.tool.arguments(),
-                 QStringList{"/command \"open pi:secret@127.0.0.1 -hostkey=* \" \"get -preservetime "
-                             "/media/usbstick/data/dir-20240305\" \"exit\""_s});
-        QCOMPARE(rig.tool.folders(), QStringList{QDir(rig.folder.path()).canonicalPath()});
-        QVERIFY(rig.messages.isEmpty());
-        QCOMPARE(rig.waits, (QVector<bool>{true, false}));
-    }
-
     void endings_data()
     {
         columns<QByteArray, ScpOutcome, QString, QString, QString>("script", "outcome", "title", "text", "logged");
@@ -185,20 +170,6 @@ private slots:
         rig.transfer.setOptions(rig.options);
         QCOMPARE(rig.transfer.fetch(QString(), kDay, rig.folder.path()), ScpOutcome::Done);
         QVERIFY(rig.tool.arguments().value(0).contains("@192.168.4.1 "_s));
-    }
-
-    void uploadThroughTheConnector()
-    {
-        Rig rig("case \"$1\" in *bad*) exit 1;; esac");
-        MesotraConnector connector(1); // nobody listens there; the address counts all the same
-        connector.connect(kHost);
-        connector.scp().setOptions(rig.options);
-        QVERIFY(connector.transferUpdateFile("/my files/box-8.tgz"_s) == false); // no such folder to run in
-        QVERIFY(connector.transferUpdateFile(rig.folder.filePath("box-8.tgz"_s)));
-        QVERIFY(!connector.transferUpdateFile(rig.folder.filePath("bad.tgz"_s)));
-        QCOMPARE(rig.tool.arguments().value(0),
-                 "/command \"open pi:secret@127.0.0.1 -hostkey=* \" \"put -preservetime %1/box-8.tgz "
-                 "/media/usbstick/\" \"exit\""_s.arg(rig.folder.path()));
     }
 };
 

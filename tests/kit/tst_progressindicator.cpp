@@ -3,8 +3,6 @@
 #include "kit/qtmaterialtheme.h"
 #include "tests/support/rows.h"
 
-#include <QTest>
-
 namespace {
 
 QImage picture(ProgressIndicator &indicator)

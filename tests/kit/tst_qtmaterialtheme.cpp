@@ -3,9 +3,6 @@
 #include "tests/support/literals.h"
 #include "tests/support/rows.h"
 
-#include <QSignalSpy>
-#include <QtTest>
-
 class TestQtMaterialTheme : public QObject
 {
     Q_OBJECT

@@ -1,13 +1,12 @@
 #include "model/blackboxfile.h"
 #include "model/model.h"
+#include "tests/support/files.h"
 #include "tests/support/literals.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/rows.h"
 
 #include <QBuffer>
-#include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QtTest>
 
 namespace {
 
@@ -252,29 +251,12 @@ private slots:
         QVERIFY(model.importedFiles().isEmpty());
     }
 
-    void importWhileBusy()
-    {
-        Model model{QString()};
-        const QString file = fileWith(kSample.repeated(1000));
-        int turns = 0;
-        model.setYield([&](int) {
-            ++turns;
-            QVERIFY(model.isBusy());
-            QCOMPARE(model.numChannels(0), 0); // nothing is half there
-            QVERIFY(!model.addBlackBoxFile(file));
-        });
-        QVERIFY(model.addBlackBoxFile(file));
-        QVERIFY(turns > 0);
-        QVERIFY(!model.isBusy());
-        QCOMPARE(model.measurement(2, 0)->size(), 1000);
-    }
-
 private:
     [[nodiscard]] QString fileWith(const QByteArray &bytes)
     {
         const QString name = m_folder.filePath("%1.bb"_s.arg(++m_files));
-        QFile file(name);
-        return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() ? name : QString();
+        writeFile(name, bytes);
+        return name;
     }
 
     QTemporaryDir m_folder;

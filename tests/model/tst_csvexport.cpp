@@ -2,7 +2,6 @@
 #include "model/pacer.h"
 #include "tests/support/faildevice.h"
 #include "tests/support/literals.h"
-#include "tests/support/rows.h"
 
 #include <QBuffer>
 #include <QtTest>
@@ -50,25 +49,6 @@ private slots:
                               "Abtastrate: 250ms\nSensor 1: \nSensor 2: Weg\n"
                               "data 0;1,5;1,23457e+06;-2\ndata 1;\ndata 2;1,5\n"
                               "Sensor 3: \nSensor 4: \nSensor 5: \n"_ba);
-    }
-
-    void writesNumbers_data()
-    {
-        columns<double, QByteArray>("value", "text");
-        row("groups", 12345.6, "12.345,6"_ba);
-        row("rounds to an exponent", 999999.5, "1e+06"_ba);
-        row("half up", 416230.5, "416.231"_ba);
-        row("negative zero", -0.0, "0"_ba);
-    }
-
-    void writesNumbers()
-    {
-        QFETCH(double, value);
-        QFETCH(QByteArray, text);
-        const SampleList samples{value};
-        ProjectDocument source = document();
-        source.samples[4] = {{&samples, 1}};
-        QVERIFY(csv(source).endsWith("Sensor 5: \ndata 0;" + text + '\n'));
     }
 
     void reportsAFullDevice()

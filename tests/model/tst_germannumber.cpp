@@ -3,7 +3,6 @@
 #include "tests/support/rows.h"
 
 #include <QLocale>
-#include <QtTest>
 
 #include <cmath>
 #include <cstring>

@@ -1,33 +1,18 @@
-#include "model/model.h"
 #include "tests/support/literals.h"
 #include "tests/support/logcapture.h"
-
-#include <QtTest>
+#include "tests/support/shots.h"
 
 #include <limits>
-
-namespace {
-
-void addMeasurement(Model &model, const SampleList &samples)
-{
-    for (int sensor = 0; sensor < kNumSensors; ++sensor) {
-        const int index = model.appendMeasurement(sensor);
-        for (double sample : samples)
-            QVERIFY(model.appendSample(sensor, index, sample + 100 * sensor));
-    }
-}
-
-} // namespace
 
 class TestModel : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void clearResetsInOrder()
+    void clearResetsTheProjectOnly()
     {
         Model model{QString()};
-        addMeasurement(model, {1.0});
+        addShot(model, {1.0});
         model.setOffset(1, 2.0);
         model.setColor(2, Qt::white);
         model.setPhaseName(0, "x"_s);
@@ -38,6 +23,9 @@ private slots:
         model.setSensorDescription(SensorDescription());
         model.setProjectModifiedFlag(true);
         model.setFileList({"x"_s});
+        model.setVerticalMarkerAbsolute(3, 40);
+        model.setOsziMaximum(2, 12.5);
+        model.setConnected(true);
         model.clear();
         QCOMPARE(model.numChannels(0), 0);
         QCOMPARE(model.offset(1), 0.0);
@@ -46,29 +34,15 @@ private slots:
         QCOMPARE(model.comment() + model.hardwareVersion() + model.firmwareVersion(), "8.0"_s);
         QCOMPARE(model.clock(), 100);
         QVERIFY(model.image(4).isNull() && model.fileList().isEmpty() && !model.isProjectModified());
-        const SensorGroup &group = model.sensorDescription().sensorGroup(0);
-        QCOMPARE(group.numSensors(), 5);
-        QCOMPARE(group.sensorName(4), QString());
-        QCOMPARE(group.sensorMinimum(4), -100000.0);
-    }
-
-    void clearKeepsWhatIsNotTheProject()
-    {
-        Model model{QString()};
-        model.setVerticalMarkerAbsolute(3, 40);
-        model.setMarkersAbsolute(true);
-        model.setOsziMaximum(2, 12.5);
-        model.setConnected(true);
-        model.clear();
-        QCOMPARE(model.verticalMarker(3), 40);
-        QCOMPARE(model.osziMaximum(2), 12.5);
-        QVERIFY(model.markersAbsolute() && model.isConnected());
+        QCOMPARE(model.sensorDescription().sensorGroup(0).numSensors(), 5);
+        QCOMPARE(model.sensorDescription().sensorGroup(0).sensorMinimum(4), -100000.0);
+        QVERIFY(model.verticalMarker(3) == 40 && model.osziMaximum(2) == 12.5 && model.isConnected());
     }
 
     void ignoresBadIndices()
     {
         Model model{QString()};
-        addMeasurement(model, {1.0});
+        addShot(model, {1.0}, 100.0);
         const quint64 revision = model.structureRevision();
         QSignalSpy projectChanged(&model, &Model::projectChanged);
         const LogCapture log;
@@ -99,11 +73,11 @@ private slots:
     {
         Model model{QString()};
         QCOMPARE(model.latestValue(0, 0), 0.0);
-        addMeasurement(model, {3.0, -7.5, 2.0});
+        addShot(model, {3.0, -7.5, 2.0}, 100.0);
         QCOMPARE(model.latestValue(0, 1), 102.0);
         QCOMPARE(model.minimumValue(1, 0), 92.5);
         QCOMPARE(model.maximumValue(1, 0), 103.0);
-        addMeasurement(model, {});
+        addShot(model, {}, 100.0);
         QCOMPARE(model.latestValue(0, 1), 0.0);
         QCOMPARE(model.minimumValue(1, 1), 9999999.0);
         QCOMPARE(model.maximumValue(1, 1), -9999999.0);
@@ -114,7 +88,7 @@ private slots:
         Model model{QString()};
         const double nan = std::numeric_limits<double>::quiet_NaN();
         const double inf = std::numeric_limits<double>::infinity();
-        addMeasurement(model, {nan, inf, -inf});
+        addShot(model, {nan, inf, -inf}, 100.0);
         QCOMPARE(*model.measurement(0, 0), (SampleList{0.0, 0.0, 0.0}));
         model.setOffset(0, nan);
         model.setSensorMinimum(0, 0, inf);
@@ -126,10 +100,10 @@ private slots:
     void samplesStayWhereTheyAre()
     {
         Model model{QString()};
-        addMeasurement(model, {1.0});
+        addShot(model, {1.0}, 100.0);
         const SampleList *first = model.measurement(2, 0);
         for (int i = 0; i < 200; ++i)
-            addMeasurement(model, {2.0, 3.0});
+            addShot(model, {2.0, 3.0}, 100.0);
         QVERIFY(model.deleteChannel(50));
         model.endRecording();
         QCOMPARE(model.measurement(2, 0), first);
@@ -139,8 +113,8 @@ private slots:
     void keepsRemovedSamplesUntilReceiversLetGo()
     {
         Model model{QString()};
-        addMeasurement(model, {1.0, 2.0});
-        addMeasurement(model, {3.0});
+        addShot(model, {1.0, 2.0}, 100.0);
+        addShot(model, {3.0}, 100.0);
         const SampleList *shown = model.measurement(0, 0);
         int read = 0;
         connect(&model, &Model::dataChanged, &model, [&] {
@@ -164,7 +138,7 @@ private slots:
     {
         Model model{QString()};
         for (int i = 0; i < 3; ++i)
-            addMeasurement(model, {double(i)});
+            addShot(model, {double(i)}, 100.0);
         QCOMPARE(model.appendMeasurement(3), 3); // one channel is ahead of the others
         const QDateTime stamp(QDate(2021, 7, 29), QTime(14, 30, 5));
         model.setTimestamp(2, stamp);
@@ -177,15 +151,6 @@ private slots:
         QVERIFY(model.deleteChannel(2));
         QCOMPARE(model.numChannels(0), 2);
         QVERIFY(!model.deleteChannel(2) && !model.deleteChannel(-1));
-    }
-
-    void boundsTheClock()
-    {
-        Model model{QString()};
-        model.setClock(std::numeric_limits<int>::min());
-        QCOMPARE(model.clock(), 1);
-        model.setClock(std::numeric_limits<int>::max());
-        QCOMPARE(model.clock(), Model::kMaxClock);
     }
 };
 

@@ -1,19 +1,13 @@
 #include "model/model.h"
+#include "tests/support/files.h"
 #include "tests/support/literals.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/rows.h"
 
 #include <QBuffer>
 #include <QTemporaryDir>
-#include <QtTest>
 
 namespace {
-
-void writeText(const QString &fileName, const QByteArray &text)
-{
-    QFile file(fileName);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
-}
 
 QByteArray pngOf(const QImage &image)
 {
@@ -67,7 +61,7 @@ private slots:
         QFETCH(QByteArray, text);
         QFETCH(QString, logged);
         QFETCH(QString, found);
-        writeText(path("odd.vnt"), text);
+        writeFile(path("odd.vnt"), text);
         Model model{QString()};
         model.setVerticalMarkerAbsolute(3, 40);
         const LogCapture log;
@@ -97,7 +91,7 @@ private slots:
         QFETCH(QByteArray, version);
         QFETCH(QString, logged);
         QFETCH(bool, isOld);
-        writeText(path("version.vnt"), "{\"fileVersion\":" + version + "}");
+        writeFile(path("version.vnt"), "{\"fileVersion\":" + version + "}");
         const LogCapture log;
         Model model{QString()};
         SensorDescription description;
@@ -133,7 +127,7 @@ private slots:
         QFETCH(QString, logged);
         QFETCH(double, firstMaximum);
         QFETCH(bool, absolute);
-        writeText(path("view.vnt"),
+        writeFile(path("view.vnt"),
                   "{" + viewData + R"(,"sensor minValues":[0,-2,0,0,0],"sensor maxValues":[8,9,0,0,0]})");
         const LogCapture log;
         Model model{QString()};
@@ -161,7 +155,7 @@ private slots:
     {
         QFETCH(QByteArray, json);
         QFETCH(QSize, size);
-        writeText(path("image.vnt"), "{\"projectImage4\":" + json + "}");
+        writeFile(path("image.vnt"), "{\"projectImage4\":" + json + "}");
         const LogCapture log;
         const Model model(path("image.vnt"));
         QCOMPARE(model.currentFile(), path("image.vnt"));

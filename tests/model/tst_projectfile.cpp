@@ -7,7 +7,6 @@
 #include "tests/support/rows.h"
 
 #include <QBuffer>
-#include <QtTest>
 
 #include <cmath>
 #include <cstring>

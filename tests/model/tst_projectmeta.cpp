@@ -1,13 +1,13 @@
-#include "model/model.h"
 #include "tests/support/faildevice.h"
+#include "tests/support/files.h"
 #include "tests/support/literals.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/rows.h"
+#include "tests/support/shots.h"
 
 #include <QBuffer>
 #include <QElapsedTimer>
 #include <QTemporaryDir>
-#include <QtTest>
 
 #include <sys/stat.h>
 
@@ -15,23 +15,10 @@ namespace {
 
 const QDateTime kMorning(QDate(2026, 3, 9), QTime(6, 0, 1, 250));
 
-QByteArray contentOf(const QString &fileName)
-{
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : "cannot be read"_ba;
-}
-
-void writeText(const QString &fileName, const QByteArray &text)
-{
-    QFile file(fileName);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
-}
-
 void addShots(Model &model, int count)
 {
     for (int shot = 0; shot < count; ++shot)
-        for (int sensor = 0; sensor < kNumSensors; ++sensor)
-            QVERIFY(model.appendSample(sensor, model.appendMeasurement(sensor), 10.0 * shot + sensor));
+        addShot(model, {10.0 * shot}, 1.0);
 }
 
 void fill(Model &model)
@@ -115,7 +102,7 @@ private slots:
         const QByteArray meta = contentOf(path("b.vnt.meta"));
         QVERIFY(model.deleteChannel(0));
         QVERIFY(model.save(path("b.vnt")));
-        writeText(path("b.vnt.meta"), meta);
+        writeFile(path("b.vnt.meta"), meta);
         Model opened(path("b.vnt"));
         QCOMPARE(opened.numChannels(0), 2);
         for (int shot = 0; shot < 2; ++shot) {
@@ -141,7 +128,7 @@ private slots:
         Model model{QString()};
         addShots(model, 2);
         QVERIFY(model.save(path("c.vnt")));
-        writeText(path("c.vnt.meta"), text);
+        writeFile(path("c.vnt.meta"), text);
         LogCapture log;
         QVERIFY(model.open(path("c.vnt")));
         QVERIFY(log.contains("ERROR: could not read file:"_s));

@@ -4,8 +4,6 @@
 #include "tests/support/logcapture.h"
 #include "tests/support/rows.h"
 
-#include <QtTest>
-
 #include <limits>
 
 Q_DECLARE_METATYPE(VerticalMarkers)

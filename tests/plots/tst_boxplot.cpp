@@ -4,8 +4,6 @@
 #include "plots/normaldistributionwidget.h"
 #include "tests/support/rows.h"
 
-#include <QtTest>
-
 #include <limits>
 
 namespace {

@@ -3,7 +3,6 @@
 #include "tests/support/rows.h"
 
 #include <QPainter>
-#include <QTest>
 
 #include <cmath>
 #include <deque>

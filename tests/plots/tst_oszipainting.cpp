@@ -4,7 +4,6 @@
 
 #include <QImage>
 #include <QLabel>
-#include <QTest>
 
 namespace {
 
@@ -211,6 +210,25 @@ private slots:
         const int middle = 70 + 75;
         QVERIFY(inkIn(image, QRect(middle - 15, 2, 30, m_margin - 4)) > 20);
         QCOMPARE(inkIn(image, QRect(70 + 155, 2, 140, m_margin - 4)), 0);
+    }
+
+    void referenceLines()
+    {
+        m_plot->setHorizontalLineCount(2);
+        m_plot->setHorizontalLine(0, 0.25, Qt::green);
+        m_plot->setHorizontalLine(1, 0.75, Qt::blue);
+        const QImage image = picture(*m_plot);
+        QCOMPARE(rowsOf(image, 75, Qt::green), qMakePair(yOf(0.25) - 1, yOf(0.25) + 1));
+        QVERIFY(occurs(image, QRect(560, yOf(0.75), 38, 1), Qt::blue));
+        QVERIFY(occurs(image, QRect(100, yOf(0.75), 50, 1), Qt::white)); // dashed
+        QVERIFY(!occurs(image, QRect(0, 0, 68, kHeight), Qt::green));
+
+        QImage dense(m_plot->size() * 2, QImage::Format_RGB32); // of a screen with twice as many pixels
+        dense.setDevicePixelRatio(2.0);
+        m_plot->render(&dense);
+        const auto rows = rowsOf(dense, 150, Qt::green);
+        QVERIFY(qAbs(rows.first + rows.second - 4 * yOf(0.25)) <= 2);
+        QCOMPARE(rows.second - rows.first, 5);
     }
 
 private:

@@ -6,7 +6,6 @@
 #include <QImage>
 #include <QPainter>
 #include <QScreen>
-#include <QTest>
 #include <QWindow>
 
 #include <deque>

@@ -4,9 +4,7 @@
 
 #include <QDoubleSpinBox>
 #include <QLabel>
-#include <QSignalSpy>
 #include <QSpinBox>
-#include <QTest>
 
 #include <functional>
 #include <limits>

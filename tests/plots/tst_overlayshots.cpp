@@ -1,8 +1,6 @@
 #include "plots/overlayshots.h"
 #include "tests/support/rows.h"
 
-#include <QTest>
-
 #include <cmath>
 
 namespace {

@@ -2,8 +2,6 @@
 #include "plots/plotgrid.h"
 #include "tests/support/rows.h"
 
-#include <QTest>
-
 #include <limits>
 
 namespace {

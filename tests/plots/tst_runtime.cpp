@@ -1,8 +1,6 @@
 #include "plots/runtime.h"
 #include "tests/support/rows.h"
 
-#include <QtTest>
-
 #include <random>
 
 namespace {

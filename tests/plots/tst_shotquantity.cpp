@@ -4,8 +4,6 @@
 #include "tests/support/literals.h"
 #include "tests/support/rows.h"
 
-#include <QTest>
-
 #include <cmath>
 #include <limits>
 

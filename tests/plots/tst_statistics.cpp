@@ -2,8 +2,6 @@
 #include "tests/support/literals.h"
 #include "tests/support/rows.h"
 
-#include <QtTest>
-
 #include <cmath>
 #include <limits>
 

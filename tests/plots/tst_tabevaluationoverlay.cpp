@@ -1,10 +1,10 @@
-#include "model/model.h"
 #include "plots/colordelegate.h"
 #include "plots/overlayplot.h"
 #include "plots/overlaytablemodel.h"
 #include "plots/tabevaluationoverlay.h"
 #include "tests/support/literals.h"
 #include "tests/support/rows.h"
+#include "tests/support/shots.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>
@@ -14,7 +14,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QTableView>
-#include <QtTest>
 
 #include <memory>
 
@@ -23,16 +22,6 @@ namespace {
 using Column = OverlayTableModel::Column;
 
 constexpr QRgb kFaded = 0xffcdcdcd;
-
-void append(Model &model, const SampleList &samples, const QDateTime &timestamp = {})
-{
-    for (int sensor = 0; sensor < kNumSensors; ++sensor) {
-        const int shot = model.appendMeasurement(sensor);
-        for (const double value : samples)
-            QVERIFY(model.appendSample(sensor, shot, value + 1000.0 * sensor));
-    }
-    model.setTimestamp(model.numChannels(0) - 1, timestamp);
-}
 
 SampleList flat(double value)
 {
@@ -63,22 +52,6 @@ private slots:
         m_model.reset();
     }
 
-    void ranksByDeviation()
-    {
-        append(*m_model, {5, 5, 5});
-        append(*m_model, {5, 7.25, 5});
-        append(*m_model, {});
-        append(*m_model, {5, 5, -5.5, 900});
-        m_page->update();
-        m_page->setReferenceShot(0);
-        table()->sortByColumn(Column::Deviation, Qt::DescendingOrder);
-        QCOMPARE(text(0, Column::Number), "3"_s);
-        QCOMPARE(text(0, Column::Deviation), "10.5"_s);
-        QCOMPARE(text(1, Column::Deviation), "2.25"_s);
-        QCOMPARE(text(2, Column::Deviation), "Referenz"_s);
-        QCOMPARE(text(3, Column::Deviation), QString()); // nothing to compare comes last
-    }
-
     void linesUpShots_data()
     {
         // shift: of the first shot
@@ -96,8 +69,8 @@ private slots:
     {
         QFETCH(AlignBy, by);
         QFETCH(double, threshold);
-        append(*m_model, {0, 0, 9, 9, 0});
-        append(*m_model, {2, 2, 2, 2, 11, 11});
+        addShot(*m_model, {0, 0, 9, 9, 0}, 1000.0);
+        addShot(*m_model, {2, 2, 2, 2, 11, 11}, 1000.0);
         m_model->setOffset(0, 10.0);
         m_model->setVerticalMarkerAbsolute(0, 3);
         m_page->update();
@@ -113,7 +86,7 @@ private slots:
     void selectedShotsKeepTheirColors()
     {
         for (const double value : {10.0, 50.0, 90.0})
-            append(*m_model, flat(value));
+            addShot(*m_model, flat(value), 1000.0);
         m_page->update();
         const auto colors = [this] {
             return QVector<bool>{draws(ColorDelegate::colorAt(0).rgb()), draws(ColorDelegate::colorAt(1).rgb()),
@@ -133,8 +106,8 @@ private slots:
 
     void typingSurvivesAGrowingShot()
     {
-        append(*m_model, {1, 1, 1});
-        append(*m_model, {1});
+        addShot(*m_model, {1, 1, 1}, 1000.0);
+        addShot(*m_model, {1}, 1000.0);
         m_page->update();
         m_page->setReferenceShot(0);
         table()->setCurrentIndex(cell(1, Column::Label));
@@ -155,7 +128,7 @@ private slots:
     void looksStayWithTheirShots()
     {
         for (const double value : {1, 2, 3, 4})
-            append(*m_model, flat(value));
+            addShot(*m_model, flat(value), 1000.0);
         m_page->update();
         QVERIFY(table()->model()->setData(cell(2, Column::Shown), Qt::Unchecked, Qt::CheckStateRole));
         QVERIFY(table()->model()->setData(cell(3, Column::Color), QColor(1, 2, 3)));
@@ -180,12 +153,12 @@ private slots:
 
     void followsTheModelOnlyWhileShown()
     {
-        append(*m_model, flat(1));
+        addShot(*m_model, flat(1), 1000.0);
         m_model->emitDataChanged();
         QCOMPARE(table()->model()->rowCount(), 0); // changes are gathered
         QTRY_COMPARE(table()->model()->rowCount(), 1);
         m_page->hide();
-        append(*m_model, flat(2));
+        addShot(*m_model, flat(2), 1000.0);
         m_model->emitDataChanged();
         QTest::qWait(2 * TabEvaluationOverlay::kRefreshInterval);
         QCOMPARE(table()->model()->rowCount(), 1);
@@ -203,8 +176,8 @@ private slots:
 
     void survivesRemovalItWasNotToldOf()
     {
-        append(*m_model, flat(1));
-        append(*m_model, flat(2));
+        addShot(*m_model, flat(1), 1000.0);
+        addShot(*m_model, flat(2), 1000.0);
         m_page->update();
         m_page->setReferenceShot(1);
         child<QCheckBox>("checkMean")->setChecked(true);
@@ -230,7 +203,7 @@ private slots:
         m_page->setReferenceShot(0);
         QVERIFY(!m_page->grab().isNull());
         for (int shot = 0; shot < kShots; ++shot)
-            append(*m_model, {1.0 * shot, 2.0});
+            addShot(*m_model, {1.0 * shot, 2.0}, 1000.0);
         m_page->update();
         QCOMPARE(table()->model()->rowCount(), kShots);
         QVERIFY(!m_page->grab().isNull());
@@ -248,31 +221,27 @@ private:
     [[nodiscard]] QString text(int row, int column) const { return cell(row, column).data().toString(); }
     [[nodiscard]] QString status() const { return child<QLabel>("labelStatus")->text(); }
     [[nodiscard]] OverlayPlot *plot() const { return child<OverlayPlot>("osziWidget"); }
-    [[nodiscard]] bool draws(QRgb color) const;
-    void align(AlignBy by, double threshold = 0.0);
+    /// Whether the plot has at least a few pixels of exactly this colour.
+    [[nodiscard]] bool draws(QRgb color) const
+    {
+        const QImage image = plot()->grab().toImage().convertToFormat(QImage::Format_RGB32);
+        int count = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            const auto *row = reinterpret_cast<const QRgb *>(image.constScanLine(y));
+            count += int(std::count(row + OsziWidget::kLeftMargin + 1, row + image.width(), color));
+        }
+        return count > 20;
+    }
+    void align(AlignBy by, double threshold = 0.0)
+    {
+        auto *combo = child<QComboBox>("comboAlignment");
+        combo->setCurrentIndex(combo->findData(QPoint(int(by), 0)));
+        child<QDoubleSpinBox>("spinBoxThreshold")->setValue(threshold);
+    }
 
     std::unique_ptr<Model> m_model;
     std::unique_ptr<TabEvaluationOverlay> m_page;
 };
-
-/// Whether the plot has at least a few pixels of exactly this colour.
-bool TabEvaluationOverlayTest::draws(QRgb color) const
-{
-    const QImage image = plot()->grab().toImage().convertToFormat(QImage::Format_RGB32);
-    int count = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        const auto *row = reinterpret_cast<const QRgb *>(image.constScanLine(y));
-        count += int(std::count(row + OsziWidget::kLeftMargin + 1, row + image.width(), color));
-    }
-    return count > 20;
-}
-
-void TabEvaluationOverlayTest::align(AlignBy by, double threshold)
-{
-    auto *combo = child<QComboBox>("comboAlignment");
-    combo->setCurrentIndex(combo->findData(QPoint(int(by), 0)));
-    child<QDoubleSpinBox>("spinBoxThreshold")->setValue(threshold);
-}
 
 QTEST_MAIN(TabEvaluationOverlayTest)
 

@@ -1,15 +1,14 @@
-#include "model/model.h"
 #include "plots/boxwhiskerswidget.h"
 #include "plots/osziwidget.h"
 #include "plots/runtimetablemodel.h"
 #include "plots/tabevaluationruntime.h"
 #include "tests/support/literals.h"
 #include "tests/support/rows.h"
+#include "tests/support/shots.h"
 
 #include <QAbstractButton>
 #include <QDoubleSpinBox>
 #include <QTableView>
-#include <QtTest>
 
 #include <memory>
 
@@ -21,16 +20,6 @@ using Doubles = QVector<double>;
 SampleList shotOf(int high, int low, int rest)
 {
     return SampleList(high, 300.0) + SampleList(low, 50.0) + SampleList(rest, 300.0);
-}
-
-void append(Model &model, const SampleList &samples, const QDateTime &timestamp = {})
-{
-    for (int sensor = 0; sensor < kNumSensors; ++sensor) {
-        const int shot = model.appendMeasurement(sensor);
-        for (const double value : samples)
-            QVERIFY(model.appendSample(sensor, shot, value + sensor));
-    }
-    model.setTimestamp(model.numChannels(0) - 1, timestamp);
 }
 
 } // namespace
@@ -60,9 +49,9 @@ private slots:
     void tableShowsShots()
     {
         const QDateTime start(QDate(2026, 3, 9), QTime(23, 59, 50), Qt::UTC);
-        append(*m_model, shotOf(12, 100, 47), start);
-        append(*m_model, shotOf(20, 130, 0), start.addMSecs(29900));
-        append(*m_model, shotOf(9, 0, 0)); // never falls below; no time stamp
+        addShot(*m_model, shotOf(12, 100, 47), 1.0, start);
+        addShot(*m_model, shotOf(20, 130, 0), 1.0, start.addMSecs(29900));
+        addShot(*m_model, shotOf(9, 0, 0), 1.0); // never falls below; no time stamp
         m_page->update();
 
         const QAbstractItemModel *table = child<QTableView>("tableRuntime")->model();
@@ -83,9 +72,9 @@ private slots:
 
     void summariesGetTheirLists()
     {
-        append(*m_model, shotOf(10, 20, 5));
-        append(*m_model, shotOf(30, 1, 24)); // start and stop coincide
-        append(*m_model, shotOf(4, 0, 0));
+        addShot(*m_model, shotOf(10, 20, 5), 1.0);
+        addShot(*m_model, shotOf(30, 1, 24), 1.0); // start and stop coincide
+        addShot(*m_model, shotOf(4, 0, 0), 1.0);
         m_page->update();
         QCOMPARE(summary("boxStart"), Doubles({-0.1, 1.0, 3.0}));
         QCOMPARE(summary("boxDuration"), Doubles({1.9}));
@@ -98,7 +87,7 @@ private slots:
 
     void sensorsHaveTheirOwnThresholds()
     {
-        append(*m_model, {300, 200, 100, 50, 10, 50, 100, 200, 300});
+        addShot(*m_model, {300, 200, 100, 50, 10, 50, 100, 200, 300}, 1.0);
         m_page->update();
         child<QDoubleSpinBox>("spinBoxStartValue")->setValue(250.0);
         child<QDoubleSpinBox>("spinBoxStopValue")->setValue(20.0);
@@ -113,28 +102,6 @@ private slots:
         QCOMPARE(cell(0, RuntimeTableModel::Start), "0.1"_s);
     }
 
-    void thresholdsAreTypedWithCommaOrPoint_data()
-    {
-        columns<QLocale, QString>("locale", "typed");
-        for (const QLocale::Language language : {QLocale::German, QLocale::English}) {
-            for (const char *typed : {"12.5", "12,5"})
-                QTest::addRow("%s, %s", qPrintable(QLocale::languageToString(language)), typed)
-                    << QLocale(language) << QString::fromLatin1(typed);
-        }
-    }
-
-    void thresholdsAreTypedWithCommaOrPoint()
-    {
-        QFETCH(QLocale, locale);
-        QFETCH(QString, typed);
-        auto *spinBox = child<QDoubleSpinBox>("spinBoxStopValue");
-        spinBox->setLocale(locale);
-        spinBox->selectAll();
-        QTest::keyClicks(spinBox, typed);
-        QTest::keyClick(spinBox, Qt::Key_Return);
-        QCOMPARE(m_page->stopThreshold(0), 12.5);
-    }
-
     void thresholdsStayInRange()
     {
         m_page->setThresholds(0, 1e300, -1e300);
@@ -144,9 +111,9 @@ private slots:
 
     void chosenShotIsDrawn()
     {
-        append(*m_model, shotOf(1, 2, 3));
-        append(*m_model, shotOf(4, 5, 6));
-        append(*m_model, shotOf(7, 8, 9));
+        addShot(*m_model, shotOf(1, 2, 3), 1.0);
+        addShot(*m_model, shotOf(4, 5, 6), 1.0);
+        addShot(*m_model, shotOf(7, 8, 9), 1.0);
         m_page->update();
         const OsziWidget *plot = child<OsziWidget>("osziWidget");
         QCOMPARE(*plot->curve(0), shotOf(7, 8, 9)); // the newest until one is chosen
@@ -159,7 +126,7 @@ private slots:
         m_page->onCellClicked(3, 0); // the mean is no shot
         QCOMPARE(m_page->shownShot(), 0);
 
-        append(*m_model, shotOf(1, 1, 1));
+        addShot(*m_model, shotOf(1, 1, 1), 1.0);
         m_page->update();
         QCOMPARE(m_page->shownShot(), 0);
         chooseSensor(2);
@@ -169,8 +136,8 @@ private slots:
     // Signals stay blocked where a deletion fails half-way; the sanitizer would report what is drawn after that.
     void plotSurvivesRemovalItWasNotToldOf()
     {
-        append(*m_model, shotOf(50, 50, 50));
-        append(*m_model, shotOf(60, 60, 60));
+        addShot(*m_model, shotOf(50, 50, 50), 1.0);
+        addShot(*m_model, shotOf(60, 60, 60), 1.0);
         m_page->resize(900, 600);
         m_page->show();
         m_page->update();
@@ -193,7 +160,7 @@ private slots:
     void choiceIsForgottenWithItsShot()
     {
         for (int shot = 0; shot < 4; ++shot)
-            append(*m_model, shotOf(shot + 1, 1, 1));
+            addShot(*m_model, shotOf(shot + 1, 1, 1), 1.0);
         m_page->update();
         QTableView *table = child<QTableView>("tableRuntime");
         table->setCurrentIndex(table->model()->index(3, 0));
@@ -201,14 +168,14 @@ private slots:
         QVERIFY(m_model->deleteChannel(2));
         m_page->update();
         QVERIFY(!table->selectionModel()->hasSelection());
-        append(*m_model, shotOf(9, 9, 9));
+        addShot(*m_model, shotOf(9, 9, 9), 1.0);
         m_page->update();
         QCOMPARE(*child<OsziWidget>("osziWidget")->curve(0), shotOf(9, 9, 9)); // the newest again
     }
 
     void samplesAreCoalesced()
     {
-        append(*m_model, {});
+        addShot(*m_model, {}, 1.0);
         m_page->show();
         m_page->update();
         QSignalSpy changes(child<QTableView>("tableRuntime")->model(), &QAbstractItemModel::dataChanged);
@@ -223,43 +190,32 @@ private slots:
     }
 
 private:
-    [[nodiscard]] QString cell(int row, int column) const;
-    [[nodiscard]] QStringList rowTexts(int row) const;
-    [[nodiscard]] Doubles summary(const char *name) const;
     template <typename Widget>
     [[nodiscard]] Widget *child(const char *name) const
     {
         return m_page->findChild<Widget *>(QLatin1String(name));
     }
-    void chooseSensor(int sensor);
+    [[nodiscard]] QString cell(int row, int column) const
+    {
+        const QAbstractItemModel *table = child<QTableView>("tableRuntime")->model();
+        return table->index(row, column).data().toString();
+    }
+    [[nodiscard]] QStringList rowTexts(int row) const
+    {
+        QStringList texts;
+        for (int column = 0; column < RuntimeTableModel::NumColumns; ++column)
+            texts << cell(row, column);
+        return texts;
+    }
+    [[nodiscard]] Doubles summary(const char *name) const { return child<BoxWhiskersWidget>(name)->sortedValues(); }
+    void chooseSensor(int sensor)
+    {
+        child<QAbstractButton>(qPrintable("sensorButton%1"_s.arg(sensor)))->setChecked(true);
+    }
 
     std::unique_ptr<Model> m_model;
     std::unique_ptr<TabEvaluationRuntime> m_page;
 };
-
-QString TabEvaluationRuntimeTest::cell(int row, int column) const
-{
-    const QAbstractItemModel *table = child<QTableView>("tableRuntime")->model();
-    return table->index(row, column).data().toString();
-}
-
-QStringList TabEvaluationRuntimeTest::rowTexts(int row) const
-{
-    QStringList texts;
-    for (int column = 0; column < RuntimeTableModel::NumColumns; ++column)
-        texts << cell(row, column);
-    return texts;
-}
-
-Doubles TabEvaluationRuntimeTest::summary(const char *name) const
-{
-    return child<BoxWhiskersWidget>(name)->sortedValues();
-}
-
-void TabEvaluationRuntimeTest::chooseSensor(int sensor)
-{
-    child<QAbstractButton>(qPrintable("sensorButton%1"_s.arg(sensor)))->setChecked(true);
-}
 
 QTEST_MAIN(TabEvaluationRuntimeTest)
 #include "tst_tabevaluationruntime.moc"

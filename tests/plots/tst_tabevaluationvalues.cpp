@@ -1,4 +1,3 @@
-#include "model/model.h"
 #include "plots/cycletile.h"
 #include "plots/dashboard.h"
 #include "plots/dashboardtile.h"
@@ -9,28 +8,18 @@
 #include "plots/trendchart.h"
 #include "tests/support/literals.h"
 #include "tests/support/rows.h"
+#include "tests/support/shots.h"
 
 #include <QCheckBox>
 #include <QDoubleSpinBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QSignalSpy>
 #include <QTableView>
-#include <QTest>
 
 namespace {
 
 const Quantity kMaximum{Quantity::Kind::Maximum, Quantity::kWholeShot};
-
-void addShot(Model &model, const QVector<double> &samples)
-{
-    for (int sensor = 0; sensor < kNumSensors; ++sensor) {
-        const int shot = model.appendMeasurement(sensor);
-        for (const double sample : samples)
-            QVERIFY(model.appendSample(sensor, shot, sample));
-    }
-}
 
 struct Pages
 {

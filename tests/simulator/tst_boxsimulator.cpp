@@ -1,6 +1,7 @@
 #include "simulator/boxsimulator.h"
 #include "simulator/boxtexts.h"
 #include "simulator/commandline.h"
+#include "tests/support/files.h"
 #include "tests/support/literals.h"
 #include "tests/support/rows.h"
 
@@ -8,10 +9,8 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QLoggingCategory>
-#include <QSignalSpy>
 #include <QTcpSocket>
 #include <QTemporaryDir>
-#include <QTest>
 
 namespace {
 
@@ -151,16 +150,6 @@ private slots:
         }
     }
 
-    void playsTheCycleFromTheStart()
-    {
-        Setup setup;
-        setup.send("t=5\nrun=1\n");
-        QVERIFY(QTest::qWaitFor([&setup] { return setup.sent.size() >= 60; }));
-        const MouldCycle cycle(1, 0.2);
-        for (int i = 0; i < 60; ++i)
-            QCOMPARE(setup.sent.at(i), sampleLine(static_cast<quint64>(i), cycle.valuesAt(1, i * 0.005), false));
-    }
-
     void dropsTheLinkAfterBytes_data()
     {
         columns<int>("bytes");
@@ -187,35 +176,6 @@ private slots:
         QTRY_VERIFY(setup.box.hasClient()); // the next link is served again
     }
 
-    void reboots()
-    {
-        Setup setup;
-        const quint16 port = setup.box.port();
-        setup.send("t=1\nrun=1\nreboot\nlist\n");
-        QVERIFY(setup.waitForClose());
-        QVERIFY(!setup.box.isListening());
-        QVERIFY(!setup.box.isRunning());
-        QVERIFY(!setup.box.receivedCommands().contains("list"_s));
-        QTRY_VERIFY(setup.box.isListening());
-        QCOMPARE(setup.box.port(), port);
-        setup.client.connectToHost(setup.box.address(), port);
-        QTRY_VERIFY(setup.box.hasClient());
-        QCOMPARE(setup.ask("t=5\n", "t=5\n"), "t=5\n"_ba);
-    }
-
-    void servesTheNewestClient()
-    {
-        Setup setup;
-        QTcpSocket second;
-        second.connectToHost(setup.box.address(), setup.box.port());
-        QVERIFY(setup.waitForClose());
-        QTRY_COMPARE(second.state(), QAbstractSocket::ConnectedState);
-        second.write("t=50\n");
-        QTRY_COMPARE(second.bytesAvailable(), 5);
-        QCOMPARE(second.readAll(), "t=50\n"_ba);
-        QVERIFY(setup.received.isEmpty());
-    }
-
     void logsItsRuns()
     {
         const QTemporaryDir folder;
@@ -236,9 +196,7 @@ private slots:
         QVERIFY(day.dirName() == QDate::currentDate().toString("'dir-'yyyyMMdd"_s) || days.size() > 1);
         const QStringList names = day.entryList({"*.bb"_s}, QDir::Files);
         QVERIFY(names.size() == 2 || days.size() > 1);
-        QFile file(day.filePath(names.last()));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QByteArray text = file.readAll();
+        const QByteArray text = contentOf(day.filePath(names.last()));
         QVERIFY(text.startsWith("[device]\n") && text.contains("\ngroup0/sensor4/unit=") && text.endsWith("]\n"));
         QVERIFY(text.contains("\n[data]\nT=20"));
         // What went over the wire, in another notation.

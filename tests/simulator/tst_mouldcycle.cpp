@@ -4,8 +4,6 @@
 #include "tests/support/literals.h"
 #include "tests/support/rows.h"
 
-#include <QTest>
-
 #include <algorithm>
 #include <cmath>
 
@@ -90,14 +88,6 @@ private slots:
                     QVERIFY(values.at(i) >= sensors.at(i).minimum && values.at(i) <= sensors.at(i).maximum);
             }
         }
-    }
-
-    void isRepeatable()
-    {
-        QVERIFY(MouldCycle(5, 12.0).valuesAt(3, 2.5) == MouldCycle(5, 12.0).valuesAt(3, 2.5));
-        QVERIFY(MouldCycle(5, 12.0).valuesAt(3, 2.5) != MouldCycle(6, 12.0).valuesAt(3, 2.5));
-        QVERIFY(MouldCycle(5, 12.0).valuesAt(3, 2.5) != MouldCycle(5, 12.0).valuesAt(4, 2.5));
-        QVERIFY(MouldCycle(5, 12.0).valuesAt(3, 2.5) != MouldCycle(5, 12.0).valuesAt(3, 2.501));
     }
 
     void describesItselfInTheGrammar()

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <deque>
 #include <functional>
+#include <memory>
 #include <vector>
 
 /// Answers every dialog of the program from a script and remembers what was shown. What is asked without an answer
@@ -104,3 +105,11 @@ private:
 
     int m_open = 0;
 };
+
+/// A script for the window that is to be made with it, which owns it; the test keeps a pointer.
+inline std::unique_ptr<UserPrompts> scripted(ScriptedPrompts *&script)
+{
+    auto made = std::make_unique<ScriptedPrompts>();
+    script = made.get();
+    return made;
+}

@@ -1,10 +1,8 @@
 #include "device/scptransfer.h"
+#include "tests/support/files.h"
 #include "tests/support/literals.h"
 #include "tests/support/rows.h"
 #include "tests/support/sshserver.h"
-
-#include <QProcess>
-#include <QtTest>
 
 namespace {
 
@@ -13,12 +11,6 @@ const QString kPassword = "gEh3im@:x"_s;
 const QString kHost = "127.0.0.1"_s;
 const QString kDay = "dir-20240305"_s;
 const QDateTime kTime({2024, 3, 5}, {10, 11, 12});
-
-QByteArray contentOf(const QString &fileName)
-{
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 /// True if the command line of any process shows the text.
 bool processesShow(const QByteArray &text)
@@ -89,18 +81,6 @@ private slots:
         const QString arrived = m_server.stick().filePath("box-8[ä].tgz"_s);
         QCOMPARE(contentOf(arrived), content);
         QCOMPARE(QFileInfo(arrived).lastModified(), kTime);
-    }
-
-    void separateArguments()
-    {
-        m_server.write("data/dir-20240401/a.bb"_s, "x");
-        QProcess tool;
-        tool.setWorkingDirectory(m_local.path());
-        tool.start(m_options.toolFile, {"/command"_s, "open pi:%1@localhost -hostkey=* "_s.arg(kPassword),
-                                        "get -preservetime /media/usbstick/data/dir-20240401"_s, "exit"_s});
-        QVERIFY(tool.waitForFinished());
-        QCOMPARE(tool.exitCode(), 0);
-        QCOMPARE(contentOf(m_local.filePath("dir-20240401/a.bb"_s)), "x"_ba);
     }
 
     void failures_data()

@@ -2,8 +2,6 @@
 #include "tests/support/rows.h"
 #include "tools/scp-bridge/script.h"
 
-#include <QtTest>
-
 namespace {
 
 const QString kOpen = "open pi:secret@192.168.4.1 -hostkey=* "_s;

@@ -1,8 +1,6 @@
 #include "tests/support/rows.h"
 #include "view/measurementrange.h"
 
-#include <QtTest>
-
 class TestMeasurementRange : public QObject
 {
     Q_OBJECT

@@ -1,5 +1,6 @@
 #include "device/mesotraconnector.h"
 #include "model/model.h"
+#include "tests/support/files.h"
 #include "tests/support/literals.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/rows.h"
@@ -11,33 +12,9 @@
 #include "view/updatedialog.h"
 #include "view/view.h"
 
-#include <QAbstractButton>
-#include <QAbstractItemView>
-#include <QAction>
-#include <QActionGroup>
-#include <QComboBox>
-#include <QDoubleSpinBox>
-#include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMainWindow>
-#include <QMenu>
-#include <QMenuBar>
-#include <QPixmap>
-#include <QSettings>
-#include <QTabBar>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QXmlStreamReader>
+#include <QtWidgets>
 
 namespace {
-
-void write(const QString &fileName, const QByteArray &content = "no translation")
-{
-    QFile file(fileName);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), qint64(content.size()));
-}
 
 /// Every text that the user may read, in a fixed order.
 QStringList textsOf(const QWidget &window)
@@ -178,7 +155,7 @@ private slots:
         QFETCH(QStringList, texts);
         const QTemporaryDir folder;
         for (const QString &file : files)
-            write(folder.filePath(file));
+            writeFile(folder.filePath(file), "no translation");
         QPixmap flag(8, 8);
         flag.fill(Qt::red);
         QVERIFY(flag.save(folder.filePath("en.png"_s)));
@@ -202,8 +179,8 @@ private slots:
     {
         const QTemporaryDir folder;
         const QString system = MultiLanguageUtils::languageOfLocale(QLocale::system().name());
-        write(folder.filePath("ventaro-%1.qm"_s.arg(system)));
-        write(folder.filePath("ventaro-xx.qm"_s));
+        writeFile(folder.filePath("ventaro-%1.qm"_s.arg(system)), "no translation");
+        writeFile(folder.filePath("ventaro-xx.qm"_s), "no translation");
         QMainWindow window;
         MultiLanguageUtils languages(folder.path());
         for (const auto *action : languages.createLanguageMenu(&window)->actions())
@@ -223,7 +200,7 @@ private slots:
         QFETCH(QByteArray, content);
         const QTemporaryDir folder;
         if (!content.isEmpty())
-            write(folder.filePath("ventaro-fr.qm"_s), content);
+            writeFile(folder.filePath("ventaro-fr.qm"_s), content);
         MultiLanguageUtils languages(folder.path());
         const LogCapture log;
         languages.loadLanguage("fr"_s);

@@ -8,10 +8,8 @@
 
 #include <QAbstractButton>
 #include <QFile>
-#include <QSignalSpy>
 #include <QTableView>
 #include <QTemporaryDir>
-#include <QTest>
 
 namespace {
 

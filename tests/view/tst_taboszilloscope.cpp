@@ -3,15 +3,7 @@
 #include "tests/support/rows.h"
 #include "tests/view/oszibench.h"
 
-#include <QCheckBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QScrollBar>
-#include <QSignalSpy>
-#include <QSlider>
-#include <QSpinBox>
-#include <QtTest>
+#include <QtWidgets>
 
 class TestTabOszilloscope : public QObject
 {
@@ -106,31 +98,6 @@ private slots:
             bench.tab.row(position)->showMouseMarker(100);
         }
         QVERIFY(!bench.tab.grab().isNull());
-    }
-
-    void displayedMeasurements_data()
-    {
-        columns<QString, QVector<int>>("text", "expected");
-        row("span and single", "1-3,5", QVector<int>{1, 2, 3, 5});
-        row("malformed beside a good one", "1-2-3,4", QVector<int>{4});
-        row("zero, beyond the end, no number", "0,7,x", QVector<int>{});
-        row("nothing", "", QVector<int>{});
-    }
-
-    void displayedMeasurements()
-    {
-        QFETCH(QString, text);
-        QFETCH(QVector<int>, expected);
-        OsziBench bench;
-        for (int i = 0; i < 6; ++i)
-            bench.addShot(3);
-        bench.find<QLineEdit>("displayedMeasLineEdit")->setText(text);
-        bench.tab.displayedMeasChanged();
-        for (int position = 0; position < kNumSensors; ++position)
-            QCOMPARE(bench.shown(position), expected);
-        QVERIFY(!bench.find<QCheckBox>("checkBoxAllMeasurings")->isChecked());
-        bench.find<QCheckBox>("checkBoxAllMeasurings")->setChecked(true);
-        QCOMPARE(bench.shown(4), (QVector<int>{1, 2, 3, 4, 5, 6}));
     }
 
     void filterOutlivesNewShot()
@@ -237,16 +204,6 @@ private slots:
         QCOMPARE(bar->value(), held);
         bar->setSliderDown(false); // released at the end: the view follows again
         QCOMPARE(bar->value(), 2300 - bench.visible());
-
-        auto *zoom = bench.find<QSlider>("sliderTimeZoom");
-        const int start = bar->value();
-        zoom->setSliderDown(true);
-        bench.grow(9);
-        bench.model.emitDataChanged();
-        zoom->setValue(4);
-        QCOMPARE(bar->value(), start);
-        QCOMPARE(bench.tab.row(2)->zoom(), 4);
-        QCOMPARE(bar->maximum(), 2309 - bench.visible());
     }
 
     void yCorrection()
@@ -254,24 +211,19 @@ private slots:
         OsziBench bench;
         bench.addShot(20, 7.0);
         bench.addShot(3);
-        auto *box = bench.find<QCheckBox>("checkBoxYCorrection");
-        auto *time = bench.find<QSpinBox>("spinBoxYCorrection");
-        time->setValue(1000); // the eleventh sample at 100 ms
-        QCOMPARE(bench.tab.row(1)->channelOffset(0), 0.0);
-        box->setChecked(true);
-        QCOMPARE(bench.tab.row(1)->channelOffset(0), -18.0);
-        QCOMPARE(bench.tab.row(1)->channelOffset(1), 0.0);
+        const OsziWidget *plot = bench.tab.row(1);
+        bench.find<QSpinBox>("spinBoxYCorrection")->setValue(1000); // the eleventh sample at 100 ms
+        bench.find<QCheckBox>("checkBoxYCorrection")->setChecked(true);
+        QCOMPARE(plot->channelOffset(0), -18.0);
+        QCOMPARE(plot->channelOffset(1), 0.0); // not that long yet
         bench.grow(20, 50.0);
         bench.model.emitDataChanged();
-        QCOMPARE(bench.tab.row(1)->channelOffset(1), -58.0);
-        time->setValue(2200); // only the second is that long
-        QCOMPARE(bench.tab.row(1)->channelOffset(0), 0.0);
-        QCOMPARE(bench.tab.row(1)->channelOffset(1), -70.0);
+        QCOMPARE(plot->channelOffset(1), -58.0);
         QVERIFY(bench.model.deleteChannel(0));
         bench.model.emitDataChanged();
-        QCOMPARE(bench.tab.row(1)->channelOffset(0), -70.0);
-        box->setChecked(false);
-        QCOMPARE(bench.tab.row(1)->channelOffset(0), 0.0);
+        QCOMPARE(plot->channelOffset(0), -58.0);
+        bench.find<QCheckBox>("checkBoxYCorrection")->setChecked(false);
+        QCOMPARE(plot->channelOffset(0), 0.0);
     }
 
     void deletionAsks()

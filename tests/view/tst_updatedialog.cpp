@@ -13,8 +13,6 @@
 
 #include <QLabel>
 #include <QPushButton>
-#include <QSignalSpy>
-#include <QtTest>
 
 namespace {
 
@@ -28,7 +26,7 @@ struct Bench
     explicit Bench(const QByteArray &toolScript = "exit 0", bool boxListens = true)
         : tool(toolScript)
         , isListening(!boxListens || box.listen())
-        , view(&model, scripted())
+        , view(&model, scripted(prompts))
         , connector(boxListens ? box.port() : quint16{1})
         , dialog(&view, &connector, kHost, kShortWait)
     {
@@ -69,14 +67,6 @@ struct Bench
     MesotraConnector connector;
     UpdateDialog dialog;
     QStringList told;
-
-private:
-    std::unique_ptr<UserPrompts> scripted()
-    {
-        auto script = std::make_unique<ScriptedPrompts>();
-        prompts = script.get();
-        return script;
-    }
 };
 
 } // namespace
@@ -145,25 +135,6 @@ private slots:
         QCOMPARE(bench.told, QStringList());
         bench.dialog.close();
         QVERIFY(!bench.dialog.isVisible());
-    }
-
-    void restart()
-    {
-        Bench bench;
-        QVERIFY(bench.isListening);
-        bench.connector.connect(kHost);
-        QTRY_VERIFY(bench.connector.isConnected());
-        QSignalSpy sent(&bench.dialog, &UpdateDialog::restartSent);
-        bench.chooseFile();
-        bench.button("buttonUpload")->click();
-        bench.button("buttonReset")->click();
-        QCOMPARE(bench.text("labelResult2"), "Reboot Kommando gesendet."_s);
-        QCOMPARE(bench.enabled(), "SURCO"_s);
-        QCOMPARE(sent.size(), 1);
-        QTRY_VERIFY(bench.box.receivedCommands().contains("reboot"_s));
-        bench.dialog.show();
-        bench.button("buttonOK")->click();
-        QCOMPARE(bench.dialog.result(), int(QDialog::Accepted));
     }
 
     void restartConnectsFirst()

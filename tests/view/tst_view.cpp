@@ -8,29 +8,14 @@
 #include "view/tabproject.h"
 #include "view/view.h"
 
-#include <QAction>
-#include <QCheckBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QSettings>
-#include <QSignalSpy>
-#include <QTabWidget>
-#include <QTest>
-#include <QToolBar>
-#include <QToolButton>
+#include <QtWidgets>
+
+#include <functional>
 
 namespace {
 
 struct Bench
 {
-    Bench()
-    {
-        auto script = std::make_unique<ScriptedPrompts>();
-        prompts = script.get();
-        view = std::make_unique<View>(&model, std::move(script));
-    }
-
     [[nodiscard]] QAction *action(const char *name) const { return view->findChild<QAction *>(QLatin1String(name)); }
     void setConnected(bool connected)
     {
@@ -40,7 +25,7 @@ struct Bench
 
     Model model{QString()};
     ScriptedPrompts *prompts = nullptr; // owned by the view
-    std::unique_ptr<View> view;
+    std::unique_ptr<View> view = std::make_unique<View>(&model, scripted(prompts));
 };
 
 QSettings settings()
@@ -50,7 +35,9 @@ QSettings settings()
 
 } // namespace
 
+using Question = std::function<int(View &)>;
 using ViewSignal = void (View::*)();
+Q_DECLARE_METATYPE(Question)
 Q_DECLARE_METATYPE(ViewSignal)
 
 class TestView : public QObject
@@ -133,16 +120,6 @@ private slots:
         QCOMPARE(bench.view->tabs()->isTabEnabled(3), events.contains(QLatin1Char('C')));
     }
 
-    void closingAsksToQuit()
-    {
-        const Bench bench;
-        bench.view->show();
-        const QSignalSpy spy(bench.view.get(), &View::quit);
-        QVERIFY(!bench.view->close());
-        QCOMPARE(spy.count(), 1);
-        QVERIFY(bench.view->isVisible());
-    }
-
     void settingsSurvive()
     {
         {
@@ -179,49 +156,36 @@ private slots:
 
     void questions_data()
     {
-        columns<QString, int, int, int>("text", "buttons", "answer", "result");
-        const QString save = "Projekt speichern?"_s;
-        const QString quit = "Ventaro beenden?"_s;
-        const QString saveAndQuit = "Vor dem Beenden Ventaro Projekt speichern?"_s;
-        const QString clear = "Achtung: Alle Messdaten werden gelöscht!"_s;
+        columns<Question, QString, int, int, int>("question", "text", "buttons", "answer", "result");
         constexpr int kSave = QMessageBox::Save | QMessageBox::Discard;
-        constexpr int kOk = QMessageBox::Ok | QMessageBox::Cancel;
         constexpr int kThree = kSave | QMessageBox::Cancel;
-        row("save: yes", save, kSave, int(QMessageBox::Save), 1);
-        row("save: no", save, kSave, int(QMessageBox::Discard), 0);
-        row("quit: yes", quit, kOk, int(QMessageBox::Ok), 1);
-        row("quit: no", quit, kOk, int(QMessageBox::Cancel), 0);
-        row("save and quit: save", saveAndQuit, kThree, int(QMessageBox::Save), int(QMessageBox::Save));
-        row("save and quit: discard", saveAndQuit, kThree, int(QMessageBox::Discard), int(QMessageBox::Discard));
-        row("save and quit: cancel", saveAndQuit, kThree, int(QMessageBox::Cancel), int(QMessageBox::Cancel));
-        row("clear: yes", clear, kOk, int(QMessageBox::Ok), 1);
-        row("clear: no", clear, kOk, int(QMessageBox::Cancel), 0);
-        row("yes or no: yes", QString(), int(QMessageBox::Yes | QMessageBox::No), int(QMessageBox::Yes), 1);
-        row("yes or no: no", QString(), int(QMessageBox::Yes | QMessageBox::No), int(QMessageBox::No), 0);
+        constexpr int kOk = QMessageBox::Ok | QMessageBox::Cancel;
+        const auto ask = [](const QString &text, int buttons, const Question &question,
+                            std::initializer_list<std::pair<int, int>> answers) {
+            for (const auto &[answer, result] : answers)
+                row(qPrintable("%1 %2"_s.arg(text).arg(answer)), question, text, buttons, answer, result);
+        };
+        ask("Projekt speichern?"_s, kSave, std::mem_fn(&View::askToSave),
+            {{QMessageBox::Save, 1}, {QMessageBox::Discard, 0}});
+        ask("Ventaro beenden?"_s, kOk, std::mem_fn(&View::askToQuit), {{QMessageBox::Ok, 1}, {QMessageBox::Cancel, 0}});
+        ask("Achtung: Alle Messdaten werden gelöscht!"_s, kOk, std::mem_fn(&View::askToClearData),
+            {{QMessageBox::Ok, 1}, {QMessageBox::Cancel, 0}});
+        ask("Vor dem Beenden Ventaro Projekt speichern?"_s, kThree, std::mem_fn(&View::askToSaveAndQuit),
+            {{QMessageBox::Save, QMessageBox::Save}, {QMessageBox::Cancel, QMessageBox::Cancel}});
+        ask("Ja?"_s, QMessageBox::Yes | QMessageBox::No, [](View &view) { return view.askYesNo("Titel"_s, "Ja?"_s); },
+            {{QMessageBox::Yes, 1}, {QMessageBox::No, 0}});
     }
 
     void questions()
     {
-        QFETCH(QString, text);
-        QFETCH(int, buttons);
+        QFETCH(Question, question);
         QFETCH(int, answer);
-        QFETCH(int, result);
         Bench bench;
         bench.prompts->answers = {static_cast<QMessageBox::StandardButton>(answer)};
-        const QString question = QString::fromLatin1(QTest::currentDataTag()).section(QLatin1Char(':'), 0, 0);
-        if (question == "save"_s)
-            QCOMPARE(int(bench.view->askToSave()), result);
-        else if (question == "quit"_s)
-            QCOMPARE(int(bench.view->askToQuit()), result);
-        else if (question == "save and quit"_s)
-            QCOMPARE(int(bench.view->askToSaveAndQuit()), result);
-        else if (question == "clear"_s)
-            QCOMPARE(int(bench.view->askToClearData()), result);
-        else
-            QCOMPARE(int(bench.view->askYesNo("Titel"_s, text)), result);
+        QTEST(question(*bench.view), "result");
         QCOMPARE(bench.prompts->questions.size(), std::size_t(1));
-        QCOMPARE(bench.prompts->questions.front().text, text);
-        QCOMPARE(int(bench.prompts->questions.front().buttons), buttons);
+        QTEST(bench.prompts->questions.front().text, "text");
+        QTEST(int(bench.prompts->questions.front().buttons), "buttons");
     }
 
     void oneQuestionAtATime()

@@ -1,6 +1,7 @@
 #include "model/model.h"
 #include "plots/osziwidget.h"
 #include "tests/support/faildevice.h"
+#include "tests/support/files.h"
 #include "tests/support/literals.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/rows.h"
@@ -10,23 +11,10 @@
 #include "view/taboszilloscope.h"
 #include "view/view.h"
 
-#include <QBuffer>
-#include <QCheckBox>
-#include <QDateTime>
-#include <QPlainTextEdit>
-#include <QStatusBar>
-#include <QTemporaryDir>
-#include <QTest>
+#include <QtWidgets>
 
-namespace {
-
-QByteArray content(const QString &fileName)
-{
-    QFile file(fileName);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : "<no file>"_ba;
-}
-
-} // namespace
+using ViewSignal = void (View::*)();
+Q_DECLARE_METATYPE(ViewSignal)
 
 class TestViewExport : public QObject
 {
@@ -38,9 +26,7 @@ private slots:
         m_view.reset();
         m_folder = std::make_unique<QTemporaryDir>();
         m_model = std::make_unique<Model>(QString());
-        auto script = std::make_unique<ScriptedPrompts>();
-        m_prompts = script.get();
-        m_view = std::make_unique<View>(m_model.get(), std::move(script));
+        m_view = std::make_unique<View>(m_model.get(), scripted(m_prompts));
     }
 
     void terminalFile()
@@ -51,121 +37,69 @@ private slots:
         QVERIFY(writeTerminal(buffer, "< 21 °C\n> run=1"_s, time));
         QCOMPARE(QString::fromUtf8(buffer.data()),
                  "Ventaro - terminal: saved on 05.03.2026 at 07:08:09\n\n< 21 °C\n> run=1"_s);
+        FailDevice full(10);
+        QVERIFY(!writeTerminal(full, QString(100000, QLatin1Char('x')), time));
     }
 
-    void terminalWriteErrorIsReported()
-    {
-        FailDevice device(10);
-        QVERIFY(!writeTerminal(device, QString(100000, QLatin1Char('x')), QDateTime::currentDateTime()));
-    }
-
-    void saveTerminal_data()
+    void saves_data()
     {
         // written: empty: an error
-        columns<QString, QString>("chosen", "written");
-        row("plain", "t", "t.txt");
-        row("with suffix", "t.txt", "t.txt");
-        row("no such folder", "missing/t", QString());
+        columns<ViewSignal, QString, QString>("save", "chosen", "written");
+        const auto terminal = ViewSignal(&View::saveTerminal);
+        row("terminal", terminal, "t", "t.txt");
+        row("terminal with suffix", terminal, "t.txt", "t.txt");
+        row("terminal, no such folder", terminal, "missing/t", QString());
+        const auto csv = ViewSignal(&View::saveCSV);
+        row("data", csv, "d", "d.csv");
+        row("data, capitals", csv, "d.CSV", "d.CSV.csv");
+        row("data, no such folder", csv, "missing/d.csv", QString());
+        const auto oszi = ViewSignal(&View::saveOszi);
+        for (const char *offered : {"o.png", "o.bmp", "o.jpg", "o.tif"})
+            row(offered, oszi, QString::fromLatin1(offered), QString::fromLatin1(offered));
+        for (const char *refused : {"o.xyz", "o", "missing/o.png"})
+            row(refused, oszi, QString::fromLatin1(refused), QString());
     }
 
-    void saveTerminal()
+    void saves()
     {
+        QFETCH(ViewSignal, save);
         QFETCH(QString, chosen);
         QFETCH(QString, written);
         m_view->terminalSent("run=1\n"_s);
         m_view->terminalReceived("run=1\n"_s);
         m_prompts->saveNames = {path(chosen)};
         const LogCapture log;
-        emit m_view->saveTerminal();
-        QCOMPARE(m_prompts->fileDialogs, QStringList("Save terminal|ASCII File (*.txt)"_s));
-        QCOMPARE(log.contains("Error saving terminal content!"_s), written.isEmpty());
+        emit(m_view.get()->*save)();
+        QCOMPARE(log.contains("Error saving "_s), written.isEmpty());
         QVERIFY(m_prompts->messages.empty());
-        if (written.isEmpty())
+        const QString dialog = m_prompts->fileDialogs.join(QLatin1Char('/'));
+        const QByteArray text = contentOf(path(written));
+        if (save == &View::saveTerminal) {
+            QCOMPARE(dialog, "Save terminal|ASCII File (*.txt)"_s);
+            QVERIFY(written.isEmpty() || text.startsWith("Ventaro - terminal: saved on "));
+            QVERIFY(written.isEmpty() || text.endsWith("\n\n> run=1\n< run=1"));
             return;
-        const QString text = QString::fromUtf8(content(path(written)));
-        QVERIFY(text.startsWith("Ventaro - terminal: saved on "_s));
-        QVERIFY2(text.endsWith("\n\n> run=1\n< run=1"_s), qPrintable(text));
+        }
+        QCOMPARE(m_view->statusBar()->currentMessage().isEmpty(), !written.isEmpty());
+        if (save == &View::saveCSV) {
+            QCOMPARE(dialog, "Save data logger file|CSV - Comma separated values (*.csv)"_s);
+            QVERIFY(written.isEmpty() || text.startsWith("Dateiname: "));
+        } else {
+            QCOMPARE(dialog, "Save oscilloscope|BMP (*.bmp);;JPG (*.jpg);;PNG (*.png);;TIFF (*.tif)"_s);
+            QVERIFY(written.isEmpty() || QPixmap(path(written)).size() == m_view->tabOszi()->row(0)->size());
+        }
     }
 
     void appendedSuffixAsksBeforeOverwriting()
     {
-        QFile existing(path("t.txt"_s));
-        QVERIFY(existing.open(QIODevice::WriteOnly) && existing.write("old") == 3);
-        existing.close();
+        const QString existing = path("t.txt"_s);
+        writeFile(existing, "old");
         m_prompts->saveNames = {path("t"_s), path("t"_s)};
         m_prompts->answers = {QMessageBox::No, QMessageBox::Yes};
         emit m_view->saveTerminal();
-        QCOMPARE(content(existing.fileName()), "old"_ba);
+        QCOMPARE(contentOf(existing), "old"_ba);
         emit m_view->saveTerminal();
-        QVERIFY(content(existing.fileName()).startsWith("Ventaro"));
-    }
-
-    void saveOszi_data()
-    {
-        columns<QString, bool>("chosen", "works");
-        row("png", "o.png", true);
-        for (const QString &offered : {"o.bmp"_s, "o.jpg"_s, "o.tif"_s})
-            row(qPrintable(offered), offered, true);
-        row("unknown format", "o.xyz", false);
-        row("no suffix", "o", false);
-        row("no such folder", "missing/o.png", false);
-    }
-
-    void saveOszi()
-    {
-        QFETCH(QString, chosen);
-        QFETCH(bool, works);
-        m_prompts->saveNames = {path(chosen)};
-        const LogCapture log;
-        emit m_view->saveOszi();
-        QCOMPARE(m_prompts->fileDialogs,
-                 QStringList("Save oscilloscope|BMP (*.bmp);;JPG (*.jpg);;PNG (*.png);;TIFF (*.tif)"_s));
-        QCOMPARE(log.contains("Error saving oscilloscope content!"_s), !works);
-        QCOMPARE(m_view->statusBar()->currentMessage().isEmpty(), works);
-        if (works)
-            QCOMPARE(QPixmap(path(chosen)).size(), m_view->tabOszi()->row(0)->size());
-    }
-
-    void saveCsv_data()
-    {
-        // written: empty: an error
-        columns<QString, QString>("chosen", "written");
-        row("plain", "d", "d.csv");
-        row("capitals", "d.CSV", "d.CSV.csv");
-        row("no such folder", "missing/d.csv", QString());
-    }
-
-    void saveCsv()
-    {
-        QFETCH(QString, chosen);
-        QFETCH(QString, written);
-        m_prompts->saveNames = {path(chosen)};
-        const LogCapture log;
-        emit m_view->saveCSV();
-        QCOMPARE(m_prompts->fileDialogs, QStringList("Save data logger file|CSV - Comma separated values (*.csv)"_s));
-        QCOMPARE(log.contains("Error saving CSV!"_s), written.isEmpty());
-        QCOMPARE(m_view->statusBar()->currentMessage().isEmpty(), !written.isEmpty());
-        QVERIFY(m_prompts->messages.empty());
-        if (!written.isEmpty())
-            QVERIFY(content(path(written)).startsWith("Dateiname: "));
-    }
-
-    void busyModelRefusesExports()
-    {
-        bool tried = false;
-        m_model->setYield([&](int) {
-            tried = true;
-            emit m_view->saveCSV();
-            emit m_view->saveTerminal();
-            emit m_view->saveOszi();
-        });
-        const int series = m_model->appendMeasurement(0);
-        for (int i = 0; i < 400000 && !tried; ++i)
-            m_model->appendSample(0, series, i * 0.37);
-        QVERIFY(m_model->saveCsv(path("big.csv"_s)));
-        m_model->setYield({});
-        QVERIFY(tried);
-        QVERIFY(m_prompts->fileDialogs.isEmpty());
+        QVERIFY(contentOf(existing).startsWith("Ventaro"));
     }
 
     void sampleLine()

@@ -10,19 +10,7 @@
 #include "view/tabevaluation.h"
 #include "view/view.h"
 
-#include <QAbstractButton>
-#include <QAction>
-#include <QCheckBox>
-#include <QDir>
-#include <QLabel>
-#include <QMenu>
-#include <QMessageBox>
-#include <QSettings>
-#include <QStyleOptionButton>
-#include <QTabWidget>
-#include <QTemporaryDir>
-#include <QTest>
-#include <QToolBar>
+#include <QtWidgets>
 
 #include <cmath>
 

@@ -8,14 +8,7 @@
 #include "view/tabterminal.h"
 #include "view/tabwebconfig.h"
 
-#include <QDoubleSpinBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QSignalSpy>
-#include <QSpinBox>
-#include <QTest>
+#include <QtWidgets>
 
 class TestViewTabs : public QObject
 {
@@ -39,18 +32,6 @@ private slots:
         TabTerminal tab;
         tab.addReceived(line);
         QTEST(tab.plainText(), "shown");
-    }
-
-    void terminalShowsAndClears()
-    {
-        TabTerminal tab;
-        tab.show();
-        tab.addSent("run=0"_s);
-        const auto *edit = tab.findChild<QPlainTextEdit *>("editTerminal"_s);
-        QTRY_VERIFY(edit->toPlainText().endsWith("> run=0"_s));
-        tab.addSent("verworfen"_s);
-        QTest::mouseClick(tab.findChild<QPushButton *>("buttonClearTerminal"_s), Qt::LeftButton);
-        QCOMPARE(tab.plainText(), QString());
     }
 
     void terminalKeepsOrderHoweverManyComeAtOnce_data()
