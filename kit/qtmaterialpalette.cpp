@@ -33,6 +33,11 @@ QColor grey500()
     return {0x9e, 0x9e, 0x9e};
 }
 
+QColor red700()
+{
+    return {0xd3, 0x2f, 0x2f};
+}
+
 QColor white()
 {
     return {0xff, 0xff, 0xff};

@@ -9,6 +9,7 @@ namespace QtMaterialPalette {
 [[nodiscard]] QColor grey100();
 [[nodiscard]] QColor grey300();
 [[nodiscard]] QColor grey500();
+[[nodiscard]] QColor red700(); ///< errors
 [[nodiscard]] QColor white();
 
 // Black, more and more transparent.

@@ -1,0 +1,31 @@
+#pragma once
+
+/// How a text field is to look, from what is known of it. Knows nothing of widgets.
+class QtMaterialTextFieldStateMachine
+{
+public:
+    /// Of the underline, and of the label above a field that is in use.
+    enum class State { Resting, Focused, Wrong, Disabled };
+
+    void setEnabled(bool enabled) { m_enabled = enabled; }
+    void setFocused(bool focused) { m_focused = focused; }
+    /// \a filled: there is text in the field.
+    void setFilled(bool filled) { m_filled = filled; }
+    void setLabelled(bool labelled) { m_labelled = labelled; }
+    /// \a wrong: an error is reported for what is in the field.
+    void setWrong(bool wrong) { m_wrong = wrong; }
+
+    [[nodiscard]] State state() const;
+    [[nodiscard]] bool isFocused() const { return m_focused && m_enabled; }
+    /// Else the label lies where the text will be.
+    [[nodiscard]] bool isLabelFloating() const { return m_filled || isFocused(); }
+    /// The placeholder waits until the label is out of its way.
+    [[nodiscard]] bool isPlaceholderShown() const { return !m_filled && (!m_labelled || isLabelFloating()); }
+
+private:
+    bool m_enabled = true;
+    bool m_focused = false;
+    bool m_filled = false;
+    bool m_labelled = false;
+    bool m_wrong = false;
+};
