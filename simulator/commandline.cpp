@@ -26,6 +26,8 @@ void addOptions(QCommandLineParser &parser)
         {text("long-lines"), text("Send a line of more than 1023 bytes before every tenth sample.")},
         {text("burst"), text("Begin each run with so many samples at once."), text("lines"), text("0")},
         {text("data-folder"), text("List the days of this folder, and log every run there."), text("folder")},
+        {text("until-input-closes"),
+         text("End when the standard input ends, as it does with the program that gave it.")},
         {{text("h"), text("help")}, text("Show this help.")},
     });
 }
@@ -100,6 +102,7 @@ CommandLine parseCommandLine(const QStringList &arguments)
     line.box = boxOptions(parser, numbers);
     line.port = numbers.value<quint16>("port", 0, std::numeric_limits<quint16>::max());
     line.error = numbers.error();
+    line.untilInputCloses = parser.isSet(QStringLiteral("until-input-closes"));
     if (!line.address.setAddress(parser.value(QStringLiteral("address"))))
         line.error = QStringLiteral("--address: no IP address");
     if (!parser.positionalArguments().isEmpty())

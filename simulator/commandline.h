@@ -11,6 +11,7 @@ struct CommandLine
     BoxOptions box;
     QHostAddress address = QHostAddress(QHostAddress::LocalHost);
     quint16 port = 2222;
+    bool untilInputCloses = false;
     QString error; ///< not empty: what is wrong with the arguments
     QString help;  ///< not empty: a text to print instead of running
 };

@@ -1,8 +1,11 @@
 #include "simulator/boxsimulator.h"
 #include "simulator/commandline.h"
+#include "simulator/inputwatch.h"
 
 #include <QCoreApplication>
 #include <QTextStream>
+
+#include <optional>
 
 int main(int argc, char *argv[])
 {
@@ -22,6 +25,9 @@ int main(int argc, char *argv[])
                             << box.errorString() << '\n';
         return 1;
     }
+    std::optional<InputWatch> watch;
+    if (line.untilInputCloses)
+        watch.emplace();
     // The port is printed where a script can read it when it asked for any free one.
     QTextStream(stdout) << "listening on " << box.address().toString() << ':' << box.port() << Qt::endl;
     return QCoreApplication::exec();
