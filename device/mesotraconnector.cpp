@@ -5,6 +5,7 @@
 #include "device/scptransfer.h"
 
 #include <QElapsedTimer>
+#include <QHostAddress>
 #include <QPointer>
 #include <QSignalBlocker>
 #include <QTcpSocket>
@@ -55,13 +56,26 @@ void MesotraConnector::createSocket()
 void MesotraConnector::connect(const QString &address)
 {
     qCDebug(lcDevice) << Q_FUNC_INFO;
+    if (!dropForAttempt())
+        return;
+    m_hostAddress = address;
+    m_socket->connectToHost(address, m_port, QIODevice::ReadWrite, QAbstractSocket::AnyIPProtocol);
+}
+
+void MesotraConnector::connectToSimulator(quint16 port)
+{
+    qCDebug(lcDevice) << Q_FUNC_INFO << port;
+    if (dropForAttempt())
+        m_socket->connectToHost(QHostAddress(QHostAddress::LocalHost), port);
+}
+
+/// Drops the link there is. False if a slot of disconnected() has deleted the connector or started another attempt.
+bool MesotraConnector::dropForAttempt()
+{
     const QPointer<MesotraConnector> self(this);
     const quint64 link = m_link + 1;
     dropLink();
-    if (!self || m_link != link)
-        return; // a slot of disconnected() has deleted the connector or started another attempt
-    m_hostAddress = address;
-    m_socket->connectToHost(address, m_port, QIODevice::ReadWrite, QAbstractSocket::AnyIPProtocol);
+    return self && m_link == link;
 }
 
 void MesotraConnector::disconnectFromHost()

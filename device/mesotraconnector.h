@@ -30,6 +30,8 @@ public:
 
     /// Drops any earlier connection, with its undelivered lines, and returns at once; connected() or error() follows.
     void connect(const QString &address);
+    /// As connect(), to a simulated box on this machine. hostAddress() stays that of the real box.
+    void connectToSimulator(quint16 port);
     /// Waits up to 100 ms for pending bytes. Lines not delivered yet are dropped.
     void disconnectFromHost();
     [[nodiscard]] bool isConnected() const { return m_connected; }
@@ -85,6 +87,7 @@ private:
 
     [[nodiscard]] bool isReady() const;
     void createSocket();
+    [[nodiscard]] bool dropForAttempt();
     void sendCommand(const QString &command);
     void waitForWritten();
     void dropLink();

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QByteArray>
+#include <QObject>
+#include <QProcess>
+#include <QString>
+#include <QTimer>
+
+/// Runs the box simulator that comes with the program as a child process on a free port of this machine. No process is
+/// left behind: the simulator ends when its input is closed, which the system does even if the program crashes.
+class DemoBox : public QObject
+{
+    Q_OBJECT
+
+public:
+    static constexpr int kStartTimeout = 5000; ///< ms until the simulator has to listen
+
+    /// `program`: empty for the simulator beside the program.
+    explicit DemoBox(const QString &program = {}, int startTimeout = kStartTimeout);
+    /// Ends the simulator.
+    ~DemoBox() override;
+
+    /// Whether there is a simulator to start; looks at the file.
+    [[nodiscard]] bool isAvailable() const;
+    [[nodiscard]] QString program() const { return m_program; }
+    /// From start() to stop() or failed().
+    [[nodiscard]] bool isActive() const { return m_active; }
+    /// 0 while inactive or not running.
+    [[nodiscard]] qint64 processId() const { return m_process ? m_process->processId() : 0; }
+
+    /// Returns at once; listening() or failed() follows. Does nothing while active.
+    void start();
+    /// Nothing is emitted afterwards. Returns within 100 ms.
+    void stop();
+
+signals:
+    /// The simulator takes connections on this port of 127.0.0.1.
+    void listening(quint16 port);
+    /// The simulator could not be started, did not listen in time or ended by itself. It is inactive by now.
+    void failed(const QString &reason);
+
+private:
+    void readOutput();
+    void fail(const QString &reason);
+
+    QString m_program;
+    QProcess *m_process = nullptr; ///< owned; exists while active
+    QTimer m_startTimer;
+    QByteArray m_output; ///< the beginning of a line
+    bool m_active = false;
+    bool m_listening = false;
+};
