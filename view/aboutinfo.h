@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+#include <QVector>
+
+class Model;
+
+/// What a person who gives support has to know about a program and its box.
+struct AboutFact
+{
+    QString name;
+    QString value;
+};
+
+/// The versions of program, box, Qt and system, in the language in use. The versions of the box are those of the
+/// connected one, else the last that are known.
+[[nodiscard]] QVector<AboutFact> aboutFacts(const Model &model);
+
+/// The facts as plain text, one a line.
+[[nodiscard]] QString aboutText(const QVector<AboutFact> &facts);
+
+/// Something that the program is made of, and its licence.
+struct AboutLicence
+{
+    QString name;
+    QString summary;
+    QString text; ///< whole
+};
+
+/// From the resources, in the language in use but for the texts of the licences.
+[[nodiscard]] QVector<AboutLicence> aboutLicences();
