@@ -1,6 +1,5 @@
 #include "controller/controller.h"
 
-#include "app/theme.h"
 #include "controller/controller_p.h"
 #include "controller/logging.h"
 #include "device/hostaddress.h"
@@ -47,10 +46,13 @@ Controller::Controller(Model *model, View *view, const ControllerOptions &option
     connectUserActions();
     connectTabs();
     connectDevice();
+    connectDemo();
     connectTransfers(options);
     d->view->setAddressValidator(isValidHostAddress);
     d->view->tabOszi()->setSamplingPeriods(samplingPeriodLabels());
     d->view->setDeviceAddress(d->address);
+    if (!d->model->currentFile().isEmpty())
+        d->view->rememberProject(d->model->currentFile());
 }
 
 Controller::~Controller()
@@ -59,6 +61,7 @@ Controller::~Controller()
     d->model->setYield({});
     // The socket's last signals must not find a controller that is half gone.
     d->connector.disconnect(this);
+    d->demo.disconnect(this);
     delete d->progressBar;
 }
 
@@ -116,7 +119,9 @@ void Controller::connectDevice()
     QObject::connect(connector, &MesotraConnector::messageReceived, this, &Controller::onMessageReceived);
     QObject::connect(connector, &MesotraConnector::written, d->view, &View::terminalSent);
     QObject::connect(connector, &MesotraConnector::error, this, [this](QAbstractSocket::SocketError error) {
-        if (d->linkWanted && !waitForRestart(error))
+        if (d->demo.isActive())
+            onDemoFailed(tr("Die Verbindung zum Simulator ist abgebrochen."));
+        else if (d->linkWanted && !waitForRestart(error))
             connectionError(error);
     });
 
@@ -196,10 +201,5 @@ bool Controller::refuseWhileConnecting()
 void Controller::onActionAbout()
 {
     qCDebug(lcController) << Q_FUNC_INFO;
-    if (refuseWhileOccupied())
-        return;
-    const QString text = tr("%1 %2\n\nHardware Version: %3\nFirmware Version: %4\nQt Version: %5")
-                             .arg(theme::applicationName, theme::applicationVersion, d->model->hardwareVersion(),
-                                  d->model->firmwareVersion(), QString::fromLatin1(qVersion()));
-    d->prompt([&] { d->view->showMessage(text, tr("Über Ventaro")); });
+    d->view->showAbout();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "device/demobox.h"
 #include "device/scpprocess.h"
 
 #include <QAbstractSocket>
@@ -29,6 +30,8 @@ struct ControllerOptions
     QString scpToolFile;                ///< empty: "winscp/winscp.com" beside the program
     ScpTimeouts scpTimeouts;
     QString temporaryDirectory = QStringLiteral("tmp-blackbox-dir"); ///< for what is fetched; created when missing
+    QString demoProgram;                                             ///< empty: the simulator beside the program
+    int demoStartTimeout = DemoBox::kStartTimeout;                   ///< ms
     int restartWait = 3000; ///< ms; how long the firmware dialog waits for a connection
 };
 
@@ -55,6 +58,8 @@ public:
     [[nodiscard]] bool areValuesInThousandths() const;
     /// Owned by the controller.
     [[nodiscard]] MesotraConnector *connector() const;
+    /// Of the simulator while the demonstration runs, else 0.
+    [[nodiscard]] qint64 demoProcessId() const;
     /// Copies the "*.bb" files of a folder into another one, over those of the same name. The copies, absolute and
     /// sorted by name; what could not be copied is in the log only.
     QStringList copyLocalDirToTmpDir(const QString &localDirectory, const QDir &temporaryDirectory);
@@ -69,6 +74,11 @@ public slots:
     void onImportBlackBox();
     void onFirmwareUpdate();
     void onActionConnect();
+    /// Leaves the box there may be, after a question.
+    void onConnectToAddress(const QString &address);
+    void onActionDemo();
+    void onDemoListening(quint16 port);
+    void onDemoFailed(const QString &reason);
     void onActionCalibration();
     void onActionStartStopRecording();
     void onActionQuit();
@@ -106,6 +116,7 @@ private:
     void connectUserActions();
     void connectTabs();
     void connectDevice();
+    void connectDemo();
     void showFileProgress(int percent);
     void hideProgressWhenIdle();
     [[nodiscard]] bool isOccupied() const;
@@ -152,6 +163,13 @@ private:
     void connectTo(const QString &address, const QString &progressText);
     void cancelConnecting();
     void leaveDevice();
+    void disconnectBox();
+    void stopDemo();
+    void showDemoState();
+    [[nodiscard]] bool mayStartDemo();
+    [[nodiscard]] bool refuseInDemo();
+    [[nodiscard]] bool mayLeaveForAddress(const QString &address);
+    void showDeferredWarning();
     void matchBoxToProject();
     void describeBoxAgain();
     void reportConnectionError(QAbstractSocket::SocketError error);

@@ -18,9 +18,7 @@ void Controller::onActionConnect()
         return;
     if (d->connector.isConnected()) {
         qCDebug(lcController) << " isConnected -> disconnect!";
-        d->connector.stopMeasurement();
-        stopRecording();
-        leaveDevice();
+        disconnectBox();
     } else if (d->view->isProgressShown()) {
         cancelConnecting();
     } else if (d->address.isEmpty()) {
@@ -29,6 +27,46 @@ void Controller::onActionConnect()
         qCDebug(lcController) << " not connected -> connect!";
         connectTo(d->address, tr("Verbinden ..."));
     }
+}
+
+void Controller::disconnectBox()
+{
+    d->connector.stopMeasurement();
+    stopRecording();
+    leaveDevice();
+}
+
+void Controller::onConnectToAddress(const QString &address)
+{
+    qCDebug(lcController) << Q_FUNC_INFO << address;
+    if (refuseWhileOccupied() || !mayLeaveForAddress(address))
+        return;
+    if (d->connector.isConnected())
+        disconnectBox();
+    else
+        leaveDevice(); // an attempt that may be under way
+    d->address = address;
+    connectTo(address, tr("Verbinden mit %1 ...").arg(address));
+}
+
+/// Asks before a link that works is given up.
+bool Controller::mayLeaveForAddress(const QString &address)
+{
+    if (!isValidHostAddress(address)) {
+        d->view->showStatus(tr("Keine gültige Adresse: %1").arg(address));
+        return false;
+    }
+    if (!d->connector.isConnected())
+        return true;
+    if (!d->demo.isActive() && d->connector.hostAddress() == address) {
+        d->view->showStatus(tr("Ventaro ist mit %1 verbunden.").arg(address));
+        return false;
+    }
+    const QString question =
+        d->demo.isActive()
+            ? tr("Die Demo wird beendet. Mit %1 verbinden?").arg(address)
+            : tr("Die Verbindung zu %1 wird getrennt. Mit %2 verbinden?").arg(d->connector.hostAddress(), address);
+    return d->prompt([&] { return d->view->askYesNo(tr("Verbinden"), question); });
 }
 
 void Controller::connectTo(const QString &address, const QString &progressText)
@@ -55,6 +93,7 @@ void Controller::leaveDevice()
     d->deferredError.reset();
     d->connector.disconnectFromHost();
     d->view->hideProgress(); // of an attempt that may have been under way
+    stopDemo();
 }
 
 // --- The sampling period ---------------------------------------------------------------------------------------
@@ -118,6 +157,10 @@ void Controller::onConnected()
     d->model->blockSignals(false);
     d->model->setConnected(true);
     d->model->emitAppStateChanged();
+    if (d->demo.isActive())
+        showDemoState();
+    else
+        d->view->rememberAddress(d->connector.hostAddress());
     d->connector.setClock(QStringLiteral("100ms"));
     d->boxClock = 100;
     if (d->model->clock() != 100)

@@ -201,7 +201,7 @@ void Controller::handleDeviceDescription(const QString &message)
 
 void Controller::handleDeferred()
 {
-    if (!d->deferredError && !d->receivedProject)
+    if (!d->deferredError && !d->receivedProject && d->deferredWarning.isEmpty())
         return;
     if (isOccupied() || QApplication::activeModalWidget()) {
         d->deferredTimer.start(kRetryInterval);
@@ -209,6 +209,8 @@ void Controller::handleDeferred()
     }
     if (d->deferredError)
         connectionError(*d->deferredError);
+    else if (!d->deferredWarning.isEmpty())
+        showDeferredWarning();
     else
         askAboutReceivedProject();
     d->deferredTimer.start(0);

@@ -40,6 +40,7 @@ struct Controller::Private
         : model(m)
         , view(v)
         , connector(o.port)
+        , demo(o.demoProgram, o.demoStartTimeout)
         , address(o.deviceAddress)
         , temporaryDirectory(o.temporaryDirectory)
         , restartWait(o.restartWait)
@@ -48,6 +49,7 @@ struct Controller::Private
     Model *model;
     View *view;
     MesotraConnector connector;
+    DemoBox demo;    ///< while it is active, the link is or will be to the simulated box
     QString address; ///< what "connect" uses: as configured, then the last one typed in this session
 
     /// Stands in the status bar; the view must not delete it, but may be gone first.
@@ -59,6 +61,7 @@ struct Controller::Private
     QTimer sensorDescriptionTimer;
     QTimer listTimer;
     std::optional<QAbstractSocket::SocketError> deferredError;
+    QString deferredWarning;
     std::optional<DeviceDescription> deviceDescription; ///< as the connected box gave it, like the next
     std::optional<SensorDescription> sensorDescription;
     int boxClock = 0;        ///< ms, the sampling period that the box was last asked for or has reported

@@ -2,6 +2,7 @@
 #include "controller/controller_p.h"
 #include "controller/logging.h"
 #include "model/model.h"
+#include "view/tabhome.h"
 #include "view/taboszilloscope.h"
 #include "view/tabproject.h"
 #include "view/view.h"
@@ -96,8 +97,10 @@ void Controller::onOpenProject()
 void Controller::onOpenProjectFile(const QString &fileName)
 {
     qCDebug(lcController) << Q_FUNC_INFO << fileName;
-    if (!refuseWhileOccupied())
-        replaceProject(fileName);
+    if (refuseWhileOccupied())
+        return;
+    d->view->commitInput();
+    replaceProject(fileName);
 }
 
 void Controller::replaceProject(const QString &fileName)
@@ -124,7 +127,10 @@ void Controller::openFile(const QString &fileName)
     if (d->model->structureRevision() != structure)
         d->series.clear();
     showDeviceState();
-    if (!opened)
+    d->view->tabHome()->refreshRecentProjects(); // the file may be gone
+    if (opened)
+        d->view->rememberProject(d->model->currentFile());
+    else
         d->prompt([&] { d->view->showWarning(tr("Cannot open file %1 !.").arg(fileName), tr("Problem")); });
 }
 
@@ -185,9 +191,10 @@ bool Controller::saveTo(const QString &fileName)
                                     "Zeitstempel der Auswertung konnten nicht gespeichert werden!"),
                                  tr("Problem"));
         });
-    if (saved)
+    if (saved) {
+        d->view->rememberProject(d->model->currentFile());
         d->view->showStatus(tr("Projekt gespeichert: %1").arg(fileName));
-    else
+    } else
         d->prompt([this] { d->view->showWarning(tr("Das Projekt konnte nicht gespeichert werden!"), tr("Problem")); });
     return saved;
 }

@@ -108,7 +108,7 @@ void Controller::showTransferMessage(const ScpMessage &message)
 void Controller::onTabBlackBox_fetchBlackBoxDataClicked()
 {
     qCDebug(lcController) << Q_FUNC_INFO;
-    if (refuseWhileOccupied() || refuseWhileConnecting())
+    if (refuseWhileOccupied() || refuseWhileConnecting() || refuseInDemo())
         return;
     const QStringList dates = d->view->tabBlackBox()->selectedDates();
     for (const QString &date : dates) {
@@ -209,7 +209,7 @@ QStringList Controller::copyLocalDirToTmpDir(const QString &localDirectory, cons
 void Controller::onFirmwareUpdate()
 {
     qCDebug(lcController) << Q_FUNC_INFO;
-    if (refuseWhileOccupied() || refuseWhileConnecting())
+    if (refuseWhileOccupied() || refuseWhileConnecting() || refuseInDemo())
         return;
     d->prompt([this] {
         UpdateDialog dialog(d->view, &d->connector, d->address, d->restartWait);

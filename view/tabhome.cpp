@@ -1,13 +1,19 @@
 #include "view/tabhome.h"
 
 #include "app/theme.h"
+#include "kit/qtmaterialraisedbutton.h"
+#include "kit/shadowframe.h"
 #include "model/model.h"
+#include "model/recentlist.h"
+#include "view/actionicon.h"
+#include "view/boxstatecard.h"
 #include "view/logging.h"
+#include "view/recentbutton.h"
+#include "view/recentprojectlist.h"
 #include "view/tabstyle.h"
 
 #include <QAction>
 #include <QEvent>
-#include <QFileInfo>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -18,9 +24,17 @@
 
 namespace {
 
-enum Fact { Box, Recording, Project, Shots, NumFacts };
-constexpr int kButtonWidth = 380;
-constexpr int kMargin = 48;
+constexpr int kMargin = 20;
+constexpr int kGap = 16;
+constexpr int kWidestPage = 1900;
+constexpr int kButtonWidth = 270;
+
+ShadowFrame *createCard(QWidget *page)
+{
+    auto *card = new ShadowFrame(page);
+    card->setObjectName(QStringLiteral("homeCard"));
+    return card;
+}
 
 } // namespace
 
@@ -28,119 +42,165 @@ struct TabHome::Private
 {
     Model *model = nullptr;
     QAction *connectAction = nullptr;
-    QString address;
-    bool recording = false;
+    BoxLink link;
+    DemoState demo = DemoState::Unavailable;
+    QStringList addresses;
+
     QLabel *subtitle = nullptr;
-    QLabel *stateHeading = nullptr;
     QPushButton *connectButton = nullptr;
     QPushButton *newButton = nullptr;
     QPushButton *openButton = nullptr;
-    std::array<QLabel *, NumFacts> names{};
-    std::array<QLabel *, NumFacts> values{};
+    QPushButton *demoButton = nullptr;
+    QLabel *demoHint = nullptr;
+    QLabel *addressHeading = nullptr;
+    QLabel *noAddresses = nullptr;
+    QLabel *projectHeading = nullptr;
+    std::array<RecentButton *, recentlist::kMaxRecent> addressButtons{};
+    RecentProjectList *projects = nullptr;
+    BoxStateCard *state = nullptr;
 
-    [[nodiscard]] QVBoxLayout *createHead(QWidget *page);
-    [[nodiscard]] QVBoxLayout *createButtons(QWidget *page);
-    [[nodiscard]] QVBoxLayout *createState(QWidget *page);
-    [[nodiscard]] QString boxText() const;
-    [[nodiscard]] QString projectText() const;
-    void set(Fact fact, const QString &text) { values[fact]->setText(text); }
+    void layOut(QWidget *page);
+    [[nodiscard]] QHBoxLayout *createHead(QWidget *page);
+    [[nodiscard]] static QPushButton *createButton(QWidget *page, const char *name, const QString &icon);
+    [[nodiscard]] QWidget *createBoxCard(QWidget *page);
+    [[nodiscard]] QVBoxLayout *createAddresses(QWidget *card);
+    [[nodiscard]] QWidget *createStateCard(QWidget *page);
+    [[nodiscard]] QWidget *createProjectCard(QWidget *page);
 };
 
-QVBoxLayout *TabHome::Private::createHead(QWidget *page)
+QHBoxLayout *TabHome::Private::createHead(QWidget *page)
 {
     auto *picture = new QLabel(page);
     picture->setPixmap(QPixmap(theme::logoPath));
     picture->setAccessibleName(theme::applicationName);
     subtitle = new QLabel(page);
     subtitle->setStyleSheet(QStringLiteral("QLabel {font-size: 22px; color: %1;}").arg(theme::colorDark));
-    auto *head = new QVBoxLayout;
-    head->setSpacing(16);
-    head->addWidget(picture, 0, Qt::AlignLeft);
-    head->addWidget(subtitle);
+    auto *head = new QHBoxLayout;
+    head->setContentsMargins(ShadowFrame::kShadow, 0, ShadowFrame::kShadow, 0);
+    head->setSpacing(24);
+    head->addWidget(picture);
+    head->addWidget(subtitle, 1, Qt::AlignBottom);
     return head;
 }
 
-QVBoxLayout *TabHome::Private::createButtons(QWidget *page)
+QPushButton *TabHome::Private::createButton(QWidget *page, const char *name, const QString &icon)
 {
+    auto *button = new QtMaterialRaisedButton(page);
+    button->setObjectName(QLatin1String(name));
+    tabstyle::makeLarge(button, icon);
+    button->setStyleSheet(button->styleSheet() + QStringLiteral("QPushButton {min-width: %1px;}").arg(kButtonWidth));
+    return button;
+}
+
+QWidget *TabHome::Private::createBoxCard(QWidget *page)
+{
+    ShadowFrame *card = createCard(page);
+    connectButton = createButton(card, "buttonHomeConnect", QStringLiteral("wifi.png"));
+    demoButton = createButton(card, "buttonHomeDemo", QStringLiteral("play.png"));
+    demoHint = new QLabel(card);
+    demoHint->setObjectName(QStringLiteral("labelDemoHint"));
+    tabstyle::makeHint(demoHint);
+    demoHint->setFixedWidth(kButtonWidth);
+    auto *buttons = new QVBoxLayout;
+    buttons->setSpacing(kGap);
+    buttons->addWidget(connectButton);
+    buttons->addWidget(demoButton);
+    buttons->addWidget(demoHint);
+    buttons->addStretch(1);
+    auto *row = new QHBoxLayout(card);
+    row->setContentsMargins(kGap, kGap, kGap, kGap);
+    row->setSpacing(kMargin);
+    row->addLayout(buttons);
+    row->addLayout(createAddresses(card), 1);
+    return card;
+}
+
+QVBoxLayout *TabHome::Private::createAddresses(QWidget *card)
+{
+    addressHeading = new QLabel(card);
+    tabstyle::makeHeading(addressHeading);
+    noAddresses = new QLabel(card);
+    tabstyle::makeHint(noAddresses);
     auto *column = new QVBoxLayout;
-    column->setSpacing(16);
-    const auto add = [&](const char *name, const QString &icon) {
-        auto *button = new QPushButton(page);
-        button->setObjectName(QLatin1String(name));
-        button->setMinimumWidth(kButtonWidth);
-        tabstyle::makeLarge(button, icon);
+    column->setSpacing(4);
+    column->addWidget(addressHeading);
+    column->addWidget(noAddresses);
+    int number = 1;
+    for (RecentButton *&button : addressButtons) {
+        button = new RecentButton(card);
+        button->setObjectName(QStringLiteral("buttonRecentAddress%1").arg(number++));
         column->addWidget(button);
-        return button;
-    };
-    connectButton = add("buttonHomeConnect", QStringLiteral("wifi.png"));
-    newButton = add("buttonHomeNew", QStringLiteral("file-plus.png"));
-    openButton = add("buttonHomeOpen", QStringLiteral("folder-open.png"));
+    }
     column->addStretch(1);
     return column;
 }
 
-QVBoxLayout *TabHome::Private::createState(QWidget *page)
+QWidget *TabHome::Private::createStateCard(QWidget *page)
 {
-    stateHeading = new QLabel(page);
-    tabstyle::makeHeading(stateHeading);
-    auto *grid = new QGridLayout;
-    grid->setHorizontalSpacing(24);
-    grid->setVerticalSpacing(8);
-    grid->setRowStretch(NumFacts, 1);
-    grid->setColumnStretch(1, 1);
-    for (int i = 0; i < NumFacts; ++i) {
-        auto *name = new QLabel(page);
-        auto *value = new QLabel(page);
-        value->setObjectName(QStringLiteral("labelHomeState%1").arg(i + 1));
-        value->setWordWrap(true);
-        value->setTextFormat(Qt::PlainText);
-        value->setStyleSheet(QStringLiteral("QLabel {font: bold 18px;}"));
-        grid->addWidget(name, i, 0, Qt::AlignTop);
-        grid->addWidget(value, i, 1, Qt::AlignTop);
-        names[static_cast<std::size_t>(i)] = name;
-        values[static_cast<std::size_t>(i)] = value;
-    }
-    auto *column = new QVBoxLayout;
-    column->setSpacing(12);
-    column->addWidget(stateHeading);
-    column->addLayout(grid, 1);
-    return column;
+    ShadowFrame *card = createCard(page);
+    state = new BoxStateCard(card);
+    auto *column = new QVBoxLayout(card);
+    column->setContentsMargins(kGap, kGap, kGap, kGap);
+    column->addWidget(state);
+    return card;
 }
 
-QString TabHome::Private::boxText() const
+QWidget *TabHome::Private::createProjectCard(QWidget *page)
 {
-    if (!model->isConnected())
-        return tr("Nicht verbunden");
-    const QString versions =
-        model->hardwareVersion().isEmpty()
-            ? QString()
-            : tr(" (Hardware %1, Firmware %2)").arg(model->hardwareVersion(), model->firmwareVersion());
-    return (address.isEmpty() ? tr("Verbunden") : tr("Verbunden mit %1").arg(address)) + versions;
+    ShadowFrame *card = createCard(page);
+    newButton = createButton(card, "buttonHomeNew", QStringLiteral("file-plus.png"));
+    openButton = createButton(card, "buttonHomeOpen", QStringLiteral("folder-open.png"));
+    projectHeading = new QLabel(card);
+    tabstyle::makeHeading(projectHeading);
+    projects = new RecentProjectList(card);
+    auto *buttons = new QVBoxLayout;
+    buttons->setSpacing(kGap);
+    buttons->addWidget(newButton);
+    buttons->addWidget(openButton);
+    buttons->addStretch(1);
+    auto *list = new QVBoxLayout;
+    list->setSpacing(4);
+    list->addWidget(projectHeading);
+    list->addWidget(projects, 1);
+    auto *row = new QHBoxLayout(card);
+    row->setContentsMargins(kGap, kGap, kGap, kGap);
+    row->setSpacing(kMargin);
+    row->addLayout(buttons);
+    row->addLayout(list, 1);
+    return card;
 }
 
-QString TabHome::Private::projectText() const
+void TabHome::Private::layOut(QWidget *page)
 {
-    const QString file = QFileInfo(model->currentFile()).fileName();
-    const QString name = model->projectData().name;
-    if (file.isEmpty())
-        return name.isEmpty() ? tr("Noch nicht gespeichert") : name;
-    return name.isEmpty() ? file : tr("%1 (%2)").arg(name, file);
+    auto *content = new QWidget(page);
+    content->setMaximumWidth(kWidestPage);
+    auto *grid = new QGridLayout(content);
+    constexpr int kEdge = kMargin - ShadowFrame::kShadow; // the cards keep a distance of their own
+    grid->setContentsMargins(kEdge, kGap, kEdge, kEdge);
+    grid->setSpacing(0);
+    grid->addLayout(createHead(content), 0, 0, 1, 2);
+    grid->addWidget(createBoxCard(content), 1, 0);
+    grid->addWidget(createStateCard(content), 1, 1);
+    grid->addWidget(createProjectCard(content), 2, 0, 1, 2);
+    grid->setColumnStretch(0, 3);
+    grid->setColumnStretch(1, 2);
+    grid->setRowStretch(3, 1);
+    auto *row = new QHBoxLayout(page);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(content, 1);
+    row->addStretch(0);
 }
 
 TabHome::TabHome(QWidget *parent)
     : QWidget(parent)
     , d(std::make_unique<Private>())
 {
-    QWidget *page = tabstyle::addScrolledPage(this);
-    auto *columns = new QHBoxLayout;
-    columns->setSpacing(kMargin);
-    auto *rows = new QVBoxLayout(page);
-    rows->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    rows->setSpacing(kMargin);
-    rows->addLayout(d->createHead(page));
-    columns->addLayout(d->createButtons(page));
-    columns->addLayout(d->createState(page), 1);
-    rows->addLayout(columns, 1);
+    d->layOut(tabstyle::addScrolledPage(this));
+    connect(d->demoButton, &QPushButton::clicked, this, &TabHome::demoClicked);
+    connect(d->projects, &RecentProjectList::openRequested, this, &TabHome::openRequested);
+    connect(d->projects, &RecentProjectList::removeRequested, this, &TabHome::projectRemoved);
+    for (const RecentButton *button : d->addressButtons)
+        connect(button, &RecentButton::clicked, this, [this, button] { emit connectRequested(button->title()); });
     retranslateUi();
 }
 
@@ -164,25 +224,56 @@ void TabHome::setModel(Model *model)
 
 void TabHome::setAddress(const QString &address)
 {
-    d->address = address;
+    d->link.address = address;
+    updateFromModel();
+}
+
+void TabHome::setConnecting(bool connecting)
+{
+    d->link.isConnecting = connecting;
     updateFromModel();
 }
 
 void TabHome::setRecording(bool running)
 {
-    d->recording = running;
+    d->link.isRecording = running;
     updateFromModel();
+}
+
+void TabHome::setDemoState(DemoState state)
+{
+    d->demo = state;
+    d->link.isDemo = state == DemoState::Starting || state == DemoState::Running;
+    updateDemo();
+    updateFromModel();
+}
+
+void TabHome::setRecentProjects(const QStringList &files)
+{
+    d->projects->setFiles(files);
+    updateProjectHeading();
+}
+
+void TabHome::updateProjectHeading()
+{
+    d->projectHeading->setText(d->projects->isEmpty() ? tr("So geht es los") : tr("Zuletzt geöffnet"));
+}
+
+void TabHome::refreshRecentProjects()
+{
+    d->projects->refresh();
+}
+
+void TabHome::setRecentAddresses(const QStringList &addresses)
+{
+    d->addresses = addresses;
+    updateAddresses();
 }
 
 void TabHome::updateFromModel()
 {
-    if (!d->model)
-        return;
-    const int shots = d->model->numChannels(0);
-    d->set(Box, d->boxText());
-    d->set(Recording, d->recording ? tr("Läuft") : tr("Gestoppt"));
-    d->set(Project, d->projectText());
-    d->set(Shots, shots == 0 ? tr("Noch keine") : QString::number(shots));
+    if (d->model)
+        d->state->showState(*d->model, d->link);
 }
 
 void TabHome::updateConnectText()
@@ -191,6 +282,32 @@ void TabHome::updateConnectText()
         return;
     d->connectButton->setText(d->connectAction->text());
     d->connectButton->setEnabled(d->connectAction->isEnabled());
+}
+
+void TabHome::updateDemo()
+{
+    const bool available = d->demo != DemoState::Unavailable;
+    d->demoButton->setEnabled(available);
+    d->demoButton->setText(d->link.isDemo ? tr("&Demo beenden") : tr("&Demo starten"));
+    const QString icon = d->link.isDemo ? QStringLiteral("stop.png") : QStringLiteral("play.png");
+    d->demoButton->setIcon(actionIcon(icon, theme::qColorBackground));
+    d->demoHint->setText(available ? tr("Keine Box zur Hand? Die Demo zeigt Ventaro mit einer simulierten Box.")
+                                   : tr("Die Demo ist nicht verfügbar: Das Programm \"ventaro-box-simulator\" liegt "
+                                        "nicht neben Ventaro."));
+}
+
+void TabHome::updateAddresses()
+{
+    d->noAddresses->setText(tr("Noch keine. Jede Box, mit der die Verbindung gelungen ist, steht hier bereit."));
+    d->noAddresses->setVisible(d->addresses.isEmpty());
+    for (std::size_t i = 0; i < d->addressButtons.size(); ++i) {
+        const QString address = d->addresses.value(static_cast<int>(i));
+        RecentButton *button = d->addressButtons[i];
+        button->setEntry(address);
+        button->setToolTip(tr("Mit %1 verbinden").arg(address));
+        button->setAccessibleName(button->toolTip());
+        button->setVisible(!address.isEmpty());
+    }
 }
 
 void TabHome::changeEvent(QEvent *event)
@@ -203,13 +320,12 @@ void TabHome::changeEvent(QEvent *event)
 void TabHome::retranslateUi()
 {
     d->subtitle->setText(tr("Prozessüberwachung für Spritzgießwerkzeuge"));
-    d->stateHeading->setText(tr("Stand"));
+    d->addressHeading->setText(tr("Zuletzt verbunden"));
+    updateProjectHeading();
     d->newButton->setText(tr("&Neues Projekt"));
     d->openButton->setText(tr("Projekt &öffnen..."));
-    const std::array<QString, NumFacts> names{tr("Mesotra Box:"), tr("Aufzeichnung:"), tr("Projekt:"),
-                                              tr("Messungen:")};
-    for (std::size_t i = 0; i < names.size(); ++i)
-        d->names[i]->setText(names[i]);
     updateConnectText();
+    updateDemo();
+    updateAddresses();
     updateFromModel();
 }

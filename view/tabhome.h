@@ -1,5 +1,7 @@
 #pragma once
 
+#include "view/demostate.h"
+
 #include <QWidget>
 
 #include <memory>
@@ -7,7 +9,7 @@
 class Model;
 class QAction;
 
-/// The start page: what the program is, large buttons for the first steps, and the state of box and project.
+/// The start page: large buttons for the first steps, what was used last, and the state of the box.
 class TabHome : public QWidget
 {
     Q_OBJECT
@@ -19,16 +21,33 @@ public:
     /// The buttons trigger these actions and are enabled as they are. The actions must outlive the tab.
     void setActions(QAction *connectBox, QAction *newProject, QAction *openProject);
     void setModel(Model *model);
+    /// Of the box that is or would be connected.
     void setAddress(const QString &address);
+    void setConnecting(bool connecting);
     void setRecording(bool running);
-    /// Connection, project and number of shots, from the model.
+    void setDemoState(DemoState state);
+    /// The newest first.
+    void setRecentProjects(const QStringList &files);
+    /// Looks again which of them are there.
+    void refreshRecentProjects();
+    void setRecentAddresses(const QStringList &addresses);
+    /// Connection and number of shots, from the model.
     void updateFromModel();
+
+signals:
+    void connectRequested(const QString &address);
+    void openRequested(const QString &file);
+    void projectRemoved(const QString &file);
+    void demoClicked();
 
 protected:
     void changeEvent(QEvent *event) override;
 
 private:
     void updateConnectText();
+    void updateDemo();
+    void updateAddresses();
+    void updateProjectHeading();
     void retranslateUi();
 
     struct Private;

@@ -6,6 +6,7 @@
 #include "view/logging.h"
 #include "view/sidetabs.h"
 #include "view/tabdatalogger.h"
+#include "view/tabhome.h"
 #include "view/tabsensors.h"
 #include "view/tabterminal.h"
 #include "view/viewprivate.h"
@@ -117,12 +118,14 @@ void View::showProgress(const QString &text)
 {
     qCDebug(lcView) << Q_FUNC_INFO << text;
     d->progress->showText(text);
+    d->tabHome->setConnecting(true);
 }
 
 void View::hideProgress()
 {
     qCDebug(lcView) << Q_FUNC_INFO;
     d->progress->hide();
+    d->tabHome->setConnecting(false);
 }
 
 bool View::isProgressShown() const

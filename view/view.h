@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/sensordescription.h"
+#include "view/demostate.h"
 #include "view/userprompts.h"
 
 #include <QMainWindow>
@@ -67,7 +68,8 @@ public:
     [[nodiscard]] QString askSaveFile(const QString &title, const QString &filter);
     [[nodiscard]] QString askFolder(const QString &title);
     [[nodiscard]] std::optional<QString> askAddress(const QString &current);
-    /// Which texts askAddress() lets through; until it is called every text that is not blank.
+    /// Which texts askAddress() lets through, and which of the addresses remembered are offered; until it is called
+    /// every text that is not blank.
     void setAddressValidator(std::function<bool(const QString &)> isValid);
 
     // --- State shown ---
@@ -88,6 +90,12 @@ public:
     /// Adds a widget at the right of the status bar (the controller's progress bar); not owned afterwards by the view.
     void addStatusWidget(QWidget *widget);
     void setDeviceAddress(const QString &address);
+    void setDemoState(DemoState state);
+    /// Offered on the start page, also after the next start of the program.
+    void rememberProject(const QString &file);
+    void rememberAddress(const QString &address);
+    /// Opens the dialog with the versions and licences, or brings it to the front. Not modal.
+    void showAbout();
     void writeSettings();
     /// Takes over what is being typed into a field that waits for the end of the input.
     void commitInput();
@@ -112,6 +120,8 @@ signals:
     void calibrate();
     void startStopRecording();
     void quit();
+    void connectToAddress(const QString &address);
+    void startStopDemo();
     void openImportBlackBoxData();
     void saveOszi();
     void saveCSV();
@@ -127,7 +137,7 @@ signals:
     void imageButtonClicked();
     void imageLabelClicked();
     void offsetChanged(double offset);
-    /// The user named a project file to open otherwise than in a dialog, for example dropped it onto the window.
+    /// The user named a project file to open otherwise than in a dialog: on the start page, or dropped onto the window.
     void openProjectFile(const QString &fileName);
     /// The user gave up an attempt to connect.
     void progressCancelled();

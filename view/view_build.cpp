@@ -138,6 +138,7 @@ void View::Private::createTabKeys()
 
 void View::Private::createStatusBar()
 {
+    createDemoLabel();
     fileLabel = new QLabel(q);
     fileLabel->setObjectName(QStringLiteral("labelProjectFile"));
     fileLabel->setTextFormat(Qt::PlainText);
@@ -214,7 +215,7 @@ void View::Private::connectLanguages()
 void View::Private::connectTabs()
 {
     QObject::connect(tabs, &QTabWidget::currentChanged, q, &View::onTabSelected);
-    tabHome->setActions(actions.connectBox, actions.newProject, actions.openProject);
+    connectHome();
     QObject::connect(tabProject, &TabProject::commentChanged, q, &View::commentChanged);
     QObject::connect(tabLogger, &TabDataLogger::clearRequested, q, &View::clearLogger);
     QObject::connect(tabLogger, &TabDataLogger::headlineRequested, q, &View::loggerHeadline);
@@ -256,6 +257,7 @@ void View::Private::readSettings()
     q->resize(size.isEmpty() ? kDefaultSize : size);
     q->move(isReachable(position, q->size()) ? position : kDefaultPosition);
     lastDir = stored.value(QStringLiteral("lastDir")).toString();
+    readRecent();
     const QString language = stored.value(QStringLiteral("language")).toString();
     languages.loadLanguage(languages.isOffered(language) ? language : languages.language());
 }
@@ -287,5 +289,6 @@ void View::Private::retranslate()
     showRecordingTexts();
     if (link != Link::Unknown)
         showLink(link == Link::Connected);
+    demoLabel->setText(tr("Demonstration"));
     refreshFileLabel();
 }

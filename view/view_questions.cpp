@@ -140,5 +140,7 @@ std::optional<QString> View::askAddress(const QString &current)
 
 void View::setAddressValidator(std::function<bool(const QString &)> isValid)
 {
+    d->isValidAddress = isValid;
     d->prompts->setAddressValidator(std::move(isValid));
+    d->readRecent(); // what the settings hold may be no address
 }

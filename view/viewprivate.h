@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <QVector>
 
+class AboutDialog;
 class ConnectionProgress;
 class QLabel;
 class SideTabWidget;
@@ -44,7 +45,9 @@ struct View::Private
     TabTerminal *tabTerminal = nullptr;
     TabBlackBox *tabBlackBox = nullptr;
     QLabel *fileLabel = nullptr;
+    QLabel *demoLabel = nullptr;
     ConnectionProgress *progress = nullptr;
+    AboutDialog *about = nullptr; ///< created when it is first asked for
 
     Link link = Link::Unknown;
     bool recording = false;
@@ -52,6 +55,9 @@ struct View::Private
     bool dataPending = false;
     bool projectPending = false;
     QString lastDir;
+    QStringList recentProjects;
+    QStringList recentAddresses;
+    std::function<bool(const QString &)> isValidAddress;
     QVector<Message> waitingMessages;
     QTimer dataTimer;    // bundles data changes
     QTimer projectTimer; // bundles changes of description and settings
@@ -64,14 +70,18 @@ struct View::Private
     void createTabs();
     void createTabKeys();
     void createStatusBar();
+    void createDemoLabel();
     void createTimers();
     void connectActions();
     void connectExports();
     void connectTabs();
+    void connectHome();
     void relayOsziControls();
     void connectModel();
     void connectLanguages();
     void readSettings();
+    void readRecent();
+    void storeRecentProjects();
     void retranslate();
 
     // --- State ---

@@ -2,6 +2,116 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="de">
 <context>
+    <name>AboutDialog</name>
+    <message>
+        <source>Kopiert</source>
+        <translation>Copied</translation>
+    </message>
+    <message>
+        <source>&amp;Versionen kopieren</source>
+        <translation>Copy &amp;versions</translation>
+    </message>
+    <message>
+        <source>Über %1</source>
+        <translation>About %1</translation>
+    </message>
+    <message>
+        <source>Prozessüberwachung für Spritzgießwerkzeuge</source>
+        <translation>Process monitoring for injection moulds</translation>
+    </message>
+    <message>
+        <source>Versionen</source>
+        <translation>Versions</translation>
+    </message>
+    <message>
+        <source>Lizenzen</source>
+        <translation>Licences</translation>
+    </message>
+    <message>
+        <source>Text der Lizenz</source>
+        <translation>Text of the licence</translation>
+    </message>
+    <message>
+        <source>Kopiert die Versionen als Text für eine Anfrage beim Hersteller</source>
+        <translation>Copies the versions as text for a question to the manufacturer</translation>
+    </message>
+    <message>
+        <source>&amp;Schließen</source>
+        <translation>&amp;Close</translation>
+    </message>
+</context>
+<context>
+    <name>AboutInfo</name>
+    <message>
+        <source>unbekannt</source>
+        <translation>unknown</translation>
+    </message>
+    <message>
+        <source>nicht verbunden</source>
+        <translation>not connected</translation>
+    </message>
+    <message>
+        <source>%1 (zuletzt bekannt, nicht verbunden)</source>
+        <translation>%1 (last known, not connected)</translation>
+    </message>
+    <message>
+        <source>%1 (übersetzt mit %2)</source>
+        <translation>%1 (compiled with %2)</translation>
+    </message>
+    <message>
+        <source>Programm</source>
+        <translation>Program</translation>
+    </message>
+    <message>
+        <source>Projektdatei</source>
+        <translation>Project file</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Version %1</translation>
+    </message>
+    <message>
+        <source>Hersteller</source>
+        <translation>Manufacturer</translation>
+    </message>
+    <message>
+        <source>Hardware der Box</source>
+        <translation>Hardware of the box</translation>
+    </message>
+    <message>
+        <source>Firmware der Box</source>
+        <translation>Firmware of the box</translation>
+    </message>
+    <message>
+        <source>Betriebssystem</source>
+        <translation>Operating system</translation>
+    </message>
+    <message>
+        <source>Systemkern</source>
+        <translation>Kernel</translation>
+    </message>
+    <message>
+        <source>Plattform</source>
+        <translation>Platform</translation>
+    </message>
+    <message>
+        <source>Oberfläche und Netzwerk, dynamisch gebunden. LGPL Version 3.</source>
+        <translation>User interface and network, linked dynamically. LGPL version 3.</translation>
+    </message>
+    <message>
+        <source>Die LGPL Version 3 von Qt nimmt auf sie Bezug.</source>
+        <translation>The LGPL version 3 of Qt refers to it.</translation>
+    </message>
+    <message>
+        <source>Schriften Regular, Medium und Bold, Copyright 2015 Google Inc. Apache 2.0.</source>
+        <translation>Fonts Regular, Medium and Bold, copyright 2015 Google Inc. Apache 2.0.</translation>
+    </message>
+    <message>
+        <source>Symbole. Apache 2.0.</source>
+        <translation>Icons. Apache 2.0.</translation>
+    </message>
+</context>
+<context>
     <name>BlackBoxDays</name>
     <message>
         <source>Lokale Dateien</source>
@@ -48,6 +158,77 @@
     </message>
 </context>
 <context>
+    <name>BoxStateCard</name>
+    <message>
+        <source>Nicht verbunden</source>
+        <translation>Not connected</translation>
+    </message>
+    <message>
+        <source>Aufzeichnung läuft</source>
+        <translation>Recording</translation>
+    </message>
+    <message>
+        <source>Verbunden</source>
+        <translation>Connected</translation>
+    </message>
+    <message>
+        <source>Verbindung wird aufgebaut ...</source>
+        <translation>Connecting ...</translation>
+    </message>
+    <message>
+        <source>Demo: Die Werte sind nicht gemessen.</source>
+        <translation>Demo: the values are not measured.</translation>
+    </message>
+    <message>
+        <source>Adresse:</source>
+        <translation>Address:</translation>
+    </message>
+    <message>
+        <source>Gerät:</source>
+        <translation>Device:</translation>
+    </message>
+    <message>
+        <source>Bezeichnung:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source>Hardware:</source>
+        <translation>Hardware:</translation>
+    </message>
+    <message>
+        <source>Firmware:</source>
+        <translation>Firmware:</translation>
+    </message>
+    <message>
+        <source>Abtastrate:</source>
+        <translation>Sampling period:</translation>
+    </message>
+    <message>
+        <source>Sensoren:</source>
+        <translation>Sensors:</translation>
+    </message>
+    <message>
+        <source>Messungen:</source>
+        <translation>Measurements:</translation>
+    </message>
+    <message>
+        <source>Simulator auf diesem Rechner</source>
+        <translation>Simulator on this computer</translation>
+    </message>
+    <message>
+        <source>Mesotra, Typ %1</source>
+        <translation>Mesotra, type %1</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>Noch keine</source>
+        <translation>None yet</translation>
+    </message>
+</context>
+<context>
     <name>ColoredButton</name>
     <message>
         <source>Farbe %1, Klick öffnet die Farbauswahl</source>
@@ -82,22 +263,6 @@
     <message>
         <source>Bitte warten, bis der laufende Vorgang beendet ist.</source>
         <translation>Please wait until the current operation has finished.</translation>
-    </message>
-    <message>
-        <source>%1 %2
-
-Hardware Version: %3
-Firmware Version: %4
-Qt Version: %5</source>
-        <translation>%1 %2
-
-Hardware version: %3
-Firmware version: %4
-Qt version: %5</translation>
-    </message>
-    <message>
-        <source>Über Ventaro</source>
-        <translation>About Ventaro</translation>
     </message>
     <message>
         <source>Verbinden ...</source>
@@ -316,6 +481,62 @@ Import it again?</translation>
 Noch einmal importieren?</source>
         <translation>%1 of the files are already in this project.
 Import them again?</translation>
+    </message>
+    <message>
+        <source>Die Verbindung zum Simulator ist abgebrochen.</source>
+        <translation>The connection to the simulator was lost.</translation>
+    </message>
+    <message>
+        <source>Ventaro ist mit %1 verbunden.</source>
+        <translation>Ventaro is connected to %1.</translation>
+    </message>
+    <message>
+        <source>Die Demo wird beendet. Mit %1 verbinden?</source>
+        <translation>The demo will end. Connect to %1?</translation>
+    </message>
+    <message>
+        <source>Die Verbindung zu %1 wird getrennt. Mit %2 verbinden?</source>
+        <translation>The connection to %1 will be closed. Connect to %2?</translation>
+    </message>
+    <message>
+        <source>Verbinden</source>
+        <translation>Connect</translation>
+    </message>
+    <message>
+        <source>Die Demo wird gestartet ...</source>
+        <translation>Starting the demo ...</translation>
+    </message>
+    <message>
+        <source>Die Verbindung zur Box wird getrennt.</source>
+        <translation>The connection to the box will be closed.</translation>
+    </message>
+    <message>
+        <source>Was in der Demo aufgezeichnet wird, kommt in das geöffnete Projekt.</source>
+        <translation>What is recorded in the demo is added to the open project.</translation>
+    </message>
+    <message>
+        <source>Demo starten?</source>
+        <translation>Start the demo?</translation>
+    </message>
+    <message>
+        <source>Demo</source>
+        <translation>Demo</translation>
+    </message>
+    <message>
+        <source>Die Demo ist beendet.
+
+%1</source>
+        <translation>The demo has ended.
+
+%1</translation>
+    </message>
+    <message>
+        <source>Die Demo ist beendet.</source>
+        <translation>The demo has ended.</translation>
+    </message>
+    <message>
+        <source>Das ist in der Demo nicht möglich: Die simulierte Box hat keinen Speicher.</source>
+        <translation>Not possible in the demo: the simulated box has no storage.</translation>
     </message>
 </context>
 <context>
@@ -834,6 +1055,37 @@ double click fits the value range.</translation>
     <message>
         <source>Schuss</source>
         <translation>Shot</translation>
+    </message>
+</context>
+<context>
+    <name>RecentProjectList</name>
+    <message>
+        <source>heute, %1</source>
+        <translation>today, %1</translation>
+    </message>
+    <message>
+        <source>gestern, %1</source>
+        <translation>yesterday, %1</translation>
+    </message>
+    <message>
+        <source>dd.MM.yyyy</source>
+        <translation>d MMM yyyy</translation>
+    </message>
+    <message>
+        <source>1. Box einschalten und &lt;b&gt;Verbinden&lt;/b&gt; drücken oder die &lt;b&gt;Demo&lt;/b&gt; starten.&lt;br&gt;2. &lt;b&gt;Start&lt;/b&gt; in der Werkzeugleiste zeichnet eine Messung auf, &lt;b&gt;Stop&lt;/b&gt; beendet sie.&lt;br&gt;3. Kurven ansehen unter &lt;b&gt;Oszilloskop&lt;/b&gt;, Messungen vergleichen unter &lt;b&gt;Auswertung&lt;/b&gt;.&lt;br&gt;4. Projekt speichern. Beim nächsten Mal steht es hier bereit.</source>
+        <translation>1. Switch the box on and press &lt;b&gt;Connect&lt;/b&gt;, or start the &lt;b&gt;demo&lt;/b&gt;.&lt;br&gt;2. &lt;b&gt;Start&lt;/b&gt; in the tool bar records a measurement, &lt;b&gt;Stop&lt;/b&gt; ends it.&lt;br&gt;3. Look at curves in &lt;b&gt;Oscilloscope&lt;/b&gt;, compare measurements in &lt;b&gt;Evaluation&lt;/b&gt;.&lt;br&gt;4. Save the project. The next time it is ready here.</translation>
+    </message>
+    <message>
+        <source>Netzlaufwerk</source>
+        <translation>network drive</translation>
+    </message>
+    <message>
+        <source>nicht gefunden</source>
+        <translation>not found</translation>
+    </message>
+    <message>
+        <source>Aus der Liste entfernen</source>
+        <translation>Remove from the list</translation>
     </message>
 </context>
 <context>
@@ -1431,48 +1683,8 @@ Identification of this computer:
 <context>
     <name>TabHome</name>
     <message>
-        <source>Nicht verbunden</source>
-        <translation>Not connected</translation>
-    </message>
-    <message>
-        <source> (Hardware %1, Firmware %2)</source>
-        <translation> (hardware %1, firmware %2)</translation>
-    </message>
-    <message>
-        <source>Verbunden</source>
-        <translation>Connected</translation>
-    </message>
-    <message>
-        <source>Verbunden mit %1</source>
-        <translation>Connected to %1</translation>
-    </message>
-    <message>
-        <source>Noch nicht gespeichert</source>
-        <translation>Not saved yet</translation>
-    </message>
-    <message>
-        <source>%1 (%2)</source>
-        <translation>%1 (%2)</translation>
-    </message>
-    <message>
-        <source>Läuft</source>
-        <translation>Running</translation>
-    </message>
-    <message>
-        <source>Gestoppt</source>
-        <translation>Stopped</translation>
-    </message>
-    <message>
-        <source>Noch keine</source>
-        <translation>None yet</translation>
-    </message>
-    <message>
         <source>Prozessüberwachung für Spritzgießwerkzeuge</source>
         <translation>Process monitoring for injection moulds</translation>
-    </message>
-    <message>
-        <source>Stand</source>
-        <translation>Status</translation>
     </message>
     <message>
         <source>&amp;Neues Projekt</source>
@@ -1483,20 +1695,40 @@ Identification of this computer:
         <translation>&amp;Open project...</translation>
     </message>
     <message>
-        <source>Mesotra Box:</source>
-        <translation>Mesotra box:</translation>
+        <source>So geht es los</source>
+        <translation>How to begin</translation>
     </message>
     <message>
-        <source>Aufzeichnung:</source>
-        <translation>Recording:</translation>
+        <source>Zuletzt geöffnet</source>
+        <translation>Recent projects</translation>
     </message>
     <message>
-        <source>Projekt:</source>
-        <translation>Project:</translation>
+        <source>&amp;Demo beenden</source>
+        <translation>&amp;End demo</translation>
     </message>
     <message>
-        <source>Messungen:</source>
-        <translation>Measurements:</translation>
+        <source>&amp;Demo starten</source>
+        <translation>Start &amp;demo</translation>
+    </message>
+    <message>
+        <source>Keine Box zur Hand? Die Demo zeigt Ventaro mit einer simulierten Box.</source>
+        <translation>No box at hand? The demo shows Ventaro with a simulated box.</translation>
+    </message>
+    <message>
+        <source>Die Demo ist nicht verfügbar: Das Programm &quot;ventaro-box-simulator&quot; liegt nicht neben Ventaro.</source>
+        <translation>The demo is not available: the program &quot;ventaro-box-simulator&quot; is not beside Ventaro.</translation>
+    </message>
+    <message>
+        <source>Noch keine. Jede Box, mit der die Verbindung gelungen ist, steht hier bereit.</source>
+        <translation>None yet. Every box that Ventaro has been connected to is ready here.</translation>
+    </message>
+    <message>
+        <source>Mit %1 verbinden</source>
+        <translation>Connect to %1</translation>
+    </message>
+    <message>
+        <source>Zuletzt verbunden</source>
+        <translation>Recent boxes</translation>
     </message>
 </context>
 <context>
@@ -2209,6 +2441,10 @@ Arrow up and down: earlier lines</translation>
     <message>
         <source>Zeigt die Texte auf Englisch</source>
         <translation>Shows the texts in English</translation>
+    </message>
+    <message>
+        <source>Demonstration</source>
+        <translation>Demonstration</translation>
     </message>
 </context>
 </TS>

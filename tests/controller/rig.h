@@ -7,11 +7,12 @@
 #include "tests/support/literals.h"
 
 /// Short waits, and the port of a box on this machine.
-inline ControllerOptions optionsFor(quint16 port)
+inline ControllerOptions optionsFor(quint16 port, const QString &demoProgram = {})
 {
     ControllerOptions options;
     options.deviceAddress = "127.0.0.1"_s;
     options.port = port;
+    options.demoProgram = demoProgram;
     options.deviceDescriptionTimeout = 100;
     options.sensorDescriptionTimeout = 150;
     return options;
@@ -20,10 +21,10 @@ inline ControllerOptions optionsFor(quint16 port)
 /// A simulated box and the program, on a real link.
 struct Rig
 {
-    explicit Rig(const BoxOptions &options = {})
+    explicit Rig(const BoxOptions &options = {}, const QString &demoProgram = {})
         : box(options)
         , isListening(box.listen())
-        , bench(optionsFor(box.port()))
+        , bench(optionsFor(box.port(), demoProgram))
     {
         QObject::connect(&box, &BoxSimulator::sampleSent, &box, [this](const QByteArray &line) { sent.append(line); });
     }

@@ -85,6 +85,19 @@ void fill(TabBlackBox &tab, Model &model, const QDir &folder)
     tab.setResult("9 Messungen importiert, 3 Zeilen übersprungen, 1 Datei nicht lesbar"_s);
 }
 
+/// What was used last, with names as long as they come and projects that are gone.
+void rememberMuch(View &view)
+{
+    const QDir here(QCoreApplication::applicationDirPath());
+    view.rememberProject("/srv/Werkzeuge/alt/Deckel.vnt"_s);
+    view.rememberProject("/srv/"_s + "Kunde/Werkzeug/"_s.repeated(12) + "Bemusterung &2 nach dem Umbau.vnt"_s);
+    for (const char *name : {"../CTestTestfile.cmake", "../CMakeCache.txt", "../build.ninja"})
+        view.rememberProject(here.filePath(QLatin1String(name)));
+    view.rememberAddress("mesotra."_s + "spritzerei-halle-3."_s.repeated(6) + "local"_s);
+    for (const char *address : {"192.168.4.1", "10.0.0.17", "mesotra-2", "192.168.4.2"})
+        view.rememberAddress(QLatin1String(address));
+}
+
 /// The picture goes to the folder that VENTARO_PICTURES names, if any: to be looked at.
 void keep(QWidget &widget, const QString &name)
 {
@@ -161,6 +174,8 @@ private slots:
             model.emitAppStateChanged();
             view.setDeviceAddress("192.168.4.1"_s);
             view.setRecordingRunning(true);
+            view.setDemoState(english ? DemoState::Running : DemoState::Off);
+            rememberMuch(view);
             view.findChild<QCheckBox *>("loggerCheckBoxA1"_s)->setChecked(true);
             for (int i = 0; i < 40; ++i) {
                 view.logSample(i * 0.1, {1.5 * i, 2.25, 3.0, 4.0, 5.0});
@@ -190,6 +205,14 @@ private slots:
         QCOMPARE(clippedText(view.findChild<QToolBar *>("toolBar"_s)), QString());
         view.showProgress("Verbinden mit 192.168.4.1 ..."_s);
         keep(view, picture.arg("progress"_s));
+        view.showAbout();
+        auto *about = view.findChild<QDialog *>("AboutDialog"_s);
+        for (int tab = 0; tab < 2; ++tab) {
+            about->findChild<QTabWidget *>()->setCurrentIndex(tab);
+            QTest::qWait(50);
+            keep(*about, picture.arg("about%1"_s.arg(tab)));
+            QCOMPARE(clippedText(about), QString());
+        }
         auto *menu = view.findChild<QMenu *>("menu"_s);
         menu->resize(menu->sizeHint());
         keep(*menu, picture.arg("menu"_s));
