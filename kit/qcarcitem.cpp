@@ -37,6 +37,7 @@ void QcArcItem::paint(QPainter &painter, const QcCanvas &canvas, const QcReading
     const qcgauge::Scale &scale = canvas.scale;
     const double width = canvas.stroke(m_width) / canvas.length(1.0);
     const QColor color = m_color.isValid() ? canvas.colors.shaded(m_color) : canvas.colors.soft;
-    qcgauge::drawRing(painter, canvas, radius(), width, qcgauge::angleAt(scale, m_hasSpan ? m_from : scale.from),
-                      m_hasSpan ? qcgauge::angleAt(scale, m_to) : scale.start + scale.sweep, color);
+    const double from = qcgauge::angleAt(scale, m_hasSpan ? m_from : scale.from);
+    const double to = m_hasSpan ? qcgauge::angleAt(scale, m_to) : scale.start + scale.sweep;
+    qcgauge::drawRing(painter, canvas, {radius(), width, from, to}, color);
 }

@@ -45,7 +45,8 @@ QColor QcColors::shaded(const QColor &color) const
     if (!muted)
         return color;
     const int grey = qGray(color.rgb());
-    return between(QColor(grey, grey, grey, color.alpha()), face, 0.45);
+    const QColor dull = between(color, QColor(grey, grey, grey, color.alpha()), 0.75);
+    return between(dull, face, 0.45);
 }
 
 void QcCanvas::adopt(const QWidget &widget, bool muted)
@@ -105,13 +106,12 @@ double QcCanvas::stroke(double percent) const
 
 namespace qcgauge {
 
-void drawRing(QPainter &painter, const QcCanvas &canvas, double radius, double width, double fromAngle, double toAngle,
-              const QColor &color)
+void drawRing(QPainter &painter, const QcCanvas &canvas, const Ring &ring, const QColor &color)
 {
-    painter.setPen(QPen(color, canvas.length(width), Qt::SolidLine, Qt::FlatCap));
+    painter.setPen(QPen(color, canvas.length(ring.width), Qt::SolidLine, Qt::FlatCap));
     painter.setBrush(Qt::NoBrush);
-    painter.drawArc(canvas.square(radius - width / 2.0), qRound((90.0 - fromAngle) * kSixteenths),
-                    qRound((fromAngle - toAngle) * kSixteenths));
+    painter.drawArc(canvas.square(ring.radius - ring.width / 2.0), qRound((90.0 - ring.from) * kSixteenths),
+                    qRound((ring.from - ring.to) * kSixteenths));
 }
 
 QPixmap emptyPicture(const QWidget &widget)

@@ -88,8 +88,14 @@ struct QcCanvas
 namespace qcgauge {
 
 /// Part of a ring between two angles; the radius is that of its outer edge, in percent as the width.
-void drawRing(QPainter &painter, const QcCanvas &canvas, double radius, double width, double fromAngle, double toAngle,
-              const QColor &color);
+struct Ring
+{
+    double radius = 0.0;
+    double width = 0.0;
+    double from = 0.0;
+    double to = 0.0;
+};
+void drawRing(QPainter &painter, const QcCanvas &canvas, const Ring &ring, const QColor &color);
 /// A transparent picture of the widget's size.
 [[nodiscard]] QPixmap emptyPicture(const QWidget &widget);
 /// Text around a point, centred by the height of its capitals, in the painter's font and pen.

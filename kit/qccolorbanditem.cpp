@@ -19,6 +19,6 @@ void QcColorBandItem::paint(QPainter &painter, const QcCanvas &canvas, const QcR
         const double from = qcgauge::angleAt(canvas.scale, band.from);
         const double to = qcgauge::angleAt(canvas.scale, band.to);
         if (from != to)
-            qcgauge::drawRing(painter, canvas, radius(), m_width, from, to, canvas.colors.shaded(band.color));
+            qcgauge::drawRing(painter, canvas, {radius(), m_width, from, to}, canvas.colors.shaded(band.color));
     }
 }

@@ -110,8 +110,8 @@ std::vector<double> multiples(double from, double to, double step)
     if (std::max(std::abs(first), std::abs(last)) > kExactIntegers || last - first >= kMostMultiples)
         return {low, high};
     std::vector<double> result;
-    for (double index = first; index <= last; ++index)
-        result.push_back(index * step + 0.0); // + 0.0: no negative zero
+    for (int i = 0; i <= static_cast<int>(last - first); ++i)
+        result.push_back((first + i) * step + 0.0); // + 0.0: no negative zero
     return result;
 }
 

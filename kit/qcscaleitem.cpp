@@ -56,5 +56,5 @@ qcgauge::Scale QcScaleItem::scale(double from, double to) const
 void QcScaleItem::paint(QPainter &painter, const QcCanvas &canvas, const QcReading &) const
 {
     if (m_width > 0.0)
-        qcgauge::drawRing(painter, canvas, radius(), m_width, m_start, m_start + m_sweep, canvas.colors.track);
+        qcgauge::drawRing(painter, canvas, {radius(), m_width, m_start, m_start + m_sweep}, canvas.colors.track);
 }

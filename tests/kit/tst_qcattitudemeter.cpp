@@ -60,6 +60,8 @@ void TestQcAttitudeMeter::oddAnglesAreTamed()
 {
     QcAttitudeMeter meter;
     meter.setLocale(QLocale(QLocale::German));
+    meter.setRoll(-540.0);
+    QCOMPARE(meter.roll(), 180.0);
     meter.setRoll(380.0);
     meter.setPitch(-100.0);
     meter.setRoll(std::numeric_limits<double>::quiet_NaN());

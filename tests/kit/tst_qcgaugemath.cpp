@@ -38,10 +38,6 @@ private slots:
     void marksAreMultiples();
     void numbersAreReadable_data();
     void numbersAreReadable();
-    void decimalsFitTheRoom_data();
-    void decimalsFitTheRoom();
-    void anglesAreNormalized_data();
-    void anglesAreNormalized();
 };
 
 void TestQcGaugeMath::valueHasAFraction_data()
@@ -129,14 +125,11 @@ void TestQcGaugeMath::stepsAreNice()
 
 void TestQcGaugeMath::ladderGoesOn()
 {
-    double step = 1e-7;
-    for (const double expected : {2e-7, 5e-7, 1e-6, 2e-6}) {
-        step = qcgauge::coarserStep(step);
-        QVERIFY(isNear(step * 1e6, expected * 1e6));
-    }
-    QCOMPARE(qcgauge::partsOfStep(step), 4);
-    QCOMPARE(qcgauge::partsOfStep(0.5), 5);
-    QCOMPARE(qcgauge::coarserStep(0.0), 0.0);
+    QVERIFY(isNear(qcgauge::coarserStep(1e-7) * 1e7, 2.0));
+    QVERIFY(isNear(qcgauge::coarserStep(0.2), 0.5));
+    QVERIFY(isNear(qcgauge::coarserStep(5e6), 1e7));
+    QCOMPARE(qcgauge::partsOfStep(0.2), 4);
+    QCOMPARE(qcgauge::partsOfStep(5e6), 5);
 }
 
 void TestQcGaugeMath::marksAreMultiples_data()
@@ -185,6 +178,12 @@ void TestQcGaugeMath::numbersAreReadable_data()
     row("mark of a coarse step", markText(1500.0, 500.0, german), QStringLiteral("1500"));
     row("mark of a fine step", markText(3 * 0.1, 0.1, german), QStringLiteral("0,3"));
     row("mark of a tiny step", markText(4e-8, 2e-8, german), QStringLiteral("4e-08"));
+    const auto fitting = [&](double digits) {
+        return fittingNumber(12.3456, 3, german, digits, [](const QString &tried) { return double(tried.size()); });
+    };
+    row("all decimals", fitting(6.0), QStringLiteral("12,346"));
+    row("fewer decimals", fitting(5.5), QStringLiteral("12,35"));
+    row("hardly any room", fitting(1.0), QStringLiteral("12"));
     row("marks of large numbers", markText(1.55e9, 5e7, german), QStringLiteral("1,55e+09"));
 }
 
@@ -192,40 +191,6 @@ void TestQcGaugeMath::numbersAreReadable()
 {
     QFETCH(QString, text);
     QTEST(text, "expected");
-}
-
-void TestQcGaugeMath::decimalsFitTheRoom_data()
-{
-    QTest::addColumn<double>("room"); // digits
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("all") << 6.0 << QStringLiteral("12.346");
-    QTest::newRow("fewer") << 5.5 << QStringLiteral("12.35");
-    QTest::newRow("none") << 2.0 << QStringLiteral("12");
-    QTest::newRow("nothing fits") << 0.0 << QStringLiteral("12");
-}
-
-void TestQcGaugeMath::decimalsFitTheRoom()
-{
-    QFETCH(double, room);
-    const auto widthOf = [](const QString &text) { return static_cast<double>(text.size()); };
-    QTEST(qcgauge::fittingNumber(12.3456, 3, QLocale::c(), room, widthOf), "expected");
-}
-
-void TestQcGaugeMath::anglesAreNormalized_data()
-{
-    QTest::addColumn<double>("given");
-    QTest::addColumn<double>("expected");
-    QTest::newRow("as it is") << -170.0 << -170.0;
-    QTest::newRow("upside down") << -180.0 << 180.0;
-    QTest::newRow("one and a half turns") << 540.0 << 180.0;
-    QTest::newRow("many turns back") << -3700.0 << -100.0;
-    QTest::newRow("no number") << kNan << 0.0;
-}
-
-void TestQcGaugeMath::anglesAreNormalized()
-{
-    QFETCH(double, given);
-    QTEST(qcgauge::normalizedAngle(given), "expected");
 }
 
 QTEST_APPLESS_MAIN(TestQcGaugeMath)
