@@ -1,46 +1,24 @@
 // How long the evaluation's overview and page of values take for what a user does, and for a new sample.
 
-#include "app/stylesheets.h"
-#include "model/model.h"
+#include "benchmarks/pagebench.h"
 #include "plots/dashboard.h"
 #include "plots/evaluationdata.h"
 #include "plots/limitfield.h"
 #include "plots/tabevaluationvalues.h"
 
-#include <benchmark/benchmark.h>
-
-#include <QApplication>
 #include <QCheckBox>
 #include <QDoubleSpinBox>
-#include <QLoggingCategory>
-
-#include <memory>
 
 namespace {
-
-std::unique_ptr<Model> modelWith(int shots, int samplesPerShot)
-{
-    auto model = std::make_unique<Model>(QString());
-    const QDateTime timestamp(QDate(2026, 3, 9), QTime(6, 0));
-    for (int shot = 0; shot < shots; ++shot) {
-        for (int sensor = 0; sensor < kNumSensors; ++sensor) {
-            (void)model->appendMeasurement(sensor); // its index is the shot
-            for (int i = 0; i < samplesPerShot; ++i)
-                (void)model->appendSample(sensor, shot, 100.0 + i % 97 + shot % 13); // both indices are right
-        }
-        model->setTimestamp(shot, timestamp.addSecs(30LL * shot));
-    }
-    for (int marker = 0; marker < Model::kNumMarkers; ++marker)
-        model->setVerticalMarkerAbsolute(marker, samplesPerShot * (marker + 1) / 6);
-    return model;
-}
 
 template <typename PageType>
 struct Page
 {
     explicit Page(benchmark::State &state)
-        : model(modelWith(static_cast<int>(state.range(0)), static_cast<int>(state.range(1))))
+        : model(modelFor(state))
     {
+        for (int marker = 0; marker < Model::kNumMarkers; ++marker)
+            model->setVerticalMarkerAbsolute(marker, static_cast<int>(state.range(1)) * (marker + 1) / 6);
         data.setModel(model.get());
         page.setData(&data);
         page.resize(1080, 590);
@@ -108,7 +86,7 @@ void sensorSwitched(benchmark::State &state)
 
 // One refresh while a recording runs.
 template <typename PageType>
-void sampleArrived(benchmark::State &state)
+void sampleSeen(benchmark::State &state)
 {
     Page<PageType> page(state);
     const int shot = static_cast<int>(state.range(0)) - 1;
@@ -121,30 +99,18 @@ void sampleArrived(benchmark::State &state)
     }
 }
 
-void sizes(benchmark::internal::Benchmark *benchmark)
-{
-    benchmark->Args({1000, 2000})->Args({10000, 200})->Unit(benchmark::kMillisecond);
-}
-
-BENCHMARK_TEMPLATE(firstShown, Dashboard)->Apply(sizes);
-BENCHMARK_TEMPLATE(firstShown, TabEvaluationValues)->Apply(sizes);
-BENCHMARK_TEMPLATE(shownAgain, Dashboard)->Apply(sizes);
-BENCHMARK_TEMPLATE(shownAgain, TabEvaluationValues)->Apply(sizes);
-BENCHMARK_TEMPLATE(sampleArrived, Dashboard)->Apply(sizes);
-BENCHMARK_TEMPLATE(sampleArrived, TabEvaluationValues)->Apply(sizes);
-BENCHMARK(limitChanged)->Apply(sizes);
-BENCHMARK(sensorSwitched)->Apply(sizes);
+BENCHMARK_TEMPLATE(firstShown, Dashboard)->Apply(manyShots);
+BENCHMARK_TEMPLATE(firstShown, TabEvaluationValues)->Apply(manyShots);
+BENCHMARK_TEMPLATE(shownAgain, Dashboard)->Apply(manyShots);
+BENCHMARK_TEMPLATE(shownAgain, TabEvaluationValues)->Apply(manyShots);
+BENCHMARK_TEMPLATE(sampleSeen, Dashboard)->Apply(manyShots);
+BENCHMARK_TEMPLATE(sampleSeen, TabEvaluationValues)->Apply(manyShots);
+BENCHMARK(limitChanged)->Apply(manyShots);
+BENCHMARK(sensorSwitched)->Apply(manyShots);
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
-    QApplication application(argc, argv);
-    QApplication::setStyle(QStringLiteral("Fusion"));
-    application.setStyleSheet(theme::styleApplication);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return runPageBenchmarks(argc, argv);
 }

@@ -100,11 +100,16 @@ QuantitySeries EvaluationData::series(int sensor, const Quantity &quantity)
 
 // --- Names -------------------------------------------------------------------------------------------------------
 
+QString sensorNameOf(const Model *model, int sensor)
+{
+    const SensorGroup *group = model ? groupOf(*model, sensor) : nullptr;
+    const QString name = group ? group->sensorName(sensor) : QString();
+    return name.isEmpty() ? EvaluationData::tr("Sensor %1").arg(sensor + 1) : name;
+}
+
 QString EvaluationData::sensorName(int sensor) const
 {
-    const SensorGroup *group = groupOf(*m_model, sensor);
-    const QString name = group ? group->sensorName(sensor) : QString();
-    return name.isEmpty() ? tr("Sensor %1").arg(sensor + 1) : name;
+    return sensorNameOf(m_model, sensor);
 }
 
 QString EvaluationData::sensorUnit(int sensor) const

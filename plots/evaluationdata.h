@@ -67,6 +67,8 @@ private:
     std::array<QuantityCache, kNumSensors> m_caches;
 };
 
+/// The name that a sensor of 0 to 4 has in the model or is given by its position; by its position without a model.
+[[nodiscard]] QString sensorNameOf(const Model *model, int sensor);
 /// As all pages of the evaluation write a number: six significant digits.
 [[nodiscard]] QString figureText(double value);
 /// "1.67"; "∞" and "> 99" where more digits would say nothing; "–" for none.

@@ -24,27 +24,12 @@ bool isSameButDeviation(const OverlayRow &a, OverlayRow b)
 } // namespace
 
 OverlayTableModel::OverlayTableModel(QObject *parent)
-    : QAbstractTableModel(parent)
+    : ShotTableModel(parent)
 {}
-
-void OverlayTableModel::resizeTo(const std::vector<OverlayRow> &rows)
-{
-    const int before = rowCount();
-    const int after = static_cast<int>(rows.size());
-    if (after > before) {
-        beginInsertRows({}, before, after - 1);
-        m_rows.insert(m_rows.end(), rows.begin() + before, rows.end());
-        endInsertRows();
-    } else if (after < before) {
-        beginRemoveRows({}, after, before - 1);
-        m_rows.resize(rows.size());
-        endRemoveRows();
-    }
-}
 
 void OverlayTableModel::setRows(std::vector<OverlayRow> rows)
 {
-    resizeTo(rows);
+    resizeRows(m_rows, rows);
     const auto [first, newFirst] = std::mismatch(m_rows.begin(), m_rows.end(), rows.begin());
     if (first == m_rows.end())
         return;
@@ -55,18 +40,6 @@ void OverlayTableModel::setRows(std::vector<OverlayRow> rows)
     const bool onlyDeviations = std::equal(first, m_rows.end(), newFirst, isSameButDeviation);
     m_rows = std::move(rows);
     emit dataChanged(index(firstChanged, onlyDeviations ? Deviation : 0), index(lastChanged, NumColumns - 1));
-}
-
-void OverlayTableModel::retranslate()
-{
-    emit headerDataChanged(Qt::Horizontal, 0, NumColumns - 1);
-    if (!m_rows.empty())
-        emit dataChanged(index(0, 0), index(rowCount() - 1, NumColumns - 1));
-}
-
-int OverlayTableModel::rowCount(const QModelIndex &parent) const
-{
-    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
 }
 
 int OverlayTableModel::columnCount(const QModelIndex &parent) const
@@ -81,7 +54,7 @@ QString OverlayTableModel::text(int shot, int column) const
     case Number:
         return QString::number(shot);
     case Timestamp:
-        return row.timestamp.toString(QStringLiteral("yyyy/MM/dd hh:mm:ss"));
+        return timestampText(row.timestamp);
     case Label:
         return row.label;
     case Deviation:
@@ -177,7 +150,7 @@ QVariant OverlayTableModel::headerData(int section, Qt::Orientation orientation,
 
 Qt::ItemFlags OverlayTableModel::flags(const QModelIndex &index) const
 {
-    Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+    Qt::ItemFlags flags = ShotTableModel::flags(index);
     if (index.column() == Color || index.column() == Label)
         flags |= Qt::ItemIsEditable;
     if (index.column() == Shown)

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QAbstractTableModel>
+#include "plots/shottablemodel.h"
+
 #include <QColor>
-#include <QDateTime>
 #include <QString>
 
 #include <optional>
@@ -22,7 +22,7 @@ struct OverlayRow
 [[nodiscard]] bool operator==(const OverlayRow &a, const OverlayRow &b);
 
 /// The shots of an overlay. What the user changes in it is not kept here, but reported; the owner then sets the rows.
-class OverlayTableModel : public QAbstractTableModel
+class OverlayTableModel : public ShotTableModel
 {
     Q_OBJECT
 
@@ -36,10 +36,8 @@ public:
     /// Announces only what differs from the rows before.
     void setRows(std::vector<OverlayRow> rows);
     [[nodiscard]] const std::vector<OverlayRow> &rows() const { return m_rows; }
-    /// Announces that all texts are in another language.
-    void retranslate();
 
-    [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
+    [[nodiscard]] int numShots() const override { return static_cast<int>(m_rows.size()); }
     [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,
@@ -56,7 +54,6 @@ private:
     [[nodiscard]] QString text(int shot, int column) const;
     [[nodiscard]] QVariant sortKey(int shot, int column) const;
     [[nodiscard]] QVariant toolTip(int shot, int column) const;
-    void resizeTo(const std::vector<OverlayRow> &rows);
 
     std::vector<OverlayRow> m_rows;
 };

@@ -40,7 +40,7 @@ bool haveSameTitles(const QuantityTableModel::Content &a, const QuantityTableMod
 } // namespace
 
 QuantityTableModel::QuantityTableModel(QObject *parent)
-    : QAbstractTableModel(parent)
+    : ShotTableModel(parent)
 {}
 
 // The first row that looks different, of those that both have.
@@ -101,11 +101,6 @@ void QuantityTableModel::setChosenColumn(int column)
     emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
 }
 
-int QuantityTableModel::rowCount(const QModelIndex &parent) const
-{
-    return parent.isValid() ? 0 : numShots();
-}
-
 int QuantityTableModel::columnCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : FirstQuantity + static_cast<int>(m_content.columns.size());
@@ -132,8 +127,7 @@ QString QuantityTableModel::text(const QModelIndex &index) const
     if (index.column() == Number)
         return QString::number(index.row());
     if (index.column() == Timestamp)
-        return m_content.timestamps[static_cast<std::size_t>(index.row())].toString(
-            QStringLiteral("yyyy/MM/dd hh:mm:ss"));
+        return timestampText(m_content.timestamps[static_cast<std::size_t>(index.row())]);
     const std::optional<double> &value = *valueAt(index);
     return value ? figureText(*value) : QString();
 }

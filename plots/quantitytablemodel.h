@@ -2,14 +2,12 @@
 
 #include "plots/capability.h"
 #include "plots/shotquantity.h"
-
-#include <QAbstractTableModel>
-#include <QDateTime>
+#include "plots/shottablemodel.h"
 
 #include <vector>
 
 /// The quantities of one sensor's shots: number and time stamp of each shot, and a column a quantity.
-class QuantityTableModel : public QAbstractTableModel
+class QuantityTableModel : public ShotTableModel
 {
     Q_OBJECT
 
@@ -33,12 +31,11 @@ public:
 
     /// Announces only what differs from the content before.
     void setContent(Content content);
-    [[nodiscard]] int numShots() const { return static_cast<int>(m_content.timestamps.size()); }
+    [[nodiscard]] int numShots() const override { return static_cast<int>(m_content.timestamps.size()); }
     /// The quantity whose column is marked; -1 for none.
     void setChosenColumn(int column);
     [[nodiscard]] int chosenColumn() const { return m_chosenColumn; }
 
-    [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation,

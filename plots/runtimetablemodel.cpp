@@ -48,29 +48,13 @@ bool operator==(const RuntimeRow &a, const RuntimeRow &b)
 }
 
 RuntimeTableModel::RuntimeTableModel(QObject *parent)
-    : QAbstractTableModel(parent)
+    : ShotTableModel(parent)
 {}
-
-// Shots come and go in front of the two extra rows.
-void RuntimeTableModel::resizeTo(const std::vector<RuntimeRow> &rows)
-{
-    const int before = numShots();
-    const int after = static_cast<int>(rows.size());
-    if (after > before) {
-        beginInsertRows({}, before, after - 1);
-        m_rows.insert(m_rows.end(), rows.begin() + before, rows.end());
-        endInsertRows();
-    } else if (after < before) {
-        beginRemoveRows({}, after, before - 1);
-        m_rows.resize(rows.size());
-        endRemoveRows();
-    }
-}
 
 void RuntimeTableModel::setRows(const std::vector<RuntimeRow> &rows)
 {
     const bool sameCount = rows.size() == m_rows.size();
-    resizeTo(rows);
+    resizeRows(m_rows, rows);
     const auto [first, newFirst] = std::mismatch(m_rows.begin(), m_rows.end(), rows.begin());
     if (sameCount && first == m_rows.end())
         return;
@@ -84,12 +68,6 @@ void RuntimeTableModel::computeSummary()
 {
     for (int column = 0; column < NumColumns; ++column)
         m_moments[static_cast<size_t>(column)] = momentsOf(m_rows, column);
-}
-
-void RuntimeTableModel::retranslate()
-{
-    emit headerDataChanged(Qt::Horizontal, 0, NumColumns - 1);
-    emit dataChanged(index(numShots(), 0), index(rowCount() - 1, NumColumns - 1));
 }
 
 int RuntimeTableModel::rowCount(const QModelIndex &parent) const
@@ -108,7 +86,7 @@ QString RuntimeTableModel::shotText(int shot, int column) const
     if (column == Number)
         return QString::number(shot);
     if (column == Timestamp)
-        return row.timestamp.toString(QStringLiteral("yyyy/MM/dd hh:mm:ss"));
+        return timestampText(row.timestamp);
     if (column == Pause)
         return row.pause ? QString::number(*row.pause) : QString();
     if (column == Total)

@@ -1,10 +1,8 @@
 #pragma once
 
 #include "plots/runtime.h"
+#include "plots/shottablemodel.h"
 #include "plots/statistics.h"
-
-#include <QAbstractTableModel>
-#include <QDateTime>
 
 #include <array>
 #include <optional>
@@ -21,7 +19,7 @@ struct RuntimeRow
 [[nodiscard]] bool operator==(const RuntimeRow &a, const RuntimeRow &b);
 
 /// The shots' runtimes, and behind them a row of means and a row of sigmas of the columns with numbers.
-class RuntimeTableModel : public QAbstractTableModel
+class RuntimeTableModel : public ShotTableModel
 {
     Q_OBJECT
 
@@ -33,10 +31,8 @@ public:
 
     /// Announces only what differs from the rows before.
     void setRows(const std::vector<RuntimeRow> &rows);
-    [[nodiscard]] int numShots() const { return static_cast<int>(m_rows.size()); }
+    [[nodiscard]] int numShots() const override { return static_cast<int>(m_rows.size()); }
     [[nodiscard]] const std::vector<RuntimeRow> &rows() const { return m_rows; }
-    /// Announces that all texts are in another language.
-    void retranslate();
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex &parent = {}) const override;
@@ -47,7 +43,6 @@ public:
 private:
     [[nodiscard]] QString shotText(int shot, int column) const;
     [[nodiscard]] QString summaryText(bool sigmas, int column) const;
-    void resizeTo(const std::vector<RuntimeRow> &rows);
     void computeSummary();
 
     std::vector<RuntimeRow> m_rows;

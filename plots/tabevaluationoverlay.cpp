@@ -1,4 +1,5 @@
 #include "plots/tabevaluationoverlay.h"
+#include "plots/sensorselection.h"
 
 #include "model/model.h"
 #include "plots/colordelegate.h"
@@ -6,7 +7,6 @@
 #include "plots/overlayplot.h"
 #include "plots/overlaytablemodel.h"
 
-#include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -21,23 +21,10 @@
 
 #include <algorithm>
 
-namespace {
-
-QString nameOf(const Model &model, int sensor)
-{
-    const SensorDescription &description = model.sensorDescription();
-    if (description.numSensorGroups() == 0 || sensor >= description.sensorGroup(0).numSensors())
-        return {};
-    return description.sensorGroup(0).sensorName(sensor);
-}
-
-} // namespace
-
 TabEvaluationOverlay::TabEvaluationOverlay(QWidget *parent)
-    : QWidget(parent)
+    : ModelPage(parent)
 {
     qCDebug(lcPlots) << Q_FUNC_INFO;
-    m_refreshTimer.setSingleShot(true);
     createLayout();
     retranslateUi();
     connectWidgets();
@@ -53,109 +40,63 @@ void TabEvaluationOverlay::setModel(Model *model)
         qCDebug(lcPlots) << "ERROR: model is not set!  (model==nullptr)!";
         return;
     }
-    if (m_model)
-        m_model->disconnect(this);
-    m_model = model;
-    connect(model, &Model::dataChanged, this, &TabEvaluationOverlay::onModel_dataChanged);
-    connect(model, &Model::projectChanged, this, &TabEvaluationOverlay::onModel_projectChanged);
+    follow(model);
     m_looks.clear();
     m_reference = 0;
-    m_seenRevision = model->structureRevision();
     forgetShots();
     update();
 }
 
 int TabEvaluationOverlay::currentSensor() const
 {
-    const auto checked = std::find_if(m_sensorButtons.begin(), m_sensorButtons.end(),
-                                      [](const QAbstractButton *button) { return button->isChecked(); });
-    return checked == m_sensorButtons.end() ? 0 : static_cast<int>(std::distance(m_sensorButtons.begin(), checked));
+    return m_sensors->sensor();
 }
 
 // --- Following the model ---------------------------------------------------------------------------------------------
 
-// Comes for every sample line: no log line here, the model writes one for every emission.
-void TabEvaluationOverlay::onModel_dataChanged()
+// Nothing would free the samples of removed shots before the page is shown again.
+void TabEvaluationOverlay::structureChanged()
 {
-    if (m_seenRevision != m_model->structureRevision()) {
-        m_seenRevision = m_model->structureRevision();
-        if (!isVisible())
-            forgetShots(); // nothing would free the samples of removed shots before the page is shown again
-    }
-    scheduleUpdate();
+    if (!isVisible())
+        forgetShots();
 }
 
-void TabEvaluationOverlay::onModel_projectChanged()
+void TabEvaluationOverlay::hideEvent(QHideEvent *event)
 {
-    qCDebug(lcPlots) << Q_FUNC_INFO;
-    scheduleUpdate();
-}
-
-void TabEvaluationOverlay::scheduleUpdate()
-{
-    m_outOfDate = true;
-    if (isVisible() && !m_refreshTimer.isActive())
-        m_refreshTimer.start(kRefreshInterval);
-}
-
-void TabEvaluationOverlay::onRefreshTimer_timeout()
-{
-    qCDebug(lcPlots) << Q_FUNC_INFO;
-    if (isVisible())
-        update();
-    else
-        forgetShots(); // hidden in the meantime: some of them may be gone
-}
-
-void TabEvaluationOverlay::showEvent(QShowEvent *event)
-{
-    QWidget::showEvent(event);
-    showSensorNames();
-    if (m_outOfDate)
-        update();
-}
-
-void TabEvaluationOverlay::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        retranslateUi();
-    QWidget::changeEvent(event);
-}
-
-void TabEvaluationOverlay::resizeEvent(QResizeEvent *event)
-{
-    QWidget::resizeEvent(event);
-    showSensorNames();
+    ModelPage::hideEvent(event);
+    if (isOutOfDate())
+        forgetShots(); // some of them may be gone
 }
 
 bool TabEvaluationOverlay::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_plot && event->type() == QEvent::Resize)
-        fitTimeAxis();
     if (watched == m_table && event->type() == QEvent::KeyPress
         && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Space) {
         toggleSelected();
         return true;
     }
-    return QWidget::eventFilter(watched, event);
+    return ModelPage::eventFilter(watched, event);
 }
 
 void TabEvaluationOverlay::update()
 {
     qCDebug(lcPlots) << Q_FUNC_INFO;
-    if (!m_model) {
+    if (!model()) {
         qCDebug(lcPlots).noquote().nospace() << Q_FUNC_INFO << " ERROR: model is not set!  (model==nullptr)!";
         return;
     }
-    m_outOfDate = false;
-    m_refreshTimer.stop();
-    showSensorNames();
+    refreshNow();
+}
+
+void TabEvaluationOverlay::refresh()
+{
+    m_sensors->showSensors(model());
     recompute();
 }
 
 void TabEvaluationOverlay::recompute()
 {
-    if (!m_model)
+    if (!model())
         return;
     refreshShots();
     showRows();
@@ -183,9 +124,9 @@ AlignmentRule TabEvaluationOverlay::rule() const
     const QPoint choice = m_comboAlignment->currentData().toPoint(); // kind and marker
     AlignmentRule rule;
     rule.by = static_cast<AlignBy>(choice.x());
-    rule.offset = m_model->offset(m_currentSensor);
+    rule.offset = model()->offset(m_currentSensor);
     if (rule.by == AlignBy::Marker)
-        rule.marker = m_model->verticalMarker(choice.y());
+        rule.marker = model()->verticalMarker(choice.y());
     if (usesThreshold())
         rule.threshold = m_thresholds[static_cast<size_t>(m_currentSensor)];
     return rule;
@@ -196,7 +137,7 @@ quint64 TabEvaluationOverlay::keyOf(int shot) const
 {
     quint64 key = 0;
     for (int sensor = 0; sensor < kNumSensors && key == 0; ++sensor)
-        key = m_model->measurementId(sensor, shot);
+        key = model()->measurementId(sensor, shot);
     return key;
 }
 
@@ -205,7 +146,7 @@ bool TabEvaluationOverlay::readKeys()
 {
     int count = 0;
     for (int sensor = 0; sensor < kNumSensors; ++sensor)
-        count = std::max(count, m_model->numChannels(sensor));
+        count = std::max(count, model()->numChannels(sensor));
     std::vector<quint64> keys(static_cast<size_t>(count));
     for (int shot = 0; shot < count; ++shot)
         keys[static_cast<size_t>(shot)] = keyOf(shot);
@@ -232,11 +173,11 @@ void TabEvaluationOverlay::refreshShots()
     const bool hasMoved = readKeys();
     if (hasMoved)
         forgetRemovedLooks();
-    std::vector<OverlayShots::Source> sources(static_cast<size_t>(m_model->numChannels(m_currentSensor)));
+    std::vector<OverlayShots::Source> sources(static_cast<size_t>(model()->numChannels(m_currentSensor)));
     quint64 reference = 0;
     for (size_t i = 0; i < sources.size(); ++i) {
         const auto shot = static_cast<int>(i);
-        sources[i] = {m_model->measurementId(m_currentSensor, shot), m_model->measurement(m_currentSensor, shot)};
+        sources[i] = {model()->measurementId(m_currentSensor, shot), model()->measurement(m_currentSensor, shot)};
         if (m_keys[i] == m_reference)
             reference = sources[i].id;
     }
@@ -283,8 +224,8 @@ void TabEvaluationOverlay::showRows()
         rows[i].color = colorOf(shot);
         rows[i].isShown = !lookOf(shot).isHidden;
         rows[i].isReference = shot == reference;
-        rows[i].timestamp = m_model->timestamp(shot);
-        rows[i].label = m_model->shotLabel(shot);
+        rows[i].timestamp = model()->timestamp(shot);
+        rows[i].label = model()->shotLabel(shot);
         rows[i].deviation = m_shots.shots()[i]->apart.largest;
     }
     m_tableModel->setRows(std::move(rows));
@@ -344,7 +285,7 @@ std::vector<bool> TabEvaluationOverlay::selectedShots() const
 void TabEvaluationOverlay::onSelectionChanged()
 {
     qCDebug(lcPlots) << Q_FUNC_INFO;
-    if (!m_model)
+    if (!model())
         return;
     showStatus();
     showPlot();
@@ -367,10 +308,10 @@ void TabEvaluationOverlay::onTable_colorEdited(int shot, const QColor &color)
 void TabEvaluationOverlay::onTable_labelEdited(int shot, const QString &label)
 {
     qCDebug(lcPlots) << Q_FUNC_INFO << "shot=" << shot << "label=" << label;
-    if (!m_model)
+    if (!model())
         return;
-    m_model->setShotLabel(shot, label);
-    m_model->setProjectModifiedFlag(true);
+    model()->setShotLabel(shot, label);
+    model()->setProjectModifiedFlag(true);
     recompute();
 }
 
@@ -420,9 +361,6 @@ void TabEvaluationOverlay::onButtonReference_clicked()
 
 void TabEvaluationOverlay::onSensorButtonToggled()
 {
-    const bool isOther = currentSensor() != m_currentSensor; // both the old and the new button report the switch
-    if (!isOther)
-        return;
     m_currentSensor = currentSensor();
     qCDebug(lcPlots) << Q_FUNC_INFO << "currentSensor=" << m_currentSensor;
     showThreshold();
@@ -447,7 +385,7 @@ void TabEvaluationOverlay::onMeanChanged()
 {
     qCDebug(lcPlots) << Q_FUNC_INFO;
     m_spinBoxSigmas->setEnabled(m_checkBand->isChecked());
-    if (m_model)
+    if (model())
         showPlot();
 }
 
@@ -455,20 +393,4 @@ void TabEvaluationOverlay::showThreshold()
 {
     const QSignalBlocker blocker(m_spinBoxThreshold);
     m_spinBoxThreshold->setValue(m_thresholds[static_cast<size_t>(m_currentSensor)]);
-}
-
-// A name that does not fit is shortened; the tool tip has all of it.
-void TabEvaluationOverlay::showSensorNames()
-{
-    constexpr int kFrame = 20; // pixels of a button that its text cannot use
-    for (int sensor = 0; sensor < kNumSensors; ++sensor) {
-        QAbstractButton *button = m_sensorButtons[static_cast<size_t>(sensor)];
-        const QString given = m_model ? nameOf(*m_model, sensor) : QString();
-        const QString name = given.isEmpty() ? tr("Sensor %1").arg(sensor + 1) : given;
-        QString text =
-            isVisible() ? button->fontMetrics().elidedText(name, Qt::ElideRight, button->width() - kFrame) : name;
-        text.replace(QLatin1Char('&'), QLatin1String("&&")); // no keyboard shortcut
-        button->setText(text);
-        button->setToolTip(name);
-    }
 }

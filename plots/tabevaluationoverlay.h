@@ -1,20 +1,16 @@
 #pragma once
 
 #include "model/sensordescription.h"
+#include "plots/modelpage.h"
 #include "plots/overlayshots.h"
 
 #include <QColor>
 #include <QHash>
-#include <QPointer>
-#include <QTimer>
-#include <QWidget>
 
 #include <array>
 
-class Model;
 class OverlayPlot;
 class OverlayTableModel;
-class QAbstractButton;
 class QCheckBox;
 class QComboBox;
 class QDoubleSpinBox;
@@ -22,9 +18,10 @@ class QItemSelection;
 class QLabel;
 class QLayout;
 class QPushButton;
-class QScrollBar;
 class QSortFilterProxyModel;
 class QTableView;
+class ScrolledPlot;
+class SensorSelection;
 
 /// The evaluation page that draws the shots of one sensor over each other: lined up by their start, by their values at
 /// a marker or by a threshold that they cross; with their mean and a band around it; and ranked by how far they are
@@ -33,13 +30,11 @@ class QTableView;
 /// Follows the model by itself, but only while it is shown, and at most every kRefreshInterval. The plot points at the
 /// page's own copies of the shots, so that removed measurements are never drawn. Colours and ticks are the page's own,
 /// and are kept as long as their shot is there; labels are kept by the model.
-class TabEvaluationOverlay : public QWidget
+class TabEvaluationOverlay final : public ModelPage
 {
     Q_OBJECT
 
 public:
-    static constexpr int kRefreshInterval = 50; ///< milliseconds from a change of the model to the next refresh
-
     explicit TabEvaluationOverlay(QWidget *parent = nullptr);
     ~TabEvaluationOverlay() override;
 
@@ -60,15 +55,13 @@ public slots:
     void update();
 
 protected:
-    void changeEvent(QEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
-    void showEvent(QShowEvent *event) override;
+    void refresh() override;
+    void retranslateUi() override;
+    void structureChanged() override;
+    void hideEvent(QHideEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private slots:
-    void onModel_dataChanged();
-    void onModel_projectChanged();
-    void onRefreshTimer_timeout();
     void onSensorButtonToggled();
     void onAlignmentChanged();
     void onThresholdChanged();
@@ -101,18 +94,15 @@ private:
     };
 
     void createLayout();
-    [[nodiscard]] QLayout *createSensorButtons();
     [[nodiscard]] QLayout *createOptions();
     void createTable();
     [[nodiscard]] QWidget *createTableSide();
-    [[nodiscard]] QWidget *createPlotSide();
+    [[nodiscard]] QWidget *createPlot();
     void connectWidgets();
-    void retranslateUi();
     void retranslateAlignments();
 
     [[nodiscard]] AlignmentRule rule() const;
     [[nodiscard]] bool usesThreshold() const;
-    void scheduleUpdate();
     void forgetShots();
     void recompute();
     void refreshShots();
@@ -126,7 +116,6 @@ private:
     void showRows();
     void showStatus();
     [[nodiscard]] QString unplacedText(int count) const;
-    void showSensorNames();
     void showThreshold();
 
     // The plot
@@ -141,9 +130,7 @@ private:
     void showMean(const std::vector<bool> &isShown);
     void showLines();
     void fitValueRange(const std::vector<bool> &isDrawn);
-    void fitTimeAxis();
 
-    QPointer<Model> m_model;
     OverlayShots m_shots;
     std::vector<quint64> m_keys; // what each shot is known by, whatever the sensor
     QHash<quint64, Look> m_looks;
@@ -152,11 +139,8 @@ private:
     std::vector<Slot> m_slots;
     int m_currentSensor = 0;
     int m_longest = 0; // samples from the left edge to the end of the longest curve
-    quint64 m_seenRevision = 0;
-    bool m_outOfDate = false;
-    QTimer m_refreshTimer;
 
-    std::array<QAbstractButton *, kNumSensors> m_sensorButtons{};
+    SensorSelection *m_sensors = nullptr;
     QLabel *m_labelAlignment = nullptr;
     QComboBox *m_comboAlignment = nullptr;
     QDoubleSpinBox *m_spinBoxThreshold = nullptr;
@@ -171,5 +155,5 @@ private:
     QPushButton *m_buttonReference = nullptr;
     QLabel *m_status = nullptr;
     OverlayPlot *m_plot = nullptr;
-    QScrollBar *m_timeScrollBar = nullptr;
+    ScrolledPlot *m_scrolledPlot = nullptr;
 };

@@ -3,17 +3,16 @@
 #include "plots/decimalspinbox.h"
 #include "plots/overlayplot.h"
 #include "plots/overlaytablemodel.h"
+#include "plots/scrolledplot.h"
+#include "plots/sensorselection.h"
 #include "plots/tabevaluationoverlay.h"
 
-#include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPoint>
 #include <QPushButton>
-#include <QRadioButton>
-#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QSortFilterProxyModel>
 #include <QSplitter>
@@ -45,22 +44,6 @@ QPoint choice(AlignBy by, int marker = 0)
 }
 
 } // namespace
-
-QLayout *TabEvaluationOverlay::createSensorButtons()
-{
-    auto *group = new QButtonGroup(this);
-    auto *layout = new QHBoxLayout;
-    for (int i = 0; i < kNumSensors; ++i) {
-        auto *button = new QRadioButton(this);
-        button->setObjectName(QStringLiteral("sensorButton%1").arg(i));
-        button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // a long name must not widen the page
-        group->addButton(button, i);
-        layout->addWidget(button);
-        m_sensorButtons[static_cast<size_t>(i)] = button;
-    }
-    m_sensorButtons[0]->setChecked(true);
-    return layout;
-}
 
 QLayout *TabEvaluationOverlay::createOptions()
 {
@@ -163,34 +146,28 @@ QWidget *TabEvaluationOverlay::createTableSide()
     return side;
 }
 
-QWidget *TabEvaluationOverlay::createPlotSide()
+QWidget *TabEvaluationOverlay::createPlot()
 {
     m_plot = new OverlayPlot(this);
     m_plot->setObjectName(QStringLiteral("osziWidget"));
     m_plot->setMinimumSize(300, 140);
     m_plot->setVerticalMarkerCount(1);
-    m_plot->installEventFilter(this);
-    m_timeScrollBar = new QScrollBar(Qt::Horizontal, this);
-    m_timeScrollBar->hide();
-    auto *side = new QWidget(this);
-    auto *layout = new QVBoxLayout(side);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_plot, 1);
-    layout->addWidget(m_timeScrollBar);
-    return side;
+    m_scrolledPlot = new ScrolledPlot(m_plot, this);
+    return m_scrolledPlot;
 }
 
 void TabEvaluationOverlay::createLayout()
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(6, 6, 6, 6);
-    layout->addLayout(createSensorButtons());
+    m_sensors = new SensorSelection(this);
+    layout->addWidget(m_sensors);
     layout->addLayout(createOptions());
     auto *splitter = new QSplitter(Qt::Horizontal, this);
     splitter->setChildrenCollapsible(false);
     splitter->setHandleWidth(8);
     splitter->addWidget(createTableSide());
-    splitter->addWidget(createPlotSide());
+    splitter->addWidget(createPlot());
     splitter->setStretchFactor(0, 0);
     splitter->setStretchFactor(1, 1);
     splitter->setSizes({kUsualTable, kUsualTable});
@@ -205,8 +182,7 @@ void TabEvaluationOverlay::createLayout()
 
 void TabEvaluationOverlay::connectWidgets()
 {
-    for (QAbstractButton *button : m_sensorButtons)
-        connect(button, &QAbstractButton::toggled, this, &TabEvaluationOverlay::onSensorButtonToggled);
+    connect(m_sensors, &SensorSelection::sensorChanged, this, &TabEvaluationOverlay::onSensorButtonToggled);
     connect(m_comboAlignment, qOverload<int>(&QComboBox::currentIndexChanged), this,
             &TabEvaluationOverlay::onAlignmentChanged);
     connect(m_spinBoxThreshold, qOverload<double>(&QDoubleSpinBox::valueChanged), this,
@@ -225,10 +201,6 @@ void TabEvaluationOverlay::connectWidgets()
     connect(m_buttonAll, &QPushButton::clicked, this, &TabEvaluationOverlay::onButtonAll_clicked);
     connect(m_buttonNone, &QPushButton::clicked, this, &TabEvaluationOverlay::onButtonNone_clicked);
     connect(m_buttonReference, &QPushButton::clicked, this, &TabEvaluationOverlay::onButtonReference_clicked);
-    connect(m_plot, &OsziWidget::mouseAtX, m_plot, &OsziWidget::showMouseMarker);
-    connect(m_plot, &OsziWidget::mouseReleased, m_plot, &OsziWidget::hideMouseMarker);
-    connect(m_timeScrollBar, &QScrollBar::valueChanged, m_plot, &OsziWidget::setStartIndex);
-    connect(&m_refreshTimer, &QTimer::timeout, this, &TabEvaluationOverlay::onRefreshTimer_timeout);
 }
 
 void TabEvaluationOverlay::retranslateUi()
@@ -245,7 +217,7 @@ void TabEvaluationOverlay::retranslateUi()
     m_table->setAccessibleName(tr("Schüsse der Überlagerung"));
     m_tableModel->retranslate();
     showStatus();
-    showSensorNames();
+    m_sensors->showSensors(model());
 }
 
 void TabEvaluationOverlay::retranslateAlignments()

@@ -1,11 +1,11 @@
 #include "model/model.h"
 #include "plots/overlayplot.h"
+#include "plots/scrolledplot.h"
 #include "plots/tabevaluationoverlay.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
-#include <QScrollBar>
 #include <QTableView>
 
 #include <algorithm>
@@ -14,8 +14,6 @@
 
 namespace {
 
-constexpr int kWidestSample = 10; // pixels
-constexpr int kUsualCount = 200;  // samples that the time axis has room for while there are none
 constexpr QRgb kFaded = 0xffcdcdcd;
 
 class ValueRange
@@ -39,21 +37,6 @@ private:
     std::optional<std::pair<double, double>> m_range;
 };
 
-void setValueRange(OsziWidget &plot, double minimum, double maximum)
-{
-    if (!(minimum < plot.minValue()) && !(minimum > plot.minValue()) && !(maximum < plot.maxValue())
-        && !(maximum > plot.maxValue()))
-        return;
-    // Each end must be moved while the other leaves room for it.
-    if (maximum > plot.maxValue()) {
-        plot.setMaxValue(maximum);
-        plot.setMinValue(minimum);
-    } else {
-        plot.setMinValue(minimum);
-        plot.setMaxValue(maximum);
-    }
-}
-
 } // namespace
 
 std::vector<bool> TabEvaluationOverlay::shownShots() const
@@ -72,14 +55,14 @@ void TabEvaluationOverlay::showPlot()
     if (reference >= 0 && static_cast<size_t>(reference) < drawn.size())
         drawn[static_cast<size_t>(reference)] = true;
     m_shots.place(drawn);
-    m_plot->setOffset(m_model->offset(m_currentSensor));
-    m_plot->setClock(m_model->clock());
+    m_plot->setOffset(model()->offset(m_currentSensor));
+    m_plot->setClock(model()->clock());
     showCurves(shown);
     showReference();
     showMean(shown);
     showLines();
     fitValueRange(drawn);
-    fitTimeAxis();
+    m_scrolledPlot->setLongest(m_longest);
     m_plot->samplesAppended();
 }
 
@@ -158,7 +141,7 @@ void TabEvaluationOverlay::showMean(const std::vector<bool> &isShown)
 void TabEvaluationOverlay::showLines()
 {
     const AlignmentRule aligned = rule();
-    const qint64 time = qint64(m_shots.alignedIndex()) * m_model->clock();
+    const qint64 time = qint64(m_shots.alignedIndex()) * model()->clock();
     const bool hasLine = aligned.by != AlignBy::Start && m_shots.alignedIndex() > 0;
     const qint64 latest = std::numeric_limits<int>::max();
     m_plot->setVerticalMarker(0, hasLine ? static_cast<int>(std::min(time, latest)) : -1, Qt::darkGreen);
@@ -190,20 +173,5 @@ void TabEvaluationOverlay::fitValueRange(const std::vector<bool> &isDrawn)
         }
     }
     const auto [minimum, maximum] = range.widened();
-    setValueRange(*m_plot, minimum, maximum);
-}
-
-// The longest curve fills the width; longer ones than fit are scrolled.
-void TabEvaluationOverlay::fitTimeAxis()
-{
-    const int width = m_plot->contentsRect().width() - OsziWidget::kLeftMargin;
-    const int count = m_longest > 0 ? m_longest : kUsualCount;
-    const int zoom = std::clamp(width / count, 1, kWidestSample);
-    const int hidden = std::max(0, count - std::max(0, width) / zoom);
-    if (zoom != m_plot->zoom())
-        m_plot->setZoom(zoom);
-    m_timeScrollBar->setRange(0, hidden);
-    m_timeScrollBar->setPageStep(std::max(1, count - hidden));
-    m_timeScrollBar->setSingleStep(std::max(1, m_timeScrollBar->pageStep() / 10));
-    m_timeScrollBar->setVisible(hidden > 0);
+    m_scrolledPlot->setValueRange(minimum, maximum);
 }

@@ -1,4 +1,5 @@
 #include "plots/tabevaluationruntime.h"
+#include "plots/sensorselection.h"
 
 #include "model/model.h"
 #include "plots/boxwhiskerswidget.h"
@@ -6,9 +7,7 @@
 #include "plots/osziwidget.h"
 #include "plots/runtimetablemodel.h"
 
-#include <QAbstractButton>
 #include <QDoubleSpinBox>
-#include <QEvent>
 #include <QSignalBlocker>
 #include <QTableView>
 
@@ -20,14 +19,6 @@ namespace {
 bool isSensor(int sensor)
 {
     return sensor >= 0 && sensor < kNumSensors;
-}
-
-QString nameOf(const Model &model, int sensor)
-{
-    const SensorDescription &description = model.sensorDescription();
-    if (description.numSensorGroups() == 0 || sensor >= description.sensorGroup(0).numSensors())
-        return {};
-    return description.sensorGroup(0).sensorName(sensor);
 }
 
 std::optional<qint64> pauseBetween(const QDateTime &from, const QDateTime &to)
@@ -59,10 +50,9 @@ std::vector<RuntimeRow> rowsOf(const Model &model, const std::vector<ShotRuntime
 } // namespace
 
 TabEvaluationRuntime::TabEvaluationRuntime(QWidget *parent)
-    : QWidget(parent)
+    : ModelPage(parent)
 {
     qCDebug(lcPlots) << Q_FUNC_INFO;
-    m_refreshTimer.setSingleShot(true);
     createLayout();
     retranslateUi();
     connectWidgets();
@@ -77,21 +67,16 @@ void TabEvaluationRuntime::setModel(Model *model)
         qCDebug(lcPlots) << "ERROR: model is not set!  (model==nullptr)!";
         return;
     }
-    if (m_model)
-        m_model->disconnect(this);
-    m_model = model;
-    connect(model, &Model::dataChanged, this, &TabEvaluationRuntime::onModel_dataChanged);
-    connect(model, &Model::projectChanged, this, &TabEvaluationRuntime::onModel_projectChanged);
+    follow(model);
     m_caches.fill(RuntimeCache());
     m_shown.sensor = -1;
     m_chosenShot = -1;
-    m_seenRevision = model->structureRevision();
     update();
 }
 
 bool TabEvaluationRuntime::hasModel(const char *function) const
 {
-    if (m_model)
+    if (model())
         return true;
     qCDebug(lcPlots).noquote().nospace()
         << function << " ERROR: model is not set!  (model==nullptr)!  -> set model before calling this!";
@@ -100,9 +85,7 @@ bool TabEvaluationRuntime::hasModel(const char *function) const
 
 int TabEvaluationRuntime::currentSensor() const
 {
-    const auto checked = std::find_if(m_sensorButtons.begin(), m_sensorButtons.end(),
-                                      [](const QAbstractButton *button) { return button->isChecked(); });
-    return checked == m_sensorButtons.end() ? 0 : static_cast<int>(std::distance(m_sensorButtons.begin(), checked));
+    return m_sensors->sensor();
 }
 
 double TabEvaluationRuntime::startThreshold(int sensor) const
@@ -128,69 +111,28 @@ void TabEvaluationRuntime::setThresholds(int sensor, double start, double stop)
     if (sensor != m_currentSensor)
         return;
     showThresholds();
-    if (m_model)
-        scheduleUpdate();
+    if (model())
+        scheduleRefresh();
 }
 
 RuntimeCriteria TabEvaluationRuntime::criteria() const
 {
     const Thresholds &thresholds = m_thresholds[static_cast<size_t>(m_currentSensor)];
-    return {m_model ? m_model->offset(m_currentSensor) : 0.0, thresholds.start, thresholds.stop};
+    return {model() ? model()->offset(m_currentSensor) : 0.0, thresholds.start, thresholds.stop};
 }
 
 // --- Following the model ---------------------------------------------------------------------------------------------
 
-// Comes for every sample line: no log line here, the model writes one for every emission.
-void TabEvaluationRuntime::onModel_dataChanged()
+void TabEvaluationRuntime::structureChanged()
 {
-    if (m_seenRevision != m_model->structureRevision()) {
-        m_seenRevision = m_model->structureRevision();
-        for (int sensor = 0; sensor < kNumSensors; ++sensor)
-            m_caches[static_cast<size_t>(sensor)].releaseRemoved(shotsOf(sensor));
-    }
-    scheduleUpdate();
-}
-
-void TabEvaluationRuntime::onModel_projectChanged()
-{
-    qCDebug(lcPlots) << Q_FUNC_INFO;
-    scheduleUpdate();
-}
-
-void TabEvaluationRuntime::scheduleUpdate()
-{
-    m_outOfDate = true;
-    if (isVisible() && !m_refreshTimer.isActive())
-        m_refreshTimer.start(kRefreshInterval);
-}
-
-void TabEvaluationRuntime::onRefreshTimer_timeout()
-{
-    qCDebug(lcPlots) << Q_FUNC_INFO;
-    if (m_model && isVisible())
-        update();
+    for (int sensor = 0; sensor < kNumSensors; ++sensor)
+        m_caches[static_cast<size_t>(sensor)].releaseRemoved(shotsOf(sensor));
 }
 
 void TabEvaluationRuntime::showEvent(QShowEvent *event)
 {
-    QWidget::showEvent(event);
-    showSensorNames();
     fitColumns(); // a page that was never shown has not been given its fonts before
-    if (m_model && m_outOfDate)
-        update();
-}
-
-void TabEvaluationRuntime::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        retranslateUi();
-    QWidget::changeEvent(event);
-}
-
-void TabEvaluationRuntime::resizeEvent(QResizeEvent *event)
-{
-    QWidget::resizeEvent(event);
-    showSensorNames();
+    ModelPage::showEvent(event);
 }
 
 void TabEvaluationRuntime::update()
@@ -198,9 +140,12 @@ void TabEvaluationRuntime::update()
     qCDebug(lcPlots) << Q_FUNC_INFO;
     if (!hasModel(Q_FUNC_INFO))
         return;
-    m_outOfDate = false;
-    m_refreshTimer.stop();
-    showSensorNames();
+    refreshNow();
+}
+
+void TabEvaluationRuntime::refresh()
+{
+    m_sensors->showSensors(model());
     recompute();
 }
 
@@ -214,11 +159,11 @@ void TabEvaluationRuntime::recompute()
 
 RuntimeCache::Shots TabEvaluationRuntime::shotsOf(int sensor) const
 {
-    const int count = m_model->numChannels(sensor);
+    const int count = model()->numChannels(sensor);
     RuntimeCache::Shots shots;
     shots.reserve(static_cast<size_t>(count));
     for (int shot = 0; shot < count; ++shot)
-        shots.push_back(m_model->measurement(sensor, shot));
+        shots.push_back(model()->measurement(sensor, shot));
     return shots;
 }
 
@@ -227,10 +172,10 @@ void TabEvaluationRuntime::updateTable()
     if (!hasModel(Q_FUNC_INFO))
         return;
     RuntimeCache &cache = m_caches[static_cast<size_t>(m_currentSensor)];
-    const RuntimeCache::Work work = cache.refresh(shotsOf(m_currentSensor), criteria(), m_model->structureRevision());
+    const RuntimeCache::Work work = cache.refresh(shotsOf(m_currentSensor), criteria(), model()->structureRevision());
     qCDebug(lcPlots).noquote().nospace() << Q_FUNC_INFO << " shots=" << cache.results().size()
                                          << " scanned=" << work.scanned << " extended=" << work.extended;
-    m_tableModel->setRows(rowsOf(*m_model, cache.results(), m_tableModel->rows()));
+    m_tableModel->setRows(rowsOf(*model(), cache.results(), m_tableModel->rows()));
     fitColumns();
     showSummaries(cache.results());
     if (m_chosenShot >= m_tableModel->numShots())
@@ -287,7 +232,7 @@ void TabEvaluationRuntime::onCellClicked(int row, int column)
 
 void TabEvaluationRuntime::chooseShot(int row)
 {
-    if (!hasModel(Q_FUNC_INFO) || row < 0 || row >= m_model->numChannels(m_currentSensor) || row == m_chosenShot)
+    if (!hasModel(Q_FUNC_INFO) || row < 0 || row >= model()->numChannels(m_currentSensor) || row == m_chosenShot)
         return;
     m_chosenShot = row;
     updateOszi();
@@ -330,20 +275,4 @@ void TabEvaluationRuntime::showThresholds()
     const Thresholds &thresholds = m_thresholds[static_cast<size_t>(m_currentSensor)];
     m_spinBoxStartValue->setValue(thresholds.start);
     m_spinBoxStopValue->setValue(thresholds.stop);
-}
-
-// A name that does not fit is shortened; the tool tip has all of it.
-void TabEvaluationRuntime::showSensorNames()
-{
-    constexpr int kFrame = 20; // pixels of a button that its text cannot use
-    for (int sensor = 0; sensor < kNumSensors; ++sensor) {
-        QAbstractButton *button = m_sensorButtons[static_cast<size_t>(sensor)];
-        const QString given = m_model ? nameOf(*m_model, sensor) : QString();
-        const QString name = given.isEmpty() ? tr("Sensor %1").arg(sensor + 1) : given;
-        QString text =
-            isVisible() ? button->fontMetrics().elidedText(name, Qt::ElideRight, button->width() - kFrame) : name;
-        text.replace(QLatin1Char('&'), QLatin1String("&&")); // no keyboard shortcut
-        button->setText(text);
-        button->setToolTip(name);
-    }
 }

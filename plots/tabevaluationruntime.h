@@ -2,26 +2,23 @@
 
 #include "model/samplelist.h"
 #include "model/sensordescription.h"
+#include "plots/modelpage.h"
 #include "plots/runtime.h"
 
 #include <QModelIndex>
-#include <QPointer>
-#include <QTimer>
-#include <QWidget>
 
 #include <array>
 #include <optional>
 
 class BoxWhiskersWidget;
-class Model;
 class OsziWidget;
-class QAbstractButton;
 class QDoubleSpinBox;
 class QLabel;
 class QLayout;
-class QScrollBar;
 class QTableView;
 class RuntimeTableModel;
+class ScrolledPlot;
+class SensorSelection;
 
 /// The evaluation page of the runtimes: for one sensor, when each shot first falls below a start threshold and when it
 /// last lies below a stop threshold, as a table, as three box plots, and drawn for the chosen shot.
@@ -29,13 +26,11 @@ class RuntimeTableModel;
 /// Follows the model by itself, but only while it is shown, and at most every kRefreshInterval. Its plot points at the
 /// page's own copy of the chosen shot, so that removed measurements are never drawn. Until a row is chosen, the newest
 /// shot is shown.
-class TabEvaluationRuntime : public QWidget
+class TabEvaluationRuntime final : public ModelPage
 {
     Q_OBJECT
 
 public:
-    static constexpr int kRefreshInterval = 50; ///< milliseconds from a change of the model to the next refresh
-
     explicit TabEvaluationRuntime(QWidget *parent = nullptr);
     ~TabEvaluationRuntime() override;
 
@@ -70,40 +65,33 @@ public slots:
     void onStartStopSpinBoxChanged();
 
 protected:
-    void changeEvent(QEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
+    void refresh() override;
+    void retranslateUi() override;
+    void structureChanged() override;
     void showEvent(QShowEvent *event) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private slots:
-    void onModel_dataChanged();
-    void onModel_projectChanged();
     void onTable_clicked(const QModelIndex &index);
-    void onRefreshTimer_timeout();
 
 private:
     static constexpr int kNumSummaries = 3; // start, duration, stop
 
     void createLayout();
-    [[nodiscard]] QLayout *createSensorButtons();
     [[nodiscard]] QLayout *createSummaries();
     [[nodiscard]] QDoubleSpinBox *createThresholdSpinBox(const QString &name);
     void createTable();
     void fitColumns();
     void createPlot();
     void connectWidgets();
-    void retranslateUi();
 
     [[nodiscard]] bool hasModel(const char *function) const;
     [[nodiscard]] RuntimeCriteria criteria() const;
     [[nodiscard]] RuntimeCache::Shots shotsOf(int sensor) const;
-    void scheduleUpdate();
     void recompute();
     void chooseShot(int row);
     void followNewestShot();
     void logThresholds(const char *function, const char *mark, int sensor) const;
     void showThresholds();
-    void showSensorNames();
     void showSummaries(const std::vector<ShotRuntime> &results);
 
     // The plot
@@ -111,7 +99,6 @@ private:
     [[nodiscard]] ShotRuntime shownRuntime() const;
     void showThresholdLines();
     void fitValueRange();
-    void fitTimeAxis();
 
     struct Thresholds
     {
@@ -129,18 +116,14 @@ private:
         std::optional<std::pair<double, double>> range;
     };
 
-    QPointer<Model> m_model;
     std::array<Thresholds, kNumSensors> m_thresholds{};
     std::array<RuntimeCache, kNumSensors> m_caches;
     int m_currentSensor = 0;
-    int m_chosenShot = -1; // -1: follows the newest
-    quint64 m_seenRevision = 0;
+    int m_chosenShot = -1;  // -1: follows the newest
     int m_longestCount = 0; // samples of the sensor's longest shot
-    bool m_outOfDate = false;
     ShownShot m_shown;
-    QTimer m_refreshTimer;
 
-    std::array<QAbstractButton *, kNumSensors> m_sensorButtons{};
+    SensorSelection *m_sensors = nullptr;
     QDoubleSpinBox *m_spinBoxStartValue = nullptr;
     QDoubleSpinBox *m_spinBoxStopValue = nullptr;
     QLabel *m_labelStartValue = nullptr;
@@ -150,5 +133,5 @@ private:
     std::array<QLabel *, kNumSummaries> m_summaryCaptions{};
     std::array<BoxWhiskersWidget *, kNumSummaries> m_summaries{};
     OsziWidget *m_osziWidget = nullptr;
-    QScrollBar *m_timeScrollBar = nullptr;
+    ScrolledPlot *m_scrolledPlot = nullptr;
 };

@@ -2,14 +2,13 @@
 #include "plots/decimalspinbox.h"
 #include "plots/osziwidget.h"
 #include "plots/runtimetablemodel.h"
+#include "plots/scrolledplot.h"
+#include "plots/sensorselection.h"
 #include "plots/tabevaluationruntime.h"
 
-#include <QButtonGroup>
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
-#include <QRadioButton>
-#include <QScrollBar>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -24,22 +23,6 @@ constexpr int kWidestSpinBox = 220;
 constexpr int kWidestTable = 900; // pixels that its columns can use; the box plots get the rest
 
 } // namespace
-
-QLayout *TabEvaluationRuntime::createSensorButtons()
-{
-    auto *group = new QButtonGroup(this);
-    auto *layout = new QHBoxLayout;
-    for (int i = 0; i < kNumSensors; ++i) {
-        auto *button = new QRadioButton(this);
-        button->setObjectName(QStringLiteral("sensorButton%1").arg(i));
-        button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // a long name must not widen the page
-        group->addButton(button, i);
-        layout->addWidget(button);
-        m_sensorButtons[static_cast<size_t>(i)] = button;
-    }
-    m_sensorButtons[0]->setChecked(true);
-    return layout;
-}
 
 QDoubleSpinBox *TabEvaluationRuntime::createThresholdSpinBox(const QString &name)
 {
@@ -136,40 +119,33 @@ void TabEvaluationRuntime::createPlot()
     m_osziWidget->setMinimumHeight(140);
     m_osziWidget->setHorizontalLineCount(2);
     m_osziWidget->setVerticalMarkerCount(2);
-    m_osziWidget->installEventFilter(this);
-    m_timeScrollBar = new QScrollBar(Qt::Horizontal, this);
-    m_timeScrollBar->hide();
+    m_scrolledPlot = new ScrolledPlot(m_osziWidget, this);
 }
 
 void TabEvaluationRuntime::createLayout()
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(6, 6, 6, 6);
-    layout->addLayout(createSensorButtons());
+    m_sensors = new SensorSelection(this);
+    layout->addWidget(m_sensors);
     createTable();
     createPlot();
     auto *middle = new QHBoxLayout;
     middle->addWidget(m_table, 3);
     middle->addLayout(createSummaries(), 1);
     layout->addLayout(middle, 1);
-    layout->addWidget(m_osziWidget, 1);
-    layout->addWidget(m_timeScrollBar);
+    layout->addWidget(m_scrolledPlot, 1);
 }
 
 void TabEvaluationRuntime::connectWidgets()
 {
-    for (QAbstractButton *button : m_sensorButtons)
-        connect(button, &QAbstractButton::toggled, this, &TabEvaluationRuntime::onSensorButtonToggled);
+    connect(m_sensors, &SensorSelection::sensorChanged, this, &TabEvaluationRuntime::onSensorButtonToggled);
     for (QDoubleSpinBox *spinBox : {m_spinBoxStartValue, m_spinBoxStopValue})
         connect(spinBox, qOverload<double>(&QDoubleSpinBox::valueChanged), this,
                 &TabEvaluationRuntime::onStartStopSpinBoxChanged);
     connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &TabEvaluationRuntime::onCurrentRowChanged);
     connect(m_table, &QTableView::clicked, this, &TabEvaluationRuntime::onTable_clicked);
-    connect(m_osziWidget, &OsziWidget::mouseAtX, m_osziWidget, &OsziWidget::showMouseMarker);
-    connect(m_osziWidget, &OsziWidget::mouseReleased, m_osziWidget, &OsziWidget::hideMouseMarker);
-    connect(m_timeScrollBar, &QScrollBar::valueChanged, m_osziWidget, &OsziWidget::setStartIndex);
-    connect(&m_refreshTimer, &QTimer::timeout, this, &TabEvaluationRuntime::onRefreshTimer_timeout);
 }
 
 void TabEvaluationRuntime::retranslateUi()
@@ -181,5 +157,5 @@ void TabEvaluationRuntime::retranslateUi()
     m_summaryCaptions[2]->setText(tr("Stop [s]"));
     m_tableModel->retranslate();
     fitColumns();
-    showSensorNames();
+    m_sensors->showSensors(model());
 }

@@ -1,4 +1,5 @@
 #include "plots/tabevaluationvalues.h"
+#include "plots/sensorselection.h"
 
 #include "app/theme.h"
 #include "plots/evaluationdata.h"
@@ -11,7 +12,6 @@
 #include "plots/statistics.h"
 #include "plots/trendchart.h"
 
-#include <QAbstractButton>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -78,12 +78,7 @@ TabEvaluationValues::TabEvaluationValues(QWidget *parent)
 void TabEvaluationValues::setCurrentSensor(int sensor)
 {
     qCDebug(lcPlots) << Q_FUNC_INFO << sensor;
-    if (sensor < 0 || sensor >= kNumSensors)
-        return;
-    m_sensor = sensor;
-    m_sensorButtons[static_cast<std::size_t>(sensor)]->setChecked(true);
-    if (isVisible())
-        refreshNow();
+    m_sensors->setSensor(sensor);
 }
 
 int TabEvaluationValues::chosenShot() const
@@ -93,11 +88,12 @@ int TabEvaluationValues::chosenShot() const
 
 // --- What the user does ------------------------------------------------------------------------------------------
 
-void TabEvaluationValues::onSensorButton_clicked(int sensor)
+void TabEvaluationValues::onSensors_sensorChanged(int sensor)
 {
     qCDebug(lcPlots) << Q_FUNC_INFO << sensor;
     m_sensor = sensor;
-    refreshNow();
+    if (isVisible())
+        refreshNow();
 }
 
 void TabEvaluationValues::onTable_currentChanged(const QModelIndex &current)
@@ -169,7 +165,7 @@ void TabEvaluationValues::choose(const Quantity &quantity)
 void TabEvaluationValues::refresh()
 {
     const QScopedValueRollback<bool> refreshing(m_refreshing, true);
-    showSensorNames();
+    m_sensors->showSensors(model());
     m_shown = data()->shownQuantities(m_sensor);
     showTable();
     showChoice();
@@ -279,27 +275,11 @@ void TabEvaluationValues::showCapability(const QuantitySeries &series)
         gradeSheet(outside > 0 || limits.isInverted() ? CapabilityGrade::Poor : CapabilityGrade::Unknown));
 }
 
-// A name that does not fit is shortened; the tool tip has all of it.
-void TabEvaluationValues::showSensorNames()
-{
-    constexpr int kFrame = 20; // pixels of a button that its text cannot use
-    for (int sensor = 0; sensor < kNumSensors; ++sensor) {
-        QAbstractButton *button = m_sensorButtons[static_cast<std::size_t>(sensor)];
-        const QString name = data() ? data()->sensorName(sensor) : tr("Sensor %1").arg(sensor + 1);
-        QString text = button->fontMetrics().elidedText(name, Qt::ElideRight, button->width() - kFrame);
-        text.replace(QLatin1Char('&'), QLatin1String("&&")); // no keyboard shortcut
-        button->setText(text);
-        button->setToolTip(name);
-        button->setAccessibleName(name);
-    }
-}
-
 void TabEvaluationValues::resizeEvent(QResizeEvent *event)
 {
     EvaluationPage::resizeEvent(event);
     layout()->activate(); // the widgets have their new widths
     fitColumns();
-    showSensorNames();
 }
 
 void TabEvaluationValues::retranslateUi()
@@ -316,5 +296,5 @@ void TabEvaluationValues::retranslateUi()
     const QString sigma = tr("Mit der Standardabweichung der Grundgesamtheit (geteilt durch n)");
     m_cp->setToolTip(tr("(Obere - untere Grenze) / 6 Sigma. %1").arg(sigma));
     m_cpk->setToolTip(tr("Abstand des Mittelwerts von der näheren Grenze / 3 Sigma. %1").arg(sigma));
-    showSensorNames();
+    m_sensors->showSensors(model());
 }

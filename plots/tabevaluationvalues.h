@@ -9,7 +9,6 @@
 class LimitField;
 class NormalBoxWidget;
 class NormalDistributionWidget;
-class QAbstractButton;
 class QComboBox;
 class QLabel;
 class QLayout;
@@ -18,6 +17,7 @@ class QPushButton;
 class QTableView;
 class QuantityPicker;
 class QuantityTableModel;
+class SensorSelection;
 class TrendChart;
 struct QuantitySeries;
 
@@ -42,7 +42,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private slots:
-    void onSensorButton_clicked(int sensor);
+    void onSensors_sensorChanged(int sensor);
     void onTable_currentChanged(const QModelIndex &current);
     void onHeader_sectionClicked(int section);
     void onQuantityBox_activated(int index);
@@ -53,7 +53,6 @@ private slots:
 
 private:
     void createLayout();
-    [[nodiscard]] QLayout *createSensorButtons();
     [[nodiscard]] QLayout *createChoice();
     [[nodiscard]] QLayout *createLimits();
     [[nodiscard]] QLayout *createLeftSide();
@@ -62,7 +61,6 @@ private:
     void connectWidgets();
 
     void choose(const Quantity &quantity);
-    void showSensorNames();
     void showTable();
     void fitColumns();
     void showChoice();
@@ -73,7 +71,7 @@ private:
     int m_sensor = 0;
     bool m_refreshing = false;
     QVector<Quantity> m_shown; // as the table and the list show them
-    std::array<QAbstractButton *, kNumSensors> m_sensorButtons{};
+    SensorSelection *m_sensors = nullptr;
     QTableView *m_table = nullptr;
     QuantityTableModel *m_tableModel = nullptr;
     QLabel *m_labelQuantity = nullptr;

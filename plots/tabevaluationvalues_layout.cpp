@@ -3,15 +3,14 @@
 #include "plots/normaldistributionwidget.h"
 #include "plots/quantitypicker.h"
 #include "plots/quantitytablemodel.h"
+#include "plots/sensorselection.h"
 #include "plots/tabevaluationvalues.h"
 #include "plots/trendchart.h"
 
-#include <QButtonGroup>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QTableView>
 #include <QVBoxLayout>
 
@@ -32,23 +31,6 @@ QLabel *newFigure(QWidget *parent, const char *name)
 }
 
 } // namespace
-
-QLayout *TabEvaluationValues::createSensorButtons()
-{
-    auto *group = new QButtonGroup(this);
-    auto *layout = new QHBoxLayout;
-    for (int i = 0; i < kNumSensors; ++i) {
-        auto *button = new QRadioButton(this);
-        button->setObjectName(QStringLiteral("sensorButton%1").arg(i));
-        button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // a long name must not widen the page
-        group->addButton(button, i);
-        layout->addWidget(button);
-        m_sensorButtons[static_cast<std::size_t>(i)] = button;
-    }
-    m_sensorButtons[0]->setChecked(true);
-    connect(group, qOverload<int>(&QButtonGroup::idClicked), this, &TabEvaluationValues::onSensorButton_clicked);
-    return layout;
-}
 
 void TabEvaluationValues::createTable()
 {
@@ -154,12 +136,14 @@ void TabEvaluationValues::createLayout()
     middle->addWidget(rightSide, 2);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(6, 6, 6, 6);
-    layout->addLayout(createSensorButtons());
+    m_sensors = new SensorSelection(this);
+    layout->addWidget(m_sensors);
     layout->addLayout(middle, 1);
 }
 
 void TabEvaluationValues::connectWidgets()
 {
+    connect(m_sensors, &SensorSelection::sensorChanged, this, &TabEvaluationValues::onSensors_sensorChanged);
     connect(m_table->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &TabEvaluationValues::onTable_currentChanged);
     connect(m_table->horizontalHeader(), &QHeaderView::sectionClicked, this,

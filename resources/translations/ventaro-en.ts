@@ -1514,10 +1514,6 @@ Identification of this computer:
         <translation>%1 too short</translation>
     </message>
     <message>
-        <source>Sensor %1</source>
-        <translation>Sensor %1</translation>
-    </message>
-    <message>
         <source>Ausrichten</source>
         <translation>Align</translation>
     </message>
@@ -1577,10 +1573,6 @@ Identification of this computer:
 <context>
     <name>TabEvaluationRuntime</name>
     <message>
-        <source>Sensor %1</source>
-        <translation>Sensor %1</translation>
-    </message>
-    <message>
         <source>Startschwelle</source>
         <translation>Start threshold</translation>
     </message>
@@ -1626,10 +1618,6 @@ Identification of this computer:
     <message>
         <source>Außerhalb: %1 von %2</source>
         <translation>Outside: %1 of %2</translation>
-    </message>
-    <message>
-        <source>Sensor %1</source>
-        <translation>Sensor %1</translation>
     </message>
     <message>
         <source>Größe</source>
