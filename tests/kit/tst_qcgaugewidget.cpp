@@ -94,6 +94,10 @@ void TestQcGaugeWidget::stillPartsAreKept_data()
     row("no value", QString(), [](QcGaugeWidget &gauge) { gauge.clearValue(); });
     row("held", QString(), [](QcGaugeWidget &gauge) { gauge.setHeld(10.0, 90.0); });
     row("same range", QString(), [](QcGaugeWidget &gauge) { gauge.setRange(0.0, 100.0); });
+    const double nan = std::numeric_limits<double>::quiet_NaN();
+    row("impossible bands", QString(), [nan](QcGaugeWidget &gauge) {
+        gauge.setBands({{0.0, nan, Qt::red}, {0.0, 9.0, QColor()}});
+    });
     row("needle", QString(), [](QcGaugeWidget &gauge) { gauge.find<QcNeedleItem>()->setColor(Qt::red); });
     row("part below", QStringLiteral("b"), [](QcGaugeWidget &gauge) { gauge.find<QcDegreesItem>()->setLength(9.0); });
     row("another step", all, [](QcGaugeWidget &gauge) { gauge.find<QcScaleItem>()->setStep(25.0); });
@@ -273,7 +277,7 @@ void TestQcGaugeWidget::needleMovesOnlyInSight()
     gauge.setDamping(10000);
     gauge.setValue(20.0);
     gauge.hide();
-    QVERIFY(!gauge.isOnTheWay());
+    QVERIFY(!gauge.isOnTheWay() && gauge.reading().shown == 20.0);
     gauge.setValue(30.0);
     QVERIFY(!gauge.isOnTheWay());
     QCOMPARE(gauge.reading().shown, 30.0);
