@@ -12,7 +12,8 @@ class QtMaterialRipple;
 
 /// What the material push buttons share: a rounded surface, an icon, a text with its mnemonic, the tint of hover, focus
 /// and press, and a ripple that starts where the button is pressed. Goes wherever a QPushButton goes; a style sheet
-/// gives it its font and its smallest size, the theme in force everything else.
+/// gives it its font and its smallest size, though never less than a gloved finger finds; the theme in force gives it
+/// everything else.
 class QtMaterialAbstractButton : public QPushButton
 {
     Q_OBJECT

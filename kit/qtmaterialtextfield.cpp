@@ -219,7 +219,8 @@ void QtMaterialTextField::showState()
 {
     m_state.setEnabled(isEnabled());
     m_state.setFocused(hasFocus());
-    m_state.setFilled(!text().isEmpty());
+    m_state.setFilled(!text().isEmpty() || !displayText().isEmpty()); // an input mask shows its blanks
+
     m_motion.moveTo(kLabelTrack, m_state.isLabelFloating() ? 1.0 : 0.0, kStateTime);
     m_motion.moveTo(kLineTrack, m_state.isFocused() ? 1.0 : 0.0, kStateTime);
     showPlaceholder();
@@ -263,6 +264,12 @@ void QtMaterialTextField::changeEvent(QEvent *event)
     }
 }
 
+void QtMaterialTextField::showEvent(QShowEvent *event)
+{
+    QLineEdit::showEvent(event);
+    showState(); // an input mask comes without a signal
+}
+
 void QtMaterialTextField::focusInEvent(QFocusEvent *event)
 {
     QLineEdit::focusInEvent(event);
@@ -296,7 +303,12 @@ void QtMaterialTextField::mousePressEvent(QMouseEvent *event)
 
 void QtMaterialTextField::mouseMoveEvent(QMouseEvent *event)
 {
-    setCursor(clearRect().contains(event->pos()) || isReadOnly() ? Qt::ArrowCursor : Qt::IBeamCursor);
+    const bool overText = !isReadOnly() && !clearRect().contains(event->pos());
+    const Qt::CursorShape shape = overText ? Qt::IBeamCursor : Qt::ArrowCursor;
+    if (cursor().shape() != shape) {
+        setCursor(shape);
+        update(); // the cross shows that it is pointed at
+    }
     if (!m_clearPressed)
         QLineEdit::mouseMoveEvent(event);
 }

@@ -169,7 +169,11 @@ void QtMaterialToggle::keyPressEvent(QKeyEvent *event)
 
 bool QtMaterialToggle::hitButton(const QPoint &position) const
 {
-    return isDragged() ? m_hand.wouldChange() : rect().contains(position);
+    if (isDragged())
+        return m_hand.wouldChange();
+    // Not the empty space that a wide layout leaves beside the label.
+    const QSize used(std::min(width(), sizeHint().width()), height());
+    return QStyle::alignedRect(layoutDirection(), Qt::AlignLeading, used, rect()).contains(position);
 }
 
 // With signals blocked toggled() is not heard.
