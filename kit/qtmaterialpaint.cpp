@@ -14,6 +14,7 @@ namespace QtMaterialPaint {
 namespace {
 
 constexpr qreal kRingWidth = 2.0;
+constexpr qreal kLargestRatio = 4.0;
 constexpr int kShadowLayers = 10;
 constexpr qreal kShadowOpacity = 0.42; // of all layers together
 
@@ -73,7 +74,8 @@ void drawShadow(QPainter &painter, const QRect &surface, int radius, Depth depth
 {
     if (surface.isEmpty())
         return;
-    const qreal ratio = painter.device()->devicePixelRatioF();
+    // What the painter enlarges by: that of the screen, or of a picture that the widget is rendered into.
+    const qreal ratio = std::clamp(painter.deviceTransform().m11(), 1.0, kLargestRatio);
     const QString key = QStringLiteral("QtMaterialShadow %1 %2 %3 %4 %5")
                             .arg(surface.width())
                             .arg(surface.height())
