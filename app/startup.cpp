@@ -26,6 +26,15 @@ namespace {
 
 constexpr int kSplashWidth = 1200;
 
+/// For title bars and task bars, in their usual sizes: made small, the large drawing would be hair-lines.
+QIcon windowIcon()
+{
+    QIcon icon;
+    for (int size : {16, 22, 24, 32, 48, 64, 256})
+        icon.addFile(QStringLiteral(":/window/%1.png").arg(size));
+    return icon;
+}
+
 } // namespace
 
 void loadFonts()
@@ -73,7 +82,7 @@ void prepareApplication(QApplication &application)
     application.setStyleSheet(theme::styleApplication);
     installKitTheme();
     installQtTexts(QStringLiteral("de"));
-    QApplication::setWindowIcon(QIcon(theme::iconPrefix + QStringLiteral("ventaro.png")));
+    QApplication::setWindowIcon(windowIcon());
 }
 
 void showSplash(QSplashScreen &splash, std::chrono::milliseconds time)

@@ -11,7 +11,7 @@ inline const QString styleToolBar =
     QStringLiteral("QToolBar {background-color: ") + colorDark
     + QStringLiteral(";border: 0;padding: 0;spacing: 10px;height: 30px;border-bottom: 1px solid ") + colorMedium
     + QStringLiteral(";}QToolBar QWidget {background-color: ") + colorDark
-    + QStringLiteral(";margin-bottom: 1px;}QToolBar QToolButton {border: 0px;    font: bold 24px;padding: 5px;color: ")
+    + QStringLiteral(";margin-bottom: 2px;}QToolBar QToolButton {border: 0px;    font: bold 24px;padding: 5px;color: ")
     + colorBackground
     + QStringLiteral(";}QToolBar QToolButton:disabled {color: ") + colorMedium
     + QStringLiteral(";}QToolBar QLabel {font: bold 24px;color: ") + colorMedium

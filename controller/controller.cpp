@@ -88,6 +88,11 @@ void Controller::connectTabs()
     QObject::connect(project, &TabProject::phaseEditChanged, this, &Controller::onTabProject_onPhaseEditChanged);
     QObject::connect(project, &TabProject::commentChanged, this, &Controller::onTabProject_commentChanged);
 
+    QObject::connect(project, &TabProject::imageButtonClicked, this, &Controller::onTabProject_imageButtonClicked);
+    QObject::connect(project, &TabProject::imageDeleteClicked, this, &Controller::onTabProject_imageDeleteClicked);
+    QObject::connect(project, &TabProject::imageFilesGiven, this, &Controller::onTabProject_imageFilesGiven);
+    QObject::connect(project, &TabProject::imageGiven, this, &Controller::onTabProject_imageGiven);
+
     const TabOszilloscope *oszi = d->view->tabOszi();
     QObject::connect(oszi, &TabOszilloscope::deleteMeasurements, this, &Controller::onTabOszi_deleteMeasurements);
     QObject::connect(oszi, &TabOszilloscope::markerChangedAbsolute, this, &Controller::onTabOszi_markerChangedAbsolute);

@@ -15,6 +15,8 @@ class MesotraConnector;
 class Model;
 class QColor;
 class QDir;
+class QImage;
+class QPixmap;
 class View;
 class SensorDescription;
 struct ReceivedProject;
@@ -87,6 +89,10 @@ public slots:
     void onTabProject_clearDataClicked();
     void onTabProject_onPhaseEditChanged(int phase, const QString &name);
     void onTabProject_commentChanged();
+    void onTabProject_imageButtonClicked(int image);
+    void onTabProject_imageDeleteClicked(int image);
+    void onTabProject_imageFilesGiven(int image, const QStringList &files);
+    void onTabProject_imageGiven(int image, const QImage &picture);
     void onTabOszi_deleteMeasurements(const QString &range);
     void onTabOszi_markerChangedAbsolute(int index, int pos_ms);
     void onTabOszi_markerChangedRelative(int index, int pos_ms);
@@ -184,6 +190,9 @@ private:
     void showDeviceState();
     [[nodiscard]] QString askProjectFileToSave();
     void applyEdit(const std::function<void()> &edit);
+    [[nodiscard]] bool mayReplaceImage(int image);
+    [[nodiscard]] bool takeImageFile(int image, const QString &file);
+    void setImage(int image, const QPixmap &picture);
 
     struct Private;
     std::unique_ptr<Private> d;

@@ -1,9 +1,10 @@
 #include "view/projectform.h"
 
+#include "plots/decimalspinbox.h"
 #include "view/tabstyle.h"
+#include "view/textfield.h"
 
 #include <QDate>
-#include <QDoubleSpinBox>
 #include <QEvent>
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -21,6 +22,7 @@ constexpr int kLargestForce = 100000;   // kN
 constexpr int kLargestPressure = 10000; // bar
 constexpr double kLongestTime = 3600.0; // s
 constexpr int kTimeDecimals = 3;
+constexpr int kLongestText = 200; // characters
 
 enum Row { Name, Number, User, Date, Customer, Force, InjectionTime, PressTime, Pressure, NumRows };
 constexpr std::size_t kNumTexts = Customer + 1;
@@ -49,13 +51,13 @@ SpinBox *newNumberField(QWidget *parent, const char *name)
     box->setObjectName(QLatin1String(name));
     box->setAlignment(Qt::AlignHCenter);
     box->setStyleSheet(QStringLiteral("QAbstractSpinBox {min-width: 200px; min-height: 30px; padding: 2px;}"));
-    box->setGroupSeparatorShown(true);
+    box->setFocusPolicy(Qt::StrongFocus); // not by the wheel, see eventFilter()
     return box;
 }
 
 QDoubleSpinBox *newTimeField(QWidget *parent, const char *name)
 {
-    auto *box = newNumberField<QDoubleSpinBox>(parent, name);
+    auto *box = newNumberField<DecimalSpinBox>(parent, name);
     box->setDecimals(kTimeDecimals);
     box->setRange(0.0, kLongestTime);
     box->setSingleStep(0.1);
@@ -102,10 +104,8 @@ void ProjectForm::Private::fill(const ProjectData &project) const
 {
     const std::array<QString, kNumTexts> values{project.name, project.number, project.user, project.date,
                                                 project.customer};
-    for (std::size_t i = 0; i < kNumTexts; ++i) {
-        if (texts[i]->text() != values[i])
-            texts[i]->setText(values[i]); // moves the cursor, so only when it must be
-    }
+    for (std::size_t i = 0; i < kNumTexts; ++i)
+        textfield::show(texts[i], values[i], kLongestText);
     setAnyValue(force, project.closingForce);
     setAnyValue(injectionTime, project.injectionTime);
     setAnyValue(pressTime, project.pressTime);
@@ -143,7 +143,7 @@ void ProjectForm::Private::layOut(QWidget *form)
 {
     auto *layout = new QFormLayout(form);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setVerticalSpacing(6);
+    layout->setVerticalSpacing(4);
     layout->setHorizontalSpacing(16);
     layout->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     for (int row = 0; row < NumRows; ++row) {
@@ -173,6 +173,9 @@ ProjectForm::ProjectForm(QWidget *parent)
     d->createFields(this);
     d->layOut(this);
     d->shown = d->read();
+    for (QWidget *box : {static_cast<QWidget *>(d->force), static_cast<QWidget *>(d->injectionTime),
+                         static_cast<QWidget *>(d->pressTime), static_cast<QWidget *>(d->pressure)})
+        box->installEventFilter(this);
     for (QLineEdit *edit : d->texts)
         connect(edit, &QLineEdit::textEdited, this, &ProjectForm::edited);
     for (QSpinBox *box : {d->force, d->pressure})
@@ -213,6 +216,16 @@ ProjectData ProjectForm::data() const
     takeIfEdited(result.pressTime, d->shown.pressTime, now.pressTime);
     takeIfEdited(result.pressure, d->shown.pressure, now.pressure);
     return result;
+}
+
+/// The wheel scrolls the page; a number that lies under the pointer by chance must not change with it.
+bool ProjectForm::eventFilter(QObject *watched, QEvent *event)
+{
+    const auto *box = qobject_cast<const QWidget *>(watched);
+    if (event->type() != QEvent::Wheel || !box || box->hasFocus())
+        return QWidget::eventFilter(watched, event);
+    event->ignore();
+    return true;
 }
 
 void ProjectForm::changeEvent(QEvent *event)

@@ -1,21 +1,26 @@
 #include "view/tabproject.h"
 
 #include "model/model.h"
+#include "view/actionicon.h"
 #include "view/logging.h"
+#include "view/phasestrip.h"
 #include "view/projectform.h"
+#include "view/projectimages.h"
 #include "view/tabstyle.h"
+#include "view/textfield.h"
 
 #include <QEvent>
-#include <QFormLayout>
+#include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPushButton>
-#include <QSignalBlocker>
 #include <QVBoxLayout>
 
-#include <array>
+namespace {
+
+const QColor kDanger(0xC6, 0x28, 0x28);
+
+} // namespace
 
 struct TabProject::Private
 {
@@ -23,73 +28,104 @@ struct TabProject::Private
     QString comment;      // what the field was filled with
     QString commentShown; // the same as the field gives it back
     ProjectForm *form = nullptr;
-    QPlainTextEdit *commentEdit = nullptr;
-    std::array<QLineEdit *, Model::kNumPhases> phases{};
-    std::array<QLabel *, Model::kNumPhases> phaseLabels{};
+    ProjectImages *images = nullptr;
+    PhaseStrip *phases = nullptr;
+    LongTextEdit *commentEdit = nullptr;
     QLabel *recordHeading = nullptr;
+    QLabel *imagesHeading = nullptr;
     QLabel *commentHeading = nullptr;
     QLabel *phaseHeading = nullptr;
+    QFrame *danger = nullptr;
+    QLabel *warning = nullptr;
     QPushButton *clear = nullptr;
 
     void createWidgets(QWidget *parent);
-    [[nodiscard]] QVBoxLayout *leftColumn() const;
-    [[nodiscard]] QVBoxLayout *rightColumn() const;
+    void createDanger(QWidget *parent);
+    void layOut(QWidget *content) const;
+    void connectTo(TabProject *tab) const;
     void fillComment(const QString &text);
 };
 
 void TabProject::Private::createWidgets(QWidget *parent)
 {
     form = new ProjectForm(parent);
-    for (QLabel **heading : {&recordHeading, &commentHeading, &phaseHeading}) {
+    commentEdit = new LongTextEdit(parent);
+    commentEdit->setObjectName(QStringLiteral("textEditComment"));
+    commentEdit->setTabChangesFocus(true);
+    commentEdit->setMinimumHeight(80);
+    images = new ProjectImages(parent);
+    phases = new PhaseStrip(parent);
+    for (QLabel **heading : {&recordHeading, &imagesHeading, &commentHeading, &phaseHeading}) {
         *heading = new QLabel(parent);
         tabstyle::makeHeading(*heading);
     }
-    for (std::size_t i = 0; i < phases.size(); ++i) {
-        phases[i] = new QLineEdit(parent);
-        phases[i]->setObjectName(QStringLiteral("lineEditPhase%1").arg(i + 1));
-        phaseLabels[i] = new QLabel(parent);
-        phaseLabels[i]->setBuddy(phases[i]);
-    }
-    commentEdit = new QPlainTextEdit(parent);
-    commentEdit->setObjectName(QStringLiteral("textEditComment"));
-    commentEdit->setTabChangesFocus(true);
-    commentEdit->setMinimumHeight(120);
-    clear = new QPushButton(parent);
+    commentHeading->setBuddy(commentEdit);
+    createDanger(parent);
+}
+
+/// Set apart, so that nobody gets there by habit.
+void TabProject::Private::createDanger(QWidget *parent)
+{
+    danger = new QFrame(parent);
+    danger->setObjectName(QStringLiteral("frameDanger"));
+    danger->setStyleSheet(QStringLiteral("QFrame#frameDanger {border: 1px solid %1; border-radius: 4px;}"
+                                         "QPushButton {background-color: %1; padding: 0px 18px;}"
+                                         "QPushButton:focus {border: 3px solid black;}")
+                              .arg(kDanger.name()));
+    warning = new QLabel(danger);
+    clear = new QPushButton(danger);
     clear->setObjectName(QStringLiteral("buttonClearData"));
-    tabstyle::makeLarge(clear, QStringLiteral("delete.png"));
+    clear->setIcon(actionIcon(QStringLiteral("delete.png"), Qt::white));
+    clear->setIconSize(QSize(28, 28));
+    auto *row = new QHBoxLayout(danger);
+    row->setContentsMargins(16, 6, 8, 6);
+    row->setSpacing(16);
+    row->addWidget(warning, 1);
+    row->addWidget(clear);
 }
 
-QVBoxLayout *TabProject::Private::leftColumn() const
+void TabProject::Private::layOut(QWidget *content) const
 {
-    auto *column = new QVBoxLayout;
-    column->setSpacing(10);
-    column->addWidget(recordHeading);
-    column->addWidget(form);
-    column->addStretch(1);
-    return column;
+    auto *left = new QVBoxLayout;
+    left->addWidget(recordHeading);
+    left->addWidget(form);
+    left->addWidget(commentHeading);
+    left->addWidget(commentEdit, 1);
+    auto *right = new QVBoxLayout;
+    right->addWidget(imagesHeading);
+    right->addWidget(images, 1);
+    auto *columns = new QHBoxLayout;
+    columns->setSpacing(24);
+    columns->addLayout(left, 2);
+    columns->addLayout(right, 3);
+    auto *page = new QVBoxLayout(content);
+    page->setContentsMargins(24, 2, 24, 8);
+    page->setSpacing(2);
+    page->addLayout(columns, 1);
+    page->addWidget(phaseHeading);
+    page->addWidget(phases);
+    page->addSpacing(12);
+    page->addWidget(danger);
+    for (QVBoxLayout *column : {left, right})
+        column->setSpacing(2);
 }
 
-QVBoxLayout *TabProject::Private::rightColumn() const
+void TabProject::Private::connectTo(TabProject *tab) const
 {
-    auto *names = new QFormLayout;
-    names->setVerticalSpacing(6);
-    names->setHorizontalSpacing(16);
-    for (std::size_t i = 0; i < phases.size(); ++i)
-        names->addRow(phaseLabels[i], phases[i]);
-    auto *column = new QVBoxLayout;
-    column->setSpacing(10);
-    column->addWidget(phaseHeading);
-    column->addLayout(names);
-    column->addWidget(commentHeading);
-    column->addWidget(commentEdit, 1);
-    column->addWidget(clear, 0, Qt::AlignLeft);
-    return column;
+    connect(form, &ProjectForm::edited, tab, &TabProject::projectDataChanged);
+    connect(commentEdit, &LongTextEdit::edited, tab, &TabProject::commentChanged);
+    connect(phases, &PhaseStrip::nameEdited, tab, &TabProject::phaseEditChanged);
+    connect(clear, &QPushButton::clicked, tab, &TabProject::clearDataClicked);
+    connect(images, &ProjectImages::chooseClicked, tab, &TabProject::imageButtonClicked);
+    connect(images, &ProjectImages::enlarged, tab, &TabProject::imageLabelClicked);
+    connect(images, &ProjectImages::deleteClicked, tab, &TabProject::imageDeleteClicked);
+    connect(images, &ProjectImages::filesGiven, tab, &TabProject::imageFilesGiven);
+    connect(images, &ProjectImages::imageGiven, tab, &TabProject::imageGiven);
 }
 
 void TabProject::Private::fillComment(const QString &text)
 {
-    const QSignalBlocker blocker(commentEdit);
-    commentEdit->setPlainText(text);
+    commentEdit->showText(text);
     comment = text;
     commentShown = commentEdit->toPlainText();
 }
@@ -100,18 +136,8 @@ TabProject::TabProject(QWidget *parent)
 {
     QWidget *content = tabstyle::addScrolledPage(this);
     d->createWidgets(content);
-    auto *columns = new QHBoxLayout(content);
-    columns->setContentsMargins(24, 8, 24, 16);
-    columns->setSpacing(32);
-    columns->addLayout(d->leftColumn(), 1);
-    columns->addLayout(d->rightColumn(), 1);
-    connect(d->form, &ProjectForm::edited, this, &TabProject::projectDataChanged);
-    connect(d->commentEdit, &QPlainTextEdit::textChanged, this, &TabProject::commentChanged);
-    connect(d->clear, &QPushButton::clicked, this, &TabProject::clearDataClicked);
-    for (int i = 0; i < Model::kNumPhases; ++i) {
-        connect(d->phases[static_cast<std::size_t>(i)], &QLineEdit::textEdited, this,
-                [this, i](const QString &name) { emit phaseEditChanged(i, name); });
-    }
+    d->layOut(content);
+    d->connectTo(this);
     retranslateUi();
 }
 
@@ -144,11 +170,8 @@ void TabProject::updateFromModel()
     d->form->setData(d->model->projectData());
     if (d->model->comment() != comment())
         d->fillComment(d->model->comment());
-    for (int i = 0; i < Model::kNumPhases; ++i) {
-        QLineEdit *edit = d->phases[static_cast<std::size_t>(i)];
-        if (edit->text() != d->model->phaseName(i))
-            edit->setText(d->model->phaseName(i));
-    }
+    d->phases->showFrom(*d->model);
+    d->images->showFrom(*d->model);
 }
 
 void TabProject::changeEvent(QEvent *event)
@@ -161,11 +184,11 @@ void TabProject::changeEvent(QEvent *event)
 void TabProject::retranslateUi()
 {
     d->recordHeading->setText(tr("Projektbeschreibung"));
-    d->commentHeading->setText(tr("Kommentar"));
+    d->imagesHeading->setText(tr("Bilder"));
+    d->commentHeading->setText(tr("K&ommentar"));
     d->commentEdit->setAccessibleName(tr("Kommentar"));
-    d->phaseHeading->setText(tr("Namen der Phasen"));
-    for (int i = 0; i < Model::kNumPhases; ++i)
-        d->phaseLabels[static_cast<std::size_t>(i)]->setText(tr("Phase &%1:").arg(i + 1));
+    d->phaseHeading->setText(tr("Phasen"));
+    d->warning->setText(tr("Löscht die Messdaten aller Sensoren; die Projektbeschreibung bleibt."));
     d->clear->setText(tr("&Alle Messdaten löschen..."));
-    d->clear->setToolTip(tr("Löscht die Messdaten aller Sensoren; die Projektbeschreibung bleibt."));
+    d->clear->setToolTip(d->warning->text());
 }

@@ -8,7 +8,8 @@
 
 class Model;
 
-/// The tab "Projekt": the project's descriptive record, its comment, its phase names, and the deletion of all data.
+/// The tab "Projekt": the project's descriptive record, its pictures, its comment, its phase names, and the deletion of
+/// all data. Everything is told as it is typed.
 class TabProject : public QWidget
 {
     Q_OBJECT
@@ -29,6 +30,12 @@ signals:
     void commentChanged();
     void clearDataClicked();
     void phaseEditChanged(int phase, const QString &name);
+    // Of the five pictures, 0 to 4:
+    void imageButtonClicked(int image); ///< the user wants to choose a file
+    void imageLabelClicked(int image);  ///< the picture has been enlarged
+    void imageDeleteClicked(int image);
+    void imageFilesGiven(int image, const QStringList &files); ///< dropped or pasted, not empty
+    void imageGiven(int image, const QImage &picture);         ///< likewise, not null
 
 protected:
     void changeEvent(QEvent *event) override;

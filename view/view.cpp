@@ -187,5 +187,7 @@ void View::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange)
         languageChanged();
+    else if (event->type() == QEvent::WindowStateChange)
+        d->noteNormalPlacement(static_cast<QWindowStateChangeEvent *>(event)->oldState());
     QMainWindow::changeEvent(event);
 }

@@ -36,9 +36,10 @@ constexpr int kDataInterval = 50;  // ms between two updates of what shows the l
 constexpr int kFileInterval = 250; // ms
 
 constexpr QSize kSmallestTabs(320, 200);
-constexpr QPoint kDefaultPosition(200, 200);
-constexpr QSize kDefaultSize(400, 400);
-constexpr int kTitleBarHeight = 30;
+
+const QString kPosition = QStringLiteral("mainwindow_pos");
+const QString kSize = QStringLiteral("mainwindow_size");
+const QString kMaximized = QStringLiteral("mainwindow_maximized");
 
 QSettings settings()
 {
@@ -51,14 +52,13 @@ QKeySequence tabKey(int tab)
     return Qt::CTRL + Qt::Key_1 + tab;
 }
 
-/// A window whose title bar lies on no screen (a monitor was taken away) could not be moved back by hand.
-bool isReachable(QPoint position, QSize size)
+QVector<QRect> screensForWindows()
 {
-    const QRect titleBar(position, QSize(size.width(), kTitleBarHeight));
-    const QList<QScreen *> screens = QGuiApplication::screens();
-    return std::any_of(screens.cbegin(), screens.cend(), [&titleBar](const QScreen *screen) {
-        return screen->availableVirtualGeometry().intersects(titleBar) && screen->geometry().intersects(titleBar);
-    });
+    QVector<QRect> areas;
+    const QList<QScreen *> screens = QGuiApplication::screens(); // the primary first
+    for (const QScreen *screen : screens)
+        areas.append(screen->availableGeometry());
+    return areas;
 }
 
 } // namespace
@@ -142,6 +142,7 @@ void View::Private::createStatusBar()
     fileLabel = new QLabel(q);
     fileLabel->setObjectName(QStringLiteral("labelProjectFile"));
     fileLabel->setTextFormat(Qt::PlainText);
+    fileLabel->setContentsMargins(0, 0, 8, 0); // a maximised window has no grip beside it
     q->statusBar()->addPermanentWidget(fileLabel);
 }
 
@@ -217,6 +218,8 @@ void View::Private::connectTabs()
     QObject::connect(tabs, &QTabWidget::currentChanged, q, &View::onTabSelected);
     connectHome();
     QObject::connect(tabProject, &TabProject::commentChanged, q, &View::commentChanged);
+    QObject::connect(tabProject, &TabProject::imageButtonClicked, q, &View::imageButtonClicked);
+    QObject::connect(tabProject, &TabProject::imageLabelClicked, q, &View::imageLabelClicked);
     QObject::connect(tabLogger, &TabDataLogger::clearRequested, q, &View::clearLogger);
     QObject::connect(tabLogger, &TabDataLogger::headlineRequested, q, &View::loggerHeadline);
     QObject::connect(tabTerminal, &TabTerminal::sendRequested, q, &View::terminalSend);
@@ -252,14 +255,29 @@ void View::Private::connectModel()
 void View::Private::readSettings()
 {
     const QSettings stored = settings();
-    const QPoint position = stored.value(QStringLiteral("mainwindow_pos"), kDefaultPosition).toPoint();
-    const QSize size = stored.value(QStringLiteral("mainwindow_size"), kDefaultSize).toSize();
-    q->resize(size.isEmpty() ? kDefaultSize : size);
-    q->move(isReachable(position, q->size()) ? position : kDefaultPosition);
+    if (stored.contains(kPosition) || stored.contains(kSize)) {
+        placement.position = stored.value(kPosition, placement.position).toPoint();
+        placement.size = stored.value(kSize, placement.size).toSize();
+        placement = placedOnScreens(placement, screensForWindows());
+    }
+    q->resize(placement.size);
+    q->move(placement.position);
+    if (stored.value(kMaximized).toBool())
+        q->setWindowState(Qt::WindowMaximized);
     lastDir = stored.value(QStringLiteral("lastDir")).toString();
     readRecent();
     const QString language = stored.value(QStringLiteral("language")).toString();
     languages.loadLanguage(languages.isOffered(language) ? language : languages.language());
+}
+
+/// The place to come back to, noted when the window begins to fill the screen; afterwards its frame cannot be told.
+void View::Private::noteNormalPlacement(Qt::WindowStates before)
+{
+    constexpr Qt::WindowStates kFilling = Qt::WindowMaximized | Qt::WindowFullScreen;
+    if (!q->isVisible() || before & kFilling || !(q->windowState() & kFilling))
+        return;
+    const QPoint frame = q->geometry().topLeft() - q->pos();
+    placement = {q->normalGeometry().topLeft() - frame, q->normalGeometry().size()};
 }
 
 void View::writeSettings()
@@ -267,8 +285,9 @@ void View::writeSettings()
     qCDebug(lcView) << Q_FUNC_INFO;
     QSettings stored = settings();
     const bool filling = isMaximized() || isFullScreen();
-    stored.setValue(QStringLiteral("mainwindow_pos"), filling ? normalGeometry().topLeft() : pos());
-    stored.setValue(QStringLiteral("mainwindow_size"), filling ? normalGeometry().size() : size());
+    stored.setValue(kPosition, filling ? d->placement.position : pos());
+    stored.setValue(kSize, filling ? d->placement.size : size());
+    stored.setValue(kMaximized, isMaximized());
     stored.setValue(QStringLiteral("lastDir"), d->lastDir);
 }
 

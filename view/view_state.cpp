@@ -23,7 +23,8 @@
 
 namespace {
 
-constexpr int kLongestFileText = 420; // pixels
+constexpr int kLongestFileText = 420;          // pixels
+const QLatin1String kModifiedColor("#B45309"); // can be read on the bar's grey
 
 QColor stateColor(ActionState state)
 {
@@ -237,15 +238,22 @@ void View::Private::refreshProject()
 void View::Private::refreshFileLabel()
 {
     const QString file = model->currentFile();
-    const QString name = file.isEmpty() ? tr("Neues Projekt") : QFileInfo(file).fileName();
-    const QString mark = model->isProjectModified() ? tr(" – nicht gespeichert") : QString();
+    const QString project = model->projectData().name.simplified();
+    const bool modified = model->isProjectModified();
+    const QString name =
+        file.isEmpty() ? (project.isEmpty() ? tr("Neues Projekt") : project) : QFileInfo(file).fileName();
+    const QString state = modified ? tr("geändert") : file.isEmpty() ? QString() : tr("gespeichert");
+    const QString mark = state.isEmpty() ? QString() : QStringLiteral(" – ") + state;
     const QFontMetrics metrics = fileLabel->fontMetrics();
     const int nameWidth = kLongestFileText - metrics.horizontalAdvance(mark);
     const QString text = metrics.elidedText(name, Qt::ElideMiddle, nameWidth) + mark;
-    if (text != fileLabel->text())
-        fileLabel->setText(text);
-    if (file != fileLabel->toolTip())
-        fileLabel->setToolTip(file);
+    if (text == fileLabel->text() && file == fileLabel->toolTip())
+        return;
+    fileLabel->setText(text);
+    fileLabel->setToolTip(file);
+    // A bold type is wider; it comes with the text, so that the bar is laid out once.
+    fileLabel->setStyleSheet(modified ? QStringLiteral("QLabel {font-weight: bold; color: %1;}").arg(kModifiedColor)
+                                      : QString());
 }
 
 void View::commitInput()

@@ -6,10 +6,25 @@
 
 #include <QAction>
 #include <QMenu>
+#include <QProxyStyle>
 #include <QToolBar>
 #include <QToolButton>
 
 namespace {
+
+/// Icons in a menu as high as its large text; a style sheet cannot say so.
+class MenuStyle : public QProxyStyle
+{
+public:
+    MenuStyle()
+        : QProxyStyle(QStringLiteral("Fusion"))
+    {}
+    int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override
+    {
+        constexpr int kIconSize = 26;
+        return metric == PM_SmallIconSize ? kIconSize : QProxyStyle::pixelMetric(metric, option, widget);
+    }
+};
 
 QAction *newAction(QWidget *owner, const char *name, const QString &icon = {}, const QKeySequence &shortcut = {})
 {
@@ -169,6 +184,10 @@ void ViewActions::nameToolButtons() const
 
 void ViewActions::fillMenu(QMenu *target, QMenu *languages)
 {
+    auto *style = new MenuStyle;
+    style->setParent(target);
+    for (QMenu *styled : {target, languages})
+        styled->setStyle(style);
     target->addActions({newProject, openProject, saveProject, saveAs, openBlackBox});
     target->addSeparator();
     target->addActions({saveCsv, saveOszi, saveTerminal});

@@ -3,6 +3,7 @@
 #include "view/multilanguageutils.h"
 #include "view/view.h"
 #include "view/viewactions.h"
+#include "view/windowplacement.h"
 
 #include <QTimer>
 #include <QVector>
@@ -58,6 +59,7 @@ struct View::Private
     QStringList recentProjects;
     QStringList recentAddresses;
     std::function<bool(const QString &)> isValidAddress;
+    WindowPlacement placement; // of the window when it does not fill the screen, up to date while it does
     QVector<Message> waitingMessages;
     QTimer dataTimer;    // bundles data changes
     QTimer projectTimer; // bundles changes of description and settings
@@ -82,6 +84,7 @@ struct View::Private
     void readSettings();
     void readRecent();
     void storeRecentProjects();
+    void noteNormalPlacement(Qt::WindowStates before);
     void retranslate();
 
     // --- State ---

@@ -538,6 +538,50 @@ Import them again?</translation>
         <source>Das ist in der Demo nicht möglich: Die simulierte Box hat keinen Speicher.</source>
         <translation>Not possible in the demo: the simulated box has no storage.</translation>
     </message>
+    <message>
+        <source>Bilder (%1)</source>
+        <translation>Pictures (%1)</translation>
+    </message>
+    <message>
+        <source>Die Datei &quot;%1&quot; konnte nicht gelesen werden!</source>
+        <translation>The file &quot;%1&quot; could not be read!</translation>
+    </message>
+    <message>
+        <source>Das Bild &quot;%1&quot; ist zu groß: Es hat mehr als %2 Millionen Bildpunkte!</source>
+        <translation>The picture &quot;%1&quot; is too large: it has more than %2 million pixels!</translation>
+    </message>
+    <message>
+        <source>Die Datei &quot;%1&quot; enthält kein Bild, das gelesen werden kann!</source>
+        <translation>The file &quot;%1&quot; holds no picture that can be read!</translation>
+    </message>
+    <message>
+        <source>Bild auswählen</source>
+        <translation>Choose a picture</translation>
+    </message>
+    <message>
+        <source>Nur %1 von %2 Bildern übernommen, mehr Plätze sind nicht frei.</source>
+        <translation>Only %1 of %2 pictures taken over, no more places are free.</translation>
+    </message>
+    <message>
+        <source>Bild %1 wird aus dem Projekt gelöscht.
+Fortfahren?</source>
+        <translation>Picture %1 will be deleted from the project.
+Continue?</translation>
+    </message>
+    <message>
+        <source>Bild löschen</source>
+        <translation>Delete picture</translation>
+    </message>
+    <message>
+        <source>Bild %1 wird durch ein anderes ersetzt.
+Fortfahren?</source>
+        <translation>Picture %1 will be replaced by another one.
+Continue?</translation>
+    </message>
+    <message>
+        <source>Bild ersetzen</source>
+        <translation>Replace picture</translation>
+    </message>
 </context>
 <context>
     <name>CycleTile</name>
@@ -719,6 +763,88 @@ Import them again?</translation>
     <message>
         <source>Bitte eine IPv4-Adresse (z. B. 192.168.4.1) oder einen Rechnernamen eingeben.</source>
         <translation>Please enter an IPv4 address (e.g. 192.168.4.1) or a host name.</translation>
+    </message>
+</context>
+<context>
+    <name>ImagePreview</name>
+    <message>
+        <source>Klicken zum Schließen</source>
+        <translation>Click to close</translation>
+    </message>
+</context>
+<context>
+    <name>ImageTile</name>
+    <message>
+        <source>%1 × %2 Bildpunkte</source>
+        <translation>%1 × %2 pixels</translation>
+    </message>
+    <message>
+        <source>Bild auswählen</source>
+        <translation>Choose a picture</translation>
+    </message>
+    <message>
+        <source>Anderes Bild auswählen</source>
+        <translation>Choose another picture</translation>
+    </message>
+    <message>
+        <source>Bild auswählen, ablegen oder einfügen (Strg+V)</source>
+        <translation>Choose, drop or paste a picture (Ctrl+V)</translation>
+    </message>
+    <message>
+        <source>Klicken zum Vergrößern, Entf zum Löschen</source>
+        <translation>Click to enlarge, Del to delete</translation>
+    </message>
+    <message>
+        <source>kein Bild</source>
+        <translation>no picture</translation>
+    </message>
+    <message>
+        <source>&amp;Vergrößern</source>
+        <translation>&amp;Enlarge</translation>
+    </message>
+    <message>
+        <source>&amp;Auswählen...</source>
+        <translation>&amp;Choose...</translation>
+    </message>
+    <message>
+        <source>&amp;Einfügen</source>
+        <translation>&amp;Paste</translation>
+    </message>
+    <message>
+        <source>&amp;Kopieren</source>
+        <translation>C&amp;opy</translation>
+    </message>
+    <message>
+        <source>&amp;Löschen...</source>
+        <translation>&amp;Delete...</translation>
+    </message>
+    <message>
+        <source>Bild %1</source>
+        <translation>Picture %1</translation>
+    </message>
+    <message>
+        <source>Auswählen oder hier ablegen</source>
+        <translation>Choose or drop here</translation>
+    </message>
+    <message>
+        <source>Hier ablegen</source>
+        <translation>Drop here</translation>
+    </message>
+    <message>
+        <source>Das ist kein Bild</source>
+        <translation>This is not a picture</translation>
+    </message>
+    <message>
+        <source>Bild %1 auswählen</source>
+        <translation>Choose picture %1</translation>
+    </message>
+    <message>
+        <source>Bild löschen</source>
+        <translation>Delete picture</translation>
+    </message>
+    <message>
+        <source>Bild %1 löschen</source>
+        <translation>Delete picture %1</translation>
     </message>
 </context>
 <context>
@@ -915,6 +1041,29 @@ double click fits the value range.</translation>
     </message>
 </context>
 <context>
+    <name>PhaseStrip</name>
+    <message>
+        <source>&amp;%1</source>
+        <translation>&amp;%1</translation>
+    </message>
+    <message>
+        <source>ab %1 s</source>
+        <translation>from %1 s</translation>
+    </message>
+    <message>
+        <source>%1 – %2 s</source>
+        <translation>%1 – %2 s</translation>
+    </message>
+    <message>
+        <source>Name der Phase %1</source>
+        <translation>Name of phase %1</translation>
+    </message>
+    <message>
+        <source>Name der Phase %1; der vorige Marker beginnt sie, der nächste beendet sie.</source>
+        <translation>Name of phase %1; the marker before begins it, the next one ends it.</translation>
+    </message>
+</context>
+<context>
     <name>ProjectForm</name>
     <message>
         <source>&amp;Projekt:</source>
@@ -975,6 +1124,13 @@ double click fits the value range.</translation>
     <message>
         <source> bar</source>
         <translation> bar</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectImages</name>
+    <message>
+        <source>Bild %1</source>
+        <translation>Picture %1</translation>
     </message>
 </context>
 <context>
@@ -1925,20 +2081,24 @@ Esc cancels.</translation>
         <translation>Comment</translation>
     </message>
     <message>
-        <source>Namen der Phasen</source>
-        <translation>Names of the phases</translation>
-    </message>
-    <message>
-        <source>Phase &amp;%1:</source>
-        <translation>Phase &amp;%1:</translation>
-    </message>
-    <message>
         <source>&amp;Alle Messdaten löschen...</source>
         <translation>Delete all &amp;measured data...</translation>
     </message>
     <message>
         <source>Löscht die Messdaten aller Sensoren; die Projektbeschreibung bleibt.</source>
         <translation>Deletes the measured data of all sensors; the project description stays.</translation>
+    </message>
+    <message>
+        <source>Bilder</source>
+        <translation>Pictures</translation>
+    </message>
+    <message>
+        <source>K&amp;ommentar</source>
+        <translation>&amp;Comment</translation>
+    </message>
+    <message>
+        <source>Phasen</source>
+        <translation>Phases</translation>
     </message>
 </context>
 <context>
@@ -2271,10 +2431,6 @@ Arrow up and down: earlier lines</translation>
         <translation>New project</translation>
     </message>
     <message>
-        <source> – nicht gespeichert</source>
-        <translation> – not saved</translation>
-    </message>
-    <message>
         <source>&amp;Neues Projekt</source>
         <translation>&amp;New project</translation>
     </message>
@@ -2433,6 +2589,14 @@ Arrow up and down: earlier lines</translation>
     <message>
         <source>Demonstration</source>
         <translation>Demonstration</translation>
+    </message>
+    <message>
+        <source>geändert</source>
+        <translation>changed</translation>
+    </message>
+    <message>
+        <source>gespeichert</source>
+        <translation>saved</translation>
     </message>
 </context>
 </TS>

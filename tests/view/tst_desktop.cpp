@@ -1,7 +1,9 @@
 #include "app/startup.h"
 #include "model/model.h"
+#include "tests/support/rows.h"
 #include "tests/support/scriptedprompts.h"
 #include "view/view.h"
+#include "view/windowplacement.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -17,6 +19,8 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <limits>
 
 namespace {
 
@@ -72,6 +76,9 @@ private slots:
     void everyKeyHasOneMeaning_data();
     void everyKeyHasOneMeaning();
     void digitsSelectTabs();
+    void windowIsPutOnScreens_data();
+    void windowIsPutOnScreens();
+    void maximisedWindowKeepsItsPlace();
 };
 
 void TestDesktop::takesOneProjectFile_data()
@@ -173,6 +180,52 @@ void TestDesktop::digitsSelectTabs()
     view.setTabEnabled(4, false);
     QTest::keyClick(&view, Qt::Key_5, Qt::ControlModifier);
     QCOMPARE(view.tabs()->currentIndex(), 0);
+}
+
+void TestDesktop::windowIsPutOnScreens_data()
+{
+    columns<QRect, QRect>("stored", "placed");
+    // On a screen of 1920x1040 and, to its left, one of 1280x800.
+    row("as it was", QRect(60, 50, 700, 500), QRect(60, 50, 700, 500));
+    row("across both", QRect(-300, 10, 700, 500), QRect(-300, 10, 700, 500));
+    row("out at the right", QRect(1800, 900, 700, 500), QRect(1220, 510, 700, 500));
+    row("title bar above", QRect(100, -40, 700, 500), QRect(100, 0, 700, 500));
+    row("out at the left screen's bottom", QRect(-1200, 500, 700, 500), QRect(-1200, 270, 700, 500));
+    row("monitor taken away", QRect(2500, 100, 700, 500), QRect(200, 200, 700, 500));
+    row("too large", QRect(0, 0, 3840, 2160), QRect(0, 0, 1920, 1010));
+    row("nonsense", QRect(std::numeric_limits<int>::max() - 5, 7, 1, 0), QRect(200, 200, 400, 400));
+}
+
+void TestDesktop::windowIsPutOnScreens()
+{
+    QFETCH(QRect, stored);
+    const WindowPlacement placed =
+        placedOnScreens({stored.topLeft(), stored.size()}, {QRect(0, 0, 1920, 1040), QRect(-1280, 0, 1280, 800)});
+    QTEST(QRect(placed.position, placed.size), "placed");
+}
+
+void TestDesktop::maximisedWindowKeepsItsPlace()
+{
+    Model model{QString()};
+    const auto begin = [&model] { return std::make_unique<View>(&model, std::make_unique<ScriptedPrompts>()); };
+    auto view = begin();
+    view->show();
+    view->setGeometry(70, 60, 500, 450);
+    const QPoint place = view->pos();
+    view->showMaximized();
+    QTRY_VERIFY(view->width() > 500);
+    for (int session = 0; session < 3; ++session) {
+        view->writeSettings();
+        view = begin();
+        view->show();
+        QTRY_VERIFY(view->isMaximized() && view->width() > 500);
+    }
+    view->showNormal();
+    QTRY_COMPARE(view->size(), QSize(500, 450));
+    view->writeSettings();
+    view = begin();
+    QVERIFY(!view->isMaximized());
+    QCOMPARE(view->pos(), place);
 }
 
 QTEST_MAIN(TestDesktop)

@@ -19,6 +19,19 @@ namespace {
 constexpr int kShots = 12;
 constexpr int kSamples = 300;
 
+QPixmap photo(QSize size)
+{
+    QPixmap picture(size);
+    QPainter painter(&picture);
+    QLinearGradient sky(0, 0, size.width(), size.height());
+    sky.setColorAt(0.0, QColor(0x9C, 0xB4, 0xC8));
+    sky.setColorAt(1.0, QColor(0x3A, 0x42, 0x4A));
+    painter.fillRect(picture.rect(), sky);
+    painter.setBrush(Qt::darkYellow);
+    painter.drawEllipse(picture.rect().center(), size.width() / 3, size.height() / 3);
+    return picture;
+}
+
 /// A project as after a quarter of an hour's work.
 void fill(Model &model)
 {
@@ -44,6 +57,10 @@ void fill(Model &model)
     project.pressure = 850;
     model.setProjectData(project);
     model.setComment("Erste Bemusterung nach dem Umbau.\nKühlkreis 2 gedrosselt."_s);
+    model.setImage(0, photo(QSize(1600, 1067)));
+    model.setImage(2, photo(QSize(900, 1600)));
+    for (int marker = 0; marker < Model::kNumMarkers; ++marker)
+        model.setVerticalMarkerAbsolute(marker, 12 + 75 * marker);
     model.emitProjectChanged();
     model.emitDataChanged();
 }

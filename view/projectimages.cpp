@@ -1,0 +1,62 @@
+#include "view/projectimages.h"
+
+#include "model/model.h"
+#include "view/imagepreview.h"
+#include "view/imagetile.h"
+
+#include <QGridLayout>
+
+namespace {
+
+constexpr int kColumns = 6;
+
+} // namespace
+
+ProjectImages::ProjectImages(QWidget *parent)
+    : QWidget(parent)
+{
+    static_assert(Model::kNumImages == std::tuple_size<decltype(m_tiles)>::value);
+    auto *grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setSpacing(0); // the cards keep room for their shadows
+    for (int image = 0; image < Model::kNumImages; ++image) {
+        addTile(image);
+        // Two wide ones above three: what is photographed is mostly wider than high.
+        const bool isAbove = image < 2;
+        const int columns = isAbove ? 3 : 2;
+        grid->addWidget(m_tiles[static_cast<std::size_t>(image)], isAbove ? 0 : 1,
+                        isAbove ? 3 * image : 2 * (image - 2), 1, columns);
+    }
+    for (int column = 0; column < kColumns; ++column)
+        grid->setColumnStretch(column, 1);
+    for (int row = 0; row < 2; ++row)
+        grid->setRowStretch(row, 1);
+}
+
+void ProjectImages::addTile(int image)
+{
+    auto *tile = new ImageTile(image + 1, this);
+    m_tiles[static_cast<std::size_t>(image)] = tile;
+    connect(tile, &ImageTile::chooseRequested, this, [this, image] { emit chooseClicked(image); });
+    connect(tile, &ImageTile::deleteRequested, this, [this, image] { emit deleteClicked(image); });
+    connect(tile, &ImageTile::enlargeRequested, this, [this, image] { enlarge(image); });
+    connect(tile, &ImageTile::filesGiven, this,
+            [this, image](const QStringList &files) { emit filesGiven(image, files); });
+    connect(tile, &ImageTile::imageGiven, this,
+            [this, image](const QImage &picture) { emit imageGiven(image, picture); });
+}
+
+void ProjectImages::showFrom(const Model &model)
+{
+    for (int image = 0; image < Model::kNumImages; ++image)
+        m_tiles[static_cast<std::size_t>(image)]->setPicture(model.image(image));
+}
+
+void ProjectImages::enlarge(int image)
+{
+    const QPixmap picture = m_tiles[static_cast<std::size_t>(image)]->picture();
+    auto *preview = new ImagePreview(tr("Bild %1").arg(image + 1), picture, window());
+    preview->setAttribute(Qt::WA_DeleteOnClose);
+    preview->open();
+    emit enlarged(image);
+}
