@@ -225,6 +225,8 @@ void TabBlackBox::retranslateUi()
     d->import->setToolTip(tr("Die ausgewählten Dateien als Messungen in das Projekt übernehmen"));
     d->dayTable->setAccessibleName(tr("Aufgezeichnete Tage"));
     d->fileTable->setAccessibleName(tr("Dateien des Tages"));
+    d->preview->setAccessibleName(tr("Vorschau der Messung"));
+    d->indicator->setAccessibleName(tr("Fortschritt der Übertragung"));
     d->days.retranslate();
     d->files.retranslate();
     d->preview->update();

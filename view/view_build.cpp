@@ -24,6 +24,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
+#include <QScrollArea>
 #include <QSettings>
 #include <QShortcut>
 #include <QStatusBar>
@@ -112,6 +113,9 @@ void View::Private::createTabs()
     const auto add = [this](QWidget *page, const char *name) {
         page->setObjectName(QLatin1String(name));
         tabs->addTab(page, QString());
+        // The tab key would stop where nothing can be done; what gets the focus scrolls into sight by itself.
+        for (auto *area : page->findChildren<QScrollArea *>())
+            area->setFocusPolicy(Qt::NoFocus);
     };
     add(tabHome = new TabHome, "tabHome");
     add(tabProject = new TabProject, "tabProject");

@@ -1596,6 +1596,14 @@ Identification of this computer:
         <source>Dateien des Tages</source>
         <translation>Files of the day</translation>
     </message>
+    <message>
+        <source>Vorschau der Messung</source>
+        <translation>Preview of the measurement</translation>
+    </message>
+    <message>
+        <source>Fortschritt der Übertragung</source>
+        <translation>Progress of the transfer</translation>
+    </message>
 </context>
 <context>
     <name>TabDataLogger</name>

@@ -6,8 +6,11 @@
 #include "view/windowplacement.h"
 
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
+#include <QAccessible>
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QDropEvent>
 #include <QLabel>
@@ -35,7 +38,8 @@ QVector<Key> windowKeys(const View &view)
 {
     QVector<Key> keys;
     for (const auto *action : view.findChildren<QAction *>()) {
-        for (const QKeySequence &key : action->shortcuts())
+        const bool isForAll = action->shortcutContext() != Qt::WidgetShortcut;
+        for (const QKeySequence &key : isForAll ? action->shortcuts() : QList<QKeySequence>())
             keys.append({key, action->objectName()});
     }
     for (const auto *shortcut : view.findChildren<QShortcut *>()) {
@@ -61,6 +65,33 @@ QVector<Key> pageKeys(const QWidget &page)
     return keys;
 }
 
+QString nameOf(QWidget *widget)
+{
+    QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
+    return accessible ? accessible->text(QAccessible::Name) : QString();
+}
+
+/// Painted by this program, without widgets in it that speak for themselves.
+bool isPicture(const QWidget *widget)
+{
+    const bool isOwn = *widget->metaObject()->className() != 'Q';
+    return isOwn && !qobject_cast<const QLabel *>(widget) && widget->findChildren<QWidget *>().isEmpty();
+}
+
+/// What a screen reader, or a pointer resting on a picture, cannot tell; empty if nothing is wrong.
+QString complaint(QWidget *widget)
+{
+    const auto *button = qobject_cast<QAbstractButton *>(widget);
+    if (button && button->text().isEmpty() && button->toolTip().isEmpty())
+        return QStringLiteral("a picture on a button without a tool tip");
+    const bool isInsideAnother =
+        qobject_cast<QAbstractSpinBox *>(widget->parentWidget()) || qobject_cast<QComboBox *>(widget->parentWidget());
+    const bool isReached = widget->focusPolicy() != Qt::NoFocus && !widget->focusProxy() && !isInsideAnother;
+    if ((button || isReached || isPicture(widget)) && nameOf(widget).isEmpty())
+        return QStringLiteral("no accessible name");
+    return {};
+}
+
 } // namespace
 
 /// The window as a part of the desktop: what is dropped on it, its keys, what it says to assistive tools.
@@ -79,6 +110,8 @@ private slots:
     void windowIsPutOnScreens_data();
     void windowIsPutOnScreens();
     void maximisedWindowKeepsItsPlace();
+    void everythingHasANameForScreenReaders_data();
+    void everythingHasANameForScreenReaders();
 };
 
 void TestDesktop::takesOneProjectFile_data()
@@ -226,6 +259,33 @@ void TestDesktop::maximisedWindowKeepsItsPlace()
     view = begin();
     QVERIFY(!view->isMaximized());
     QCOMPARE(view->pos(), place);
+}
+
+void TestDesktop::everythingHasANameForScreenReaders_data()
+{
+    columns<int>("tab");
+    for (int tab = 0; tab < 9; ++tab)
+        row(qPrintable(QString::number(tab)), tab);
+}
+
+void TestDesktop::everythingHasANameForScreenReaders()
+{
+    QFETCH(int, tab);
+    Model model{QString()};
+    View view(&model, std::make_unique<ScriptedPrompts>());
+    view.resize(1280, 800);
+    view.show();
+    view.tabs()->setCurrentIndex(tab);
+    QCoreApplication::processEvents();
+    QStringList complaints;
+    for (auto *widget : view.findChildren<QWidget *>()) {
+        const QString text = widget->isVisible() ? complaint(widget) : QString();
+        if (!text.isEmpty())
+            complaints << QStringLiteral("%1 \"%2\" in %3: %4")
+                              .arg(QLatin1String(widget->metaObject()->className()), widget->objectName(),
+                                   QLatin1String(widget->parentWidget()->metaObject()->className()), text);
+    }
+    QVERIFY2(complaints.isEmpty(), qPrintable(complaints.join(QLatin1Char('\n'))));
 }
 
 QTEST_MAIN(TestDesktop)
