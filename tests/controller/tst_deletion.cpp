@@ -20,6 +20,7 @@ private slots:
         row("5,1-3", {1, 2, 3, 4, 6}); // 5 goes first, then the span begins one too low
         row("3-1", {1, 2, 3, 4, 5, 6});
         row("1-2-3", {1, 2, 3, 4, 5, 6}, false);
+        row("1- -3", {1, 2, 3, 4, 5, 6}, false); // a blank piece counts
         row("2,1-2-3,4", {1, 3, 4, 5, 6}, false);
         row("  1 , , 3 ,,", {2, 4, 5, 6});
         row("2 - 4", {1, 5, 6});
@@ -72,32 +73,6 @@ private slots:
         bench.say("0;1;2;3;4;5");
         QVERIFY(!bench.model.signalsBlocked());
         QCOMPARE(changed.count(), 1);
-    }
-
-    void seriesFollowDeletion_data()
-    {
-        // series: of three shots, the newest being the series' own
-        columns<QString, int>("range", "series");
-        row("one before", "1", 1);
-        row("the shot itself", "3", -1);
-        row("none", "4", 2);
-    }
-
-    void seriesFollowDeletion()
-    {
-        QFETCH(QString, range);
-        QFETCH(int, series);
-        Bench bench;
-        bench.recordShots(3);
-        bench.prompts->answers = {QMessageBox::Yes};
-        bench.controller.onTabOszi_deleteMeasurements(range);
-        for (int sensor = 0; sensor < kNumSensors; ++sensor)
-            QCOMPARE(bench.controller.seriesIndex(sensor), series);
-        bench.say("0;9;9;9;9;9");
-        if (series >= 0)
-            QCOMPARE(bench.samples(2, series), (QVector<double>{3, 9}));
-        else
-            QVERIFY(!bench.firstSamples().contains(9));
     }
 
     void deletionDuringRecordingLosesNothing()

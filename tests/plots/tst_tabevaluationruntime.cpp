@@ -173,22 +173,6 @@ private slots:
         QCOMPARE(*child<OsziWidget>("osziWidget")->curve(0), shotOf(9, 9, 9)); // the newest again
     }
 
-    void samplesAreCoalesced()
-    {
-        addShot(*m_model, {}, 1.0);
-        m_page->show();
-        m_page->update();
-        QSignalSpy changes(child<QTableView>("tableRuntime")->model(), &QAbstractItemModel::dataChanged);
-        for (int i = 0; i < 1000; ++i) {
-            QVERIFY(m_model->appendSample(0, 0, i < 500 ? 300.0 : 50.0));
-            m_model->emitDataChanged();
-        }
-        QTRY_COMPARE(cell(0, RuntimeTableModel::Start), "50"_s);
-        QCOMPARE(cell(0, RuntimeTableModel::Stop), "99.9"_s);
-        QCOMPARE(changes.count(), 1);
-        QCOMPARE(child<OsziWidget>("osziWidget")->curve(0)->size(), 1000);
-    }
-
 private:
     template <typename Widget>
     [[nodiscard]] Widget *child(const char *name) const

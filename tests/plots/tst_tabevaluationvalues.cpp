@@ -158,22 +158,6 @@ private slots:
         QCOMPARE(spinBox->text(), "12.75"_s);
     }
 
-    void nothingIsComputedWhileHidden()
-    {
-        Pages pages;
-        addShot(pages.model, {1.0});
-        pages.model.emitDataChanged();
-        QTest::qWait(2 * EvaluationPage::kRefreshInterval);
-        QCOMPARE(pages.table()->model()->rowCount(), 0);
-        pages.show();
-        QCOMPARE(pages.table()->model()->rowCount(), 1);
-        pages.values.hide();
-        pages.model.blockSignals(true);
-        addShot(pages.model, {2.0});
-        pages.values.show(); // nobody has told the page
-        QCOMPARE(pages.table()->model()->rowCount(), 2);
-    }
-
     void removedShotsDisappear()
     {
         Pages pages;

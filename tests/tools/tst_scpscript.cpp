@@ -29,8 +29,7 @@ private slots:
     void arguments()
     {
         QFETCH(QStringList, arguments);
-        QFETCH(QStringList, commands);
-        QCOMPARE(scriptCommands(arguments).value_or(QStringList()), commands);
+        QTEST(scriptCommands(arguments).value_or(QStringList()), "commands");
     }
 
     void scripts_data()

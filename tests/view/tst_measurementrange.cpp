@@ -6,35 +6,6 @@ class TestMeasurementRange : public QObject
     Q_OBJECT
 
 private slots:
-    void parts_data()
-    {
-        // expected: the numbers of a part joined by '-', parts by '|'
-        columns<QString, QString>("text", "expected");
-
-        row("nothing", "", "");
-        row("span and single", "1-3,5", "1-3|5");
-        row("blanks everywhere", "  1 -\t3 ,  , 5 ", "1-3|5");
-        row("three pieces", "1-2-3", "1-2-3");
-        row("empty pieces do not count", "-5,1--3", "5|1-3");
-        row("a blank piece does", "1- -3", "1-0-3");
-        row("no number", "a,2x,1.5", "0|0|0");
-        row("huge span", "1-2000000000", "1-2000000000");
-    }
-
-    void parts()
-    {
-        QFETCH(QString, text);
-        QStringList found;
-        const QVector<RangePart> parsed = parseMeasurementRange(text);
-        for (const RangePart &part : parsed) {
-            QStringList numbers;
-            for (int number : part.numbers)
-                numbers << QString::number(number);
-            found << numbers.join(QLatin1Char('-'));
-        }
-        QTEST(found.join(QLatin1Char('|')), "expected");
-    }
-
     void shown_data()
     {
         columns<QString, int, QVector<int>>("text", "count", "expected");

@@ -152,7 +152,6 @@ private slots:
     void menuListsTheFilesFound()
     {
         QFETCH(QStringList, files);
-        QFETCH(QStringList, texts);
         const QTemporaryDir folder;
         for (const QString &file : files)
             writeFile(folder.filePath(file), "no translation");
@@ -172,7 +171,7 @@ private slots:
             QVERIFY(languages.isOffered(action->data().toString()));
             QCOMPARE(action->icon().pixmap(8).isNull(), action->data() != "en"_s);
         }
-        QCOMPARE(shown, texts);
+        QTEST(shown, "texts");
     }
 
     void systemLanguageIsChecked()
