@@ -19,6 +19,7 @@ namespace {
 constexpr double kRadius = 3.0; // as the push buttons of the sheet
 constexpr double kOutline = 2.0;
 constexpr int kPadding = 10;
+constexpr int kTightPadding = 5;
 constexpr int kSymbol = 14;      // pixels: tick or arrow
 constexpr int kSymbolMargin = 8; // from the edge
 constexpr int kIconGap = 6;
@@ -140,18 +141,33 @@ QString ColoredButton::elidedText(int width) const
     return fontMetrics().elidedText(text(), Qt::ElideRight, width, Qt::TextShowMnemonic);
 }
 
+/// In the middle of the button if there is room, else all that the symbol leaves.
+QRect ColoredButton::labelArea() const
+{
+    const int icon = this->icon().isNull() ? 0 : iconSize().width() + kIconGap;
+    const int wanted = fontMetrics().size(Qt::TextShowMnemonic, text()).width() + icon;
+    const QRect middle = rect().adjusted(symbolRoom(), 0, -symbolRoom(), 0);
+    if (wanted <= middle.width())
+        return middle;
+    const int left = isChecked() && !m_picksColor ? symbolRoom() : kTightPadding;
+    const int right = m_picksColor ? symbolRoom() : kTightPadding;
+    return QStyle::visualRect(layoutDirection(), rect(), rect().adjusted(left, 0, -right, 0));
+}
+
 void ColoredButton::drawDisabled(QPainter &painter) const
 {
     QStyleOptionButton option;
     initStyleOption(&option);
-    option.text = elidedText(width() - 2 * symbolRoom());
-    style()->drawControl(QStyle::CE_PushButton, &option, &painter, this);
+    option.text = elidedText(labelArea().width());
+    style()->drawControl(QStyle::CE_PushButtonBevel, &option, &painter, this);
+    option.rect = labelArea();
+    style()->drawControl(QStyle::CE_PushButtonLabel, &option, &painter, this);
     drawSymbol(painter, option.palette.color(QPalette::Disabled, QPalette::ButtonText));
 }
 
 void ColoredButton::drawLabel(QPainter &painter, const QColor &color) const
 {
-    QRect area = rect().adjusted(symbolRoom(), 0, -symbolRoom(), 0);
+    QRect area = labelArea();
     const int iconRoom = icon().isNull() ? 0 : iconSize().width() + kIconGap;
     const QString text = elidedText(area.width() - iconRoom);
     if (iconRoom > 0) {

@@ -43,6 +43,7 @@ private:
     [[nodiscard]] Look look() const;
     [[nodiscard]] int symbolRoom() const;
     [[nodiscard]] QString elidedText(int width) const;
+    [[nodiscard]] QRect labelArea() const;
     void describe();
     void onClicked();
     void drawDisabled(QPainter &painter) const;

@@ -1,3 +1,5 @@
+#include "kit/qtmaterialflatbutton.h"
+#include "kit/qtmaterialtoggle.h"
 #include "model/model.h"
 #include "plots/colordelegate.h"
 #include "plots/decimalspinbox.h"
@@ -31,13 +33,6 @@ constexpr int kTimeWidth = 180;       // pixels of a time stamp
 constexpr int kDeviationWidth = 118;  // pixels, likewise
 constexpr int kSmallColumnWidth = 36; // pixels of the columns without a title
 
-/// The application's sheet gives the box a least size only, which is not reckoned with where room is given out.
-QString checkBoxSheet()
-{
-    return QStringLiteral(
-        "QCheckBox {spacing: 6px; padding: 2px 6px;} QCheckBox::indicator {width: 22px; height: 22px;}");
-}
-
 QPoint choice(AlignBy by, int marker = 0)
 {
     return {static_cast<int>(by), marker};
@@ -57,12 +52,10 @@ QLayout *TabEvaluationOverlay::createOptions()
     m_spinBoxThreshold->setRange(-kLargestThreshold, kLargestThreshold);
     m_spinBoxThreshold->setAlignment(Qt::AlignCenter);
     m_spinBoxThreshold->setMinimumWidth(170);
-    m_checkMean = new QCheckBox(this);
+    m_checkMean = new QtMaterialToggle(this);
     m_checkMean->setObjectName(QStringLiteral("checkMean"));
-    m_checkBand = new QCheckBox(this);
+    m_checkBand = new QtMaterialToggle(this);
     m_checkBand->setObjectName(QStringLiteral("checkBand"));
-    for (QCheckBox *box : {m_checkMean, m_checkBand})
-        box->setStyleSheet(checkBoxSheet());
     m_spinBoxSigmas = new DecimalSpinBox(this);
     m_spinBoxSigmas->setObjectName(QStringLiteral("spinBoxSigmas"));
     m_spinBoxSigmas->setRange(0.5, kMostSigmas);
@@ -125,11 +118,11 @@ void TabEvaluationOverlay::createTable()
 QWidget *TabEvaluationOverlay::createTableSide()
 {
     createTable();
-    m_buttonAll = new QPushButton(this);
+    m_buttonAll = new QtMaterialFlatButton(this);
     m_buttonAll->setObjectName(QStringLiteral("buttonAll"));
-    m_buttonNone = new QPushButton(this);
+    m_buttonNone = new QtMaterialFlatButton(this);
     m_buttonNone->setObjectName(QStringLiteral("buttonNone"));
-    m_buttonReference = new QPushButton(this);
+    m_buttonReference = new QtMaterialFlatButton(this);
     m_buttonReference->setObjectName(QStringLiteral("buttonReference"));
     m_status = new QLabel(this);
     m_status->setObjectName(QStringLiteral("labelStatus"));

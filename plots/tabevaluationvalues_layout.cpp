@@ -1,3 +1,4 @@
+#include "kit/qtmaterialflatbutton.h"
 #include "plots/limitfield.h"
 #include "plots/normalboxwidget.h"
 #include "plots/normaldistributionwidget.h"
@@ -65,9 +66,8 @@ QLayout *TabEvaluationValues::createChoice()
     m_quantityBox->setMinimumContentsLength(12);
     m_quantityBox->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_labelQuantity->setBuddy(m_quantityBox);
-    m_buttonQuantities = new QPushButton(this);
+    m_buttonQuantities = new QtMaterialFlatButton(this);
     m_buttonQuantities->setObjectName(QStringLiteral("buttonQuantities"));
-    m_buttonQuantities->setStyleSheet(QStringLiteral("QPushButton {min-height: 32px; padding: 0px 14px;}"));
     m_picker = new QuantityPicker(this);
     auto *layout = new QHBoxLayout;
     layout->addWidget(m_labelQuantity);
