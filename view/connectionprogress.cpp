@@ -1,14 +1,14 @@
 #include "view/connectionprogress.h"
 
 #include "app/theme.h"
+#include "kit/progressindicator.h"
+#include "kit/qtmaterialflatbutton.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QShortcut>
-#include <QVBoxLayout>
 
 ConnectionProgress::ConnectionProgress(QWidget *window)
     : QFrame(window)
@@ -16,25 +16,22 @@ ConnectionProgress::ConnectionProgress(QWidget *window)
     setObjectName(QStringLiteral("connectionProgress"));
     setStyleSheet(QStringLiteral("ConnectionProgress {background-color: %1; border: 3px solid %2; border-radius: 4px;}"
                                  "ConnectionProgress QLabel {font-size: 20px;}"
-                                 "ConnectionProgress QPushButton {font-size: 18px; padding: 0px 18px;}")
+                                 "ConnectionProgress QPushButton {font-size: 18px;}")
                       .arg(theme::colorBackground, theme::colorPrimary));
     m_label = new QLabel(this);
     m_label->setObjectName(QStringLiteral("labelProgress"));
     m_label->setTextFormat(Qt::PlainText);
     m_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    auto *bar = new QProgressBar(this);
-    bar->setRange(0, 0); // how long it takes is not known
-    bar->setTextVisible(false);
-    bar->setFixedHeight(12);
-    m_cancel = new QPushButton(this);
+    auto *indicator = new ProgressIndicator(this); // how long it takes is not known
+    indicator->setFixedSize(indicator->sizeHint());
+    indicator->startAnimation();
+    m_cancel = new QtMaterialFlatButton(this);
     m_cancel->setObjectName(QStringLiteral("buttonCancelProgress"));
-    auto *column = new QVBoxLayout;
-    column->addWidget(m_label);
-    column->addWidget(bar);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(20, 10, 20, 10);
     row->setSpacing(20);
-    row->addLayout(column, 1);
+    row->addWidget(indicator);
+    row->addWidget(m_label, 1);
     row->addWidget(m_cancel);
     connect(m_cancel, &QPushButton::clicked, this, &ConnectionProgress::cancelled);
     auto *escape = new QShortcut(Qt::Key_Escape, this); // active while the panel is shown

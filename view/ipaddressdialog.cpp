@@ -1,6 +1,8 @@
 #include "view/ipaddressdialog.h"
 
 #include "app/theme.h"
+#include "kit/qtmaterialflatbutton.h"
+#include "kit/qtmaterialraisedbutton.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -36,10 +38,10 @@ IPAddressDialog::IPAddressDialog(const QString &current, Validator isValid, QWid
     m_hint = new QLabel(this);
     m_hint->setObjectName(QStringLiteral("labelAddressHint"));
     m_hint->setStyleSheet(QStringLiteral("QLabel {font-size: 16px; color: #B00020;}"));
-    m_ok = new QPushButton(tr("&Verbinden"), this);
+    m_ok = new QtMaterialRaisedButton(tr("&Verbinden"), this);
     m_ok->setObjectName(QStringLiteral("buttonOK"));
     m_ok->setDefault(true);
-    m_cancel = new QPushButton(tr("&Abbrechen"), this);
+    m_cancel = new QtMaterialFlatButton(tr("&Abbrechen"), this);
     m_cancel->setObjectName(QStringLiteral("buttonCancel"));
     m_cancel->setAutoDefault(false);
     layOut(heading, label);

@@ -1,4 +1,6 @@
 #include "kit/progressindicator.h"
+#include "kit/qtmaterialflatbutton.h"
+#include "kit/qtmaterialraisedbutton.h"
 #include "view/shotpreview.h"
 #include "view/tabblackbox_p.h"
 #include "view/tabstyle.h"
@@ -34,11 +36,11 @@ protected:
     }
 };
 
-QPushButton *addButton(QWidget *parent, const char *name)
+template <typename Button>
+Button *addButton(QWidget *parent, const char *name)
 {
-    auto *button = new QPushButton(parent);
+    auto *button = new Button(parent);
     button->setObjectName(QLatin1String(name));
-    tabstyle::makeRegular(button);
     return button;
 }
 
@@ -90,13 +92,13 @@ void TabBlackBox::Private::createLayout()
 QBoxLayout *TabBlackBox::Private::createDayColumn()
 {
     daysHeading = addHeading(q);
-    request = addButton(q, "buttonList");
+    request = addButton<QtMaterialFlatButton>(q, "buttonList");
     dayTable = addTable(q, "tableDays", &days);
     dayTable->setFixedWidth(kDayColumnWidth);
-    selectAll = addButton(q, "buttonSelectAll");
-    selectNone = addButton(q, "buttonSelectNone");
-    selectNew = addButton(q, "buttonSelectNew");
-    fetch = addButton(q, "buttonFetch");
+    selectAll = addButton<QtMaterialFlatButton>(q, "buttonSelectAll");
+    selectNone = addButton<QtMaterialFlatButton>(q, "buttonSelectNone");
+    selectNew = addButton<QtMaterialFlatButton>(q, "buttonSelectNew");
+    fetch = addButton<QtMaterialRaisedButton>(q, "buttonFetch");
     auto *top = new QHBoxLayout;
     top->addWidget(daysHeading, 1);
     top->addWidget(request);
@@ -114,11 +116,11 @@ QBoxLayout *TabBlackBox::Private::createDayColumn()
 QBoxLayout *TabBlackBox::Private::createFileColumn()
 {
     filesHeading = addHeading(q);
-    openFolder = addButton(q, "buttonOpenFolder");
+    openFolder = addButton<QtMaterialFlatButton>(q, "buttonOpenFolder");
     fileTable = addTable(q, "tableFiles", &files);
     preview = new ShotPreview(q);
     preview->setObjectName(QStringLiteral("shotPreview"));
-    import = addButton(q, "buttonImport");
+    import = addButton<QtMaterialRaisedButton>(q, "buttonImport");
     auto *top = new QHBoxLayout;
     top->addWidget(filesHeading, 1);
     top->addWidget(openFolder);

@@ -1,5 +1,6 @@
 #include "view/tabdatalogger.h"
 
+#include "kit/qtmaterialflatbutton.h"
 #include "view/loggertext.h"
 #include "view/logging.h"
 #include "view/ringbuffer.h"
@@ -75,9 +76,8 @@ TabDataLogger::TabDataLogger(QWidget *parent)
     , d(std::make_unique<Private>())
 {
     d->createBoxes(this);
-    d->clear = new QPushButton(this);
+    d->clear = new QtMaterialFlatButton(this);
     d->clear->setObjectName(QStringLiteral("loggerButtonClear"));
-    tabstyle::makeRegular(d->clear);
     d->edit = new StreamEdit(kMaximumLines, this);
     d->edit->setObjectName(QStringLiteral("editLogger"));
     d->edit->setStyleSheet(tabstyle::fixedPitchSheet());

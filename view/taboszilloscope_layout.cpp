@@ -1,4 +1,5 @@
 #include "app/theme.h"
+#include "kit/qtmaterialtoggle.h"
 #include "plots/osziwidget.h"
 #include "view/actionicon.h"
 #include "view/oszirowcontrols.h"
@@ -25,6 +26,7 @@ namespace {
 
 constexpr int kGap = 4;
 constexpr int kGroupGap = 14;
+constexpr int kToggleHeight = 38; // no more than its neighbours, since the plots need the room
 constexpr int kLargestSeconds = std::numeric_limits<int>::max() / 1000;
 const int kLargestMilliseconds = 24 * 60 * 60 * 1000;
 
@@ -69,6 +71,16 @@ QCheckBox *createBareCheckBox(const QString &name, bool checked, QWidget *parent
     QCheckBox *box = createCheckBox(name, checked, parent);
     box->setMaximumWidth(OsziRow::kCheckBoxWidth);
     return box;
+}
+
+/// For a way of working that is on or off; what is shown or not has a check box.
+QCheckBox *createToggle(const QString &name, bool checked, QWidget *parent)
+{
+    auto *toggle = new QtMaterialToggle(parent);
+    toggle->setObjectName(name);
+    toggle->setChecked(checked);
+    toggle->setFixedHeight(kToggleHeight);
+    return toggle;
 }
 
 QPushButton *createClearButton(const QString &name, QWidget *parent)
@@ -150,7 +162,7 @@ QWidget *TabOszilloscope::Private::createHead()
     flow->addWidget(createYCorrection(groups));
     line->addWidget(groups, 1);
     createLock(head);
-    line->addWidget(lockButton, 0, Qt::AlignTop);
+    line->addWidget(lockButton, 0, Qt::AlignVCenter);
     return head;
 }
 
@@ -221,7 +233,7 @@ QWidget *TabOszilloscope::Private::createYCorrection(QWidget *parent)
 {
     auto *group = new QWidget(parent);
     yCorrectionCaption = new QLabel(group);
-    yCorrection = createBareCheckBox(QStringLiteral("checkBoxYCorrection"), false, group);
+    yCorrection = createToggle(QStringLiteral("checkBoxYCorrection"), false, group);
     yCorrectionTime = new OsziSpinBox(QStringLiteral("00000 ms"), group);
     yCorrectionTime->setObjectName(QStringLiteral("spinBoxYCorrection"));
     yCorrectionTime->setRange(0, kLargestMilliseconds);
@@ -262,7 +274,7 @@ QWidget *TabOszilloscope::Private::createMarkers(QWidget *parent)
         layout->addWidget(marker.seconds);
         layout->addSpacing(kGap);
     }
-    markerAbsolute = createBareCheckBox(QStringLiteral("checkBoxMarkerAbsolute"), false, markerFrame);
+    markerAbsolute = createToggle(QStringLiteral("checkBoxMarkerAbsolute"), false, markerFrame);
     markerAbsoluteCaption = new QLabel(markerFrame);
     markerAbsoluteCaption->setObjectName(QStringLiteral("labelMarkerAbsolute"));
     clearMarkersButton = createClearButton(QStringLiteral("buttonClearMarkers"), markerFrame);

@@ -1,5 +1,7 @@
 #include "view/tabterminal.h"
 
+#include "kit/qtmaterialflatbutton.h"
+#include "kit/qtmaterialraisedbutton.h"
 #include "view/inputhistory.h"
 #include "view/logging.h"
 #include "view/ringbuffer.h"
@@ -99,12 +101,10 @@ TabTerminal::TabTerminal(QWidget *parent)
     d->input->installEventFilter(this);
     d->prompt = new QLabel(this);
     d->prompt->setBuddy(d->input);
-    d->send = new QPushButton(this);
+    d->send = new QtMaterialRaisedButton(this);
     d->send->setObjectName(QStringLiteral("buttonSend"));
-    d->clear = new QPushButton(this);
+    d->clear = new QtMaterialFlatButton(this);
     d->clear->setObjectName(QStringLiteral("buttonClearTerminal"));
-    for (QPushButton *button : {d->send, d->clear})
-        tabstyle::makeRegular(button);
     d->layOut(this);
     setTabOrder(d->input, d->send);
     setTabOrder(d->send, d->clear);

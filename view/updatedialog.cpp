@@ -3,6 +3,8 @@
 #include "app/theme.h"
 #include "device/mesotraconnector.h"
 #include "device/scptransfer.h"
+#include "kit/qtmaterialflatbutton.h"
+#include "kit/qtmaterialraisedbutton.h"
 #include "view/logging.h"
 #include "view/view.h"
 
@@ -76,14 +78,14 @@ void UpdateDialog::createWidgets()
     m_title = new QLabel(m_mainFrame);
     m_hint = new QLabel(m_mainFrame);
     m_hint->setWordWrap(true);
-    m_selectFile = new QPushButton(m_mainFrame);
+    m_selectFile = new QtMaterialFlatButton(m_mainFrame);
     m_file = new PathLabel(m_mainFrame);
-    m_uploadButton = new QPushButton(m_mainFrame);
+    m_uploadButton = new QtMaterialRaisedButton(m_mainFrame);
     m_uploadResult = new QLabel(m_mainFrame);
-    m_restartButton = new QPushButton(m_mainFrame);
+    m_restartButton = new QtMaterialFlatButton(m_mainFrame);
     m_restartResult = new QLabel(m_mainFrame);
-    m_cancel = new QPushButton(m_mainFrame);
-    m_ok = new QPushButton(m_mainFrame);
+    m_cancel = new QtMaterialFlatButton(m_mainFrame);
+    m_ok = new QtMaterialRaisedButton(m_mainFrame);
     m_mainFrame->setObjectName(QStringLiteral("mainFrame"));
     m_title->setObjectName(QStringLiteral("labelTitle"));
     m_hint->setObjectName(QStringLiteral("label2"));
@@ -101,8 +103,7 @@ void UpdateDialog::layOut()
 {
     // On the frame and not on the dialog, whose message boxes have a look of their own.
     m_mainFrame->setStyleSheet(QStringLiteral("QFrame#mainFrame {background-color: %1; border: 3px solid %2;}"
-                                              "QPushButton {font-size: 20px; min-height: 50px; min-width: 130px;"
-                                              " padding: 0px 20px;}")
+                                              "QPushButton {font-size: 20px; min-height: 50px; min-width: 130px;}")
                                    .arg(theme::colorBackground, theme::colorPrimary));
     m_title->setStyleSheet(QStringLiteral("QLabel {font: bold 28px; color: %1;}").arg(theme::colorPrimary));
     auto *column = new QVBoxLayout(m_mainFrame);
