@@ -26,7 +26,7 @@ namespace {
 
 constexpr int kGap = 4;
 constexpr int kGroupGap = 14;
-constexpr int kToggleHeight = 38; // no more than its neighbours, since the plots need the room
+constexpr int kLineGap = 2; // the plots need the height
 constexpr int kLargestSeconds = std::numeric_limits<int>::max() / 1000;
 const int kLargestMilliseconds = 24 * 60 * 60 * 1000;
 
@@ -79,7 +79,6 @@ QCheckBox *createToggle(const QString &name, bool checked, QWidget *parent)
     auto *toggle = new QtMaterialToggle(parent);
     toggle->setObjectName(name);
     toggle->setChecked(checked);
-    toggle->setFixedHeight(kToggleHeight);
     return toggle;
 }
 
@@ -107,14 +106,14 @@ void TabOszilloscope::Private::build()
 {
     q->setStyleSheet(compactSheet());
     auto *layout = new QVBoxLayout(q);
-    layout->setContentsMargins(kGap, kGap, kGap, kGap);
-    layout->setSpacing(kGap);
+    layout->setContentsMargins(kGap, kLineGap, kGap, kLineGap);
+    layout->setSpacing(kLineGap);
     layout->addWidget(createHead());
     layout->addWidget(createRows(), 1);
     layout->addWidget(createTimeAxis());
 
     auto *foot = new QWidget(q);
-    auto *flow = new FlowLayout(kGroupGap, kGap, foot);
+    auto *flow = new FlowLayout(kGroupGap, kLineGap, foot);
     flow->addWidget(createMarkers(foot));
     flow->addWidget(createMeasurements(foot));
     flow->addWidget(createSampleRate(foot));
