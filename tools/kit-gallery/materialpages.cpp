@@ -2,6 +2,8 @@
 
 #include "kit/qtmaterialflatbutton.h"
 #include "kit/qtmaterialraisedbutton.h"
+#include "kit/qtmaterialscrollbar.h"
+#include "kit/qtmaterialtextfield.h"
 #include "kit/qtmaterialtoggle.h"
 #include "tools/kit-gallery/gallery.h"
 
@@ -57,6 +59,27 @@ QtMaterialToggle *createToggle(bool checked, bool enabled = true)
     return toggle;
 }
 
+QtMaterialTextField *createField(const QString &text = QString())
+{
+    auto *field = new QtMaterialTextField(QStringLiteral("Werkzeug"));
+    field->setText(text);
+    field->setFixedWidth(230);
+    return field;
+}
+
+QtMaterialScrollBar *createScrollBar(Qt::Orientation orientation, int maximum, int length)
+{
+    auto *bar = new QtMaterialScrollBar(orientation);
+    bar->setRange(0, maximum);
+    bar->setPageStep(100);
+    bar->setValue(maximum / 3);
+    if (orientation == Qt::Horizontal)
+        bar->setFixedWidth(length);
+    else
+        bar->setFixedHeight(length);
+    return bar;
+}
+
 } // namespace
 
 GalleryPage *createRaisedButtonPage()
@@ -87,5 +110,48 @@ GalleryPage *createTogglePage()
     auto *mirrored = createToggle(true);
     mirrored->setLayoutDirection(Qt::RightToLeft);
     page->addSample(QStringLiteral("mirrored"), mirrored);
+    return page;
+}
+
+GalleryPage *createTextFieldPage()
+{
+    const QString text = QStringLiteral("Deckel 4-fach");
+    auto *page = new GalleryPage(QStringLiteral("QtMaterialTextField"));
+    page->addRow(QStringLiteral("States"));
+    page->addSample(QStringLiteral("empty"), createField());
+    page->addSample(QStringLiteral("filled"), createField(text));
+    page->addSample(QStringLiteral("focused"), createField(text), State::Focused);
+    page->addSample(QStringLiteral("hovered"), createField(text), State::Hovered);
+    page->addRow(QStringLiteral("Below the line"));
+    QtMaterialTextField *helped = createField(text);
+    helped->setHelperText(QStringLiteral("Wie auf dem Typenschild"));
+    page->addSample(QStringLiteral("helper text"), helped);
+    QtMaterialTextField *wrong = createField(text);
+    wrong->setErrorText(QStringLiteral("Schon vergeben"));
+    page->addSample(QStringLiteral("error"), wrong);
+    QtMaterialTextField *counted = createField(text);
+    counted->setMaxLength(20);
+    counted->setCounterShown(true);
+    counted->setClearable(true);
+    page->addSample(QStringLiteral("counter and cross"), counted);
+    QtMaterialTextField *disabled = createField(text);
+    disabled->setEnabled(false);
+    page->addSample(QStringLiteral("disabled"), disabled);
+    return page;
+}
+
+GalleryPage *createScrollBarPage()
+{
+    auto *page = new GalleryPage(QStringLiteral("QtMaterialScrollBar"));
+    page->addRow(QStringLiteral("Horizontal"));
+    page->addSample(QStringLiteral("normal"), createScrollBar(Qt::Horizontal, 300, 220));
+    page->addSample(QStringLiteral("hovered"), createScrollBar(Qt::Horizontal, 300, 220), State::Hovered);
+    page->addSample(QStringLiteral("very long contents"), createScrollBar(Qt::Horizontal, 1000000, 220));
+    page->addRow(QStringLiteral("Vertical, nothing to scroll, disabled"));
+    page->addSample(QStringLiteral("vertical"), createScrollBar(Qt::Vertical, 300, 120));
+    page->addSample(QStringLiteral("nothing to scroll"), createScrollBar(Qt::Horizontal, 0, 220));
+    QtMaterialScrollBar *disabled = createScrollBar(Qt::Horizontal, 300, 220);
+    disabled->setEnabled(false);
+    page->addSample(QStringLiteral("disabled"), disabled);
     return page;
 }

@@ -5,3 +5,5 @@ class GalleryPage;
 [[nodiscard]] GalleryPage *createRaisedButtonPage();
 [[nodiscard]] GalleryPage *createFlatButtonPage();
 [[nodiscard]] GalleryPage *createTogglePage();
+[[nodiscard]] GalleryPage *createTextFieldPage();
+[[nodiscard]] GalleryPage *createScrollBarPage();

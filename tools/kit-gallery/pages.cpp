@@ -6,8 +6,18 @@
 QList<GalleryPage *> createPages()
 {
     return {
-        createGaugePage(),          createGaugePartsPage(),  createAttitudeMeterPage(),     createRaisedButtonPage(),
-        createFlatButtonPage(),     createTogglePage(),      createColoredButtonPage(),     createStepBoxPage(),
-        createClickableLabelPage(), createShadowFramePage(), createProgressIndicatorPage(),
+        createGaugePage(),
+        createGaugePartsPage(),
+        createAttitudeMeterPage(),
+        createRaisedButtonPage(),
+        createFlatButtonPage(),
+        createTogglePage(),
+        createTextFieldPage(),
+        createScrollBarPage(),
+        createColoredButtonPage(),
+        createStepBoxPage(),
+        createClickableLabelPage(),
+        createShadowFramePage(),
+        createProgressIndicatorPage(),
     };
 }
