@@ -1,9 +1,11 @@
 #include "tools/demo/demonstration.h"
 
 #include "simulator/mouldcycle.h"
+#include "view/sensortile.h"
 #include "view/sidetabs.h"
 #include "view/taboszilloscope.h"
 #include "view/tabproject.h"
+#include "view/tabsensors.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -141,8 +143,21 @@ void Demonstration::recordSlowShot()
     runEvents(150);
     picture(QStringLiteral("recording"));
     m_view.resize(kLaptop);
+    showLiveSensors();
     trigger("actionStartRecording");
     waitFor([&] { return !m_controller.isRecordingRunning(); }, QStringLiteral("end of the live shot"));
+    showTab(m_view.tabOszi());
+}
+
+/// One tile of each kind.
+void Demonstration::showLiveSensors()
+{
+    showTab(m_view.tabSensors());
+    const QList<SensorTile *> tiles = m_view.tabSensors()->findChildren<SensorTile *>();
+    for (SensorTile *tile : tiles)
+        emit tile->kindChosen(static_cast<DisplayKind>(tile->sensor().sensor % kNumDisplayKinds));
+    runEvents(300);
+    picture(QStringLiteral("sensors-live"));
 }
 
 void Demonstration::setMarkers()

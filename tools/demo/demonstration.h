@@ -30,6 +30,7 @@ private:
     void choosePeriod();
     void recordShots();
     void recordSlowShot();
+    void showLiveSensors();
     void setMarkers();
     void namePhases();
     void deleteShot();
