@@ -4,6 +4,7 @@
 
 #include <QEvent>
 #include <QPainter>
+#include <QtMath>
 
 #include <algorithm>
 #include <cmath>
@@ -101,7 +102,8 @@ void SensorDisplay::paintEvent(QPaintEvent * /*event*/)
 void SensorDisplay::renderFace()
 {
     const double ratio = devicePixelRatioF();
-    m_picture = QPixmap((QSizeF(size()) * ratio).toSize().expandedTo(QSize(1, 1)));
+    // Rounded up: what the picture left free would stay black.
+    m_picture = QPixmap(std::max(1, qCeil(width() * ratio)), std::max(1, qCeil(height() * ratio)));
     m_picture.setDevicePixelRatio(ratio);
     m_picture.fill(theme::qColorBackground);
     QPainter painter(&m_picture);
