@@ -115,6 +115,7 @@ void SensorDialog::chooseColor()
     auto *dialog = new QColorDialog(m_color, this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowTitle(tr("Farbe wählen"));
+    dialog->setStyleSheet(QStringLiteral("QPushButton {padding: 0px 14px;}"));
     dialog->setOption(QColorDialog::DontUseNativeDialog); // which speaks the computer's language
     connect(dialog, &QColorDialog::colorSelected, this, [this](const QColor &color) {
         m_color = color;

@@ -64,9 +64,11 @@ SensorDisplay::Places RoundDisplay::places() const
         const double most = 0.5 * height;
         parts.value.adjust(0, 0.5 * (height - most), 0, -0.5 * (height - most));
     } else {
-        const double digits = kDigitsBelow * height;
-        parts.figure = QRectF(area.left(), area.top(), area.width(), height - digits);
-        parts.value = QRectF(area.left(), area.top() + height - digits, area.width(), digits);
+        const double side = std::min(area.width(), (1.0 - kDigitsBelow) * height);
+        const double digits = kDigitsBelow / (1.0 - kDigitsBelow) * side;
+        const double top = area.top() + 0.5 * (height - side - digits);
+        parts.figure = QRectF(area.left(), top, area.width(), side);
+        parts.value = QRectF(area.left(), top + side, area.width(), digits);
     }
     return parts;
 }

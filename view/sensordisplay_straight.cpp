@@ -65,9 +65,11 @@ void StraightDisplay::paintHeld(QPainter &painter, const StraightScale &scale, d
 {
     if (!reading().held)
         return;
-    painter.setPen(QPen(kHeldColor, 2));
-    for (double value : {reading().held->minimum, reading().held->maximum})
-        painter.drawLine(scale.point(value, begin), scale.point(value, end));
+    for (const QPen &pen : {QPen(theme::qColorBackground, 4), QPen(kHeldColor, 2)}) { // seen on every colour
+        painter.setPen(pen);
+        for (double value : {reading().held->minimum, reading().held->maximum})
+            painter.drawLine(scale.point(value, begin), scale.point(value, end));
+    }
 }
 
 // --- Linear ----------------------------------------------------------------------------------------------------

@@ -168,9 +168,9 @@ void SensorTile::describeReading()
         setAccessibleDescription(text);
 }
 
-QVector<QWidget *> SensorTile::tabOrder() const
+QVector<QWidget *> SensorTile::tabOrder()
 {
-    return {const_cast<SensorTile *>(this), m_kindButton, m_resetButton, m_enlargeButton};
+    return {this, m_kindButton, m_resetButton, m_enlargeButton};
 }
 
 void SensorTile::setEnlarged(bool enlarged)

@@ -33,7 +33,7 @@ public:
     /// What a screen reader says; apart from setReading(), since nobody listens to twenty values a second.
     void describeReading();
     /// Itself and its buttons, in the order of the tabulator key.
-    [[nodiscard]] QVector<QWidget *> tabOrder() const;
+    [[nodiscard]] QVector<QWidget *> tabOrder();
 
 signals:
     void kindChosen(DisplayKind kind);

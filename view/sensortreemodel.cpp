@@ -9,6 +9,7 @@ namespace {
 
 constexpr int kRowHeight = 40; // pixels: to be hit with gloves
 constexpr int kSwatchSize = 18;
+constexpr int kSwatchGap = 6; // between check mark and swatch
 constexpr int kStatusSize = 20;
 constexpr int kLongestName = 100;
 
@@ -19,18 +20,25 @@ QIcon swatchIcon(const QColor &color)
 {
     QIcon icon;
     for (int ratio : {1, 2}) {
-        QPixmap picture(QSize(kSwatchSize, kSwatchSize) * ratio);
+        QPixmap picture(QSize(kSwatchGap + kSwatchSize, kSwatchSize) * ratio);
         picture.setDevicePixelRatio(ratio);
         picture.fill(Qt::transparent);
         QPainter painter(&picture);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(QPen(color.darker(130), 1));
         painter.setBrush(color);
-        painter.drawRoundedRect(QRectF(0.5, 0.5, kSwatchSize - 1, kSwatchSize - 1), 4, 4);
+        painter.drawRoundedRect(QRectF(kSwatchGap + 0.5, 0.5, kSwatchSize - 1, kSwatchSize - 1), 4, 4);
         painter.end();
         icon.addPixmap(picture);
     }
     return icon;
+}
+
+QIcon gapIcon()
+{
+    QPixmap picture(kSwatchGap, kSwatchSize);
+    picture.fill(Qt::transparent);
+    return picture;
 }
 
 bool isSameShape(const SensorList &a, const SensorList &b)
@@ -43,11 +51,17 @@ bool isSameShape(const SensorList &a, const SensorList &b)
 
 SensorTreeModel::SensorTreeModel(QObject *parent)
     : QAbstractItemModel(parent)
+    , m_gap(gapIcon())
 {
     for (std::size_t i = 0; i < m_statusIcons.size(); ++i) {
         for (int ratio : {1, 2})
             m_statusIcons[i].addPixmap(statusPicture(static_cast<SensorStatus>(i), kStatusSize, ratio));
     }
+}
+
+QSize SensorTreeModel::iconSize()
+{
+    return {kSwatchGap + kSwatchSize, kStatusSize};
 }
 
 void SensorTreeModel::setSensors(const SensorList &list)
@@ -187,6 +201,8 @@ QVariant SensorTreeModel::groupData(int group, int column, int role) const
         return {};
     if (role == Qt::DisplayRole)
         return m_list.groups.at(group).name;
+    if (role == Qt::DecorationRole)
+        return m_gap;
     return role == Qt::CheckStateRole ? QVariant(groupState(group)) : QVariant();
 }
 

@@ -20,6 +20,9 @@ public:
 
     explicit SensorTreeModel(QObject *parent = nullptr);
 
+    /// Of the swatches and status signs, for the view.
+    [[nodiscard]] static QSize iconSize();
+
     /// Check marks begin as not set; values as none.
     void setSensors(const SensorList &list);
     [[nodiscard]] const SensorList &sensors() const { return m_list; }
@@ -69,4 +72,5 @@ private:
     SensorList m_list;
     QVector<Row> m_rows;
     std::array<QIcon, 5> m_statusIcons;
+    QIcon m_gap; ///< keeps a group's name off its check mark
 };

@@ -305,6 +305,12 @@ void TabSensors::showEvent(QShowEvent *event)
         d->statusTimer.start();
 }
 
+void TabSensors::resizeEvent(QResizeEvent *event)
+{
+    d->fitToWidth(width());
+    QWidget::resizeEvent(event);
+}
+
 void TabSensors::hideEvent(QHideEvent *event)
 {
     d->repaintTimer.stop();

@@ -18,8 +18,9 @@
 
 namespace {
 
-constexpr int kDefaultSideWidth = 420; // pixels
+constexpr int kDefaultSideWidth = 440; // pixels
 constexpr int kNarrowestSide = 240;
+constexpr int kNarrowestPage = 700;
 constexpr int kHandleWidth = 8;
 constexpr int kEdge = 12;
 constexpr int kStatusColumnWidth = 40;
@@ -83,6 +84,7 @@ void TabSensors::Private::createTree()
     tree = new QTreeView(side);
     tree->setObjectName(QStringLiteral("treeSensors"));
     tree->setModel(sensors);
+    tree->setIconSize(SensorTreeModel::iconSize());
     tree->setUniformRowHeights(true);
     tree->setEditTriggers(QAbstractItemView::DoubleClicked);
     tree->setExpandsOnDoubleClick(false);
@@ -146,8 +148,18 @@ void TabSensors::Private::restoreWidth()
     const int kept = SensorChoices::treeWidth();
     const int width = kept >= kNarrowestSide ? kept : kDefaultSideWidth;
     splitter->setSizes({width, 3 * width});
-    connect(splitter, &QSplitter::splitterMoved, q,
-            [this] { SensorChoices::setTreeWidth(splitter->sizes().constFirst()); });
+    connect(splitter, &QSplitter::splitterMoved, q, [this] {
+        if (splitter->orientation() == Qt::Horizontal)
+            SensorChoices::setTreeWidth(splitter->sizes().constFirst());
+    });
+}
+
+/// Side by side there must be room for the tree and one tile.
+void TabSensors::Private::fitToWidth(int width)
+{
+    const Qt::Orientation fitting = width < kNarrowestPage ? Qt::Vertical : Qt::Horizontal;
+    if (splitter->orientation() != fitting)
+        splitter->setOrientation(fitting);
 }
 
 void TabSensors::Private::connectTree()

@@ -65,6 +65,7 @@ struct TabSensors::Private
     void connectTree();
     void sizeColumns();
     void restoreWidth();
+    void fitToWidth(int width);
     void retranslateUi();
 
     // --- Which sensors ---
