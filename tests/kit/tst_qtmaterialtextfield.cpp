@@ -1,202 +1,156 @@
-#include "kit/qtmaterialstyle.h"
 #include "kit/qtmaterialtextfield.h"
-#include "kit/qtmaterialtheme.h"
+#include "tests/support/kittheme.h"
+#include "tests/support/literals.h"
+#include "tests/support/rows.h"
 
 #include <QAccessible>
 #include <QSignalSpy>
 #include <QtTest>
 
-namespace {
+using State = QtMaterialTextFieldStateMachine::State;
 
-using Machine = QtMaterialTextFieldStateMachine;
-
-QImage picture(QtMaterialTextField &field)
-{
-    return field.grab().toImage();
-}
-
-} // namespace
-
-Q_DECLARE_METATYPE(Machine::State)
+Q_DECLARE_METATYPE(State)
 
 class TestQtMaterialTextField : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void stateOfTheField_data();
-    void stateOfTheField();
-    void labelRisesAndRests();
-    void placeholderWaitsForTheLabel();
-    void errorIsToldToScreenReaders();
-    void ownDescriptionStays();
-    void crossEmptiesTheField_data();
-    void crossEmptiesTheField();
-    void roomFollowsFontAndTexts();
-    void themeBeatsTheApplicationSheet();
+    void init() { useKitTheme(Qt::darkBlue, {{"text"_s, Qt::magenta}}); }
+    void cleanup() { qApp->setStyleSheet(QString()); }
+
+    void stateOfTheField_data()
+    {
+        columns<QString, State, bool, bool>("inputs", "state", "floating", "placeholder");
+        row("empty", "enabled labelled"_s, State::Resting, false, false);
+        row("without label", "enabled"_s, State::Resting, false, true);
+        row("in use", "enabled labelled focused"_s, State::Focused, true, true);
+        row("filled", "enabled labelled filled"_s, State::Resting, true, false);
+        row("wrong", "enabled labelled filled focused wrong"_s, State::Wrong, true, false);
+        row("disabled", "labelled focused wrong"_s, State::Disabled, false, false);
+    }
+
+    void stateOfTheField()
+    {
+        QFETCH(QString, inputs);
+        QtMaterialTextFieldStateMachine machine;
+        machine.setEnabled(inputs.contains("enabled"_s));
+        machine.setFocused(inputs.contains("focused"_s));
+        machine.setFilled(inputs.contains("filled"_s));
+        machine.setLabelled(inputs.contains("labelled"_s));
+        machine.setWrong(inputs.contains("wrong"_s));
+        QTEST(machine.state(), "state");
+        QTEST(machine.isLabelFloating(), "floating");
+        QTEST(machine.isPlaceholderShown(), "placeholder");
+    }
+
+    void labelMovesOnlyInSight()
+    {
+        QtMaterialTextField field("Name"_s);
+        field.setFocusPolicy(Qt::NoFocus); // else the window that comes up gives it the focus
+        field.setText("x"_s);
+        QVERIFY(!field.isAnimating()); // not shown yet
+        field.show();
+        field.clear();
+        QVERIFY(field.isAnimating());
+        QTRY_VERIFY(!field.isAnimating());
+        field.setText("x"_s);
+        QVERIFY(field.isAnimating());
+        field.hide();
+        QVERIFY(!field.isAnimating());
+    }
+
+    void placeholderWaitsForTheLabel()
+    {
+        QtMaterialTextField field("Name"_s);
+        const QImage bare = field.grab().toImage();
+        field.setPlaceholderText("MMMM"_s);
+        QVERIFY(field.grab().toImage() == bare);
+        field.setLabel(QString());
+        const QImage withPlaceholder = field.grab().toImage();
+        field.setPlaceholderText(QString());
+        QVERIFY(field.grab().toImage() != withPlaceholder);
+    }
+
+    void screenReadersHearOfErrors()
+    {
+        QtMaterialTextField field("Adresse"_s);
+        field.setHelperText("vier Zahlen"_s);
+        const QAccessibleInterface *reader = QAccessible::queryAccessibleInterface(&field);
+        QCOMPARE(reader->text(QAccessible::Name), "Adresse"_s);
+        field.setErrorText("zu kurz"_s);
+        QCOMPARE(reader->text(QAccessible::Description), "zu kurz"_s);
+        field.setErrorText(QString());
+        QCOMPARE(reader->text(QAccessible::Description), "vier Zahlen"_s);
+
+        field.setAccessibleName("Adresse der Messbox"_s); // what others set stays
+        field.setAccessibleDescription("eigene"_s);
+        field.setLabel("IP"_s);
+        field.setErrorText("zu kurz"_s);
+        QCOMPARE(field.accessibleName(), "Adresse der Messbox"_s);
+        QCOMPARE(field.accessibleDescription(), "eigene"_s);
+    }
+
+    void crossEmptiesTheField_data()
+    {
+        columns<bool, bool, bool, bool>("readOnly", "enabled", "rightToLeft", "cleared");
+        row("usual", false, true, false, true);
+        row("RTL", false, true, true, true);
+        row("read only", true, true, false, false);
+        row("disabled", false, false, false, false);
+    }
+
+    void crossEmptiesTheField()
+    {
+        QFETCH(bool, readOnly);
+        QFETCH(bool, enabled);
+        QFETCH(bool, rightToLeft);
+        QFETCH(bool, cleared);
+        QtMaterialTextField field("Name"_s);
+        field.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+        field.setClearable(true);
+        QVERIFY(field.clearRect().isEmpty()); // nothing to clear
+        field.setText("Text"_s);
+        field.setReadOnly(readOnly);
+        field.setEnabled(enabled);
+        field.resize(200, field.sizeHint().height());
+        const QSignalSpy edited(&field, &QLineEdit::textEdited);
+        QTest::mouseClick(&field, Qt::LeftButton, {}, QPoint(rightToLeft ? 12 : 188, field.height() / 2));
+        QCOMPARE(field.text().isEmpty(), cleared);
+        QCOMPARE(edited.count(), cleared ? 1 : 0);
+        field.undo();
+        QCOMPARE(field.text(), "Text"_s);
+    }
+
+    void roomFollowsFontAndTexts()
+    {
+        QtMaterialTextField field;
+        const int bare = field.minimumHeight();
+        QVERIFY(bare >= 40);
+        field.setErrorText("falsch"_s);
+        QVERIFY(field.sizeHint().height() > bare + 8);
+        field.setErrorText(QString());
+        QCOMPARE(field.minimumHeight(), bare); // gives back what it took
+        qApp->setStyleSheet("QWidget{font-size:60px;} QLineEdit{min-height:3px;}"_s);
+        field.ensurePolished();
+        QVERIFY(field.minimumHeight() > 60);
+    }
+
+    void themeBeatsTheApplicationSheet()
+    {
+        qApp->setStyleSheet("QLineEdit{color:black; background:white; font-size:30px;}"_s);
+        QtMaterialTextField field;
+        field.setText("MMMMMM"_s);
+        for (const QColor color : {Qt::magenta, Qt::red}) {
+            useKitTheme(Qt::darkBlue, {{"text"_s, color}});
+            const QImage image = field.grab().toImage();
+            bool themed = false;
+            for (int x = 0; x < image.width(); ++x)
+                themed = themed || image.pixelColor(x, image.height() / 2) == color;
+            QVERIFY(themed);
+        }
+    }
 };
-
-void TestQtMaterialTextField::initTestCase()
-{
-    auto theme = std::make_unique<QtMaterialTheme>();
-    for (const QString &key : QtMaterialTheme::keys())
-        theme->setColor(key, Qt::darkBlue);
-    theme->setColor(QStringLiteral("text"), Qt::magenta);
-    QtMaterialStyle::instance().setTheme(std::move(theme));
-}
-
-void TestQtMaterialTextField::stateOfTheField_data()
-{
-    QTest::addColumn<QString>("inputs"); // e: enabled, f: focused, t: text, l: label, w: wrong
-    QTest::addColumn<Machine::State>("state");
-    QTest::addColumn<bool>("floating");
-    QTest::addColumn<bool>("placeholder");
-    const auto row = [](const char *inputs, Machine::State state, bool floating, bool placeholder) {
-        QTest::newRow(inputs) << QString::fromLatin1(inputs) << state << floating << placeholder;
-    };
-    row("el", Machine::State::Resting, false, false);
-    row("e", Machine::State::Resting, false, true);
-    row("elf", Machine::State::Focused, true, true);
-    row("elft", Machine::State::Focused, true, false);
-    row("elt", Machine::State::Resting, true, false);
-    row("elftw", Machine::State::Wrong, true, false);
-    row("lfw", Machine::State::Disabled, false, false);
-    row("ltw", Machine::State::Disabled, true, false);
-}
-
-void TestQtMaterialTextField::stateOfTheField()
-{
-    QFETCH(QString, inputs);
-    QFETCH(bool, floating);
-    QFETCH(bool, placeholder);
-    const auto has = [&inputs](char letter) { return inputs.contains(QLatin1Char(letter)); };
-    Machine machine;
-    machine.setEnabled(has('e'));
-    machine.setFocused(has('f'));
-    machine.setFilled(has('t'));
-    machine.setLabelled(has('l'));
-    machine.setWrong(has('w'));
-    QTEST(machine.state(), "state");
-    QCOMPARE(machine.isLabelFloating(), floating);
-    QCOMPARE(machine.isPlaceholderShown(), placeholder);
-}
-
-void TestQtMaterialTextField::labelRisesAndRests()
-{
-    QtMaterialTextField field(QStringLiteral("Name"));
-    field.setFocusPolicy(Qt::NoFocus); // else the window that comes up gives it the focus
-    field.setText(QStringLiteral("x"));
-    QVERIFY(!field.isAnimating()); // not shown yet
-    field.show();
-    field.clear();
-    QVERIFY(field.isAnimating());
-    QTRY_VERIFY(!field.isAnimating());
-    field.setText(QStringLiteral("x"));
-    QVERIFY(field.isAnimating());
-    field.hide();
-    QVERIFY(!field.isAnimating());
-}
-
-void TestQtMaterialTextField::placeholderWaitsForTheLabel()
-{
-    QtMaterialTextField field(QStringLiteral("Name"));
-    const QImage bare = picture(field);
-    field.setPlaceholderText(QStringLiteral("MMMM"));
-    QVERIFY(picture(field) == bare);
-    field.setLabel(QString());
-    const QImage withPlaceholder = picture(field);
-    field.setPlaceholderText(QString());
-    QVERIFY(picture(field) != withPlaceholder);
-}
-
-void TestQtMaterialTextField::errorIsToldToScreenReaders()
-{
-    QtMaterialTextField field(QStringLiteral("Adresse"));
-    field.setHelperText(QStringLiteral("vier Zahlen"));
-    const QAccessibleInterface *reader = QAccessible::queryAccessibleInterface(&field);
-    QCOMPARE(reader->role(), QAccessible::EditableText);
-    QCOMPARE(reader->text(QAccessible::Name), QStringLiteral("Adresse"));
-    field.setErrorText(QStringLiteral("zu kurz"));
-    QCOMPARE(reader->text(QAccessible::Description), QStringLiteral("zu kurz"));
-    field.setErrorText(QString());
-    QCOMPARE(reader->text(QAccessible::Description), QStringLiteral("vier Zahlen"));
-}
-
-void TestQtMaterialTextField::ownDescriptionStays()
-{
-    QtMaterialTextField field(QStringLiteral("Adresse"));
-    field.setAccessibleName(QStringLiteral("Adresse der Messbox"));
-    field.setAccessibleDescription(QStringLiteral("eigene"));
-    field.setLabel(QStringLiteral("IP"));
-    field.setErrorText(QStringLiteral("zu kurz"));
-    QCOMPARE(field.accessibleName(), QStringLiteral("Adresse der Messbox"));
-    QCOMPARE(field.accessibleDescription(), QStringLiteral("eigene"));
-}
-
-void TestQtMaterialTextField::crossEmptiesTheField_data()
-{
-    QTest::addColumn<bool>("readOnly");
-    QTest::addColumn<bool>("enabled");
-    QTest::addColumn<bool>("rightToLeft");
-    QTest::addColumn<bool>("cleared");
-    QTest::newRow("usual") << false << true << false << true;
-    QTest::newRow("RTL") << false << true << true << true;
-    QTest::newRow("read only") << true << true << false << false;
-    QTest::newRow("disabled") << false << false << false << false;
-}
-
-void TestQtMaterialTextField::crossEmptiesTheField()
-{
-    QFETCH(bool, readOnly);
-    QFETCH(bool, enabled);
-    QFETCH(bool, rightToLeft);
-    QFETCH(bool, cleared);
-    QtMaterialTextField field(QStringLiteral("Name"));
-    field.setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
-    field.setClearable(true);
-    QVERIFY(field.clearRect().isEmpty()); // nothing to clear
-    field.setText(QStringLiteral("Text"));
-    field.setReadOnly(readOnly);
-    field.setEnabled(enabled);
-    field.resize(200, field.sizeHint().height());
-    field.show();
-    const QSignalSpy edited(&field, &QLineEdit::textEdited);
-    QTest::mouseClick(&field, Qt::LeftButton, {}, QPoint(rightToLeft ? 12 : 188, field.height() / 2));
-    QCOMPARE(field.text().isEmpty(), cleared);
-    QCOMPARE(edited.count(), cleared ? 1 : 0);
-    field.undo();
-    QCOMPARE(field.text(), QStringLiteral("Text"));
-}
-
-void TestQtMaterialTextField::roomFollowsFontAndTexts()
-{
-    QtMaterialTextField field;
-    QVERIFY(field.sizeHint().height() >= 40);
-    const int bare = field.sizeHint().height();
-    field.setErrorText(QStringLiteral("falsch"));
-    QVERIFY(field.sizeHint().height() > bare + 8);
-    field.setErrorText(QString());
-    QCOMPARE(field.minimumHeight(), bare); // gives back what it took
-    QFont large = field.font();
-    large.setPixelSize(60);
-    field.setFont(large);
-    QVERIFY(field.minimumHeight() > 60);
-}
-
-void TestQtMaterialTextField::themeBeatsTheApplicationSheet()
-{
-    qApp->setStyleSheet(QStringLiteral("QLineEdit{color:black;background:white;min-height:3px;}"));
-    QtMaterialTextField field;
-    field.setText(QStringLiteral("MMMMMM"));
-    field.setFont(QFont(field.font().family(), 30));
-    const QImage image = picture(field);
-    bool themed = false;
-    for (int x = 0; x < image.width(); ++x)
-        themed = themed || image.pixelColor(x, image.height() / 2) == QColor(Qt::magenta);
-    QVERIFY(themed);
-    QVERIFY(field.minimumHeight() >= 40);
-}
 
 QTEST_MAIN(TestQtMaterialTextField)
 
