@@ -1,5 +1,6 @@
 #include "view/tabblackbox.h"
 
+#include "kit/leftrightstepbox.h"
 #include "kit/progressindicator.h"
 #include "view/logging.h"
 #include "view/shotpreview.h"
@@ -8,6 +9,7 @@
 #include <QEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QTableView>
 
 // --- What the user does ----------------------------------------------------------------------------------------
@@ -43,6 +45,8 @@ void TabBlackBox::Private::connectTables()
                      });
     QObject::connect(fileTable->selectionModel(), &QItemSelectionModel::currentRowChanged, q,
                      [this](const QModelIndex &current) { showFile(current.row()); });
+    QObject::connect(fileStep, &LeftRightStepBox::valueChanged, q,
+                     [this](int number) { fileTable->setCurrentIndex(files.index(number - 1, 0)); });
 }
 
 void TabBlackBox::Private::chooseDay(int row)
@@ -78,6 +82,9 @@ void TabBlackBox::Private::showDay(int row)
 void TabBlackBox::Private::showFile(int row)
 {
     preview->setFile(files.path(row));
+    const QSignalBlocker blocker(fileStep); // it follows
+    fileStep->setRange(1, files.rowCount());
+    fileStep->setValue(row + 1);
 }
 
 // --- What is shown ---------------------------------------------------------------------------------------------
@@ -226,6 +233,8 @@ void TabBlackBox::retranslateUi()
     d->dayTable->setAccessibleName(tr("Aufgezeichnete Tage"));
     d->fileTable->setAccessibleName(tr("Dateien des Tages"));
     d->preview->setAccessibleName(tr("Vorschau der Messung"));
+    d->fileStep->setAccessibleName(tr("Datei in der Vorschau"));
+    d->fileStep->setToolTip(tr("Vorige und nächste Datei des Tages ansehen"));
     d->indicator->setAccessibleName(tr("Fortschritt der Übertragung"));
     d->days.retranslate();
     d->files.retranslate();

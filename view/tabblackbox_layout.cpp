@@ -1,3 +1,4 @@
+#include "kit/leftrightstepbox.h"
 #include "kit/progressindicator.h"
 #include "kit/qtmaterialflatbutton.h"
 #include "kit/qtmaterialraisedbutton.h"
@@ -18,6 +19,7 @@ namespace {
 constexpr int kRowHeight = 40; // a finger's width
 constexpr int kDayColumnWidth = 460;
 constexpr int kTickRoom = 10;
+constexpr int kStepBoxWidth = 240;
 
 /// Keeps the text off the tick, which the sheet makes larger than the style has room for.
 class TickDelegate : public QStyledItemDelegate
@@ -120,6 +122,11 @@ QBoxLayout *TabBlackBox::Private::createFileColumn()
     fileTable = addTable(q, "tableFiles", &files);
     preview = new ShotPreview(q);
     preview->setObjectName(QStringLiteral("shotPreview"));
+    fileStep = new LeftRightStepBox(q);
+    fileStep->setObjectName(QStringLiteral("stepBoxFile"));
+    fileStep->setTotalShown(true);
+    fileStep->setRange(1, 0);
+    fileStep->setMinimumWidth(kStepBoxWidth);
     import = addButton<QtMaterialRaisedButton>(q, "buttonImport");
     auto *top = new QHBoxLayout;
     top->addWidget(filesHeading, 1);
@@ -128,7 +135,10 @@ QBoxLayout *TabBlackBox::Private::createFileColumn()
     column->addLayout(top);
     column->addWidget(fileTable, 3);
     column->addWidget(preview, 2);
-    column->addWidget(import);
+    auto *foot = new QHBoxLayout;
+    foot->addWidget(fileStep);
+    foot->addWidget(import, 1);
+    column->addLayout(foot);
     return column;
 }
 

@@ -6,6 +6,7 @@
 
 #include <QDate>
 
+class LeftRightStepBox;
 class ProgressIndicator;
 class QBoxLayout;
 class QItemSelectionModel;
@@ -32,6 +33,7 @@ struct TabBlackBox::Private
     QTableView *dayTable = nullptr;
     QTableView *fileTable = nullptr;
     ShotPreview *preview = nullptr;
+    LeftRightStepBox *fileStep = nullptr; ///< steps through the rows of the files, counted from 1
     QPushButton *request = nullptr;
     QPushButton *selectAll = nullptr;
     QPushButton *selectNone = nullptr;

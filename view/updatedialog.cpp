@@ -78,11 +78,11 @@ void UpdateDialog::createWidgets()
     m_title = new QLabel(m_mainFrame);
     m_hint = new QLabel(m_mainFrame);
     m_hint->setWordWrap(true);
-    m_selectFile = new QtMaterialFlatButton(m_mainFrame);
+    m_selectFile = new QtMaterialRaisedButton(m_mainFrame);
     m_file = new PathLabel(m_mainFrame);
     m_uploadButton = new QtMaterialRaisedButton(m_mainFrame);
     m_uploadResult = new QLabel(m_mainFrame);
-    m_restartButton = new QtMaterialFlatButton(m_mainFrame);
+    m_restartButton = new QtMaterialRaisedButton(m_mainFrame);
     m_restartResult = new QLabel(m_mainFrame);
     m_cancel = new QtMaterialFlatButton(m_mainFrame);
     m_ok = new QtMaterialRaisedButton(m_mainFrame);

@@ -1,3 +1,4 @@
+#include "kit/leftrightstepbox.h"
 #include "model/blackboxfile.h"
 #include "tests/support/literals.h"
 #include "tests/support/rows.h"
@@ -159,8 +160,14 @@ private slots:
         QCOMPARE(bench.rows("tableDays"), strings({"X 06.03.2024|2|geladen", "- 05.03.2024|0|geladen",
                                                    "- 04.03.2024|–|neu", "X 03.03.2024|1|geladen"}));
         QCOMPARE(bench.table("tableFiles")->rowCount(), 0); // those of the day that came last
+        auto *step = bench.find<LeftRightStepBox>("stepBoxFile");
+        QVERIFY(step->isEmpty());
         bench.find<QTableView>("tableDays")->selectRow(0);
         QCOMPARE(bench.rows("tableFiles"), strings({"X a.bb|21 bytes|geladen", "X b.bb|21 bytes|geladen"}));
+        step->stepBy(1);
+        QCOMPARE(bench.find<QTableView>("tableFiles")->currentIndex().row(), 1);
+        bench.find<QTableView>("tableFiles")->selectRow(0);
+        QCOMPARE(step->text(), "1 / 2"_s);
         bench.click("buttonImport");
         QCOMPARE(import.count(), 1);
         QCOMPARE(import.first().first().toStringList(), (QStringList{older.at(0), newer.at(1), newer.at(0)}));
