@@ -1604,6 +1604,14 @@ Identification of this computer:
         <source>Fortschritt der Übertragung</source>
         <translation>Progress of the transfer</translation>
     </message>
+    <message>
+        <source>Datei in der Vorschau</source>
+        <translation>File in the preview</translation>
+    </message>
+    <message>
+        <source>Vorige und nächste Datei des Tages ansehen</source>
+        <translation>Look at the previous and the next file of the day</translation>
+    </message>
 </context>
 <context>
     <name>TabDataLogger</name>
