@@ -3,6 +3,7 @@
 #include "model/blackboxfile.h"
 #include "model/devicedescription.h"
 #include "model/projectdata.h"
+#include "model/projectimage.h"
 #include "model/projectmeta.h"
 #include "model/samplelist.h"
 #include "model/sensordescription.h"
@@ -226,6 +227,7 @@ private:
     std::array<QString, kNumPhases> m_phaseNames;
     std::array<QString, kNumPhases> m_defaultPhaseNames; // in the language in use
     std::array<QPixmap, kNumImages> m_images;
+    std::array<EncodedImage, kNumImages> m_encodedImages;
     SensorDescription m_sensorDescription;
     DeviceDescription m_deviceDescription;
     ProjectData m_projectData;

@@ -101,7 +101,7 @@ bool Model::writeFile(const QString &fileName, bool asProject)
             if (!asProject)
                 return writeCsv(target, projectFile, document, pacer);
             for (std::size_t image = 0; image < images.size(); ++image) {
-                document.images[image] = toPng(images[image]);
+                document.images[image] = m_encodedImages[image].png(images[image]);
                 pacer.moveTo(0);
             }
             return writeProject(target, document, pacer);

@@ -11,6 +11,15 @@ QByteArray toPng(const QPixmap &image)
     return buffer.data();
 }
 
+QByteArray EncodedImage::png(const QPixmap &image)
+{
+    if (image.cacheKey() == m_key)
+        return m_png;
+    m_png = toPng(image);
+    m_key = m_png.isEmpty() ? 0 : image.cacheKey();
+    return m_png;
+}
+
 QPixmap fromPng(QByteArray png)
 {
     constexpr qint64 kMostPixels = 100000000;
