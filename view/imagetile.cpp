@@ -183,15 +183,25 @@ void ImageTile::keyPressEvent(QKeyEvent *event)
 
 void ImageTile::contextMenuEvent(QContextMenuEvent *event)
 {
-    const bool isEmpty = picture().isNull();
+    const bool isFull = !picture().isNull();
     const QMimeData *clipboard = QGuiApplication::clipboard()->mimeData();
     auto *menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->addAction(tr("&Vergrößern"), this, &ImageTile::enlargeRequested)->setEnabled(!isEmpty);
-    menu->addAction(tr("&Auswählen..."), this, &ImageTile::chooseRequested);
-    menu->addAction(tr("&Einfügen"), this, &ImageTile::paste)->setEnabled(clipboard && hasPicture(*clipboard));
-    menu->addAction(tr("&Kopieren"), this, &ImageTile::copy)->setEnabled(!isEmpty);
-    menu->addAction(tr("&Löschen..."), this, &ImageTile::deleteRequested)->setEnabled(!isEmpty);
+    const auto add = [this, menu](const QString &text, const char *icon, const QKeySequence &key, bool isEnabled,
+                                  auto slot) {
+        const QColor tint = isEnabled ? theme::qColorPrimary : theme::qColorMedium;
+        QAction *action = menu->addAction(actionIcon(QLatin1String(icon), tint), text);
+        action->setShortcut(key); // to be read; the picture takes these keys itself
+        action->setShortcutContext(Qt::WidgetShortcut);
+        action->setEnabled(isEnabled);
+        connect(action, &QAction::triggered, this, slot);
+    };
+    add(tr("&Vergrößern"), "magnify-plus.png", Qt::Key_Return, isFull, &ImageTile::enlargeRequested);
+    add(tr("&Auswählen..."), "folder-open.png", {}, true, &ImageTile::chooseRequested);
+    add(tr("&Einfügen"), "clipboard-text.png", QKeySequence::Paste, clipboard && hasPicture(*clipboard),
+        &ImageTile::paste);
+    add(tr("&Kopieren"), "image.png", QKeySequence::Copy, isFull, &ImageTile::copy);
+    add(tr("&Löschen..."), "delete.png", QKeySequence::Delete, isFull, &ImageTile::deleteRequested);
     menu->popup(event->globalPos());
 }
 

@@ -89,6 +89,7 @@ void PhaseStrip::showTimes()
         const QString end = localNumber(m_ends[i], 'g', 9);
         m_numbers[i]->setText(tr("&%1").arg(phase + 1));
         m_times[i]->setText(phase == kNumPhases - 1 ? tr("ab %1 s").arg(begin) : tr("%1 – %2 s").arg(begin, end));
+        m_names[i]->setPlaceholderText(tr("Phase %1").arg(phase + 1));
         m_names[i]->setAccessibleName(tr("Name der Phase %1").arg(phase + 1));
         m_names[i]->setToolTip(
             tr("Name der Phase %1; der vorige Marker beginnt sie, der nächste beendet sie.").arg(phase + 1));

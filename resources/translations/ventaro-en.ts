@@ -1062,6 +1062,10 @@ double click fits the value range.</translation>
         <source>Name der Phase %1; der vorige Marker beginnt sie, der nächste beendet sie.</source>
         <translation>Name of phase %1; the marker before begins it, the next one ends it.</translation>
     </message>
+    <message>
+        <source>Phase %1</source>
+        <translation>Phase %1</translation>
+    </message>
 </context>
 <context>
     <name>ProjectForm</name>

@@ -2,6 +2,7 @@
 #include "tests/support/literals.h"
 #include "tests/support/rows.h"
 #include "view/tabproject.h"
+#include "view/tabsensors.h"
 
 #include <QAbstractButton>
 #include <QClipboard>
@@ -118,6 +119,11 @@ private slots:
                 const QImage image(9, 9, QImage::Format_RGB32);
                 emit bench.view.tabProject()->imageGiven(1, image);
             }),
+            true);
+        row("sensor name", Edit([](Bench &bench) { emit bench.view.tabSensors()->sensorNameEdited(2, "x"_s); }), true);
+        row("sensor colour", Edit([](Bench &bench) { emit bench.view.tabSensors()->sensorColorEdited(2, Qt::red); }),
+            true);
+        row("sensor limits", Edit([](Bench &bench) { emit bench.view.tabSensors()->sensorLimitsEdited(0, 2, 1, 2); }),
             true);
         row("calibration", Edit([](Bench &bench) { emit bench.view.calibrate(); }), true);
         row("offsets reset", Edit([](Bench &bench) { bench.view.resetCorrection(); }), true);
