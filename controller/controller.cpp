@@ -125,7 +125,7 @@ void Controller::connectDevice()
     QObject::connect(connector, &MesotraConnector::written, d->view, &View::terminalSent);
     QObject::connect(connector, &MesotraConnector::error, this, [this](QAbstractSocket::SocketError error) {
         if (d->demo.isActive())
-            onDemoFailed(tr("Die Verbindung zum Simulator ist abgebrochen."));
+            onDemoFailed(DemoBox::End::Ended);
         else if (d->linkWanted && !waitForRestart(error))
             connectionError(error);
     });

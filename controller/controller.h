@@ -80,7 +80,7 @@ public slots:
     void onConnectToAddress(const QString &address);
     void onActionDemo();
     void onDemoListening(quint16 port);
-    void onDemoFailed(const QString &reason);
+    void onDemoFailed(DemoBox::End end);
     void onActionCalibration();
     void onActionStartStopRecording();
     void onActionQuit();

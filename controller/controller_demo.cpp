@@ -6,6 +6,23 @@
 
 #include <utility>
 
+namespace {
+
+QString failureText(DemoBox::End end)
+{
+    switch (end) {
+    case DemoBox::End::NotStarted:
+        return Controller::tr("Die Demo ist nicht möglich: Der Simulator lässt sich nicht starten.");
+    case DemoBox::End::NotListening:
+        return Controller::tr("Die Demo ist nicht möglich: Der Simulator antwortet nicht.");
+    case DemoBox::End::Ended:
+        break;
+    }
+    return Controller::tr("Die Demo ist beendet: Der Simulator läuft nicht mehr.");
+}
+
+} // namespace
+
 void Controller::connectDemo()
 {
     QObject::connect(d->view, &View::startStopDemo, this, &Controller::onActionDemo);
@@ -64,12 +81,12 @@ void Controller::onDemoListening(quint16 port)
 }
 
 /// The simulator did not start or is gone, or the link to it is.
-void Controller::onDemoFailed(const QString &reason)
+void Controller::onDemoFailed(DemoBox::End end)
 {
-    qCDebug(lcController) << Q_FUNC_INFO << reason;
+    qCDebug(lcController) << Q_FUNC_INFO << end;
     leaveDevice();
     showDemoState();
-    d->deferredWarning = tr("Die Demo ist beendet.\n\n%1").arg(reason);
+    d->deferredWarning = failureText(end);
     d->deferredTimer.start(0); // once no other dialog is up
 }
 

@@ -47,8 +47,7 @@ DemoBox::DemoBox(const QString &program, int startTimeout)
 {
     m_startTimer.setSingleShot(true);
     m_startTimer.setInterval(startTimeout);
-    QObject::connect(&m_startTimer, &QTimer::timeout, this,
-                     [this] { fail(QStringLiteral("%1: no port").arg(QDir::toNativeSeparators(m_program))); });
+    QObject::connect(&m_startTimer, &QTimer::timeout, this, [this] { fail(End::NotListening); });
 }
 
 DemoBox::~DemoBox()
@@ -70,10 +69,11 @@ void DemoBox::start()
     m_process = new QProcess(this);
     m_process->setStandardErrorFile(QProcess::nullDevice()); // several lines a sample, of use to nobody here
     QObject::connect(m_process, &QProcess::readyReadStandardOutput, this, &DemoBox::readOutput);
-    QObject::connect(m_process, &QProcess::errorOccurred, this, [this] { fail(m_process->errorString()); });
-    QObject::connect(m_process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this, [this](int code) {
-        fail(QStringLiteral("%1: %2").arg(QDir::toNativeSeparators(m_program)).arg(code));
+    QObject::connect(m_process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
+        fail(error == QProcess::FailedToStart ? End::NotStarted : End::Ended);
     });
+    QObject::connect(m_process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this,
+                     [this] { fail(End::Ended); });
     m_startTimer.start();
     m_process->start(m_program, {QStringLiteral("--address"), QStringLiteral("127.0.0.1"), QStringLiteral("--port"),
                                  QStringLiteral("0"), QStringLiteral("--until-input-closes")});
@@ -109,9 +109,9 @@ void DemoBox::readOutput()
         m_output.clear();
 }
 
-void DemoBox::fail(const QString &reason)
+void DemoBox::fail(End end)
 {
-    qCDebug(lcDevice).noquote() << "demonstration ended:" << reason;
+    qCDebug(lcDevice) << "demonstration ended:" << end << (m_process ? m_process->errorString() : QString());
     stop();
-    emit failed(reason);
+    emit failed(end);
 }

@@ -13,6 +13,10 @@ class DemoBox : public QObject
     Q_OBJECT
 
 public:
+    /// Why there is no simulator any more.
+    enum class End { NotStarted, NotListening, Ended };
+    Q_ENUM(End)
+
     static constexpr int kStartTimeout = 5000; ///< ms until the simulator has to listen
 
     /// `program`: empty for the simulator beside the program.
@@ -37,11 +41,11 @@ signals:
     /// The simulator takes connections on this port of 127.0.0.1.
     void listening(quint16 port);
     /// The simulator could not be started, did not listen in time or ended by itself. It is inactive by now.
-    void failed(const QString &reason);
+    void failed(DemoBox::End end);
 
 private:
     void readOutput();
-    void fail(const QString &reason);
+    void fail(End end);
 
     QString m_program;
     QProcess *m_process = nullptr; ///< owned; exists while active
