@@ -113,7 +113,7 @@ void BoxStateCard::showLink(bool connected, const BoxLink &link)
                               .arg(kDotSize);
     if (m_dot->styleSheet() != sheet)
         m_dot->setStyleSheet(sheet);
-    setTextOf(m_demo, tr("Demo: Die Werte sind nicht gemessen."));
+    setTextOf(m_demo, tr("Demo: simulierte Box, keine Messwerte"));
     m_demo->setVisible(link.isDemo);
 }
 
@@ -141,7 +141,7 @@ BoxStateCard::Texts BoxStateCard::factTexts(const Model &model, const BoxLink &l
     const bool connected = model.isConnected();
     const int shots = model.numChannels(0);
     Texts texts;
-    texts[Address] = link.isDemo ? tr("Simulator auf diesem Rechner") : orUnknown(link.address);
+    texts[Address] = link.isDemo ? QString() : orUnknown(link.address);
     texts[Device] = !connected                ? kUnknown
                     : model.mesotraType() > 0 ? tr("Mesotra, Typ %1").arg(model.mesotraType())
                                               : QStringLiteral("Mesotra");

@@ -4,6 +4,7 @@
 
 #include <QEvent>
 #include <QFontMetrics>
+#include <QKeyEvent>
 #include <QPainter>
 
 #include <algorithm>
@@ -16,6 +17,7 @@ constexpr int kOneLine = 40;
 constexpr int kPreferredWidth = 320;
 constexpr int kSmallestWidth = 160;
 constexpr int kGap = 16;
+constexpr int kLargeType = 18; // pixels
 constexpr int kSmallType = 15; // pixels
 constexpr qreal kRadius = 4.0;
 
@@ -34,7 +36,7 @@ QColor backgroundColor(const QAbstractButton &button)
 } // namespace
 
 RecentButton::RecentButton(QWidget *parent)
-    : QAbstractButton(parent)
+    : QPushButton(parent)
 {
     setCursor(Qt::PointingHandCursor);
     setFocusPolicy(Qt::StrongFocus);
@@ -49,6 +51,8 @@ void RecentButton::setEntry(const QString &title, const QString &detail, const Q
     setAccessibleDescription(remark.isEmpty() ? detail : detail + QLatin1String(", ") + remark);
     m_detail = detail;
     m_remark = remark;
+    // Or a layout could press the button down to the smallest height that the application's sheet gives push buttons.
+    setStyleSheet(QStringLiteral("QPushButton {min-height: %1px;}").arg(sizeHint().height()));
     updateGeometry();
     update();
 }
@@ -67,12 +71,21 @@ bool RecentButton::event(QEvent *event)
 {
     if (event->type() == QEvent::EnabledChange)
         setCursor(isEnabled() ? Qt::PointingHandCursor : Qt::ArrowCursor);
-    return QAbstractButton::event(event);
+    return QPushButton::event(event);
+}
+
+void RecentButton::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click(); // an entry of a list is opened with either key
+    else
+        QPushButton::keyPressEvent(event);
 }
 
 QFont RecentButton::titleFont() const
 {
     QFont result = font();
+    result.setPixelSize(kLargeType);
     result.setBold(true);
     return result;
 }

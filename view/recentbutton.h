@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QAbstractButton>
+#include <QPushButton>
 
 /// One entry of a list of what was used last: a bold title, below it in small grey type a detail, at the right of the
 /// title a remark. What does not fit is left out in the middle; the tool tip is the owner's business.
-class RecentButton : public QAbstractButton
+class RecentButton : public QPushButton
 {
     Q_OBJECT
 
@@ -21,6 +21,7 @@ public:
 
 protected:
     bool event(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:

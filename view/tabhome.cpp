@@ -14,10 +14,9 @@
 
 #include <QAction>
 #include <QEvent>
-#include <QGridLayout>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QResizeEvent>
 #include <QVBoxLayout>
 
 #include <array>
@@ -27,6 +26,8 @@ namespace {
 constexpr int kMargin = 20;
 constexpr int kGap = 16;
 constexpr int kWidestPage = 1900;
+constexpr int kNarrowPage = 880;
+constexpr int kNarrowCard = 640;
 constexpr int kButtonWidth = 270;
 
 ShadowFrame *createCard(QWidget *page)
@@ -34,6 +35,14 @@ ShadowFrame *createCard(QWidget *page)
     auto *card = new ShadowFrame(page);
     card->setObjectName(QStringLiteral("homeCard"));
     return card;
+}
+
+QBoxLayout *createCardRow(QWidget *card)
+{
+    auto *row = new QBoxLayout(QBoxLayout::LeftToRight, card);
+    row->setContentsMargins(kGap, kGap, kGap, kGap);
+    row->setSpacing(kMargin);
+    return row;
 }
 
 } // namespace
@@ -58,9 +67,15 @@ struct TabHome::Private
     std::array<RecentButton *, recentlist::kMaxRecent> addressButtons{};
     RecentProjectList *projects = nullptr;
     BoxStateCard *state = nullptr;
+    // One beside the other, or one below the other in a narrow window.
+    QBoxLayout *head = nullptr;
+    QBoxLayout *topRow = nullptr;
+    QBoxLayout *boxRow = nullptr;
+    QBoxLayout *projectRow = nullptr;
 
     void layOut(QWidget *page);
-    [[nodiscard]] QHBoxLayout *createHead(QWidget *page);
+    void arrange(int width) const;
+    [[nodiscard]] QBoxLayout *createHead(QWidget *page);
     [[nodiscard]] static QPushButton *createButton(QWidget *page, const char *name, const QString &icon);
     [[nodiscard]] QWidget *createBoxCard(QWidget *page);
     [[nodiscard]] QVBoxLayout *createAddresses(QWidget *card);
@@ -68,18 +83,19 @@ struct TabHome::Private
     [[nodiscard]] QWidget *createProjectCard(QWidget *page);
 };
 
-QHBoxLayout *TabHome::Private::createHead(QWidget *page)
+QBoxLayout *TabHome::Private::createHead(QWidget *page)
 {
     auto *picture = new QLabel(page);
     picture->setPixmap(QPixmap(theme::logoPath));
     picture->setAccessibleName(theme::applicationName);
     subtitle = new QLabel(page);
+    subtitle->setWordWrap(true);
     subtitle->setStyleSheet(QStringLiteral("QLabel {font-size: 22px; color: %1;}").arg(theme::colorDark));
-    auto *head = new QHBoxLayout;
+    head = new QBoxLayout(QBoxLayout::LeftToRight);
     head->setContentsMargins(ShadowFrame::kShadow, 0, ShadowFrame::kShadow, 0);
     head->setSpacing(24);
     head->addWidget(picture);
-    head->addWidget(subtitle, 1, Qt::AlignBottom);
+    head->addWidget(subtitle, 1);
     return head;
 }
 
@@ -107,11 +123,9 @@ QWidget *TabHome::Private::createBoxCard(QWidget *page)
     buttons->addWidget(demoButton);
     buttons->addWidget(demoHint);
     buttons->addStretch(1);
-    auto *row = new QHBoxLayout(card);
-    row->setContentsMargins(kGap, kGap, kGap, kGap);
-    row->setSpacing(kMargin);
-    row->addLayout(buttons);
-    row->addLayout(createAddresses(card), 1);
+    boxRow = createCardRow(card);
+    boxRow->addLayout(buttons);
+    boxRow->addLayout(createAddresses(card), 1);
     return card;
 }
 
@@ -162,11 +176,9 @@ QWidget *TabHome::Private::createProjectCard(QWidget *page)
     list->setSpacing(4);
     list->addWidget(projectHeading);
     list->addWidget(projects, 1);
-    auto *row = new QHBoxLayout(card);
-    row->setContentsMargins(kGap, kGap, kGap, kGap);
-    row->setSpacing(kMargin);
-    row->addLayout(buttons);
-    row->addLayout(list, 1);
+    projectRow = createCardRow(card);
+    projectRow->addLayout(buttons);
+    projectRow->addLayout(list, 1);
     return card;
 }
 
@@ -174,21 +186,32 @@ void TabHome::Private::layOut(QWidget *page)
 {
     auto *content = new QWidget(page);
     content->setMaximumWidth(kWidestPage);
-    auto *grid = new QGridLayout(content);
     constexpr int kEdge = kMargin - ShadowFrame::kShadow; // the cards keep a distance of their own
-    grid->setContentsMargins(kEdge, kGap, kEdge, kEdge);
-    grid->setSpacing(0);
-    grid->addLayout(createHead(content), 0, 0, 1, 2);
-    grid->addWidget(createBoxCard(content), 1, 0);
-    grid->addWidget(createStateCard(content), 1, 1);
-    grid->addWidget(createProjectCard(content), 2, 0, 1, 2);
-    grid->setColumnStretch(0, 3);
-    grid->setColumnStretch(1, 2);
-    grid->setRowStretch(3, 1);
+    topRow = new QBoxLayout(QBoxLayout::LeftToRight);
+    topRow->setSpacing(0);
+    topRow->addWidget(createBoxCard(content), 3);
+    topRow->addWidget(createStateCard(content), 2);
+    auto *column = new QVBoxLayout(content);
+    column->setContentsMargins(kEdge, kGap, kEdge, kEdge);
+    column->setSpacing(0);
+    column->addLayout(createHead(content));
+    column->addLayout(topRow);
+    column->addWidget(createProjectCard(content));
+    column->addStretch(1);
     auto *row = new QHBoxLayout(page);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(content, 1);
     row->addStretch(0);
+}
+
+void TabHome::Private::arrange(int width) const
+{
+    const auto direction = [width](int narrow) {
+        return width < narrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight;
+    };
+    topRow->setDirection(direction(kNarrowPage));
+    for (QBoxLayout *row : {head, boxRow, projectRow})
+        row->setDirection(direction(kNarrowCard));
 }
 
 TabHome::TabHome(QWidget *parent)
@@ -315,6 +338,12 @@ void TabHome::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange)
         retranslateUi();
     QWidget::changeEvent(event);
+}
+
+void TabHome::resizeEvent(QResizeEvent *event)
+{
+    d->arrange(event->size().width());
+    QWidget::resizeEvent(event);
 }
 
 void TabHome::retranslateUi()

@@ -176,10 +176,6 @@
         <translation>Connecting ...</translation>
     </message>
     <message>
-        <source>Demo: Die Werte sind nicht gemessen.</source>
-        <translation>Demo: the values are not measured.</translation>
-    </message>
-    <message>
         <source>Adresse:</source>
         <translation>Address:</translation>
     </message>
@@ -212,10 +208,6 @@
         <translation>Measurements:</translation>
     </message>
     <message>
-        <source>Simulator auf diesem Rechner</source>
-        <translation>Simulator on this computer</translation>
-    </message>
-    <message>
         <source>Mesotra, Typ %1</source>
         <translation>Mesotra, type %1</translation>
     </message>
@@ -226,6 +218,10 @@
     <message>
         <source>Noch keine</source>
         <translation>None yet</translation>
+    </message>
+    <message>
+        <source>Demo: simulierte Box, keine Messwerte</source>
+        <translation>Demo: simulated box, no measurements</translation>
     </message>
 </context>
 <context>
@@ -483,10 +479,6 @@ Noch einmal importieren?</source>
 Import them again?</translation>
     </message>
     <message>
-        <source>Die Verbindung zum Simulator ist abgebrochen.</source>
-        <translation>The connection to the simulator was lost.</translation>
-    </message>
-    <message>
         <source>Ventaro ist mit %1 verbunden.</source>
         <translation>Ventaro is connected to %1.</translation>
     </message>
@@ -521,14 +513,6 @@ Import them again?</translation>
     <message>
         <source>Demo</source>
         <translation>Demo</translation>
-    </message>
-    <message>
-        <source>Die Demo ist beendet.
-
-%1</source>
-        <translation>The demo has ended.
-
-%1</translation>
     </message>
     <message>
         <source>Die Demo ist beendet.</source>
@@ -581,6 +565,18 @@ Continue?</translation>
     <message>
         <source>Bild ersetzen</source>
         <translation>Replace picture</translation>
+    </message>
+    <message>
+        <source>Die Demo ist nicht möglich: Der Simulator lässt sich nicht starten.</source>
+        <translation>The demo is not possible: the simulator cannot be started.</translation>
+    </message>
+    <message>
+        <source>Die Demo ist nicht möglich: Der Simulator antwortet nicht.</source>
+        <translation>The demo is not possible: the simulator does not answer.</translation>
+    </message>
+    <message>
+        <source>Die Demo ist beendet: Der Simulator läuft nicht mehr.</source>
+        <translation>The demo has ended: the simulator is no longer running.</translation>
     </message>
 </context>
 <context>

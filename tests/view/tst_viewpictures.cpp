@@ -193,6 +193,7 @@ private slots:
             view.setRecordingRunning(true);
             view.setDemoState(english ? DemoState::Running : DemoState::Off);
             rememberMuch(view);
+            model.setDeviceDescription({"2.1"_s, "8.0.3"_s, 1, {{"Werkzeug, Düsenseite"_s, 5, {}}}});
             view.findChild<QCheckBox *>("loggerCheckBoxA1"_s)->setChecked(true);
             for (int i = 0; i < 40; ++i) {
                 view.logSample(i * 0.1, {1.5 * i, 2.25, 3.0, 4.0, 5.0});
