@@ -31,8 +31,9 @@ names_fit_together() {
     local type command
     type=$(key MimeType)
     grep -q "^[0-9]*:${type%;}:\*\.vnt$" "$share/mime/globs2" || fail "*.vnt is not of the type ${type%;}"
-    command=$(key Exec)
-    [ -x "$root/usr/bin/${command%% *}" ] || fail "$command is not installed"
+    command=$(key TryExec)
+    [ -x "$root/usr/bin/$command" ] || fail "$command is not installed"
+    [[ $(key Exec) == *" $command %f" ]] || fail "the menu does not start $command with a file"
     icons_exist apps "$(key Icon)"
     icons_exist mimetypes "$(tr / - <<<"${type%;}")"
 }

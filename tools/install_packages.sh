@@ -3,6 +3,8 @@
 #
 #   install_packages.sh run     to build and run the program
 #   install_packages.sh test    the same and the checks of test.sh
+#   install_packages.sh package         to build a Debian package
+#   install_packages.sh package-test    the same and what tries it in a bare system
 #   install_packages.sh lint    the same and the linters of tools/lint.sh
 set -euo pipefail
 
@@ -12,8 +14,10 @@ packages+=(qt5-image-formats-plugins) # to save pictures as TIFF
 case ${1:-test} in
 run) [ -z "${WAYLAND_DISPLAY:-}" ] || [ -n "${DISPLAY:-}" ] || packages+=(qtwayland5) ;;
 test) packages+=(clang-format libnss-wrapper openssh-server appstream desktop-file-utils libxml2-utils shared-mime-info) ;;
+package) packages+=(dpkg-dev file) ;;
+package-test) packages+=(dpkg-dev file lintian mmdebstrap x11-apps x11-utils xvfb imagemagick) ;;
 lint) packages+=(clang-format clang-tidy clazy) ;;
-*) echo "usage: $0 [run|test|lint]" >&2 && exit 2 ;;
+*) echo "usage: $0 [run|test|package|package-test|lint]" >&2 && exit 2 ;;
 esac
 
 missing=()

@@ -22,6 +22,7 @@ function(install_compressed file destination)
         VERBATIM)
     add_custom_target(compressed_${name} ALL DEPENDS ${compressed})
     install(FILES ${compressed} DESTINATION ${destination})
+    set(installed_files ${installed_files} compressed_${name} PARENT_SCOPE)
 endfunction()
 
 install_compressed(linux/ventaro.1 ${CMAKE_INSTALL_MANDIR}/man1)
