@@ -57,3 +57,15 @@ for_desktop() {
 }
 for_desktop ventaro apps ventaro
 for_desktop project-file mimetypes application-x-ventaro-project
+
+# The same in the one file that Windows wants. Needs ImageMagick's convert.
+# for_windows KIND DRAWN NAME
+for_windows() {
+    local pictures=() size
+    for size in 16 24 32 48 64 256; do
+        pictures+=("$desktop/${size}x$size/$1/$2.png")
+    done
+    convert "${pictures[@]}" "packaging/windows/$3.ico"
+}
+for_windows apps ventaro ventaro
+for_windows mimetypes application-x-ventaro-project project
