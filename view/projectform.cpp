@@ -154,6 +154,7 @@ void ProjectForm::Private::layOut(QWidget *form)
             auto *pair = new QHBoxLayout;
             pair->addWidget(texts[Date], 1);
             pair->addWidget(today);
+            QWidget::setTabOrder(texts[Date], today);
             layout->addRow(label, pair);
         } else if (row < Force) {
             layout->addRow(label, field(row));
