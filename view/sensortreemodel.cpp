@@ -217,13 +217,9 @@ QVariant SensorTreeModel::sensorData(int sensor, int column, int role) const
     case Qt::CheckStateRole:
         return column == NameColumn ? QVariant(row.shown ? Qt::Checked : Qt::Unchecked) : QVariant();
     case Qt::DecorationRole:
-        if (column == NameColumn)
-            return row.swatch;
-        return column == StatusColumn ? QVariant(m_statusIcons.at(static_cast<std::size_t>(row.status))) : QVariant();
+        return icon(row, column);
     case Qt::ForegroundRole:
-        return column == ValueColumn
-                   ? QVariant(row.status == SensorStatus::Inside ? QColor(Qt::black) : statusColor(row.status))
-                   : QVariant();
+        return foreground(row, column);
     case Qt::ToolTipRole:
         return toolTip(sensor, column);
     case Qt::AccessibleTextRole:
@@ -231,6 +227,20 @@ QVariant SensorTreeModel::sensorData(int sensor, int column, int role) const
     default:
         return {};
     }
+}
+
+QVariant SensorTreeModel::icon(const Row &row, int column) const
+{
+    if (column == NameColumn)
+        return row.swatch;
+    return column == StatusColumn ? QVariant(m_statusIcons.at(static_cast<std::size_t>(row.status))) : QVariant();
+}
+
+QVariant SensorTreeModel::foreground(const Row &row, int column)
+{
+    if (column != ValueColumn || row.status == SensorStatus::Inside)
+        return {}; // the usual one
+    return statusColor(row.status);
 }
 
 QVariant SensorTreeModel::displayText(int sensor, int column) const
@@ -245,7 +255,7 @@ QVariant SensorTreeModel::displayText(int sensor, int column) const
 QString SensorTreeModel::toolTip(int sensor, int column) const
 {
     const SensorInfo &info = m_list.sensors.at(sensor);
-    const QString status =
+    QString status =
         info.channel < 0 ? tr("Die Box sendet für diesen Sensor keine Werte.") : statusText(m_rows.at(sensor).status);
     if (column != NameColumn)
         return status;

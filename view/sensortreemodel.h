@@ -62,6 +62,8 @@ private:
 
     [[nodiscard]] QVariant groupData(int group, int column, int role) const;
     [[nodiscard]] QVariant sensorData(int sensor, int column, int role) const;
+    [[nodiscard]] QVariant icon(const Row &row, int column) const;
+    [[nodiscard]] static QVariant foreground(const Row &row, int column);
     [[nodiscard]] QVariant displayText(int sensor, int column) const;
     [[nodiscard]] QString toolTip(int sensor, int column) const;
     [[nodiscard]] Qt::CheckState groupState(int group) const;
