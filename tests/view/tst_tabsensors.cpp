@@ -78,6 +78,12 @@ struct Bench
     TabSensors tab;
 };
 
+bool containsLabel(const QWidget *page, const QString &text)
+{
+    const QList<QLabel *> labels = page->findChildren<QLabel *>();
+    return std::any_of(labels.cbegin(), labels.cend(), [&](const QLabel *label) { return label->text() == text; });
+}
+
 /// Counts what is painted.
 class PaintCounter : public QObject
 {
@@ -269,6 +275,16 @@ private slots:
         QCOMPARE(model.osziMaximum(2), 60.0); // nobody could see a curve in that range
         QTRY_COMPARE(tree->sensors().sensors.at(2).name, "Kern zug"_s);
         QVERIFY(!tree->sensors().sensors.at(2).limits.upper);
+        auto *rows = view.tabSensors()->findChild<QTreeView *>();
+        rows->setCurrentIndex(tree->indexOf(2));
+        QTest::keyClick(rows, Qt::Key_Return);
+        auto *dialog = view.findChild<SensorDialog *>();
+        QVERIFY(dialog);
+        dialog->findChild<QLineEdit *>("lineEditSensorName"_s)->setText("Schieber"_s);
+        dialog->accept();
+        QTRY_COMPARE(tree->sensors().sensors.at(2).name, "Schieber"_s);
+        QCOMPARE(model.sensorDescription().sensorGroup(0).sensorMinimum(2), -5.0); // left alone
+        QVERIFY(containsLabel(view.tabOszi(), "Schieber"_s));
         // What was chosen for the sensor went with its name.
         QCOMPARE(view.tabSensors()->findChild<SensorTile *>("sensorTile3"_s)->kind(), DisplayKind::Bar);
     }
