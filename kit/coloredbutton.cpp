@@ -23,6 +23,7 @@ constexpr int kTightPadding = 5;
 constexpr int kSymbol = 14;      // pixels: tick or arrow
 constexpr int kSymbolMargin = 8; // from the edge
 constexpr int kIconGap = 6;
+constexpr int kStripe = 4;     // that shows the colour of a disabled button
 constexpr double kPale = 0.10; // share of the colour in an unchecked button
 constexpr double kHover = 0.12;
 constexpr double kPressed = 0.25;
@@ -88,6 +89,8 @@ void ColoredButton::onClicked()
     auto *dialog = new QColorDialog(color(), this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowTitle(tr("Farbe wählen"));
+    dialog->setStyleSheet(QStringLiteral("QPushButton {padding: 0px 14px;}")); // not this button's
+    dialog->setOption(QColorDialog::DontUseNativeDialog);                      // which speaks the computer's language
     connect(dialog, &QColorDialog::colorSelected, this, [this](const QColor &chosen) {
         if (chosen.isValid() && chosen != color())
             emit colorPicked(chosen);
@@ -162,6 +165,7 @@ void ColoredButton::drawDisabled(QPainter &painter) const
     style()->drawControl(QStyle::CE_PushButtonBevel, &option, &painter, this);
     option.rect = labelArea();
     style()->drawControl(QStyle::CE_PushButtonLabel, &option, &painter, this);
+    painter.fillRect(QRect(0, height() - kStripe, width(), kStripe), color());
     drawSymbol(painter, option.palette.color(QPalette::Disabled, QPalette::ButtonText));
 }
 

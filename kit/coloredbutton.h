@@ -4,8 +4,8 @@
 #include <QPushButton>
 
 /// A push button filled with a colour of its own, its text black or white, whichever reads better. A checkable one is
-/// filled and ticked while checked, pale with an outline otherwise. Font, smallest size and the disabled look come from
-/// the style sheet in force (selector "ColoredButton").
+/// filled and ticked while checked, pale with an outline otherwise; a disabled one keeps a stripe of the colour. Font,
+/// smallest size and the disabled look come from the style sheet in force (selector "ColoredButton").
 class ColoredButton : public QPushButton
 {
     Q_OBJECT

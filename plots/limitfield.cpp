@@ -1,5 +1,6 @@
 #include "plots/limitfield.h"
 
+#include "kit/qtmaterialtoggle.h"
 #include "plots/decimalspinbox.h"
 #include "plots/localnumber.h"
 
@@ -40,10 +41,9 @@ public:
 
 LimitField::LimitField(QWidget *parent)
     : QWidget(parent)
-    , m_switch(new QCheckBox(this))
+    , m_switch(new QtMaterialToggle(this))
     , m_spinBox(new LimitSpinBox(this))
 {
-    m_switch->setStyleSheet(QStringLiteral("QCheckBox::indicator {width: 22px; height: 22px;}"));
     m_switch->setObjectName(QStringLiteral("switch"));
     m_spinBox->setObjectName(QStringLiteral("spinBox"));
     m_spinBox->setStepType(QAbstractSpinBox::AdaptiveDecimalStepType);
@@ -53,8 +53,8 @@ LimitField::LimitField(QWidget *parent)
     m_spinBox->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_switch, 2);
-    layout->addWidget(m_spinBox, 3);
+    layout->addWidget(m_switch, 1);
+    layout->addWidget(m_spinBox, 1);
     setFocusProxy(m_switch);
     connect(m_switch, &QCheckBox::toggled, m_spinBox, &QWidget::setEnabled);
     connect(m_switch, &QCheckBox::clicked, this, &LimitField::edited);

@@ -1,6 +1,8 @@
 #include "view/aboutdialog.h"
 
 #include "app/theme.h"
+#include "kit/qtmaterialflatbutton.h"
+#include "kit/qtmaterialraisedbutton.h"
 #include "model/model.h"
 #include "view/aboutinfo.h"
 #include "view/actionicon.h"
@@ -133,11 +135,11 @@ QWidget *AboutDialog::createLicences()
 QWidget *AboutDialog::createButtons()
 {
     auto *bar = new QWidget(this);
-    m_copy = new QPushButton(bar);
+    m_copy = new QtMaterialFlatButton(bar);
     m_copy->setObjectName(QStringLiteral("buttonCopyVersions"));
     m_copy->setAutoDefault(false);
     m_copy->setIconSize(QSize(24, 24));
-    m_close = new QPushButton(bar);
+    m_close = new QtMaterialRaisedButton(bar);
     m_close->setObjectName(QStringLiteral("buttonClose"));
     m_close->setDefault(true);
     auto *row = new QHBoxLayout(bar);

@@ -1,10 +1,11 @@
 #include "view/sensordialog.h"
 
 #include "app/theme.h"
+#include "kit/coloredbutton.h"
+#include "kit/qtmaterialflatbutton.h"
+#include "kit/qtmaterialraisedbutton.h"
 #include "plots/limitfield.h"
-#include "view/tabstyle.h"
 
-#include <QColorDialog>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -30,12 +31,11 @@ SensorDialog::SensorDialog(const SensorInfo &sensor, QWidget *parent)
     createFields();
     nameFields();
     layOut();
-    showColor();
     check();
     connect(m_name, &QLineEdit::textChanged, this, &SensorDialog::check);
     connect(m_lower, &LimitField::edited, this, &SensorDialog::check);
     connect(m_upper, &LimitField::edited, this, &SensorDialog::check);
-    connect(m_colorButton, &QPushButton::clicked, this, &SensorDialog::chooseColor);
+    connect(m_colorButton, &ColoredButton::colorPicked, this, &SensorDialog::takeColor);
     connect(m_ok, &QPushButton::clicked, this, &QDialog::accept);
     connect(m_cancel, &QPushButton::clicked, this, &QDialog::reject);
 }
@@ -47,10 +47,14 @@ void SensorDialog::createFields()
     m_name->setMaxLength(kLongestName);
     m_name->setEnabled(m_before.canRename());
     m_name->selectAll();
-    m_colorButton = new QPushButton(this);
+    m_colorButton = new ColoredButton(this);
     m_colorButton->setObjectName(QStringLiteral("buttonSensorColor"));
     m_colorButton->setAutoDefault(false);
+    m_colorButton->setPicksColor(true);
+    m_colorButton->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     m_colorButton->setEnabled(m_before.canColor());
+    if (m_color.isValid())
+        m_colorButton->setColor(m_color);
     m_lower = new LimitField(this);
     m_upper = new LimitField(this);
     m_lower->setSuggestion(0.0);
@@ -63,21 +67,19 @@ void SensorDialog::createFields()
     m_hint = new QLabel(this);
     m_hint->setObjectName(QStringLiteral("labelSensorHint"));
     m_hint->setStyleSheet(QStringLiteral("QLabel {font-size: 16px; color: #B00020;}"));
-    m_ok = new QPushButton(tr("Ü&bernehmen"), this);
+    m_ok = new QtMaterialRaisedButton(tr("Ü&bernehmen"), this);
     m_ok->setObjectName(QStringLiteral("buttonOK"));
     m_ok->setDefault(true);
-    m_cancel = new QPushButton(tr("&Abbrechen"), this);
+    m_cancel = new QtMaterialFlatButton(tr("&Abbrechen"), this);
     m_cancel->setObjectName(QStringLiteral("buttonCancel"));
     m_cancel->setAutoDefault(false);
-    tabstyle::makeRegular(m_ok);
-    tabstyle::makeRegular(m_cancel);
 }
 
 void SensorDialog::nameFields()
 {
     m_lower->setTitle(tr("Untere Grenze"));
     m_upper->setTitle(tr("Obere Grenze"));
-    m_lower->setToolTip(tr("Ohne Haken gibt es keine Grenze."));
+    m_lower->setToolTip(tr("Ausgeschaltet gibt es keine Grenze."));
     m_upper->setToolTip(m_lower->toolTip());
     m_colorButton->setToolTip(tr("Farbe wählen"));
     m_colorButton->setAccessibleName(m_colorButton->toolTip());
@@ -110,26 +112,10 @@ void SensorDialog::layOut()
     setMinimumWidth(kWidth);
 }
 
-void SensorDialog::chooseColor()
+void SensorDialog::takeColor(const QColor &color)
 {
-    auto *dialog = new QColorDialog(m_color, this);
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setWindowTitle(tr("Farbe wählen"));
-    dialog->setStyleSheet(QStringLiteral("QPushButton {padding: 0px 14px;}"));
-    dialog->setOption(QColorDialog::DontUseNativeDialog); // which speaks the computer's language
-    connect(dialog, &QColorDialog::colorSelected, this, [this](const QColor &color) {
-        m_color = color;
-        showColor();
-    });
-    dialog->open();
-}
-
-void SensorDialog::showColor()
-{
-    m_colorButton->setStyleSheet(
-        QStringLiteral("QPushButton {background-color: %1; border: 1px solid %2; min-height: 36px;}"
-                       "QPushButton:focus {border: 3px solid %3;}")
-            .arg(m_color.name(), theme::colorMedium, theme::colorPrimary));
+    m_color = color;
+    m_colorButton->setColor(color);
 }
 
 SensorLimits SensorDialog::enteredLimits() const

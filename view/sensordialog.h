@@ -4,8 +4,8 @@
 
 #include <QDialog>
 
+class ColoredButton;
 class LimitField;
-class QColorDialog;
 class QDialogButtonBox;
 class QLabel;
 class QLineEdit;
@@ -26,8 +26,7 @@ private:
     void createFields();
     void layOut();
     void nameFields();
-    void chooseColor();
-    void showColor();
+    void takeColor(const QColor &color);
     void check();
     [[nodiscard]] SensorLimits enteredLimits() const;
     [[nodiscard]] QString complaint() const;
@@ -36,7 +35,7 @@ private:
     QColor m_color;
     SensorLimits m_shownLimits;
     QLineEdit *m_name = nullptr;
-    QPushButton *m_colorButton = nullptr;
+    ColoredButton *m_colorButton = nullptr;
     LimitField *m_lower = nullptr;
     LimitField *m_upper = nullptr;
     QLabel *m_hint = nullptr;

@@ -1306,10 +1306,6 @@ double click fits the value range.</translation>
         <translation>Upper limit</translation>
     </message>
     <message>
-        <source>Ohne Haken gibt es keine Grenze.</source>
-        <translation>Without a tick there is no limit.</translation>
-    </message>
-    <message>
         <source>Farbe wählen</source>
         <translation>Choose colour</translation>
     </message>
@@ -1340,6 +1336,10 @@ double click fits the value range.</translation>
     <message>
         <source>Grenzen liegen zwischen -100000 und 100000.</source>
         <translation>Limits lie between -100000 and 100000.</translation>
+    </message>
+    <message>
+        <source>Ausgeschaltet gibt es keine Grenze.</source>
+        <translation>There is no limit while this is off.</translation>
     </message>
 </context>
 <context>
