@@ -56,6 +56,7 @@ void NormalBoxWidget::retranslateUi()
         m_captions[i]->setText(captions[i]);
     m_figures[2]->setToolTip(tr("Standardabweichung der Grundgesamtheit (geteilt durch n)"));
     m_captions[2]->setToolTip(m_figures[2]->toolTip());
+    m_boxPlot->setAccessibleName(tr("Box-Plot"));
 }
 
 void NormalBoxWidget::changeEvent(QEvent *event)

@@ -155,6 +155,11 @@ void TabEvaluationRuntime::retranslateUi()
     m_summaryCaptions[0]->setText(tr("Start [s]"));
     m_summaryCaptions[1]->setText(tr("Dauer [s]"));
     m_summaryCaptions[2]->setText(tr("Stop [s]"));
+    for (std::size_t i = 0; i < m_summaries.size(); ++i)
+        m_summaries[i]->setAccessibleName(m_summaryCaptions[i]->text());
+    m_spinBoxStartValue->setAccessibleName(m_labelStartValue->text());
+    m_spinBoxStopValue->setAccessibleName(m_labelStopValue->text());
+    m_table->setAccessibleName(tr("Laufzeiten der Schüsse"));
     m_tableModel->retranslate();
     fitColumns();
     m_sensors->showSensors(model());

@@ -911,6 +911,10 @@ Continue?</translation>
         <source>Standardabweichung der Grundgesamtheit (geteilt durch n)</source>
         <translation>Population standard deviation (divided by n)</translation>
     </message>
+    <message>
+        <source>Box-Plot</source>
+        <translation>Box plot</translation>
+    </message>
 </context>
 <context>
     <name>OsziRow</name>
@@ -1741,6 +1745,10 @@ Identification of this computer:
         <source>Woran die Kurven übereinander liegen: an ihrem Beginn, mit ihren Werten bei einem Marker, oder wo sie zum ersten Mal eine Schwelle durchlaufen</source>
         <translation>What the curves are aligned by: their start, their values at a marker, or where they first cross a threshold</translation>
     </message>
+    <message>
+        <source>Breite des Bandes in Sigma</source>
+        <translation>Width of the band in sigmas</translation>
+    </message>
 </context>
 <context>
     <name>TabEvaluationRuntime</name>
@@ -1763,6 +1771,10 @@ Identification of this computer:
     <message>
         <source>Stop [s]</source>
         <translation>Stop [s]</translation>
+    </message>
+    <message>
+        <source>Laufzeiten der Schüsse</source>
+        <translation>Run times of the shots</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,7 @@
 #include "model/model.h"
 #include "tests/support/rows.h"
 #include "tests/support/scriptedprompts.h"
+#include "tests/support/shots.h"
 #include "view/view.h"
 #include "view/windowplacement.h"
 
@@ -63,6 +64,21 @@ QVector<Key> pageKeys(const QWidget &page)
             keys.append({key, label->text()});
     }
     return keys;
+}
+
+/// Two shots, a described box and a link to it.
+void record(Model &model)
+{
+    SensorDescription description;
+    description.setNumSensorGroups(1);
+    description.modifiableSensorGroup(0)->setNumSensors(kNumSensors);
+    model.setSensorDescription(description);
+    for (int shot = 0; shot < 2; ++shot)
+        addShot(model, {1.0, 5.0, 3.0});
+    model.setConnected(true);
+    model.emitAppStateChanged();
+    model.emitProjectChanged();
+    model.emitDataChanged();
 }
 
 QString nameOf(QWidget *widget)
@@ -263,20 +279,27 @@ void TestDesktop::maximisedWindowKeepsItsPlace()
 
 void TestDesktop::everythingHasANameForScreenReaders_data()
 {
-    columns<int>("tab");
+    columns<int, int>("tab", "page"); // of the evaluation
     for (int tab = 0; tab < 9; ++tab)
-        row(qPrintable(QString::number(tab)), tab);
+        row(qPrintable(QString::number(tab)), tab, 0);
+    for (int page = 1; page < 4; ++page)
+        row(qPrintable(QStringLiteral("evaluation %1").arg(page)), 4, page);
 }
 
 void TestDesktop::everythingHasANameForScreenReaders()
 {
     QFETCH(int, tab);
+    QFETCH(int, page);
     Model model{QString()};
     View view(&model, std::make_unique<ScriptedPrompts>());
+    record(model);
     view.resize(1280, 800);
     view.show();
     view.tabs()->setCurrentIndex(tab);
-    QCoreApplication::processEvents();
+    if (auto *button =
+            view.tabs()->currentWidget()->findChild<QAbstractButton *>(QStringLiteral("pageButton%1").arg(page)))
+        button->click();
+    QTest::qWait(60); // the pages follow the model a little later
     QStringList complaints;
     for (auto *widget : view.findChildren<QWidget *>()) {
         const QString text = widget->isVisible() ? complaint(widget) : QString();
