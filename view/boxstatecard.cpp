@@ -49,41 +49,51 @@ void setTextOf(QLabel *label, const QString &text)
 BoxStateCard::BoxStateCard(QWidget *parent)
     : QWidget(parent)
 {
-    m_dot = new QLabel(this);
-    m_dot->setFixedSize(kDotSize, kDotSize);
-    m_state = new QLabel(this);
-    m_state->setObjectName(QStringLiteral("labelHomeState"));
-    m_state->setStyleSheet(QStringLiteral("QLabel {font: bold 22px; color: %1;}").arg(theme::colorPrimary));
     m_demo = new QLabel(this);
     m_demo->setObjectName(QStringLiteral("labelHomeDemo"));
     m_demo->setWordWrap(true);
     m_demo->setStyleSheet(QStringLiteral("QLabel {background-color: #FFE9B8; border-radius: 4px; padding: 4px 10px;"
                                          " font-size: 16px;}"));
-    auto *head = new QHBoxLayout;
-    head->setSpacing(10);
-    head->addWidget(m_dot);
-    head->addWidget(m_state, 1);
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setHorizontalSpacing(20);
     grid->setVerticalSpacing(0);
-    grid->addLayout(head, 0, 0, 1, 2);
+    grid->addLayout(createHead(), 0, 0, 1, 2);
     grid->addWidget(m_demo, 1, 0, 1, 2);
-    for (int i = 0; i < NumFacts; ++i) {
-        const auto fact = static_cast<std::size_t>(i);
-        m_names[fact] = new QLabel(this);
-        m_names[fact]->setStyleSheet(QStringLiteral("QLabel {min-height: 26px;}"));
-        m_values[fact] = new QLabel(this);
-        m_values[fact]->setObjectName(QStringLiteral("labelHomeFact%1").arg(i + 1));
-        m_values[fact]->setTextFormat(Qt::PlainText);
-        m_values[fact]->setTextInteractionFlags(Qt::TextSelectableByMouse);
-        m_values[fact]->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-        m_values[fact]->setStyleSheet(QStringLiteral("QLabel {font-weight: bold; min-height: 26px;}"));
-        grid->addWidget(m_names[fact], i + 2, 0);
-        grid->addWidget(m_values[fact], i + 2, 1);
-    }
+    for (int i = 0; i < NumFacts; ++i)
+        createFact(grid, i);
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(NumFacts + 2, 1);
+}
+
+QHBoxLayout *BoxStateCard::createHead()
+{
+    m_dot = new QLabel(this);
+    m_dot->setFixedSize(kDotSize, kDotSize);
+    m_state = new QLabel(this);
+    m_state->setObjectName(QStringLiteral("labelHomeState"));
+    m_state->setStyleSheet(QStringLiteral("QLabel {font: bold 22px; color: %1;}").arg(theme::colorPrimary));
+    auto *head = new QHBoxLayout;
+    head->setSpacing(10);
+    head->addWidget(m_dot);
+    head->addWidget(m_state, 1);
+    return head;
+}
+
+void BoxStateCard::createFact(QGridLayout *grid, int index)
+{
+    auto *name = new QLabel(this);
+    name->setStyleSheet(QStringLiteral("QLabel {min-height: 26px;}"));
+    auto *value = new QLabel(this);
+    value->setObjectName(QStringLiteral("labelHomeFact%1").arg(index + 1));
+    value->setTextFormat(Qt::PlainText);
+    value->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    value->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    value->setStyleSheet(QStringLiteral("QLabel {font-weight: bold; min-height: 26px;}"));
+    grid->addWidget(name, index + 2, 0);
+    grid->addWidget(value, index + 2, 1);
+    m_names[static_cast<std::size_t>(index)] = name;
+    m_values[static_cast<std::size_t>(index)] = value;
 }
 
 void BoxStateCard::showState(const Model &model, const BoxLink &link)

@@ -6,6 +6,7 @@
 
 class Model;
 class QGridLayout;
+class QHBoxLayout;
 class QLabel;
 
 /// What the window knows of the link beyond the model.
@@ -32,6 +33,8 @@ private:
     enum Fact { Address, Device, Name, Hardware, Firmware, Period, Sensors, Shots, NumFacts };
     using Texts = std::array<QString, NumFacts>;
 
+    [[nodiscard]] QHBoxLayout *createHead();
+    void createFact(QGridLayout *grid, int index);
     void showLink(bool connected, const BoxLink &link);
     void showFacts(const Texts &values);
     [[nodiscard]] static Texts factTexts(const Model &model, const BoxLink &link);
