@@ -77,8 +77,8 @@ QPixmap cachedCard(ShadowFrame::Elevation elevation, const QColor &fill, double 
     return picture;
 }
 
-/// Corners as they are, sides stretched along, the middle both ways.
-void drawStretched(QPainter &painter, const QRect &target, const QPixmap &picture)
+/// Corners as they are, sides stretched along; the middle is of one colour.
+void drawStretched(QPainter &painter, const QRect &target, const QPixmap &picture, const QColor &fill)
 {
     const double ratio = picture.devicePixelRatio();
     const int cornerX = std::min(kCorner, target.width() / 2);
@@ -92,7 +92,10 @@ void drawStretched(QPainter &painter, const QRect &target, const QPixmap &pictur
             const QRectF to(QPointF(targetX[column], targetY[row]), QPointF(targetX[column + 1], targetY[row + 1]));
             const QRectF from(QPointF(sourceX[column], sourceY[row]) * ratio,
                               QPointF(sourceX[column + 1], sourceY[row + 1]) * ratio);
-            painter.drawPixmap(to, picture, from);
+            if (row == 1 && column == 1)
+                painter.fillRect(to, fill);
+            else
+                painter.drawPixmap(to, picture, from);
         }
     }
 }
@@ -144,7 +147,7 @@ void ShadowFrame::paintCard(QPainter &painter, const QRect &widget, Elevation el
     if (card.isEmpty())
         return;
     if (elevation != Elevation::Flat) {
-        drawStretched(painter, widget, cachedCard(elevation, fill, painter.device()->devicePixelRatioF()));
+        drawStretched(painter, widget, cachedCard(elevation, fill, painter.device()->devicePixelRatioF()), fill);
         return;
     }
     painter.setRenderHint(QPainter::Antialiasing);
