@@ -45,6 +45,8 @@ private slots:
         row("text", "t=abc"_ba, -1);
         row("zero", "t=0"_ba, -1);
         row("huge", "t=2147483647"_ba, -1);
+        row("beyond int", "t=2147483648"_ba, -1);
+        row("hexadecimal", "t=0x10"_ba, -1);
     }
 
     void clockEcho()
@@ -100,7 +102,10 @@ private slots:
         if (yes)
             expected = {"Deckel"_s, "4711"_s, "Anna"_s, "1.2.2020"_s, "Werk"_s, 900, 1.5, 2.25, 80};
         QCOMPARE(bench.model.projectData(), expected);
-        QCOMPARE(bench.model.phaseName(4) == "auf"_s, yes);
+        for (int phase = 0; phase < Model::kNumPhases; ++phase)
+            QCOMPARE(bench.model.phaseName(phase)
+                         == QStringList({"zu"_s, "ein"_s, "nach"_s, "kalt"_s, "auf"_s}).at(phase),
+                     yes);
         QCOMPARE(bench.model.isProjectModified(), yes);
     }
 
