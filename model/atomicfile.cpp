@@ -32,7 +32,7 @@ protected:
     }
 
 private:
-    static constexpr qint64 kMostWaiting = 1024 * 1024;
+    static constexpr qint64 kMostWaiting = qint64(1024) * 1024;
 
     [[nodiscard]] bool bringToDisk()
     {
@@ -74,7 +74,7 @@ public:
     }
 
 private:
-    static constexpr off_t kStep = 4 * 1024 * 1024;
+    static constexpr off_t kStep = off_t(4) * 1024 * 1024;
 
     /// Neither has it another name, nor is it open anywhere else: a lease would be refused then.
     [[nodiscard]] bool isOnlyHere(const struct stat &file) const

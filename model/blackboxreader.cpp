@@ -158,9 +158,11 @@ double Reader::toNumber(const QByteArray &text)
 // A key that is not known may come from a newer box and is no loss.
 void Reader::takeSensorLine(const QByteArray &line)
 {
-    if (!line.contains('=') || ++m_sensorLines > kMostSensorLines)
+    if (!line.contains('=') || ++m_sensorLines > kMostSensorLines) {
         skip();
-    else if (const int keyAt = line.indexOf(kSensorKey); keyAt >= 0)
+        return;
+    }
+    if (const int keyAt = line.indexOf(kSensorKey); keyAt >= 0)
         takeSensorKey(line, keyAt);
     else if (!takeGroupKey(line))
         skip();

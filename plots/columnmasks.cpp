@@ -147,11 +147,12 @@ void ColumnMasks::paintBlock(QImage &picture, int left, QRgb color, int block)
         used += int(fresh[i] != 0);
     }
     const qptrdiff stride = picture.bytesPerLine() / qptrdiff(sizeof(QRgb));
-    auto *pixels = reinterpret_cast<QRgb *>(picture.bits()) + left + block * kBlock;
+    const int start = block * kBlock;
+    auto *pixels = reinterpret_cast<QRgb *>(picture.bits()) + left + start;
     for (int i = 0; i < used; ++i) {
         const int word = m_usedWords[size_t(i)];
         const int column = m_columnOfWord[size_t(word)];
-        m_stale[size_t(block * kBlock + column)] = 1;
+        m_stale[size_t(start + column)] = 1;
         QRgb *at = pixels + column + (word - column * m_words) * qptrdiff(kBits) * stride;
         quint64 rest = std::exchange(fresh[word], 0);
         do {
