@@ -7,8 +7,9 @@
 
 namespace {
 
-constexpr double kMargin = 0.1;     // of the range between the limits, shown beyond them
-constexpr double kTargetSteps = 12; // on a scale; not all of them get a label
+constexpr double kMargin = 0.1;      // of the range between the limits, shown beyond them
+constexpr double kTargetSteps = 12;  // on a scale; not all of them get a label
+constexpr double kLeastAround = 2.0; // on both sides of a value that has not moved yet
 constexpr int kMostDecimals = 6;
 constexpr double kLargestPlain = 1e7;
 constexpr int kExponentDigits = 5;
@@ -43,7 +44,7 @@ HeldRange wantedRange(const SensorLimits &limits, const std::optional<HeldRange>
     const double span = range.maximum - range.minimum;
     const double margin = limits.isAny() ? kMargin * span : 0.0;
     // A value that has not moved yet stands in the middle of a range of its own size.
-    const double around = span > 0.0 ? margin : std::max(1.0, 0.1 * std::abs(limit));
+    const double around = span > 0.0 ? margin : std::max(kLeastAround, 0.1 * std::abs(limit));
     return {range.minimum - around, range.maximum + around};
 }
 
