@@ -7,6 +7,7 @@
 #include "plots/overlaytablemodel.h"
 #include "plots/scrolledplot.h"
 #include "plots/sensorselection.h"
+#include "plots/shottable.h"
 #include "plots/tabevaluationoverlay.h"
 
 #include <QCheckBox>
@@ -25,7 +26,6 @@ namespace {
 
 constexpr double kLargestThreshold = 1e6;
 constexpr double kMostSigmas = 10.0;
-constexpr int kRowHeight = 30;        // pixels
 constexpr int kNarrowestTable = 300;  // pixels
 constexpr int kUsualTable = 572;      // pixels that show all its columns
 constexpr int kNumberWidth = 82;      // pixels for the title and the arrow beside it
@@ -82,25 +82,15 @@ void TabEvaluationOverlay::createTable()
     m_sorted = new QSortFilterProxyModel(this);
     m_sorted->setSourceModel(m_tableModel);
     m_sorted->setSortRole(OverlayTableModel::kSortRole);
-    m_table = new QTableView(this);
-    m_table->setObjectName(QStringLiteral("tableOverlay"));
-    m_table->setModel(m_sorted);
+    m_table = newShotTable(this, QStringLiteral("tableOverlay"), m_sorted);
     m_table->setItemDelegateForColumn(OverlayTableModel::Color, new ColorDelegate(m_table));
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_table->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
-    m_table->setTabKeyNavigation(false);
-    m_table->setWordWrap(false);
-    m_table->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     m_table->setMinimumWidth(kNarrowestTable);
     m_table->installEventFilter(this);
     m_table->setSortingEnabled(true);
     m_table->sortByColumn(OverlayTableModel::Number, Qt::AscendingOrder);
-    m_table->verticalHeader()->hide();
-    m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    m_table->verticalHeader()->setDefaultSectionSize(kRowHeight);
     QHeaderView *header = m_table->horizontalHeader();
-    header->setHighlightSections(false);
     header->setStyleSheet(QStringLiteral("font-size: 16px;"));
     header->setMinimumSectionSize(kSmallColumnWidth);
     const std::initializer_list<std::pair<int, int>> fixed{{OverlayTableModel::Color, kSmallColumnWidth},

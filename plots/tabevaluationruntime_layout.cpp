@@ -4,6 +4,7 @@
 #include "plots/runtimetablemodel.h"
 #include "plots/scrolledplot.h"
 #include "plots/sensorselection.h"
+#include "plots/shottable.h"
 #include "plots/tabevaluationruntime.h"
 
 #include <QGridLayout>
@@ -18,7 +19,6 @@ namespace {
 
 constexpr double kLargestThreshold = 1e6;
 constexpr int kSummaryHeight = 60; // pixels
-constexpr int kRowHeight = 30;     // pixels
 constexpr int kWidestSpinBox = 220;
 constexpr int kWidestTable = 900; // pixels that its columns can use; the box plots get the rest
 
@@ -77,22 +77,10 @@ QLayout *TabEvaluationRuntime::createSummaries()
 void TabEvaluationRuntime::createTable()
 {
     m_tableModel = new RuntimeTableModel(this);
-    m_table = new QTableView(this);
-    m_table->setObjectName(QStringLiteral("tableRuntime"));
-    m_table->setModel(m_tableModel);
+    m_table = newShotTable(this, QStringLiteral("tableRuntime"), m_tableModel);
     m_table->setMaximumWidth(kWidestTable);
-    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_table->setTabKeyNavigation(false);
-    m_table->setWordWrap(false);
-    m_table->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-    m_table->verticalHeader()->hide();
-    m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    m_table->verticalHeader()->setDefaultSectionSize(kRowHeight);
     m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_table->horizontalHeader()->setStretchLastSection(true);
-    m_table->horizontalHeader()->setHighlightSections(false);
 }
 
 // Measured are the titles, the first and the last shot, and the two rows behind them: with thousands of shots, to look

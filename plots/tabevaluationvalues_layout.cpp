@@ -5,6 +5,7 @@
 #include "plots/quantitypicker.h"
 #include "plots/quantitytablemodel.h"
 #include "plots/sensorselection.h"
+#include "plots/shottable.h"
 #include "plots/tabevaluationvalues.h"
 #include "plots/trendchart.h"
 
@@ -17,7 +18,6 @@
 
 namespace {
 
-constexpr int kRowHeight = 30; // pixels
 constexpr int kNarrowestColumn = 60;
 constexpr int kMeasuredRows = 40; // for the width of a column; of a hidden table all thousands would be, otherwise
 constexpr int kWidestRightSide = 560;
@@ -36,23 +36,11 @@ QLabel *newFigure(QWidget *parent, const char *name)
 void TabEvaluationValues::createTable()
 {
     m_tableModel = new QuantityTableModel(this);
-    m_table = new QTableView(this);
-    m_table->setObjectName(QStringLiteral("tableValues"));
-    m_table->setModel(m_tableModel);
-    m_table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_table->setTabKeyNavigation(false);
-    m_table->setWordWrap(false);
-    m_table->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-    m_table->verticalHeader()->hide();
-    m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    m_table->verticalHeader()->setDefaultSectionSize(kRowHeight);
+    m_table = newShotTable(this, QStringLiteral("tableValues"), m_tableModel);
     QHeaderView *header = m_table->horizontalHeader();
     header->setResizeContentsPrecision(kMeasuredRows);
     header->setSectionResizeMode(QHeaderView::ResizeToContents);
     header->setMinimumSectionSize(kNarrowestColumn);
-    header->setHighlightSections(false);
     header->setSectionsClickable(true);
 }
 
