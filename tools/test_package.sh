@@ -48,13 +48,12 @@ files() { # without what a package manager notes down for itself, and caches
         \( -type d -printf '%p/\n' \) -o -printf '%p %s %l\n' | sort)
 }
 
-# The libraries first, so that what remains afterwards is what the package itself left.
+# Without the package itself, so that what is new afterwards is what it left behind.
 install_dependencies() {
     inside apt-get -qq update &&
         inside apt-get -qq --yes --no-install-recommends install desktop-file-utils hicolor-icon-theme &&
+        inside apt-get -qq --yes --no-install-recommends satisfy "$(dpkg-deb --field "$package" Depends)" &&
         cp "$package" "$root/tmp/ventaro.deb" &&
-        inside apt-get -qq --yes --no-install-recommends install /tmp/ventaro.deb &&
-        inside dpkg --purge ventaro &&
         files >"$root/tmp/before"
 }
 
