@@ -8,7 +8,7 @@
 #   install_packages.sh lint    the same and the linters of tools/lint.sh
 set -euo pipefail
 
-packages=(cmake ninja-build g++ python3 qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n rapidjson-dev
+packages=(cmake ninja-build g++ python3 qtbase5-dev qttools5-dev qttools5-dev-tools qttranslations5-l10n
     openssh-client sshpass)
 packages+=(qt5-image-formats-plugins) # to save pictures as TIFF
 case ${1:-test} in
