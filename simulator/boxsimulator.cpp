@@ -14,7 +14,7 @@ namespace {
 constexpr int kMaxCommand = 4096; // bytes without a line feed
 constexpr int kMaxCommandsKept = 10000;
 constexpr qint64 kMaxUnsent = qint64{8} * 1024 * 1024; // bytes; a client that leaves more unread is gone
-constexpr qint64 kBurstWindow = 256 * 1024;            // bytes of a burst handed to the socket at a time
+constexpr qint64 kBurstWindow = qint64(256) * 1024;    // bytes of a burst handed to the socket at a time
 constexpr int kFarewell = 5000;                        // ms for the rest of a link that was ended
 constexpr int kReadBuffer = 64 * 1024;                 // bytes
 constexpr int kLongestTick = 10;                       // ms between looks at the clock
