@@ -15,6 +15,9 @@ constexpr double kExactIntegers = 9e15;   // above that a double skips integers
 constexpr int kMarkDecimals = 5;          // numbers with more have an exponent
 constexpr int kFigures = 6;               // of a number with one
 constexpr double kLongNumber = 1e9;       // from here on with an exponent
+constexpr double kBeyondPrefixes = 1e12;
+constexpr double kSameStep = 1e-6; // of a step; less is a rounding error
+constexpr int kShortDecimals = 2;
 
 double powerOfTen(double step)
 {
@@ -26,6 +29,34 @@ QLocale withoutGroups(const QLocale &locale)
     QLocale plain(locale);
     plain.setNumberOptions(QLocale::OmitGroupSeparator);
     return plain;
+}
+
+/// As few as tell the multiples of the step apart; one more than marks may have if those are too few.
+int decimalsOf(double step)
+{
+    int decimals = 0;
+    for (double scaled = step; decimals <= kMarkDecimals; ++decimals, scaled *= 10.0) {
+        if (std::abs(scaled - std::round(scaled)) <= scaled * kSameStep)
+            break;
+    }
+    return decimals;
+}
+
+struct Prefix
+{
+    double factor = 1.0;
+    QString symbol;
+};
+
+/// The largest that leaves something before the decimal point.
+Prefix prefixOf(double value)
+{
+    const double size = std::abs(value);
+    if (size < 1e3 || size >= kBeyondPrefixes)
+        return {};
+    if (size < 1e6)
+        return {1e3, QStringLiteral("k")};
+    return size < 1e9 ? Prefix{1e6, QStringLiteral("M")} : Prefix{1e9, QStringLiteral("G")};
 }
 
 /// 1, 2 or 5 for a step of the ladder.
@@ -120,27 +151,49 @@ QString numberText(double value, int decimals, const QLocale &locale)
     const QLocale plain = withoutGroups(locale);
     if (std::abs(value) >= kLongNumber)
         return plain.toString(value, 'g', kFigures);
-    const QString text = plain.toString(value, 'f', decimals);
     const bool isZero = std::abs(value) * 2.0 < std::pow(10.0, -decimals);
-    return isZero ? plain.toString(0.0, 'f', decimals) : text; // never "-0.0"
+    return plain.toString(isZero ? 0.0 : value, 'f', decimals); // never "-0.0"
 }
 
 QString markText(double value, double step, const QLocale &locale)
 {
     if (!(step > 0.0))
         return numberText(value, 0, locale);
-    const int decimals = static_cast<int>(std::max(0.0, -std::floor(std::log10(step) + kTolerance)));
+    const int decimals = decimalsOf(step);
     return decimals <= kMarkDecimals ? numberText(value, decimals, locale)
                                      : withoutGroups(locale).toString(value, 'g', kFigures);
+}
+
+QString shortMarkText(double value, double step, const QLocale &locale)
+{
+    const Prefix prefix = prefixOf(value);
+    return markText(value / prefix.factor, step / prefix.factor, locale) + prefix.symbol;
+}
+
+QString shortText(double value, int decimals, const QLocale &locale)
+{
+    const double size = std::abs(value);
+    if ((size > 0.0 && size < 1.0) || size >= kBeyondPrefixes)
+        return withoutGroups(locale).toString(value, 'g', decimals + 1);
+    const Prefix prefix = prefixOf(value);
+    return numberText(value / prefix.factor, decimals, locale) + prefix.symbol;
 }
 
 QString fittingNumber(double value, int decimals, const QLocale &locale, double room,
                       const std::function<double(const QString &)> &widthOf)
 {
-    QString text = numberText(value, decimals, locale);
-    for (int fewer = decimals - 1; fewer >= 0 && widthOf(text) > room; --fewer)
-        text = numberText(value, fewer, locale);
-    return text;
+    const auto isZero = [&](int shown) { return numberText(value, shown, locale) == numberText(0.0, shown, locale); };
+    for (int fewer = decimals; fewer >= 0; --fewer) {
+        const QString text = numberText(value, fewer, locale);
+        if (widthOf(text) <= room && (!isZero(fewer) || isZero(decimals)))
+            return text;
+    }
+    for (int fewer = kShortDecimals; fewer >= 0; --fewer) {
+        const QString text = shortText(value, fewer, locale);
+        if (widthOf(text) <= room)
+            return text;
+    }
+    return numberText(value, 0, locale);
 }
 
 double normalizedAngle(double degrees)

@@ -53,7 +53,12 @@ struct Scale
 [[nodiscard]] QString numberText(double value, int decimals, const QLocale &locale);
 /// A multiple of a step with as many decimals as tell the multiples apart; with an exponent when it would be long.
 [[nodiscard]] QString markText(double value, double step, const QLocale &locale);
-/// A number with as many of the decimals as the room allows; 0 decimals if nothing fits.
+/// The same with k, M or G for a thousand, a million and a thousand million where the number is that large: "150k".
+[[nodiscard]] QString shortMarkText(double value, double step, const QLocale &locale);
+/// A rounded number in little room: with k, M or G as above, or with an exponent where it would have many zeros.
+[[nodiscard]] QString shortText(double value, int decimals, const QLocale &locale);
+/// A number with as many of the decimals as the room allows, if there is room for none or all would be zeros a short
+/// text; the number without decimals if nothing fits.
 [[nodiscard]] QString fittingNumber(double value, int decimals, const QLocale &locale, double room,
                                     const std::function<double(const QString &)> &widthOf);
 

@@ -10,7 +10,7 @@ namespace {
 
 constexpr double kSmallestShare = 0.6; // of the font's size, before decimals are dropped
 constexpr double kShareStep = 0.05;
-constexpr double kTooLarge = 1.8;   // for an optional text: its font compared with the wanted one
+constexpr double kTooLarge = 1.65;  // for an optional text: its font compared with the wanted one
 constexpr double kLineHeight = 1.4; // of the font's size: what a line may cover
 
 } // namespace

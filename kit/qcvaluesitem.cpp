@@ -11,6 +11,8 @@ namespace {
 
 constexpr int kMostNumerals = 12;
 constexpr double kMiddle = 15.0; // percent; a needle's hub
+constexpr double kLong = 1e5;    // shorter numbers are easier to read as they are
+constexpr double kThousand = 1e3;
 
 /// With a gap around it that keeps neighbours apart.
 QRectF withGap(const QRectF &box)
@@ -44,12 +46,12 @@ QFont QcValuesItem::font(const QcCanvas &canvas) const
 }
 
 /// In ascending order, without those that have no room beside the ones before or that would reach the middle.
-QcValuesItem::Row QcValuesItem::row(const QcCanvas &canvas, double step) const
+QcValuesItem::Row QcValuesItem::row(const QcCanvas &canvas, double step, TextOf textOf) const
 {
     const QFontMetricsF metrics(font(canvas));
     Row result;
     for (const double value : qcgauge::multiples(canvas.scale.from, canvas.scale.to, step)) {
-        const QString text = qcgauge::markText(value, step, canvas.locale);
+        const QString text = textOf(value, step, canvas.locale);
         QRectF box(QPointF(), QSizeF(metrics.horizontalAdvance(text), metrics.capHeight()));
         const double angle = qcgauge::angleAt(canvas.scale, value);
         box.moveCenter(canvas.point(angle, radius() - reach(box.size(), angle) / canvas.length(1.0)));
@@ -64,11 +66,21 @@ QcValuesItem::Row QcValuesItem::row(const QcCanvas &canvas, double step) const
     return result;
 }
 
+QcValuesItem::Row QcValuesItem::bestRow(const QcCanvas &canvas, double step) const
+{
+    const Row plain = row(canvas, step, qcgauge::markText);
+    const double largest = std::max(std::abs(canvas.scale.from), std::abs(canvas.scale.to));
+    if (largest < kLong || step < kThousand)
+        return plain;
+    const Row brief = row(canvas, step, qcgauge::shortMarkText);
+    return brief.numerals.size() > plain.numerals.size() ? brief : plain;
+}
+
 double QcValuesItem::neededStep(const QcCanvas &canvas) const
 {
     const auto marks = [&](double step) { return qcgauge::multiples(canvas.scale.from, canvas.scale.to, step).size(); };
     double step = qcgauge::niceStep(canvas.scale.to - canvas.scale.from, kMostNumerals);
-    while (row(canvas, step).crowded && marks(qcgauge::coarserStep(step)) >= 2)
+    while (bestRow(canvas, step).crowded && marks(qcgauge::coarserStep(step)) >= 2)
         step = qcgauge::coarserStep(step);
     return step;
 }
@@ -77,7 +89,7 @@ void QcValuesItem::paint(QPainter &painter, const QcCanvas &canvas, const QcRead
 {
     painter.setFont(font(canvas));
     painter.setPen(canvas.colors.ink);
-    const Row all = row(canvas, canvas.step);
+    const Row all = bestRow(canvas, canvas.step);
     for (const Numeral &numeral : all.numerals)
         qcgauge::drawCentred(painter, numeral.box.center(), numeral.text);
 }

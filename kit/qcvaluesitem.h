@@ -3,7 +3,8 @@
 #include "kit/qcitem.h"
 
 /// The numerals of the scale, upright, inside a circle of this radius. They never overlap, nor do they reach the
-/// middle: they make the steps of the scale as wide as they need.
+/// middle: they make the steps of the scale as wide as they need. Long ones are shortened, such as to "150k", where
+/// they would have no room otherwise.
 class QcValuesItem : public QcItem
 {
 public:
@@ -28,7 +29,10 @@ private:
         QVector<Numeral> numerals;
         bool crowded = false; ///< some are left out for want of room between them
     };
-    [[nodiscard]] Row row(const QcCanvas &canvas, double step) const;
+    using TextOf = QString (*)(double value, double step, const QLocale &locale);
+    [[nodiscard]] Row row(const QcCanvas &canvas, double step, TextOf textOf) const;
+    /// Long numbers are shortened if that makes room.
+    [[nodiscard]] Row bestRow(const QcCanvas &canvas, double step) const;
 
     double m_size = 12.0;
 };

@@ -178,12 +178,22 @@ void TestQcGaugeMath::numbersAreReadable_data()
     row("mark of a coarse step", markText(1500.0, 500.0, german), QStringLiteral("1500"));
     row("mark of a fine step", markText(3 * 0.1, 0.1, german), QStringLiteral("0,3"));
     row("mark of a tiny step", markText(4e-8, 2e-8, german), QStringLiteral("4e-08"));
-    const auto fitting = [&](double digits) {
-        return fittingNumber(12.3456, 3, german, digits, [](const QString &tried) { return double(tried.size()); });
+    const auto fittingAny = [&](double value, int decimals, double digits) {
+        return fittingNumber(value, decimals, german, digits,
+                             [](const QString &tried) { return double(tried.size()); });
     };
+    const auto fitting = [&](double digits) { return fittingAny(12.3456, 3, digits); };
+    row("mark of a step off the ladder", markText(7.5, 2.5, german), QStringLiteral("7,5"));
+    const auto shortMark = [&](double value) { return shortMarkText(value, 5e4, german); };
+    row("short zero", shortMark(0.0), QStringLiteral("0"));
+    row("short mark", shortMark(-1.5e5), QStringLiteral("-150k"));
+    row("short mark of another prefix", shortMark(1.05e6), QStringLiteral("1,05M"));
+    row("too large to be short", shortMark(2e12), QStringLiteral("2e+12"));
     row("all decimals", fitting(6.0), QStringLiteral("12,346"));
     row("fewer decimals", fitting(5.5), QStringLiteral("12,35"));
     row("hardly any room", fitting(1.0), QStringLiteral("12"));
+    row("cut digits would mislead", fittingAny(-1234567.8, 1, 6.0), QStringLiteral("-1,23M"));
+    row("zeros would mislead", fittingAny(5e-8, 9, 7.0), QStringLiteral("5e-08"));
     row("marks of large numbers", markText(1.55e9, 5e7, german), QStringLiteral("1,55e+09"));
 }
 
