@@ -91,7 +91,7 @@ void ProgressIndicator::setPercent(int percent)
 
 void ProgressIndicator::updateTimer()
 {
-    const bool wanted = m_animated && m_percent == kTurning && isVisible();
+    const bool wanted = m_animated && m_percent == kTurning && isVisible() && !window()->isMinimized();
     if (wanted && !m_timer.isActive())
         m_timer.start();
     else if (!wanted)

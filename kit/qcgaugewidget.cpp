@@ -164,7 +164,7 @@ void QcGaugeWidget::setValue(double value)
     QcReading next = d->reading;
     next.hasValue = true;
     next.value = value;
-    const bool onItsWay = d->damping > 0 && d->reading.hasValue && isVisible();
+    const bool onItsWay = d->damping > 0 && d->reading.hasValue && isVisible() && !window()->isMinimized();
     if (!onItsWay)
         next.shown = value;
     setReading(next);

@@ -39,6 +39,10 @@ private slots:
         QVERIFY(!indicator.isTimerRunning() && indicator.isAnimated());
         indicator.show();
         QVERIFY(indicator.isTimerRunning());
+        indicator.showMinimized();
+        QTRY_VERIFY(!indicator.isTimerRunning());
+        indicator.showNormal();
+        QTRY_VERIFY(indicator.isTimerRunning());
         indicator.setPercent(40);
         QVERIFY(!indicator.isTimerRunning()); // nothing turns
         indicator.setPercent(ProgressIndicator::kTurning);

@@ -15,7 +15,23 @@
 
 namespace {
 
-using Action = std::function<void(QcGaugeWidget &)>;
+/// A gauge on a screen of any resolution.
+class ScaledGauge : public QcGaugeWidget
+{
+public:
+    int ratio = 1;
+
+protected:
+    int metric(PaintDeviceMetric kind) const override
+    {
+        if (kind == PdmDevicePixelRatio)
+            return ratio;
+        return kind == PdmDevicePixelRatioScaled ? qRound(ratio * devicePixelRatioFScale())
+                                                 : QcGaugeWidget::metric(kind);
+    }
+};
+
+using Action = std::function<void(ScaledGauge &)>;
 
 void useTheme(const QColor &needle)
 {
@@ -90,32 +106,33 @@ void TestQcGaugeWidget::stillPartsAreKept_data()
         QTest::newRow(name) << action << painted;
     };
     const QString all = QStringLiteral("ba");
-    row("value", QString(), [](QcGaugeWidget &gauge) { gauge.setValue(70.0); });
-    row("no value", QString(), [](QcGaugeWidget &gauge) { gauge.clearValue(); });
-    row("held", QString(), [](QcGaugeWidget &gauge) { gauge.setHeld(10.0, 90.0); });
-    row("same range", QString(), [](QcGaugeWidget &gauge) { gauge.setRange(0.0, 100.0); });
+    row("value", QString(), [](ScaledGauge &gauge) { gauge.setValue(70.0); });
+    row("no value", QString(), [](ScaledGauge &gauge) { gauge.clearValue(); });
+    row("held", QString(), [](ScaledGauge &gauge) { gauge.setHeld(10.0, 90.0); });
+    row("same range", QString(), [](ScaledGauge &gauge) { gauge.setRange(0.0, 100.0); });
     const double nan = std::numeric_limits<double>::quiet_NaN();
-    row("impossible bands", QString(), [nan](QcGaugeWidget &gauge) {
+    row("impossible bands", QString(), [nan](ScaledGauge &gauge) {
         gauge.setBands({{0.0, nan, Qt::red}, {0.0, 9.0, QColor()}});
     });
-    row("needle", QString(), [](QcGaugeWidget &gauge) { gauge.find<QcNeedleItem>()->setColor(Qt::red); });
-    row("part below", QStringLiteral("b"), [](QcGaugeWidget &gauge) { gauge.find<QcDegreesItem>()->setLength(9.0); });
-    row("another step", all, [](QcGaugeWidget &gauge) { gauge.find<QcScaleItem>()->setStep(25.0); });
-    row("range", all, [](QcGaugeWidget &gauge) { gauge.setRange(0.0, 99.0); });
-    row("bands", all, [](QcGaugeWidget &gauge) { gauge.setBands({{50.0, 60.0, Qt::red}}); });
-    row("size", all, [](QcGaugeWidget &gauge) { gauge.resize(210, 200); });
-    row("theme", all, [](QcGaugeWidget &) { useTheme(Qt::red); });
-    row("font", all, [](QcGaugeWidget &gauge) { gauge.setFont(QFont(QStringLiteral("Serif"))); });
-    row("language", all, [](QcGaugeWidget &gauge) { gauge.setLocale(QLocale(QLocale::Arabic)); });
-    row("stale", all, [](QcGaugeWidget &gauge) { gauge.setStale(true); });
-    row("disabled", all, [](QcGaugeWidget &gauge) { gauge.setEnabled(false); });
+    row("needle", QString(), [](ScaledGauge &gauge) { gauge.find<QcNeedleItem>()->setColor(Qt::red); });
+    row("part below", QStringLiteral("b"), [](ScaledGauge &gauge) { gauge.find<QcDegreesItem>()->setLength(9.0); });
+    row("another step", all, [](ScaledGauge &gauge) { gauge.find<QcScaleItem>()->setStep(25.0); });
+    row("range", all, [](ScaledGauge &gauge) { gauge.setRange(0.0, 99.0); });
+    row("bands", all, [](ScaledGauge &gauge) { gauge.setBands({{50.0, 60.0, Qt::red}}); });
+    row("size", all, [](ScaledGauge &gauge) { gauge.resize(210, 200); });
+    row("resolution", all, [](ScaledGauge &gauge) { gauge.ratio = 2; });
+    row("theme", all, [](ScaledGauge &) { useTheme(Qt::red); });
+    row("font", all, [](ScaledGauge &gauge) { gauge.setFont(QFont(QStringLiteral("Serif"))); });
+    row("language", all, [](ScaledGauge &gauge) { gauge.setLocale(QLocale(QLocale::Arabic)); });
+    row("stale", all, [](ScaledGauge &gauge) { gauge.setStale(true); });
+    row("disabled", all, [](ScaledGauge &gauge) { gauge.setEnabled(false); });
 }
 
 void TestQcGaugeWidget::stillPartsAreKept()
 {
     QFETCH(Action, action);
     QString notes;
-    QcGaugeWidget gauge;
+    ScaledGauge gauge;
     gauge.setLocale(QLocale(QLocale::German));
     gauge.resize(200, 200);
     gauge.append<QcScaleItem>();
