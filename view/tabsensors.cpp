@@ -192,7 +192,7 @@ void TabSensors::addSample(const std::array<double, kNumSensors> &values)
 {
     const bool isFirst = d->live.isEmpty();
     d->live.add(values, d->now());
-    if (!isVisible())
+    if (!isVisible() || window()->isMinimized())
         return;
     if (isFirst)
         d->showHint();
