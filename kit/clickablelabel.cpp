@@ -11,6 +11,14 @@
 namespace {
 
 constexpr int kMargin = 4; // pixels between the text and the frame that shows the focus
+constexpr double kRadius = 3.0;
+constexpr double kHoverTint = 0.08;
+constexpr double kPressTint = 0.16;
+
+QColor primary()
+{
+    return QtMaterialPaint::themeColor(QLatin1String("primary1"));
+}
 
 } // namespace
 
@@ -26,6 +34,7 @@ ClickableLabel::ClickableLabel(const QString &text, QWidget *parent)
     setMargin(kMargin);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
+    connect(&QtMaterialStyle::instance(), &QtMaterialStyle::themeChanged, this, qOverload<>(&QWidget::update));
 }
 
 void ClickableLabel::click()
@@ -59,9 +68,22 @@ void ClickableLabel::keyPressEvent(QKeyEvent *event)
         click();
 }
 
+void ClickableLabel::enterEvent(QEvent *event)
+{
+    QLabel::enterEvent(event);
+    update();
+}
+
+void ClickableLabel::leaveEvent(QEvent *event)
+{
+    QLabel::leaveEvent(event);
+    update();
+}
+
 void ClickableLabel::mousePressEvent(QMouseEvent *event)
 {
     m_pressed = event->button() == Qt::LeftButton;
+    update();
     event->setAccepted(m_pressed); // other buttons are for whoever lies below
 }
 
@@ -79,6 +101,7 @@ void ClickableLabel::mouseReleaseEvent(QMouseEvent *event)
     }
     const bool isClick = m_pressed && rect().contains(event->pos());
     m_pressed = false;
+    update();
     if (isClick)
         click();
 }
@@ -87,12 +110,18 @@ void ClickableLabel::drawFocus(QPainter &painter) const
 {
     painter.setRenderHint(QPainter::Antialiasing);
     if (hasFocus())
-        QtMaterialPaint::drawFocusRing(painter, rect(), 3.0,
-                                       QtMaterialStyle::instance().themeColor(QStringLiteral("primary1")));
+        QtMaterialPaint::drawFocusRing(painter, rect(), kRadius, primary());
 }
 
 void ClickableLabel::paintEvent(QPaintEvent *event)
 {
+    if (isEnabled() && underMouse()) {
+        QPainter ground(this);
+        ground.setRenderHint(QPainter::Antialiasing);
+        ground.setPen(Qt::NoPen);
+        ground.setBrush(QtMaterialPaint::withOpacity(primary(), m_pressed ? kPressTint : kHoverTint));
+        ground.drawRoundedRect(rect(), kRadius, kRadius);
+    }
     QLabel::paintEvent(event);
     QPainter painter(this);
     drawFocus(painter);

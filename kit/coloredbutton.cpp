@@ -8,6 +8,7 @@
 #include <QColorDialog>
 #include <QEvent>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QStyleOptionButton>
 #include <QStylePainter>
@@ -119,6 +120,16 @@ QSize ColoredButton::minimumSizeHint() const
     return {std::min(width, sizeHint().width()), sizeHint().height()};
 }
 
+// Enter presses the button that has the focus, in a page as in a dialog.
+void ColoredButton::keyPressEvent(QKeyEvent *event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!enter)
+        QPushButton::keyPressEvent(event);
+    else if (!event->isAutoRepeat())
+        click();
+}
+
 void ColoredButton::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange)
@@ -128,7 +139,7 @@ void ColoredButton::changeEvent(QEvent *event)
 
 ColoredButton::Look ColoredButton::look() const
 {
-    const QColor canvas = Qt::white;
+    const QColor canvas = QtMaterialPaint::themeColor(QLatin1String("canvas"));
     const QColor full = QtMaterialPaint::blended(color(), canvas);
     QColor fill = isCheckable() && !isChecked() ? QtMaterialPaint::between(canvas, full, kPale) : full;
     const QColor text = colorcontrast::readableOn(fill);

@@ -2,6 +2,7 @@
 
 #include "kit/accessibles.h"
 #include "kit/logging.h"
+#include "kit/qtmaterialpaint.h"
 #include "kit/qtmaterialstyle.h"
 
 #include <QAccessible>
@@ -30,12 +31,12 @@ void drawRing(QPainter &painter, const QRectF &ring, qreal width, const QColor &
     painter.drawArc(ring, (90 - from) * kSixteenths, -span * kSixteenths);
 }
 
-void drawPercent(QPainter &painter, const QRectF &ring, int percent)
+void drawPercent(QPainter &painter, const QRectF &ring, int percent, const QColor &color)
 {
     QFont font = painter.font();
     font.setPixelSize(std::max(1, static_cast<int>(ring.height() * 0.34)));
     painter.setFont(font);
-    painter.setPen(QtMaterialStyle::instance().themeColor(QStringLiteral("text")));
+    painter.setPen(color);
     painter.drawText(ring, Qt::AlignCenter, QString::number(percent));
 }
 
@@ -64,17 +65,26 @@ QSize ProgressIndicator::minimumSizeHint() const
 void ProgressIndicator::startAnimation()
 {
     qCDebug(lcKit) << Q_FUNC_INFO;
-    m_animated = true;
-    updateTimer();
-    update();
+    setAnimated(true);
 }
 
 void ProgressIndicator::stopAnimation()
 {
     qCDebug(lcKit) << Q_FUNC_INFO;
-    m_animated = false;
+    setAnimated(false);
+}
+
+void ProgressIndicator::setAnimated(bool animated)
+{
+    if (animated == m_animated)
+        return;
+    m_animated = animated;
     updateTimer();
     update();
+    QAccessible::State changed;
+    changed.busy = true;
+    QAccessibleStateChangeEvent event(this, changed);
+    QAccessible::updateAccessibility(&event);
 }
 
 void ProgressIndicator::setPercent(int percent)
@@ -125,13 +135,13 @@ void ProgressIndicator::paintEvent(QPaintEvent *event)
     painter.setRenderHint(QPainter::Antialiasing);
     const qreal width = std::max(2.0, std::min(this->width(), height()) / 9.0);
     const QRectF ring = ringRect(size(), width);
-    const QtMaterialStyle &style = QtMaterialStyle::instance();
-    drawRing(painter, ring, width, style.themeColor(QStringLiteral("border")), 0, 360);
-    const QColor color = style.themeColor(QStringLiteral("primary1"));
+    using QtMaterialPaint::themeColor;
+    drawRing(painter, ring, width, themeColor(QLatin1String("border")), 0, 360);
+    const QColor color = themeColor(isEnabled() ? QLatin1String("primary1") : QLatin1String("disabled"));
     if (m_percent == kTurning) {
         drawRing(painter, ring, width, color, m_angle, kArc);
     } else {
         drawRing(painter, ring, width, color, 0, m_percent * 360 / 100);
-        drawPercent(painter, ring, m_percent);
+        drawPercent(painter, ring, m_percent, isEnabled() ? themeColor(QLatin1String("text")) : color);
     }
 }

@@ -35,6 +35,7 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
+    void setAnimated(bool animated);
     void updateTimer();
     void turn();
 

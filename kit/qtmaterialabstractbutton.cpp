@@ -6,6 +6,7 @@
 #include "kit/qtmaterialstyle.h"
 #include "kit/qtmaterialtheme.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QStyleOptionButton>
@@ -129,6 +130,16 @@ bool QtMaterialAbstractButton::event(QEvent *event)
     if (polished) // only now the style sheet's smallest height is known, which layouts prefer to minimumSizeHint()
         setMinimumHeight(std::max(minimumHeight(), kTouchHeight + m_margins.top() + m_margins.bottom()));
     return handled;
+}
+
+// Enter presses the button that has the focus, in a page as in a dialog.
+void QtMaterialAbstractButton::keyPressEvent(QKeyEvent *event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!enter)
+        QPushButton::keyPressEvent(event);
+    else if (!event->isAutoRepeat())
+        click();
 }
 
 void QtMaterialAbstractButton::mousePressEvent(QMouseEvent *event)

@@ -46,7 +46,7 @@ int QtMaterialScrollBar::extent() const
 QSize QtMaterialScrollBar::sizeHint() const
 {
     ensurePolished();
-    const QSize upright(extent(), 2 * kLeastThumb);
+    const QSize upright(extent(), 2 * (kLeastThumb + kEnd)); // with the thumb at full length
     return (isHorizontal() ? upright.transposed() : upright).expandedTo(minimumSize());
 }
 

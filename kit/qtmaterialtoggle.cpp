@@ -110,8 +110,9 @@ void QtMaterialToggle::showState()
     else
         m_motion.moveTo(kThumb, m_hand.thumb(), kThumbTime);
     const State state = m_interaction.state();
-    const bool touched = state == State::Hovered || state == State::Pressed || state == State::Focused;
-    m_motion.moveTo(kHalo, isDragged() ? 1.0 : touched ? 0.75 : 0.0, kHaloTime);
+    const bool touched = state == State::Hovered || state == State::Focused;
+    const bool held = state == State::Pressed || isDragged();
+    m_motion.moveTo(kHalo, held ? 1.0 : touched ? 0.6 : 0.0, kHaloTime);
     update();
 }
 
