@@ -40,7 +40,7 @@ void hover(QWidget *widget)
 
 void press(QWidget *widget)
 {
-    const QPointF place(widget->width() - 12.0, widget->height() / 2.0);
+    const QPointF place(widget->width() - 12.0, widget->height() / 2.0); // an arrow, the thumb of a toggle that is on
     QMouseEvent event(QEvent::MouseButtonPress, place, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(widget, &event);
 }
@@ -54,6 +54,7 @@ GalleryPage::GalleryPage(const QString &name, QWidget *parent)
 {
     setAutoFillBackground(true);
     setPalette(Qt::white);
+    m_grid->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_grid->setContentsMargins(20, 12, 20, 20);
     m_grid->setHorizontalSpacing(24);
     m_grid->setVerticalSpacing(0);
@@ -65,7 +66,6 @@ void GalleryPage::addRow(const QString &title)
     m_column = 0;
     m_grid->addWidget(createCaption(title, QStringLiteral("QLabel {font: bold 16px; color: #555555;}")), m_row, 0, 1,
                       -1);
-    m_grid->setRowStretch(m_row + 2, 1);
 }
 
 void GalleryPage::addSample(const QString &caption, QWidget *sample, State state)
@@ -112,6 +112,7 @@ QPixmap GalleryPage::picture()
     show();
     QApplication::setActiveWindow(this);
     wait(50);
+    resize(sizeHint()); // now that the sheet's smallest sizes are known
     for (const Forced &forced : m_forced) {
         force(forced);
         if (forced.state == State::Focused) {

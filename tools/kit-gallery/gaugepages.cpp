@@ -42,6 +42,13 @@ QcGaugeWidget *createGauge(double value, int size = kSize)
     return gauge;
 }
 
+QcGaugeWidget *createGauge(double value, double from, double to, int size)
+{
+    QcGaugeWidget *gauge = createGauge(value, size);
+    gauge->setRange(from, to);
+    return gauge;
+}
+
 /// On a face with a scale, which the others refer to.
 template <typename Item, typename... Arguments>
 void addPart(GalleryPage &page, const char *name, Arguments... arguments)
@@ -51,6 +58,7 @@ void addPart(GalleryPage &page, const char *name, Arguments... arguments)
     gauge->append<QcScaleItem>();
     gauge->append<Item>(arguments...);
     gauge->setValue(120.0);
+    gauge->setHeld(60.0, 210.0);
     page.addSample(QLatin1String(name), gauge);
 }
 
@@ -84,7 +92,11 @@ GalleryPage *createGaugePage()
     disabled->setEnabled(false);
     page->addSample(QStringLiteral("disabled"), disabled);
     page->addSample(QStringLiteral("large"), createGauge(120.5, 300));
-    page->addSample(QStringLiteral("small"), createGauge(120.5, 110));
+    page->addSample(QStringLiteral("small"), createGauge(120.5, 120));
+    page->addRow(QStringLiteral("Ranges"));
+    page->addSample(QStringLiteral("long numbers, small"), createGauge(-123456.7, -200000.0, 200000.0, 120));
+    page->addSample(QStringLiteral("millions"), createGauge(1234567.8, 0.0, 2e6, 150));
+    page->addSample(QStringLiteral("reversed"), createGauge(120.5, 250.0, 0.0, 150));
     return page;
 }
 
@@ -99,7 +111,8 @@ GalleryPage *createGaugePartsPage()
     page->addRow(QString());
     addPart<QcNeedleItem>(*page, "QcNeedleItem");
     addPart<QcLabelItem>(*page, "QcLabelItem: value", QcLabelItem::Source::Value, 51.0);
-    addPart<QcLabelItem>(*page, "QcLabelItem: title", QcLabelItem::Source::Title, 84.0);
+    addPart<QcNeedleItem>(*page, "QcNeedleItem: marker", QcNeedleItem::Source::HeldMaximum,
+                          QcNeedleItem::Shape::Marker);
     addPart<QcGlassItem>(*page, "QcGlassItem");
     return page;
 }

@@ -48,6 +48,16 @@ GalleryPage *createButtonPage(const QString &name)
     auto *other = createButton<Button>();
     other->setColorKey(QStringLiteral("primary2"));
     page->addSample(QStringLiteral("\"primary2\""), other);
+    page->addRow(QStringLiteral("More states"));
+    auto *standard = createButton<Button>();
+    standard->setDefault(true);
+    page->addSample(QStringLiteral("default"), standard);
+    page->addSample(QStringLiteral("checked, focused"), createButton<Button>(true, true), State::Focused);
+    page->addSample(QStringLiteral("unchecked, hovered"), createButton<Button>(true), State::Hovered);
+    auto *stuck = createButton<Button>(true, true);
+    stuck->setEnabled(false);
+    page->addSample(QStringLiteral("checked, disabled"), stuck);
+    page->addSample(QStringLiteral("two lines"), new Button(QStringLiteral("Alle Schüsse\nlöschen")));
     return page;
 }
 
@@ -98,11 +108,13 @@ GalleryPage *createTogglePage()
     page->addRow(QStringLiteral("On"));
     page->addSample(QStringLiteral("normal"), createToggle(true));
     page->addSample(QStringLiteral("hovered"), createToggle(true), State::Hovered);
+    page->addSample(QStringLiteral("pressed"), createToggle(true), State::Pressed);
     page->addSample(QStringLiteral("focused"), createToggle(true), State::Focused);
     page->addSample(QStringLiteral("disabled"), createToggle(true, false));
     page->addRow(QStringLiteral("Off"));
     page->addSample(QStringLiteral("normal"), createToggle(false));
     page->addSample(QStringLiteral("hovered"), createToggle(false), State::Hovered);
+    page->addSample(QStringLiteral("pressed"), createToggle(false), State::Pressed);
     page->addSample(QStringLiteral("focused"), createToggle(false), State::Focused);
     page->addSample(QStringLiteral("disabled"), createToggle(false, false));
     page->addRow(QStringLiteral("Other"));
@@ -137,6 +149,19 @@ GalleryPage *createTextFieldPage()
     QtMaterialTextField *disabled = createField(text);
     disabled->setEnabled(false);
     page->addSample(QStringLiteral("disabled"), disabled);
+    page->addRow(QStringLiteral("Other"));
+    QtMaterialTextField *hinted = createField();
+    hinted->setPlaceholderText(QStringLiteral("wie im Auftrag"));
+    page->addSample(QStringLiteral("empty, focused"), hinted, State::Focused);
+    QtMaterialTextField *fixed = createField(text);
+    fixed->setReadOnly(true);
+    page->addSample(QStringLiteral("read only"), fixed);
+    QtMaterialTextField *secret = createField(text);
+    secret->setEchoMode(QLineEdit::Password);
+    page->addSample(QStringLiteral("password"), secret);
+    QtMaterialTextField *plain = createField(text);
+    plain->setLabel(QString());
+    page->addSample(QStringLiteral("without a label"), plain);
     return page;
 }
 
@@ -146,12 +171,18 @@ GalleryPage *createScrollBarPage()
     page->addRow(QStringLiteral("Horizontal"));
     page->addSample(QStringLiteral("normal"), createScrollBar(Qt::Horizontal, 300, 220));
     page->addSample(QStringLiteral("hovered"), createScrollBar(Qt::Horizontal, 300, 220), State::Hovered);
+    QtMaterialScrollBar *dragged = createScrollBar(Qt::Horizontal, 300, 220);
+    dragged->setValue(300); // where the gallery presses
+    page->addSample(QStringLiteral("dragged"), dragged, State::Pressed);
+    QtMaterialScrollBar *focused = createScrollBar(Qt::Horizontal, 300, 220);
+    focused->setFocusPolicy(Qt::StrongFocus);
+    page->addSample(QStringLiteral("focused"), focused, State::Focused);
+    page->addRow(QStringLiteral("Contents"));
     page->addSample(QStringLiteral("very long contents"), createScrollBar(Qt::Horizontal, 1000000, 220));
-    page->addRow(QStringLiteral("Vertical, nothing to scroll, disabled"));
-    page->addSample(QStringLiteral("vertical"), createScrollBar(Qt::Vertical, 300, 120));
     page->addSample(QStringLiteral("nothing to scroll"), createScrollBar(Qt::Horizontal, 0, 220));
     QtMaterialScrollBar *disabled = createScrollBar(Qt::Horizontal, 300, 220);
     disabled->setEnabled(false);
     page->addSample(QStringLiteral("disabled"), disabled);
+    page->addSample(QStringLiteral("vertical"), createScrollBar(Qt::Vertical, 300, 140));
     return page;
 }

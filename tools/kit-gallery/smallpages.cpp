@@ -125,6 +125,8 @@ GalleryPage *createClickableLabelPage()
     auto *page = new GalleryPage(QStringLiteral("ClickableLabel"));
     page->addRow(QStringLiteral("States"));
     page->addSample(QStringLiteral("normal"), new ClickableLabel(QStringLiteral("Bild wählen")));
+    page->addSample(QStringLiteral("hovered"), new ClickableLabel(QStringLiteral("Bild wählen")), State::Hovered);
+    page->addSample(QStringLiteral("pressed"), new ClickableLabel(QStringLiteral("Bild wählen")), State::Pressed);
     page->addSample(QStringLiteral("focused"), new ClickableLabel(QStringLiteral("Bild wählen")), State::Focused);
     auto *disabled = new ClickableLabel(QStringLiteral("Bild wählen"));
     disabled->setEnabled(false);
@@ -164,5 +166,8 @@ GalleryPage *createProgressIndicatorPage()
         page->addSample(QStringLiteral("%1 %").arg(percent), createIndicator(percent, 48));
     page->addSample(QStringLiteral("large"), createIndicator(75, 96));
     page->addSample(QStringLiteral("small"), createIndicator(ProgressIndicator::kTurning, 20));
+    ProgressIndicator *disabled = createIndicator(42, 48);
+    disabled->setEnabled(false);
+    page->addSample(QStringLiteral("disabled"), disabled);
     return page;
 }

@@ -1,0 +1,6 @@
+#pragma once
+
+class GalleryPage;
+
+[[nodiscard]] GalleryPage *createRipplePage();
+[[nodiscard]] GalleryPage *createOverlayPage();
