@@ -3,16 +3,16 @@
 #include "app/theme.h"
 #include "kit/qtmaterialflatbutton.h"
 #include "kit/qtmaterialraisedbutton.h"
+#include "kit/qtmaterialtextfield.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 namespace {
 
-constexpr int kWidth = 640;
+constexpr int kWidth = 760;
 constexpr int kLongestAddress = 253; // of a host name
 
 } // namespace
@@ -24,20 +24,21 @@ IPAddressDialog::IPAddressDialog(const QString &current, Validator isValid, QWid
     setObjectName(QStringLiteral("IPAddressDialog"));
     setWindowTitle(theme::applicationName);
     setStyleSheet(QStringLiteral("IPAddressDialog {background-color: %1;}"
-                                 "QLineEdit {font-size: 24px; min-height: 44px;}"
+                                 "QLineEdit {font-size: 24px;}"
                                  "QPushButton {font-size: 22px; min-height: 50px; min-width: 160px;}")
                       .arg(theme::colorBackground));
     auto *heading = new QLabel(tr("<b>Verbindung abgebrochen</b>"), this);
     heading->setStyleSheet(QStringLiteral("QLabel {font-size: 28px; color: %1;}").arg(theme::colorPrimary));
     auto *label = new QLabel(tr("Unter anderer IP-Adresse verbinden:"), this);
-    m_edit = new QLineEdit(current, this);
+    m_edit = new QtMaterialTextField(this);
+    m_edit->setText(current);
     m_edit->setObjectName(QStringLiteral("lineEditAddress"));
     m_edit->setMaxLength(kLongestAddress);
+    m_edit->setAccessibleName(label->text());
+    m_edit->setSupportReserved(true);
+    m_edit->setClearable(true);
     m_edit->selectAll();
     label->setBuddy(m_edit);
-    m_hint = new QLabel(this);
-    m_hint->setObjectName(QStringLiteral("labelAddressHint"));
-    m_hint->setStyleSheet(QStringLiteral("QLabel {font-size: 16px; color: #B00020;}"));
     m_ok = new QtMaterialRaisedButton(tr("&Verbinden"), this);
     m_ok->setObjectName(QStringLiteral("buttonOK"));
     m_ok->setDefault(true);
@@ -63,7 +64,6 @@ void IPAddressDialog::layOut(QLabel *heading, QLabel *label)
     column->addWidget(heading);
     column->addWidget(label);
     column->addWidget(m_edit);
-    column->addWidget(m_hint);
     column->addLayout(buttons);
     setMinimumWidth(kWidth);
 }
@@ -77,6 +77,6 @@ void IPAddressDialog::onTextChanged()
 {
     const bool valid = m_isValid ? m_isValid(address()) : !address().isEmpty();
     m_ok->setEnabled(valid);
-    m_hint->setText(valid ? QString()
-                          : tr("Bitte eine IPv4-Adresse (z. B. 192.168.4.1) oder einen Rechnernamen eingeben."));
+    m_edit->setErrorText(valid ? QString()
+                               : tr("Bitte eine IPv4-Adresse (z. B. 192.168.4.1) oder einen Rechnernamen eingeben."));
 }

@@ -5,8 +5,8 @@
 #include <functional>
 
 class QLabel;
-class QLineEdit;
 class QPushButton;
+class QtMaterialTextField;
 
 /// Asks for another address after a connection broke or failed. Can be accepted only while the text is valid.
 class IPAddressDialog : public QDialog
@@ -27,8 +27,7 @@ private:
     void layOut(QLabel *heading, QLabel *label);
 
     Validator m_isValid;
-    QLineEdit *m_edit = nullptr;
-    QLabel *m_hint = nullptr;
+    QtMaterialTextField *m_edit = nullptr;
     QPushButton *m_ok = nullptr;
     QPushButton *m_cancel = nullptr;
 };

@@ -2,6 +2,7 @@
 
 #include "kit/qtmaterialflatbutton.h"
 #include "kit/qtmaterialraisedbutton.h"
+#include "kit/qtmaterialtextfield.h"
 #include "view/inputhistory.h"
 #include "view/logging.h"
 #include "view/ringbuffer.h"
@@ -46,7 +47,7 @@ struct TabTerminal::Private
     RingBuffer<TerminalLine> pending{TabTerminal::kMaximumLines};
     InputHistory history;
     StreamEdit *edit = nullptr;
-    QLineEdit *input = nullptr;
+    QtMaterialTextField *input = nullptr;
     QLabel *prompt = nullptr;
     QPushButton *send = nullptr;
     QPushButton *clear = nullptr;
@@ -95,9 +96,10 @@ TabTerminal::TabTerminal(QWidget *parent)
     d->edit->setObjectName(QStringLiteral("editTerminal"));
     d->edit->setStyleSheet(tabstyle::fixedPitchSheet());
     d->edit->setSource([this] { return d->takePending(); });
-    d->input = new QLineEdit(this);
+    d->input = new QtMaterialTextField(this);
     d->input->setObjectName(QStringLiteral("lineEditTerminal"));
     d->input->setMaxLength(kLongestInput);
+    d->input->setClearable(true);
     d->input->installEventFilter(this);
     d->prompt = new QLabel(this);
     d->prompt->setBuddy(d->input);
