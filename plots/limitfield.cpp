@@ -77,7 +77,7 @@ std::optional<double> LimitField::limit() const
 void LimitField::setTitle(const QString &title)
 {
     m_switch->setText(title);
-    m_spinBox->setAccessibleName(title);
+    m_spinBox->setAccessibleName(QString(title).remove(QLatin1Char('&')));
 }
 
 void LimitField::setUnit(const QString &unit)

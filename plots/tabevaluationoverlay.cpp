@@ -249,8 +249,8 @@ void TabEvaluationOverlay::showStatus()
     m_status->setText(text);
     const int current = currentShot();
     m_buttonReference->setEnabled(current >= 0);
-    m_buttonReference->setText(current >= 0 && current == referenceShot() ? tr("Referenz aufheben")
-                                                                          : tr("Als Referenz"));
+    m_buttonReference->setText(current >= 0 && current == referenceShot() ? tr("&Referenz aufheben")
+                                                                          : tr("Als &Referenz"));
     m_buttonAll->setEnabled(count > 0);
     m_buttonNone->setEnabled(count > 0);
 }

@@ -192,13 +192,13 @@ void TabEvaluationOverlay::retranslateUi()
     retranslateAlignments();
     m_spinBoxThreshold->setToolTip(tr("Schwelle in der Einheit des Sensors"));
     m_spinBoxThreshold->setAccessibleName(m_spinBoxThreshold->toolTip());
-    m_checkMean->setText(tr("Mittelwert"));
+    m_checkMean->setText(tr("&Mittelwert"));
     m_checkMean->setToolTip(tr("Mittelwert der gezeigten Kurven"));
-    m_checkBand->setText(tr("Band ±"));
+    m_checkBand->setText(tr("&Band ±"));
     m_checkBand->setToolTip(tr("Streuung der gezeigten Kurven um ihren Mittelwert"));
     m_spinBoxSigmas->setAccessibleName(tr("Breite des Bandes in Sigma"));
-    m_buttonAll->setText(tr("Alle zeigen"));
-    m_buttonNone->setText(tr("Keine zeigen"));
+    m_buttonAll->setText(tr("&Alle zeigen"));
+    m_buttonNone->setText(tr("&Keine zeigen"));
     m_table->setAccessibleName(tr("Schüsse der Überlagerung"));
     m_tableModel->retranslate();
     showStatus();

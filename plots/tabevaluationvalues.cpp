@@ -286,10 +286,10 @@ void TabEvaluationValues::retranslateUi()
 {
     m_labelQuantity->setText(tr("Größe"));
     m_quantityBox->setAccessibleName(tr("Dargestellte Größe"));
-    m_buttonQuantities->setText(tr("Spalten..."));
+    m_buttonQuantities->setText(tr("&Spalten..."));
     m_buttonQuantities->setToolTip(tr("Größen der Tabelle wählen"));
-    m_lowerLimit->setTitle(tr("Untere Grenze"));
-    m_upperLimit->setTitle(tr("Obere Grenze"));
+    m_lowerLimit->setTitle(tr("&Untere Grenze"));
+    m_upperLimit->setTitle(tr("&Obere Grenze"));
     m_table->setAccessibleName(tr("Werte der Schüsse"));
     m_chart->setAccessibleName(tr("Verlauf über die Schüsse"));
     m_bell->setAccessibleName(tr("Normalverteilung"));

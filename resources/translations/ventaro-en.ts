@@ -1670,12 +1670,12 @@ Identification of this computer:
         <translation>%1 of %2 shown</translation>
     </message>
     <message>
-        <source>Referenz aufheben</source>
-        <translation>Clear reference</translation>
+        <source>&amp;Referenz aufheben</source>
+        <translation>Clear &amp;reference</translation>
     </message>
     <message>
-        <source>Als Referenz</source>
-        <translation>As reference</translation>
+        <source>Als &amp;Referenz</source>
+        <translation>As &amp;reference</translation>
     </message>
     <message>
         <source>%1 ohne Durchgang</source>
@@ -1698,28 +1698,28 @@ Identification of this computer:
         <translation>Threshold in the sensor&apos;s unit</translation>
     </message>
     <message>
-        <source>Mittelwert</source>
-        <translation>Mean</translation>
+        <source>&amp;Mittelwert</source>
+        <translation>&amp;Mean</translation>
     </message>
     <message>
         <source>Mittelwert der gezeigten Kurven</source>
         <translation>Mean of the curves shown</translation>
     </message>
     <message>
-        <source>Band ±</source>
-        <translation>Band ±</translation>
+        <source>&amp;Band ±</source>
+        <translation>&amp;Band ±</translation>
     </message>
     <message>
         <source>Streuung der gezeigten Kurven um ihren Mittelwert</source>
         <translation>Scatter of the curves shown around their mean</translation>
     </message>
     <message>
-        <source>Alle zeigen</source>
-        <translation>Show all</translation>
+        <source>&amp;Alle zeigen</source>
+        <translation>Show &amp;all</translation>
     </message>
     <message>
-        <source>Keine zeigen</source>
-        <translation>Show none</translation>
+        <source>&amp;Keine zeigen</source>
+        <translation>Show &amp;none</translation>
     </message>
     <message>
         <source>Schüsse der Überlagerung</source>
@@ -1812,20 +1812,20 @@ Identification of this computer:
         <translation>Displayed quantity</translation>
     </message>
     <message>
-        <source>Spalten...</source>
-        <translation>Columns...</translation>
+        <source>&amp;Spalten...</source>
+        <translation>&amp;Columns...</translation>
     </message>
     <message>
         <source>Größen der Tabelle wählen</source>
         <translation>Choose the quantities of the table</translation>
     </message>
     <message>
-        <source>Untere Grenze</source>
-        <translation>Lower limit</translation>
+        <source>&amp;Untere Grenze</source>
+        <translation>&amp;Lower limit</translation>
     </message>
     <message>
-        <source>Obere Grenze</source>
-        <translation>Upper limit</translation>
+        <source>&amp;Obere Grenze</source>
+        <translation>&amp;Upper limit</translation>
     </message>
     <message>
         <source>Werte der Schüsse</source>
