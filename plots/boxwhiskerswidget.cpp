@@ -2,6 +2,7 @@
 
 #include "app/theme.h"
 #include "plots/labelfont.h"
+#include "plots/localnumber.h"
 #include "plots/logging.h"
 
 #include <QPainter>
@@ -66,7 +67,7 @@ void drawLabel(QPainter &painter, const BoxPlotGeometry &geometry, int along, co
 
 QStaticText labelText(double value, const QFont &font)
 {
-    QStaticText text(QString::number(value, 'g', 6));
+    QStaticText text(localNumber(value, 'g', 6));
     text.setTextFormat(Qt::PlainText);
     text.prepare(QTransform(), font);
     return text;

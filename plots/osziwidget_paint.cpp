@@ -1,3 +1,4 @@
+#include "plots/localnumber.h"
 #include "plots/logging.h"
 #include "plots/oszipainter.h"
 #include "plots/osziwidget_p.h"
@@ -129,7 +130,7 @@ void OsziWidget::showMouseMarker(int x)
     const int y = std::clamp(scene.geometry.yOfValue(value), -kHairLineHalf, height() + kHairLineHalf);
     d->hairLine->move(x, y - kHairLineHalf);
     d->hairLine->show();
-    d->mouseReadOut->setText(QString::number(value, 'g', 6));
+    d->mouseReadOut->setText(localNumber(value, 'g', 6));
     d->mouseReadOut->adjustSize();
     d->mouseReadOut->move(readOutPlace({x, y}, d->mouseReadOut->size(), size()));
     d->mouseReadOut->show();

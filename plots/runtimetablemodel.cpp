@@ -1,6 +1,7 @@
 #include "plots/runtimetablemodel.h"
 
 #include "app/theme.h"
+#include "plots/localnumber.h"
 
 #include <algorithm>
 
@@ -26,7 +27,7 @@ std::optional<double> numberIn(const RuntimeRow &row, int column)
 
 QString figure(double value)
 {
-    return QString::number(value, 'g', 6);
+    return localNumber(value, 'g', 6);
 }
 
 std::optional<statistics::Moments> momentsOf(const std::vector<RuntimeRow> &rows, int column)
