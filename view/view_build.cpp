@@ -305,6 +305,7 @@ void View::Private::retranslate()
         tabs->setTabToolTip(i, QStringLiteral("%1 (%2)").arg(titles[i], tabKey(i).toString(QKeySequence::NativeText)));
     }
     toolBar->setWindowTitle(tr("Werkzeugleiste"));
+    toolBar->setAccessibleName(toolBar->windowTitle()); // Qt's own keeps the first title
     actions.retranslate();
     actions.nameToolButtons();
     languages.retranslateUi();
