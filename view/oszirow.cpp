@@ -69,6 +69,7 @@ void OsziRow::createBoxes(QWidget *params)
 {
     const QString number = QString::number(m_position + 1);
     m_title = new ElidedLabel(6, 14, params);
+    m_title->setElideMode(Qt::ElideMiddle); // the unit stands at the end
     m_title->setObjectName(QStringLiteral("osziTitle"));
     m_rangeCaption = new QLabel(params);
     m_autoCaption = new QLabel(params);

@@ -10,6 +10,8 @@
 #include <QToolTip>
 #include <QWheelEvent>
 
+#include <algorithm>
+
 namespace {
 
 /// Room for the two step buttons at the sides and the frame.
@@ -115,13 +117,17 @@ ElidedLabel::ElidedLabel(int minimumCharacters, int maximumCharacters, QWidget *
 
 QSize ElidedLabel::sizeHint() const
 {
-    const int wanted = fontMetrics().horizontalAdvance(text()) + 2;
-    return {qBound(widthOf(m_minimumCharacters), wanted, widthOf(m_maximumCharacters)), QLabel::sizeHint().height()};
+    return {std::min(textWidth(), widthOf(m_maximumCharacters)), QLabel::sizeHint().height()};
 }
 
 QSize ElidedLabel::minimumSizeHint() const
 {
-    return {widthOf(m_minimumCharacters), QLabel::minimumSizeHint().height()};
+    return {std::min(textWidth(), widthOf(m_minimumCharacters)), QLabel::minimumSizeHint().height()};
+}
+
+int ElidedLabel::textWidth() const
+{
+    return fontMetrics().horizontalAdvance(text()) + 2;
 }
 
 int ElidedLabel::widthOf(int characters) const
@@ -135,7 +141,7 @@ void ElidedLabel::paintEvent(QPaintEvent *event)
     QPainter painter(this);
     QStyleOption option;
     option.initFrom(this);
-    const QString elided = fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
+    const QString elided = fontMetrics().elidedText(text(), m_elideMode, contentsRect().width());
     style()->drawItemText(&painter, contentsRect(), int(alignment()), option.palette, isEnabled(), elided,
                           foregroundRole());
 }

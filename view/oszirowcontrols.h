@@ -52,8 +52,11 @@ class ElidedLabel : public QLabel
     Q_OBJECT
 
 public:
-    /// Never narrower than minimumCharacters, never asks for more than maximumCharacters.
+    /// Never narrower than minimumCharacters or its text, never asks for more than maximumCharacters.
     ElidedLabel(int minimumCharacters, int maximumCharacters, QWidget *parent = nullptr);
+
+    /// Where the ellipsis stands; at the right unless this is set.
+    void setElideMode(Qt::TextElideMode mode) { m_elideMode = mode; }
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
@@ -67,8 +70,10 @@ protected:
     bool event(QEvent *event) override;
 
 private:
+    [[nodiscard]] int textWidth() const;
     [[nodiscard]] int widthOf(int characters) const;
 
     int m_minimumCharacters;
     int m_maximumCharacters;
+    Qt::TextElideMode m_elideMode = Qt::ElideRight;
 };

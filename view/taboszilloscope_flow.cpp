@@ -2,6 +2,22 @@
 
 #include <algorithm>
 
+namespace {
+
+bool takesMore(const QLayoutItem &item)
+{
+    return item.expandingDirections().testFlag(Qt::Horizontal);
+}
+
+/// What an item has to have; one that takes more can do with less than it would like.
+int leastWidth(const QLayoutItem &item)
+{
+    const int wanted = item.sizeHint().width();
+    return takesMore(item) ? std::min(item.minimumSize().width(), wanted) : wanted;
+}
+
+} // namespace
+
 FlowLayout::FlowLayout(int horizontalGap, int verticalGap, QWidget *parent)
     : QLayout(parent)
     , m_horizontalGap(horizontalGap)
@@ -36,13 +52,14 @@ QVector<FlowLayout::Line> FlowLayout::linesFor(int width) const
     for (QLayoutItem *item : m_items) {
         if (item->isEmpty())
             continue;
-        const QSize size = item->sizeHint();
-        const bool fits = !lines.isEmpty() && lines.last().width + m_horizontalGap + size.width() <= width;
+        const int least = leastWidth(*item);
+        const bool fits = !lines.isEmpty() && lines.last().width + m_horizontalGap + least <= width;
         if (!fits)
             lines.append(Line());
         Line &line = lines.last();
-        line.width += size.width() + (fits ? m_horizontalGap : 0);
-        line.height = std::max(line.height, size.height());
+        line.width += least + (fits ? m_horizontalGap : 0);
+        line.wishes += item->sizeHint().width() - least;
+        line.height = std::max(line.height, item->sizeHint().height());
         line.items.append(item);
     }
     return lines;
@@ -61,7 +78,7 @@ QSize FlowLayout::sizeHint() const
 {
     int width = 0;
     for (const QLayoutItem *item : m_items)
-        width = std::max(width, item->isEmpty() ? 0 : item->sizeHint().width());
+        width = std::max(width, item->isEmpty() ? 0 : leastWidth(*item));
     return {width, heightForWidth(std::max(width, geometry().width()))};
 }
 
@@ -86,13 +103,19 @@ void FlowLayout::place(const Line &line, QRect area) const
 {
     const int gaps = static_cast<int>(line.items.size()) - 1;
     const int spare = std::max(area.width() - line.width, 0);
+    const int granted = std::min(spare, line.wishes); // the rest is shared
+    const int rest = spare - granted;
     int x = area.left();
+    int wishes = 0;
     for (int i = 0; i < line.items.size(); ++i) {
         QLayoutItem *item = line.items.at(i);
-        const int width = std::min(item->sizeHint().width(), area.width());
-        const int share = i < gaps ? spare * (i + 1) / gaps - spare * i / gaps : 0;
-        const int taken = item->expandingDirections().testFlag(Qt::Horizontal) ? share : 0;
-        item->setGeometry(QRect(x, area.top(), width + taken, area.height()));
+        const int least = leastWidth(*item);
+        const int before = line.wishes > 0 ? wishes * granted / line.wishes : 0;
+        wishes += item->sizeHint().width() - least;
+        const int grant = line.wishes > 0 ? wishes * granted / line.wishes - before : 0;
+        const int width = std::min(least + grant, area.width());
+        const int share = i < gaps ? rest * (i + 1) / gaps - rest * i / gaps : 0;
+        item->setGeometry(QRect(x, area.top(), width + (takesMore(*item) ? share : 0), area.height()));
         x += width + m_horizontalGap + share;
     }
 }

@@ -4,8 +4,9 @@
 #include <QVector>
 
 /// Lays groups of controls out in lines from left to right and breaks a line where the next group does not fit, so
-/// that the same controls serve a narrow window in several lines and a wide one in few. What remains of a line goes
-/// to its groups in equal shares between them.
+/// that the same controls serve a narrow window in several lines and a wide one in few. Groups that expand count with
+/// their smallest width there. What remains of a line goes first to those that would like more, then in equal shares
+/// between the groups.
 class FlowLayout : public QLayout
 {
     Q_OBJECT
@@ -29,7 +30,8 @@ private:
     struct Line
     {
         QVector<QLayoutItem *> items;
-        int width = 0; ///< of the items and the gaps between them
+        int width = 0;  ///< of the items at their least and the gaps between them
+        int wishes = 0; ///< what the items would like beyond that
         int height = 0;
     };
 

@@ -26,6 +26,7 @@ namespace {
 
 constexpr int kGap = 4;
 constexpr int kGroupGap = 14;
+constexpr int kHeadGap = 6; // five names and the correction are many for one line
 constexpr int kLineGap = 2; // the plots need the height
 constexpr int kLargestSeconds = std::numeric_limits<int>::max() / 1000;
 const int kLargestMilliseconds = 24 * 60 * 60 * 1000;
@@ -153,9 +154,10 @@ QWidget *TabOszilloscope::Private::createHead()
     auto *head = new QWidget(q);
     auto *line = new QHBoxLayout(head);
     line->setContentsMargins(0, 0, 0, 0);
-    line->setSpacing(kGroupGap);
+    line->setSpacing(kHeadGap);
     auto *groups = new QWidget(head);
-    auto *flow = new FlowLayout(kGroupGap, kGap, groups);
+    groups->setStyleSheet(QStringLiteral("ElidedLabel {font-size: 15px;}"));
+    auto *flow = new FlowLayout(kHeadGap, kGap, groups);
     for (int position = 0; position < kNumSensors; ++position)
         flow->addWidget(createSensorSwitch(position, groups));
     flow->addWidget(createYCorrection(groups));
@@ -171,11 +173,12 @@ QWidget *TabOszilloscope::Private::createSensorSwitch(int position, QWidget *par
     auto *group = new QWidget(parent);
     SensorSwitch &made = sensors.at(static_cast<size_t>(position));
     made.box = createBareCheckBox(QStringLiteral("sensor%1CheckBox").arg(number), true, group);
-    made.label = new ElidedLabel(6, 11, group);
+    made.label = new ElidedLabel(11, 30, group);
     made.label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     made.label->setObjectName(QStringLiteral("sensor%1Label").arg(number));
     connect(made.label, &ElidedLabel::clicked, made.box, &QCheckBox::click);
     QHBoxLayout *layout = groupLayout(group);
+    layout->setSpacing(0); // the box ends in a gap of its own
     layout->addWidget(made.box);
     layout->addWidget(made.label);
     return group;
