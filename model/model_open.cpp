@@ -114,6 +114,7 @@ struct Model::OpenedProject
 {
     QVariantMap fields;
     std::array<QPixmap, kNumImages> images;
+    std::array<EncodedImage, kNumImages> encodedImages;
     std::array<std::optional<Channel>, kNumSensors> channels;
 };
 
@@ -151,7 +152,9 @@ std::optional<Model::OpenedProject> Model::readFile(QFile &file)
         OpenedProject project;
         for (int image = 0; image < kNumImages; ++image) {
             const QVariant base64 = content->fields.take(imageKey(image));
-            project.images[at(image)] = fromPng(QByteArray::fromBase64(toText(base64).toLatin1()));
+            const QByteArray png = QByteArray::fromBase64(toText(base64).toLatin1());
+            project.images[at(image)] = fromPng(png);
+            project.encodedImages[at(image)].remember(project.images[at(image)], png);
             pacer.moveTo(file.size());
         }
         project.fields = content->fields;
@@ -175,6 +178,7 @@ void Model::apply(OpenedProject &project, const QString &absolutePath)
     applyDescription(fields);
     m_currentFile = absolutePath;
     m_images = project.images;
+    m_encodedImages = std::move(project.encodedImages);
     if (version.toInt() < kCurrentFileVersion) // 0 for what is no integer
         useDistanceSensors();
     for (std::size_t sensor = 0; sensor < project.channels.size(); ++sensor)

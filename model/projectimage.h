@@ -11,6 +11,8 @@ class EncodedImage
 {
 public:
     [[nodiscard]] QByteArray png(const QPixmap &image);
+    /// The PNG that the picture was read from, so that it is written back as it was.
+    void remember(const QPixmap &image, QByteArray png);
 
 private:
     qint64 m_key = 0; ///< of the picture; that of a null one is 0

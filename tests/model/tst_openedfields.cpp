@@ -154,9 +154,11 @@ private slots:
         QFETCH(QSize, size);
         writeFile(path("image.vnt"), "{\"projectImage4\":" + json + "}");
         const LogCapture log;
-        const Model model(path("image.vnt"));
+        Model model(path("image.vnt"));
         QCOMPARE(model.currentFile(), path("image.vnt"));
         QCOMPARE(model.image(4).size(), size.isValid() ? size : QSize(0, 0));
+        QVERIFY(model.save(path("again.vnt")));
+        QCOMPARE(contentOf(path("again.vnt")).contains(json), size.isValid());
     }
 
 private:
