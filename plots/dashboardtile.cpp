@@ -8,6 +8,7 @@
 
 #include <QEvent>
 #include <QPainter>
+#include <QTextDocument>
 
 #include <algorithm>
 
@@ -130,7 +131,7 @@ void DashboardTile::describe()
         m_content.limits.isEmpty()
             ? tr("Schüsse: %1").arg(m_content.count)
             : tr("Gut: %1, außerhalb: %2").arg(m_content.count - m_content.outside).arg(m_content.outside));
-    setToolTip(m_content.sensor + QLatin1Char('\n') + m_content.quantity);
+    setToolTip(Qt::convertFromPlainText(m_content.sensor + QLatin1Char('\n') + m_content.quantity));
 }
 
 QSize DashboardTile::sizeHint() const

@@ -7,6 +7,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QScreen>
+#include <QTextDocument>
 
 #include <algorithm>
 
@@ -134,8 +135,9 @@ void QuantityPicker::retranslateUi()
         QLabel *title = m_columnTitles[static_cast<std::size_t>(phase)];
         const QString given = m_phaseNames.value(phase - 1).simplified();
         const QString name = given.isEmpty() ? tr("Phase %1").arg(phase) : given;
+        title->setTextFormat(Qt::PlainText);
         title->setText(title->fontMetrics().elidedText(name, Qt::ElideRight, kColumnWidth));
-        title->setToolTip(name);
+        title->setToolTip(Qt::convertFromPlainText(name));
     }
     for (int i = 0; i < m_boxes.size(); ++i) {
         const Quantity &quantity = Quantity::all().at(i);

@@ -6,6 +6,7 @@
 
 #include <QButtonGroup>
 #include <QHBoxLayout>
+#include <QTextDocument>
 
 #include <algorithm>
 
@@ -52,7 +53,7 @@ void SensorSelection::showSensors(const Model *model)
         ColoredButton *button = m_buttons[static_cast<std::size_t>(sensor)];
         const QString name = sensorNameOf(model, sensor);
         button->setText(QString(name).replace(QLatin1Char('&'), QLatin1String("&&"))); // no keyboard shortcut
-        button->setToolTip(name);
+        button->setToolTip(Qt::convertFromPlainText(name));
         button->setAccessibleName(name);
         if (model)
             button->setColor(model->color(sensor));

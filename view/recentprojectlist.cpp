@@ -15,6 +15,7 @@
 #include <QLabel>
 #include <QLocale>
 #include <QPushButton>
+#include <QTextDocument>
 
 namespace {
 
@@ -108,7 +109,7 @@ void RecentProjectList::fill(const Row &row, const QString &file) const
     const bool isThere = remote || info.isFile();
     const QString state = remote ? tr("Netzlaufwerk") : isThere ? dateText(info.lastModified()) : tr("nicht gefunden");
     row.open->setEntry(info.completeBaseName(), QDir::toNativeSeparators(info.path()), state);
-    row.open->setToolTip(QDir::toNativeSeparators(file));
+    row.open->setToolTip(Qt::convertFromPlainText(QDir::toNativeSeparators(file))); // may hold what looks like a tag
     row.open->setEnabled(isThere);
     row.remove->setVisible(remote || !isThere);
     const QString removal = tr("Aus der Liste entfernen");
