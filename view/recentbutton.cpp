@@ -15,7 +15,7 @@ constexpr int kMargin = 10;
 constexpr int kTwoLines = 44;
 constexpr int kOneLine = 40;
 constexpr int kPreferredWidth = 320;
-constexpr int kSmallestWidth = 160;
+constexpr int kSmallestWidth = 110;
 constexpr int kGap = 16;
 constexpr int kLargeType = 18; // pixels
 constexpr int kSmallType = 15; // pixels
@@ -82,6 +82,12 @@ void RecentButton::keyPressEvent(QKeyEvent *event)
         QPushButton::keyPressEvent(event);
 }
 
+/// A double click counts once: by the second one, the list may have another entry here.
+void RecentButton::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    event->accept();
+}
+
 QFont RecentButton::titleFont() const
 {
     QFont result = font();
@@ -118,8 +124,10 @@ void RecentButton::paintTexts(QPainter &painter, QRect room) const
         line.setHeight(room.height() * 6 / 11);
     painter.setFont(smallFont());
     painter.setPen(faint);
-    const int remarkWidth = m_remark.isEmpty() ? 0 : smallMetrics.horizontalAdvance(m_remark) + kGap;
-    painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, m_remark);
+    const int wantedWidth = m_remark.isEmpty() ? 0 : smallMetrics.horizontalAdvance(m_remark) + kGap;
+    const int remarkWidth = wantedWidth > line.width() / 2 ? 0 : wantedWidth; // the title has more to say
+    if (remarkWidth > 0)
+        painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, m_remark);
     if (!m_detail.isEmpty()) {
         const QRect below = room.adjusted(0, line.height(), 0, 0);
         painter.drawText(below, Qt::AlignLeft | Qt::AlignVCenter,
@@ -128,6 +136,6 @@ void RecentButton::paintTexts(QPainter &painter, QRect room) const
     painter.setFont(titleFont());
     painter.setPen(isEnabled() ? theme::qColorPrimary : faint);
     const int titleWidth = std::max(0, line.width() - remarkWidth);
-    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter,
+    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip,
                      titleMetrics.elidedText(m_title, Qt::ElideMiddle, titleWidth));
 }
