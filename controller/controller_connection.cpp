@@ -161,6 +161,8 @@ void Controller::onConnected()
         showDemoState();
     else
         d->view->rememberAddress(d->connector.hostAddress());
+    d->view->showStatus(d->demo.isActive() ? tr("Die Demo läuft.")
+                                           : tr("Verbunden mit %1.").arg(d->connector.hostAddress()));
     d->connector.setClock(QStringLiteral("100ms"));
     d->boxClock = 100;
     if (d->model->clock() != 100)
