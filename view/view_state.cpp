@@ -15,9 +15,11 @@
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
 #include <QAction>
+#include <QDir>
 #include <QFileInfo>
 #include <QLabel>
 #include <QPointer>
+#include <QTextDocument>
 
 #include <array>
 
@@ -54,6 +56,15 @@ QString titleText(bool connected)
     const QString title = theme::applicationName + QLatin1String(" - ") + theme::applicationVersion + QLatin1Char(' ')
                           + theme::secondVersion;
     return connected ? title : title + QLatin1String(" (disconnected)");
+}
+
+/// What is written from right to left must not take along what follows it.
+QString isolated(const QString &name)
+{
+    constexpr QChar kFromLeft(0x200E);
+    constexpr QChar kIsolate(0x2068);
+    constexpr QChar kEndOfIsolate(0x2069);
+    return name.isRightToLeft() ? kFromLeft + QString(kIsolate) + name + kEndOfIsolate : name;
 }
 
 QStringList sensorNames(const SensorDescription &description)
@@ -246,11 +257,12 @@ void View::Private::refreshFileLabel()
     const QString mark = state.isEmpty() ? QString() : QStringLiteral(" – ") + state;
     const QFontMetrics metrics = fileLabel->fontMetrics();
     const int nameWidth = kLongestFileText - metrics.horizontalAdvance(mark);
-    const QString text = metrics.elidedText(name, Qt::ElideMiddle, nameWidth) + mark;
-    if (text == fileLabel->text() && file == fileLabel->toolTip())
+    const QString text = isolated(metrics.elidedText(name, Qt::ElideMiddle, nameWidth)) + mark;
+    const QString tip = file.isEmpty() ? QString() : Qt::convertFromPlainText(QDir::toNativeSeparators(file));
+    if (text == fileLabel->text() && tip == fileLabel->toolTip())
         return;
     fileLabel->setText(text);
-    fileLabel->setToolTip(file);
+    fileLabel->setToolTip(tip); // a name may hold what looks like a tag
     // A bold type is wider; it comes with the text, so that the bar is laid out once.
     fileLabel->setStyleSheet(modified ? QStringLiteral("QLabel {font-weight: bold; color: %1;}").arg(kModifiedColor)
                                       : QString());
