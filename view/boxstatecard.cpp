@@ -7,6 +7,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
+#include <QTextDocument>
 
 namespace {
 
@@ -54,16 +55,17 @@ BoxStateCard::BoxStateCard(QWidget *parent)
     m_demo->setWordWrap(true);
     m_demo->setStyleSheet(QStringLiteral("QLabel {background-color: #FFE9B8; border-radius: 4px; padding: 4px 10px;"
                                          " font-size: 16px;}"));
-    auto *grid = new QGridLayout(this);
-    grid->setContentsMargins(0, 0, 0, 0);
-    grid->setHorizontalSpacing(20);
-    grid->setVerticalSpacing(0);
-    grid->addLayout(createHead(), 0, 0, 1, 2);
-    grid->addWidget(m_demo, 1, 0, 1, 2);
+    m_grid = new QGridLayout(this);
+    m_grid->setContentsMargins(0, 0, 0, 0);
+    m_grid->setHorizontalSpacing(20);
+    m_grid->setVerticalSpacing(0);
+    m_grid->addLayout(createHead(), 0, 0, 1, 2);
+    m_grid->addWidget(m_demo, 1, 0, 1, 2);
     for (int i = 0; i < NumFacts; ++i)
-        createFact(grid, i);
-    grid->setColumnStretch(1, 1);
-    grid->setRowStretch(NumFacts + 2, 1);
+        createFact(i);
+    placeFacts(false);
+    m_grid->setColumnStretch(1, 1);
+    m_grid->setRowStretch(2 * NumFacts + 2, 1);
 }
 
 QHBoxLayout *BoxStateCard::createHead()
@@ -72,6 +74,7 @@ QHBoxLayout *BoxStateCard::createHead()
     m_dot->setFixedSize(kDotSize, kDotSize);
     m_state = new QLabel(this);
     m_state->setObjectName(QStringLiteral("labelHomeState"));
+    m_state->setWordWrap(true);
     m_state->setStyleSheet(QStringLiteral("QLabel {font: bold 22px; color: %1;}").arg(theme::colorPrimary));
     auto *head = new QHBoxLayout;
     head->setSpacing(10);
@@ -80,20 +83,37 @@ QHBoxLayout *BoxStateCard::createHead()
     return head;
 }
 
-void BoxStateCard::createFact(QGridLayout *grid, int index)
+void BoxStateCard::createFact(int index)
 {
     auto *name = new QLabel(this);
-    name->setStyleSheet(QStringLiteral("QLabel {min-height: 26px;}"));
+    name->setStyleSheet(QStringLiteral("QLabel {min-height: 24px;}"));
     auto *value = new QLabel(this);
     value->setObjectName(QStringLiteral("labelHomeFact%1").arg(index + 1));
     value->setTextFormat(Qt::PlainText);
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);
     value->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    value->setStyleSheet(QStringLiteral("QLabel {font-weight: bold; min-height: 26px;}"));
-    grid->addWidget(name, index + 2, 0);
-    grid->addWidget(value, index + 2, 1);
+    value->setStyleSheet(QStringLiteral("QLabel {font-weight: bold; min-height: 24px;}"));
     m_names[static_cast<std::size_t>(index)] = name;
     m_values[static_cast<std::size_t>(index)] = value;
+}
+
+void BoxStateCard::setStacked(bool stacked)
+{
+    for (std::size_t i = 0; i < NumFacts; ++i) {
+        m_grid->removeWidget(m_names[i]);
+        m_grid->removeWidget(m_values[i]);
+    }
+    placeFacts(stacked);
+}
+
+void BoxStateCard::placeFacts(bool stacked)
+{
+    int row = 2;
+    for (std::size_t i = 0; i < NumFacts; ++i) {
+        m_grid->addWidget(m_names[i], row, 0, 1, stacked ? 2 : 1);
+        m_grid->addWidget(m_values[i], stacked ? row + 1 : row, stacked ? 0 : 1, 1, stacked ? 2 : 1);
+        row += 2;
+    }
 }
 
 void BoxStateCard::showState(const Model &model, const BoxLink &link)
@@ -133,7 +153,8 @@ void BoxStateCard::showFacts(const Texts &values)
     for (std::size_t i = 0; i < NumFacts; ++i) {
         setTextOf(m_names[i], names[i]);
         setTextOf(m_values[i], values[i]);
-        m_values[i]->setToolTip(values[i] == kUnknown ? QString() : values[i]);
+        // What the box sent may hold what looks like a tag.
+        m_values[i]->setToolTip(values[i] == kUnknown ? QString() : Qt::convertFromPlainText(values[i]));
         m_names[i]->setVisible(!values[i].isEmpty());
         m_values[i]->setVisible(!values[i].isEmpty());
     }

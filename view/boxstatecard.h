@@ -28,18 +28,22 @@ public:
 
     /// Shows the state as it is now. Cheap enough for every update of the start page.
     void showState(const Model &model, const BoxLink &link);
+    /// Whether the values stand below their names instead of beside them.
+    void setStacked(bool stacked);
 
 private:
     enum Fact { Address, Device, Name, Hardware, Firmware, Period, Sensors, Shots, NumFacts };
     using Texts = std::array<QString, NumFacts>;
 
     [[nodiscard]] QHBoxLayout *createHead();
-    void createFact(QGridLayout *grid, int index);
+    void createFact(int index);
+    void placeFacts(bool stacked);
     void showLink(bool connected, const BoxLink &link);
     void showFacts(const Texts &values);
     [[nodiscard]] static Texts factTexts(const Model &model, const BoxLink &link);
     [[nodiscard]] static Texts factNames();
 
+    QGridLayout *m_grid = nullptr;
     QLabel *m_dot = nullptr;
     QLabel *m_state = nullptr;
     QLabel *m_demo = nullptr;

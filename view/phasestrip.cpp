@@ -31,10 +31,9 @@ PhaseStrip::PhaseStrip(QWidget *parent)
     : QWidget(parent)
 {
     static_assert(kNumPhases == Model::kNumPhases);
-    auto *grid = new QGridLayout(this);
-    grid->setContentsMargins(kGap / 2, kBand + 2, kGap / 2, 4);
-    grid->setHorizontalSpacing(kGap);
-    grid->setVerticalSpacing(2);
+    m_row = new QHBoxLayout(this);
+    m_row->setContentsMargins(0, 0, 0, 0);
+    m_row->setSpacing(0);
     for (int phase = 0; phase < kNumPhases; ++phase)
         addPhase(phase);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
@@ -59,10 +58,12 @@ void PhaseStrip::addPhase(int phase)
     auto *head = new QHBoxLayout;
     head->addWidget(m_numbers[i]);
     head->addWidget(m_times[i], 1);
-    auto *grid = static_cast<QGridLayout *>(layout());
-    grid->addLayout(head, 0, phase);
-    grid->addWidget(m_names[i], 1, phase);
-    grid->setColumnStretch(phase, 1);
+    m_cells[i] = new QVBoxLayout;
+    m_cells[i]->setContentsMargins(kGap / 2, kBand + 2, kGap / 2, 4);
+    m_cells[i]->setSpacing(2);
+    m_cells[i]->addLayout(head);
+    m_cells[i]->addWidget(m_names[i]);
+    m_row->addLayout(m_cells[i], 1);
     connect(m_names[i], &QLineEdit::textEdited, this,
             [this, phase](const QString &name) { emit nameEdited(phase, name); });
 }
@@ -79,6 +80,12 @@ void PhaseStrip::showFrom(const Model &model)
         return;
     m_ends = ends;
     showTimes();
+}
+
+void PhaseStrip::setDirection(QBoxLayout::Direction direction)
+{
+    m_row->setDirection(direction);
+    update();
 }
 
 void PhaseStrip::showTimes()
@@ -103,20 +110,23 @@ void PhaseStrip::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
 }
 
-/// The marker at which a phase ends is dashed as in the oscilloscope.
 void PhaseStrip::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
-    for (int phase = 0; phase < kNumPhases; ++phase) {
-        const QLineEdit *name = m_names[static_cast<std::size_t>(phase)];
-        const QRect area(name->x() - kGap / 2, 0, name->width() + kGap, height());
-        QColor color = phaseColor(phase);
-        painter.fillRect(area.left(), 0, area.width(), kBand, color);
-        if (phase < kNumPhases - 1) {
-            painter.setPen(QPen(color, 2.0, Qt::DashLine));
-            painter.drawLine(area.right() + 1, kBand, area.right() + 1, height());
-        }
-        color.setAlpha(kTint);
-        painter.fillRect(area.adjusted(0, kBand, 0, 0), color);
+    for (int phase = 0; phase < kNumPhases; ++phase)
+        paintPhase(painter, phase);
+}
+
+/// The marker at which a phase ends is dashed as in the oscilloscope.
+void PhaseStrip::paintPhase(QPainter &painter, int phase) const
+{
+    const QRect area = m_cells[static_cast<std::size_t>(phase)]->geometry();
+    QColor color = phaseColor(phase);
+    painter.fillRect(area.left(), area.top(), area.width(), kBand, color);
+    if (phase < kNumPhases - 1 && m_row->direction() == QBoxLayout::LeftToRight) {
+        painter.setPen(QPen(color, 2.0, Qt::DashLine));
+        painter.drawLine(area.right() + 1, area.top() + kBand, area.right() + 1, area.bottom() + 1);
     }
+    color.setAlpha(kTint);
+    painter.fillRect(area.adjusted(0, kBand, 0, 0), color);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QBoxLayout>
 #include <QWidget>
 
 #include <array>
@@ -19,6 +20,8 @@ public:
 
     /// Names and times from the model; emits nothing. A name that is being edited stays untouched where it is the same.
     void showFrom(const Model &model);
+    /// Left to right at first; top to bottom where there is little room.
+    void setDirection(QBoxLayout::Direction direction);
 
 signals:
     /// With every key, so that nothing typed is lost. Phase 0 to 4.
@@ -30,9 +33,12 @@ protected:
 
 private:
     void addPhase(int phase);
+    void paintPhase(QPainter &painter, int phase) const;
     void showTimes();
 
     static constexpr int kNumPhases = 5;
+    QBoxLayout *m_row = nullptr;
+    std::array<QBoxLayout *, kNumPhases> m_cells{}; ///< within the area of a phase
     std::array<QLineEdit *, kNumPhases> m_names{};
     std::array<QLabel *, kNumPhases> m_numbers{};
     std::array<QLabel *, kNumPhases> m_times{};

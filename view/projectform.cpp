@@ -23,6 +23,7 @@ constexpr int kLargestPressure = 10000; // bar
 constexpr double kLongestTime = 3600.0; // s
 constexpr int kTimeDecimals = 3;
 constexpr int kLongestText = 200; // characters
+constexpr int kNumberWidth = 236; // pixels
 
 enum Row { Name, Number, User, Date, Customer, Force, InjectionTime, PressTime, Pressure, NumRows };
 constexpr std::size_t kNumTexts = Customer + 1;
@@ -50,7 +51,9 @@ SpinBox *newNumberField(QWidget *parent, const char *name)
     auto *box = new SpinBox(parent);
     box->setObjectName(QLatin1String(name));
     box->setAlignment(Qt::AlignHCenter);
-    box->setStyleSheet(QStringLiteral("QAbstractSpinBox {min-width: 200px; min-height: 30px; padding: 2px;}"));
+    box->setStyleSheet(QStringLiteral("QAbstractSpinBox {min-width: 110px; min-height: 30px; padding: 2px;}"));
+    box->setMaximumWidth(kNumberWidth);
+    box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     box->setFocusPolicy(Qt::StrongFocus); // not by the wheel, see eventFilter()
     return box;
 }
@@ -160,7 +163,7 @@ void ProjectForm::Private::layOut(QWidget *form)
             layout->addRow(label, field(row));
         } else {
             auto *left = new QHBoxLayout;
-            left->addWidget(field(row));
+            left->addWidget(field(row), 100);
             left->addStretch(1);
             layout->addRow(label, left);
         }
@@ -191,6 +194,12 @@ ProjectForm::ProjectForm(QWidget *parent)
 }
 
 ProjectForm::~ProjectForm() = default;
+
+void ProjectForm::setStacked(bool stacked)
+{
+    static_cast<QFormLayout *>(layout())->setRowWrapPolicy(stacked ? QFormLayout::WrapAllRows
+                                                                   : QFormLayout::DontWrapRows);
+}
 
 void ProjectForm::setData(const ProjectData &data)
 {

@@ -17,6 +17,8 @@ public:
 
     /// Fills the fields; emits nothing. Numbers outside the range offered for typing are shown all the same.
     void setData(const ProjectData &data);
+    /// Whether the names stand above their fields instead of beside them.
+    void setStacked(bool stacked);
     /// What was set, with what the user edited since. A field that was not edited keeps its value exactly, even
     /// where it shows fewer digits.
     [[nodiscard]] ProjectData data() const;

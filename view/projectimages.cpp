@@ -19,18 +19,36 @@ ProjectImages::ProjectImages(QWidget *parent)
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(0); // the cards keep room for their shadows
-    for (int image = 0; image < Model::kNumImages; ++image) {
-        addTile(image);
-        // Two wide ones above three: what is photographed is mostly wider than high.
-        const bool isAbove = image < 2;
-        const int columns = isAbove ? 3 : 2;
-        grid->addWidget(m_tiles[static_cast<std::size_t>(image)], isAbove ? 0 : 1,
-                        isAbove ? 3 * image : 2 * (image - 2), 1, columns);
-    }
     for (int column = 0; column < kColumns; ++column)
         grid->setColumnStretch(column, 1);
-    for (int row = 0; row < 2; ++row)
-        grid->setRowStretch(row, 1);
+    for (int image = 0; image < Model::kNumImages; ++image)
+        addTile(image);
+    placeTiles();
+}
+
+void ProjectImages::setNarrow(bool narrow)
+{
+    if (narrow == m_narrow)
+        return;
+    m_narrow = narrow;
+    for (ImageTile *tile : m_tiles)
+        layout()->removeWidget(tile);
+    placeTiles();
+}
+
+void ProjectImages::placeTiles()
+{
+    auto *grid = static_cast<QGridLayout *>(layout());
+    for (int image = 0; image < Model::kNumImages; ++image) {
+        ImageTile *tile = m_tiles[static_cast<std::size_t>(image)];
+        // Two wide ones above three: what is photographed is mostly wider than high.
+        const bool isAbove = image < 2;
+        if (m_narrow)
+            grid->addWidget(tile, image, 0, 1, kColumns);
+        else
+            grid->addWidget(tile, isAbove ? 0 : 1, isAbove ? 3 * image : 2 * (image - 2), 1, isAbove ? 3 : 2);
+        grid->setRowStretch(image, m_narrow || image < 2 ? 1 : 0);
+    }
 }
 
 void ProjectImages::addTile(int image)

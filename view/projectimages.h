@@ -17,6 +17,8 @@ public:
 
     /// Pictures from the model; emits nothing.
     void showFrom(const Model &model);
+    /// Whether the pictures stand one below the other.
+    void setNarrow(bool narrow);
 
 signals:
     void chooseClicked(int image);
@@ -27,7 +29,9 @@ signals:
 
 private:
     void addTile(int image);
+    void placeTiles();
     void enlarge(int image);
 
     std::array<ImageTile *, 5> m_tiles{};
+    bool m_narrow = false;
 };

@@ -28,6 +28,7 @@ constexpr int kGap = 16;
 constexpr int kWidestPage = 1900;
 constexpr int kNarrowPage = 880;
 constexpr int kNarrowCard = 640;
+constexpr int kTinyPage = 420; // the window as it is without settings
 constexpr int kButtonWidth = 270;
 
 ShadowFrame *createCard(QWidget *page)
@@ -40,9 +41,16 @@ ShadowFrame *createCard(QWidget *page)
 QBoxLayout *createCardRow(QWidget *card)
 {
     auto *row = new QBoxLayout(QBoxLayout::LeftToRight, card);
-    row->setContentsMargins(kGap, kGap, kGap, kGap);
     row->setSpacing(kMargin);
     return row;
+}
+
+void setButtonTiny(QPushButton *button, bool tiny)
+{
+    const QString tinySheet = QStringLiteral("QPushButton {font-size: 16px; min-height: 52px; padding: 4px 8px;}");
+    const QString wideSheet = QStringLiteral("QPushButton {min-width: %1px;}").arg(kButtonWidth);
+    button->setStyleSheet(tabstyle::largeSheet() + (tiny ? tinySheet : wideSheet));
+    button->setIconSize(tiny ? QSize(24, 24) : QSize(36, 36));
 }
 
 } // namespace
@@ -55,6 +63,7 @@ struct TabHome::Private
     DemoState demo = DemoState::Unavailable;
     QStringList addresses;
 
+    QLabel *logo = nullptr;
     QLabel *subtitle = nullptr;
     QPushButton *connectButton = nullptr;
     QPushButton *newButton = nullptr;
@@ -72,9 +81,13 @@ struct TabHome::Private
     QBoxLayout *topRow = nullptr;
     QBoxLayout *boxRow = nullptr;
     QBoxLayout *projectRow = nullptr;
+    QBoxLayout *stateColumn = nullptr;
+    QBoxLayout *pageColumn = nullptr;
+    bool tiny = false;
 
     void layOut(QWidget *page);
-    void arrange(int width) const;
+    void arrange(int width);
+    void setTiny(bool isTiny);
     [[nodiscard]] QBoxLayout *createHead(QWidget *page);
     [[nodiscard]] static QPushButton *createButton(QWidget *page, const char *name, const QString &icon);
     [[nodiscard]] QWidget *createBoxCard(QWidget *page);
@@ -85,16 +98,15 @@ struct TabHome::Private
 
 QBoxLayout *TabHome::Private::createHead(QWidget *page)
 {
-    auto *picture = new QLabel(page);
-    picture->setPixmap(QPixmap(theme::logoPath));
-    picture->setAccessibleName(theme::applicationName);
+    logo = new QLabel(page);
+    logo->setPixmap(QPixmap(theme::logoPath));
+    logo->setAccessibleName(theme::applicationName);
     subtitle = new QLabel(page);
     subtitle->setWordWrap(true);
-    subtitle->setStyleSheet(QStringLiteral("QLabel {font-size: 22px; color: %1;}").arg(theme::colorDark));
     head = new QBoxLayout(QBoxLayout::LeftToRight);
     head->setContentsMargins(ShadowFrame::kShadow, 0, ShadowFrame::kShadow, 0);
     head->setSpacing(24);
-    head->addWidget(picture);
+    head->addWidget(logo);
     head->addWidget(subtitle, 1);
     return head;
 }
@@ -104,7 +116,7 @@ QPushButton *TabHome::Private::createButton(QWidget *page, const char *name, con
     auto *button = new QtMaterialRaisedButton(page);
     button->setObjectName(QLatin1String(name));
     tabstyle::makeLarge(button, icon);
-    button->setStyleSheet(button->styleSheet() + QStringLiteral("QPushButton {min-width: %1px;}").arg(kButtonWidth));
+    setButtonTiny(button, false);
     return button;
 }
 
@@ -116,7 +128,7 @@ QWidget *TabHome::Private::createBoxCard(QWidget *page)
     demoHint = new QLabel(card);
     demoHint->setObjectName(QStringLiteral("labelDemoHint"));
     tabstyle::makeHint(demoHint);
-    demoHint->setFixedWidth(kButtonWidth);
+    demoHint->setMaximumWidth(kButtonWidth);
     auto *buttons = new QVBoxLayout;
     buttons->setSpacing(kGap);
     buttons->addWidget(connectButton);
@@ -133,6 +145,7 @@ QVBoxLayout *TabHome::Private::createAddresses(QWidget *card)
 {
     addressHeading = new QLabel(card);
     tabstyle::makeHeading(addressHeading);
+    addressHeading->setWordWrap(true);
     noAddresses = new QLabel(card);
     tabstyle::makeHint(noAddresses);
     auto *column = new QVBoxLayout;
@@ -153,9 +166,8 @@ QWidget *TabHome::Private::createStateCard(QWidget *page)
 {
     ShadowFrame *card = createCard(page);
     state = new BoxStateCard(card);
-    auto *column = new QVBoxLayout(card);
-    column->setContentsMargins(kGap, kGap, kGap, kGap);
-    column->addWidget(state);
+    stateColumn = createCardRow(card);
+    stateColumn->addWidget(state);
     return card;
 }
 
@@ -166,6 +178,7 @@ QWidget *TabHome::Private::createProjectCard(QWidget *page)
     openButton = createButton(card, "buttonHomeOpen", QStringLiteral("folder-open.png"));
     projectHeading = new QLabel(card);
     tabstyle::makeHeading(projectHeading);
+    projectHeading->setWordWrap(true);
     projects = new RecentProjectList(card);
     auto *buttons = new QVBoxLayout;
     buttons->setSpacing(kGap);
@@ -186,25 +199,24 @@ void TabHome::Private::layOut(QWidget *page)
 {
     auto *content = new QWidget(page);
     content->setMaximumWidth(kWidestPage);
-    constexpr int kEdge = kMargin - ShadowFrame::kShadow; // the cards keep a distance of their own
     topRow = new QBoxLayout(QBoxLayout::LeftToRight);
     topRow->setSpacing(0);
     topRow->addWidget(createBoxCard(content), 3);
     topRow->addWidget(createStateCard(content), 2);
-    auto *column = new QVBoxLayout(content);
-    column->setContentsMargins(kEdge, kGap, kEdge, kEdge);
-    column->setSpacing(0);
-    column->addLayout(createHead(content));
-    column->addLayout(topRow);
-    column->addWidget(createProjectCard(content));
-    column->addStretch(1);
+    pageColumn = new QVBoxLayout(content);
+    pageColumn->setSpacing(0);
+    pageColumn->addLayout(createHead(content));
+    pageColumn->addLayout(topRow);
+    pageColumn->addWidget(createProjectCard(content));
+    pageColumn->addStretch(1);
     auto *row = new QHBoxLayout(page);
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(content, 1);
     row->addStretch(0);
+    setTiny(false);
 }
 
-void TabHome::Private::arrange(int width) const
+void TabHome::Private::arrange(int width)
 {
     const auto direction = [width](int narrow) {
         return width < narrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight;
@@ -212,6 +224,25 @@ void TabHome::Private::arrange(int width) const
     topRow->setDirection(direction(kNarrowPage));
     for (QBoxLayout *row : {head, boxRow, projectRow})
         row->setDirection(direction(kNarrowCard));
+    if (tiny != (width < kTinyPage))
+        setTiny(!tiny);
+}
+
+void TabHome::Private::setTiny(bool isTiny)
+{
+    tiny = isTiny;
+    const int edge = tiny ? 0 : kMargin - ShadowFrame::kShadow; // the cards keep a distance of their own
+    const int margin = tiny ? kGap / 2 : kGap;
+    pageColumn->setContentsMargins(edge, kGap, edge, edge);
+    for (QBoxLayout *card : {boxRow, projectRow, stateColumn})
+        card->setContentsMargins(margin, margin, margin, margin);
+    for (QPushButton *button : {connectButton, demoButton, newButton, openButton})
+        setButtonTiny(button, tiny);
+    const QPixmap picture(theme::logoPath);
+    logo->setPixmap(tiny ? picture.scaledToWidth(picture.width() * 3 / 4, Qt::SmoothTransformation) : picture);
+    subtitle->setStyleSheet(
+        QStringLiteral("QLabel {font-size: %1px; color: %2;}").arg(tiny ? 18 : 22).arg(theme::colorDark));
+    state->setStacked(tiny);
 }
 
 TabHome::TabHome(QWidget *parent)
@@ -224,6 +255,8 @@ TabHome::TabHome(QWidget *parent)
     connect(d->projects, &RecentProjectList::removeRequested, this, &TabHome::projectRemoved);
     for (const RecentButton *button : d->addressButtons)
         connect(button, &RecentButton::clicked, this, [this, button] { emit connectRequested(button->title()); });
+    for (QPushButton *button : {d->connectButton, d->demoButton})
+        button->installEventFilter(this);
     retranslateUi();
 }
 
@@ -331,6 +364,12 @@ void TabHome::updateAddresses()
         button->setAccessibleName(button->toolTip());
         button->setVisible(!address.isEmpty());
     }
+}
+
+/// The second press of a double click would take back what the first one began.
+bool TabHome::eventFilter(QObject *watched, QEvent *event)
+{
+    return event->type() == QEvent::MouseButtonDblClick || QWidget::eventFilter(watched, event);
 }
 
 void TabHome::changeEvent(QEvent *event)

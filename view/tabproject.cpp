@@ -14,11 +14,17 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QResizeEvent>
 #include <QVBoxLayout>
 
 namespace {
 
 const QColor kDanger(0xC6, 0x28, 0x28);
+
+constexpr int kNarrowPage = 900;
+constexpr int kNarrowStrip = 760;
+constexpr int kNarrowImages = 520;
+constexpr int kTinyPage = 420; // the window as it is without settings
 
 } // namespace
 
@@ -38,10 +44,18 @@ struct TabProject::Private
     QFrame *danger = nullptr;
     QLabel *warning = nullptr;
     QPushButton *clear = nullptr;
+    // One beside the other, or one below the other in a narrow window.
+    QBoxLayout *columns = nullptr;
+    QBoxLayout *dangerRow = nullptr;
+    QBoxLayout *page = nullptr;
+    bool tiny = false;
 
     void createWidgets(QWidget *parent);
     void createDanger(QWidget *parent);
-    void layOut(QWidget *content) const;
+    void layOut(QWidget *content);
+    void arrange(int width);
+    void setTiny(bool isTiny);
+    void showClearText() const;
     void connectTo(TabProject *tab) const;
     void fillComment(const QString &text);
 };
@@ -73,18 +87,18 @@ void TabProject::Private::createDanger(QWidget *parent)
                                          "QPushButton:focus {border: 3px solid black;}")
                               .arg(kDanger.name()));
     warning = new QLabel(danger);
+    warning->setWordWrap(true);
     clear = new QPushButton(danger);
     clear->setObjectName(QStringLiteral("buttonClearData"));
     clear->setIcon(actionIcon(QStringLiteral("delete.png"), Qt::white));
     clear->setIconSize(QSize(28, 28));
-    auto *row = new QHBoxLayout(danger);
-    row->setContentsMargins(16, 6, 8, 6);
-    row->setSpacing(16);
-    row->addWidget(warning, 1);
-    row->addWidget(clear);
+    dangerRow = new QHBoxLayout(danger);
+    dangerRow->setSpacing(16);
+    dangerRow->addWidget(warning, 1);
+    dangerRow->addWidget(clear);
 }
 
-void TabProject::Private::layOut(QWidget *content) const
+void TabProject::Private::layOut(QWidget *content)
 {
     auto *left = new QVBoxLayout;
     left->addWidget(recordHeading);
@@ -94,12 +108,11 @@ void TabProject::Private::layOut(QWidget *content) const
     auto *right = new QVBoxLayout;
     right->addWidget(imagesHeading);
     right->addWidget(images, 1);
-    auto *columns = new QHBoxLayout;
+    columns = new QHBoxLayout;
     columns->setSpacing(24);
     columns->addLayout(left, 2);
     columns->addLayout(right, 3);
-    auto *page = new QVBoxLayout(content);
-    page->setContentsMargins(24, 2, 24, 8);
+    page = new QVBoxLayout(content);
     page->setSpacing(2);
     page->addLayout(columns, 1);
     page->addWidget(phaseHeading);
@@ -108,6 +121,37 @@ void TabProject::Private::layOut(QWidget *content) const
     page->addWidget(danger);
     for (QVBoxLayout *column : {left, right})
         column->setSpacing(2);
+    setTiny(false);
+}
+
+void TabProject::Private::arrange(int width)
+{
+    const auto direction = [width](int narrow) {
+        return width < narrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight;
+    };
+    columns->setDirection(direction(kNarrowPage));
+    phases->setDirection(direction(kNarrowStrip));
+    dangerRow->setDirection(direction(kNarrowStrip));
+    images->setNarrow(width < kNarrowImages);
+    if (tiny != (width < kTinyPage))
+        setTiny(!tiny);
+}
+
+void TabProject::Private::setTiny(bool isTiny)
+{
+    tiny = isTiny;
+    const int edge = tiny ? 10 : 24;
+    page->setContentsMargins(edge, 2, edge, 8);
+    dangerRow->setContentsMargins(tiny ? 8 : 16, 6, 8, 6);
+    form->setStacked(tiny);
+    for (QLabel *heading : {recordHeading, imagesHeading, commentHeading, phaseHeading})
+        tabstyle::makeHeading(heading, tiny ? 18 : 22);
+    showClearText();
+}
+
+void TabProject::Private::showClearText() const
+{
+    clear->setText(tiny ? TabProject::tr("&Löschen...") : TabProject::tr("&Alle Messdaten löschen..."));
 }
 
 void TabProject::Private::connectTo(TabProject *tab) const
@@ -181,6 +225,12 @@ void TabProject::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
 }
 
+void TabProject::resizeEvent(QResizeEvent *event)
+{
+    d->arrange(event->size().width());
+    QWidget::resizeEvent(event);
+}
+
 void TabProject::retranslateUi()
 {
     d->recordHeading->setText(tr("Projektbeschreibung"));
@@ -189,6 +239,6 @@ void TabProject::retranslateUi()
     d->commentEdit->setAccessibleName(tr("Kommentar"));
     d->phaseHeading->setText(tr("Phasen"));
     d->warning->setText(tr("Löscht die Messdaten aller Sensoren; die Projektbeschreibung bleibt."));
-    d->clear->setText(tr("&Alle Messdaten löschen..."));
+    d->showClearText();
     d->clear->setToolTip(d->warning->text());
 }

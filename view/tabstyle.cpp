@@ -18,10 +18,10 @@ QString fixedPitchSheet()
         .arg(theme::colorText, theme::colorBackground, theme::colorBorder, theme::colorPrimary);
 }
 
-void makeHeading(QLabel *label)
+void makeHeading(QLabel *label, int pixels)
 {
     label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    label->setStyleSheet(QStringLiteral("QLabel {font: bold 22px; color: %1;}").arg(theme::colorPrimary));
+    label->setStyleSheet(QStringLiteral("QLabel {font: bold %1px; color: %2;}").arg(pixels).arg(theme::colorPrimary));
 }
 
 void makeHint(QLabel *label)
@@ -35,10 +35,14 @@ void makeRegular(QPushButton *button)
     button->setStyleSheet(QStringLiteral("QPushButton {padding: 0px 18px;}"));
 }
 
+QString largeSheet()
+{
+    return QStringLiteral("QPushButton {font-size: 22px; min-height: 64px; padding: 4px 20px; text-align: left;}");
+}
+
 void makeLarge(QPushButton *button, const QString &iconFile)
 {
-    button->setStyleSheet(QStringLiteral("QPushButton {font-size: 22px; min-height: 64px; padding: 4px 20px;"
-                                         " text-align: left;}"));
+    button->setStyleSheet(largeSheet());
     button->setIcon(actionIcon(iconFile, theme::qColorBackground));
     button->setIconSize(QSize(36, 36));
 }

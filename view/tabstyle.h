@@ -11,12 +11,14 @@ namespace tabstyle {
 
 /// A framed text field in "Courier New".
 [[nodiscard]] QString fixedPitchSheet();
-/// Makes a label a heading: bold, primary colour.
-void makeHeading(QLabel *label);
+/// Makes a label a heading: bold, primary colour, of so many pixels.
+void makeHeading(QLabel *label, int pixels = 22);
 /// A hint in small grey type that wraps.
 void makeHint(QLabel *label);
 /// A button with room beside its text.
 void makeRegular(QPushButton *button);
+/// The looks of a tall button.
+[[nodiscard]] QString largeSheet();
 /// A tall button with a large icon beside its text.
 void makeLarge(QPushButton *button, const QString &iconFile);
 

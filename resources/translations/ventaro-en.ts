@@ -578,6 +578,14 @@ Continue?</translation>
         <source>Die Demo ist beendet: Der Simulator läuft nicht mehr.</source>
         <translation>The demo has ended: the simulator is no longer running.</translation>
     </message>
+    <message>
+        <source>Die Demo läuft.</source>
+        <translation>The demo is running.</translation>
+    </message>
+    <message>
+        <source>Verbunden mit %1.</source>
+        <translation>Connected to %1.</translation>
+    </message>
 </context>
 <context>
     <name>CycleTile</name>
@@ -2127,6 +2135,10 @@ Esc cancels.</translation>
     <message>
         <source>Phasen</source>
         <translation>Phases</translation>
+    </message>
+    <message>
+        <source>&amp;Löschen...</source>
+        <translation>De&amp;lete...</translation>
     </message>
 </context>
 <context>

@@ -17,6 +17,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSettings>
 #include <QShortcut>
 #include <QSignalSpy>
@@ -123,6 +125,8 @@ private slots:
     void everyKeyHasOneMeaning_data();
     void everyKeyHasOneMeaning();
     void digitsSelectTabs();
+    void firstPagesScrollDownOnly_data();
+    void firstPagesScrollDownOnly();
     void windowIsPutOnScreens_data();
     void windowIsPutOnScreens();
     void maximisedWindowKeepsItsPlace();
@@ -229,6 +233,30 @@ void TestDesktop::digitsSelectTabs()
     view.setTabEnabled(4, false);
     QTest::keyClick(&view, Qt::Key_5, Qt::ControlModifier);
     QCOMPARE(view.tabs()->currentIndex(), 0);
+}
+
+void TestDesktop::firstPagesScrollDownOnly_data()
+{
+    everyKeyHasOneMeaning_data();
+}
+
+void TestDesktop::firstPagesScrollDownOnly()
+{
+    QFETCH(QString, language);
+    Model model{QString()};
+    ScriptedPrompts *prompts = nullptr;
+    View view(&model, scripted(prompts));
+    view.findChild<QAction *>(language)->trigger();
+    view.show();
+    for (int tab = 0; tab < 2; ++tab) {
+        view.tabs()->setCurrentIndex(tab);
+        const auto *bar = view.tabs()->currentWidget()->findChild<QScrollArea *>()->horizontalScrollBar();
+        for (int width = 400; width < 1300; width += 20) { // from the window without settings on
+            view.resize(width, 400);
+            QCoreApplication::processEvents();
+            QVERIFY2(bar->maximum() == 0, qPrintable(QStringLiteral("tab %1, width %2").arg(tab).arg(width)));
+        }
+    }
 }
 
 void TestDesktop::windowIsPutOnScreens_data()
