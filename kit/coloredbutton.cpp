@@ -23,6 +23,7 @@ constexpr int kPadding = 10;
 constexpr int kTightPadding = 5;
 constexpr int kSymbol = 14;      // pixels: tick or arrow
 constexpr int kSymbolMargin = 8; // from the edge
+constexpr int kSymbolGap = 5;    // to the text
 constexpr int kIconGap = 6;
 constexpr int kStripe = 4;     // that shows the colour of a disabled button
 constexpr double kPale = 0.10; // share of the colour in an unchecked button
@@ -102,7 +103,7 @@ void ColoredButton::onClicked()
 /// What the text leaves free: the same on both sides, so that it stays in the middle.
 int ColoredButton::symbolRoom() const
 {
-    return isCheckable() || m_picksColor ? kSymbolMargin + kSymbol + 3 : kPadding;
+    return isCheckable() || m_picksColor ? kSymbolMargin + kSymbol + kSymbolGap : kPadding;
 }
 
 QSize ColoredButton::sizeHint() const

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPolygonF>
 #include <QTransform>
+#include <QtMath>
 
 #include <algorithm>
 #include <cmath>
@@ -20,6 +21,7 @@ constexpr double kHalfTip = 0.55;
 constexpr double kMarkerLength = 9.0;
 constexpr double kHalfMarker = 4.8;
 constexpr double kShadow = 1.2;
+constexpr double kSeenWay = 0.125; // of a device pixel: as little as makes a difference
 constexpr int kShadowOpacity = 34; // of 255
 
 } // namespace
@@ -105,11 +107,14 @@ QColor QcNeedleItem::shownColor(const QcCanvas &canvas, const QcReading &reading
     return m_shape == Shape::Needle ? canvas.colors.needle : canvas.colors.ink;
 }
 
-bool QcNeedleItem::looksDifferent(const QcCanvas &, const QcReading &before, const QcReading &after) const
+bool QcNeedleItem::looksDifferent(const QcCanvas &canvas, const QcReading &before, const QcReading &after) const
 {
-    const Target one = target(before);
-    const Target other = target(after);
-    return one.valid != other.valid || (one.valid && one.value != other.value);
+    // Whole steps of the tip, not the way since the last reading: many small ones would add up unseen.
+    const double step = kSeenWay / canvas.ratio / std::max(1.0, canvas.length(radius()));
+    const auto steps = [&](const QcReading &reading) {
+        return std::round(qDegreesToRadians(angle(canvas, reading)) / step);
+    };
+    return target(before).valid != target(after).valid || steps(before) != steps(after);
 }
 
 QRectF QcNeedleItem::area(const QcCanvas &canvas, const QcReading &reading) const
