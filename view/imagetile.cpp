@@ -5,6 +5,7 @@
 #include "view/actionicon.h"
 #include "view/tilepicture.h"
 
+#include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QFileInfo>
@@ -207,6 +208,10 @@ void ImageTile::contextMenuEvent(QContextMenuEvent *event)
 
 void ImageTile::dragEnterEvent(QDragEnterEvent *event)
 {
+    if (QApplication::activeModalWidget()) { // a question would stand on top of the open dialog
+        event->ignore();
+        return;
+    }
     if (hasPicture(*event->mimeData())) {
         m_refusalTimer.stop();
         m_picture->setDrop(TilePicture::Drop::Welcome);

@@ -6,6 +6,7 @@
 
 #include <QAbstractButton>
 #include <QClipboard>
+#include <QDialog>
 #include <QDropEvent>
 #include <QFile>
 #include <QLabel>
@@ -236,6 +237,10 @@ private slots:
         QVERIFY(!drop(first, text));
         QMimeData files;
         files.setUrls({QUrl::fromLocalFile(path("a.png")), QUrl::fromLocalFile(path("b.JPG"))});
+        QDialog dialog;
+        dialog.open();
+        QVERIFY(!drop(first, files)); // behind an open dialog
+        dialog.close();
         QVERIFY(drop(first, files));
         QTRY_COMPARE(bench.model.image(1).width(), 12);
         QCOMPARE(bench.model.image(0).width(), 11);
