@@ -276,10 +276,12 @@ void View::commitInput()
         box->interpretText();
     if (!field || !field->hasFocus())
         return;
-    // Fields, and editors in tables, take over their text when they lose the focus.
+    // Fields, and editors in tables, take over their text when they lose the focus. The latter are gone then, and the
+    // table is what the keys go on with.
+    const QPointer<QWidget> table = field->parentWidget();
     field->clearFocus();
-    if (field)
-        field->setFocus(Qt::OtherFocusReason);
+    if (QWidget *next = field && field->isVisible() ? field.data() : table.data())
+        next->setFocus(Qt::OtherFocusReason);
 }
 
 void View::resetCorrection()

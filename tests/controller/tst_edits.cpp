@@ -1,6 +1,7 @@
 #include "bench.h"
 #include "tests/support/literals.h"
 #include "tests/support/rows.h"
+#include "view/sensortreemodel.h"
 #include "view/tabproject.h"
 #include "view/tabsensors.h"
 
@@ -13,6 +14,7 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QTemporaryDir>
+#include <QTreeView>
 
 #include <array>
 
@@ -170,6 +172,18 @@ private slots:
         QTest::keyClicks(offset, "2,5"_s);
         emit bench.view.saveProject();
         QCOMPARE(Model(path("typed.vnt")).offset(1), 2.5);
+        QVERIFY(offset->hasFocus());
+
+        bench.say(sensorLine());
+        bench.view.tabs()->setCurrentWidget(bench.view.tabSensors());
+        auto *sensors = bench.view.tabSensors()->findChild<QTreeView *>();
+        sensors->setFocus();
+        sensors->setCurrentIndex(qobject_cast<SensorTreeModel *>(sensors->model())->indexOf(0));
+        QTest::keyClick(sensors, Qt::Key_F2);
+        QTest::keyClicks(QApplication::focusWidget(), "Spritze"_s);
+        emit bench.view.saveProject();
+        QCOMPARE(Model(path("typed.vnt")).sensorDescription().sensorGroup(0).sensorName(0), "Spritze"_s);
+        QVERIFY(sensors->hasFocus());
     }
 
     void typingGoesOnDuringASave()
