@@ -328,6 +328,8 @@ void TabSensors::keyPressEvent(QKeyEvent *event)
 
 bool TabSensors::eventFilter(QObject *watched, QEvent *event)
 {
+    if (watched == d->tree && event->type() == QEvent::Resize)
+        d->fitSide();
     if (watched == d->tree && event->type() == QEvent::KeyPress && d->handleTreeKey(*static_cast<QKeyEvent *>(event)))
         return true;
     return QWidget::eventFilter(watched, event);

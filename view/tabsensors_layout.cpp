@@ -24,6 +24,8 @@ constexpr int kNarrowestPage = 700;
 constexpr int kHandleWidth = 8;
 constexpr int kEdge = 12;
 constexpr int kStatusColumnWidth = 40;
+constexpr int kNarrowestName = 180; // with check mark and swatch
+constexpr int kNarrowestButtons = 300;
 
 QString treeSheet()
 {
@@ -109,9 +111,20 @@ void TabSensors::Private::sizeColumns()
     QFont font = tree->font();
     font.setPixelSize(18);
     const QFontMetrics metrics(font);
-    header->resizeSection(SensorTreeModel::ValueColumn, metrics.horizontalAdvance(QStringLiteral("-8888,88")) + 10);
-    header->resizeSection(SensorTreeModel::UnitColumn, metrics.horizontalAdvance(QStringLiteral("Einheit")) + 8);
+    valueWidth = metrics.horizontalAdvance(QStringLiteral("-8888,88")) + 10;
+    unitWidth = metrics.horizontalAdvance(QStringLiteral("Einheit")) + 8;
+    header->resizeSection(SensorTreeModel::ValueColumn, valueWidth);
+    header->resizeSection(SensorTreeModel::UnitColumn, unitWidth);
     header->resizeSection(SensorTreeModel::StatusColumn, kStatusColumnWidth);
+}
+
+/// Where it is narrow the names come first: the tiles show the values too, and begin their held values anew.
+void TabSensors::Private::fitSide() const
+{
+    const int room = tree->width() - kNarrowestName - kStatusColumnWidth;
+    tree->setColumnHidden(SensorTreeModel::ValueColumn, room < valueWidth);
+    tree->setColumnHidden(SensorTreeModel::UnitColumn, room < valueWidth + unitWidth);
+    resetButton->setVisible(tree->width() >= kNarrowestButtons);
 }
 
 void TabSensors::Private::createActions()
@@ -158,8 +171,10 @@ void TabSensors::Private::restoreWidth()
 void TabSensors::Private::fitToWidth(int width)
 {
     const Qt::Orientation fitting = width < kNarrowestPage ? Qt::Vertical : Qt::Horizontal;
-    if (splitter->orientation() != fitting)
-        splitter->setOrientation(fitting);
+    if (splitter->orientation() == fitting)
+        return;
+    splitter->setOrientation(fitting);
+    side->setMinimumWidth(fitting == Qt::Horizontal ? kNarrowestSide : 0);
 }
 
 void TabSensors::Private::connectTree()

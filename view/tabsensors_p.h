@@ -44,6 +44,8 @@ struct TabSensors::Private
     QSplitter *splitter = nullptr;
     QWidget *side = nullptr;
     QTreeView *tree = nullptr;
+    int valueWidth = 0; ///< pixels of the tree's column, where there is room for it
+    int unitWidth = 0;
     QPushButton *editButton = nullptr;
     QPushButton *resetButton = nullptr;
     QAction *renameAction = nullptr;
@@ -66,6 +68,7 @@ struct TabSensors::Private
     void sizeColumns();
     void restoreWidth();
     void fitToWidth(int width);
+    void fitSide() const;
     void retranslateUi();
 
     // --- Which sensors ---
