@@ -36,7 +36,7 @@ void Controller::onTabSensors_limitsEdited(int group, int sensor, double minimum
         d->model->setSensorMinimum(group, sensor, minimum);
         d->model->setSensorMaximum(group, sensor, maximum);
         // An end without a limit is far beyond what a curve could be seen in.
-        if (minimum > SensorLimits::kNoLower && maximum < SensorLimits::kNoUpper)
+        if (minimum != SensorLimits::kNoLower && maximum != SensorLimits::kNoUpper)
             d->view->tabOszi()->setCurrentSensorRange(group, sensor, minimum, maximum);
     });
 }

@@ -130,10 +130,8 @@ QString SensorDialog::complaint() const
         return tr("Bitte einen Namen eingeben.");
     if (limits.lower && limits.upper && *limits.lower >= *limits.upper)
         return tr("Die untere Grenze muss kleiner als die obere sein.");
-    const double lower = limits.lower.value_or(0.0);
-    const double upper = limits.upper.value_or(0.0);
-    if (lower <= SensorLimits::kNoLower || upper >= SensorLimits::kNoUpper || lower >= SensorLimits::kNoUpper
-        || upper <= SensorLimits::kNoLower)
+    // What would not come back as it was entered.
+    if (!(sensorLimits(limits.minimum(), limits.maximum()) == limits))
         return tr("Grenzen liegen zwischen -100000 und 100000.");
     return {};
 }

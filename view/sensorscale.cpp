@@ -11,6 +11,7 @@ constexpr double kMargin = 0.1;      // of the range between the limits, shown b
 constexpr double kTargetSteps = 12;  // on a scale; not all of them get a label
 constexpr double kLeastAround = 2.0; // on both sides of a value that has not moved yet
 constexpr int kMostDecimals = 6;
+constexpr double kSmallestStep = 1e-6; // of which labels can tell
 constexpr double kLargestPlain = 1e7;
 constexpr int kExponentDigits = 5;
 
@@ -53,11 +54,11 @@ HeldRange wantedRange(const SensorLimits &limits, const std::optional<HeldRange>
 SensorLimits sensorLimits(double minimum, double maximum)
 {
     SensorLimits limits;
-    if (!(minimum < maximum))
+    if (!(minimum < maximum) || !std::isfinite(minimum) || !std::isfinite(maximum))
         return limits;
-    if (minimum > SensorLimits::kNoLower)
+    if (minimum != SensorLimits::kNoLower)
         limits.lower = minimum;
-    if (maximum < SensorLimits::kNoUpper)
+    if (maximum != SensorLimits::kNoUpper)
         limits.upper = maximum;
     return limits;
 }
@@ -80,12 +81,15 @@ SensorScale sensorScale(const SensorLimits &limits, const std::optional<HeldRang
     const HeldRange wanted = wantedRange(limits, held);
     const double span = wanted.maximum - wanted.minimum;
     const double size = std::max(std::abs(wanted.minimum), std::abs(wanted.maximum));
-    // Neighbouring numbers of a tiny range far from zero cannot be told apart, an enormous range has no span.
-    if (!std::isfinite(span) || !(span > size * 1e-9) || span < 1e-9)
+    // Neighbouring numbers of a tiny range, or of a small one far from zero, cannot be told apart; an enormous range
+    // has no span.
+    if (!std::isfinite(span) || !(span > size * 1e-9) || span < kTargetSteps * kSmallestStep)
         return scale;
     scale.step = niceStep(span / kTargetSteps);
     scale.low = std::floor(wanted.minimum / scale.step + 1e-9) * scale.step;
     scale.high = std::ceil(wanted.maximum / scale.step - 1e-9) * scale.step;
+    if (!std::isfinite(scale.high - scale.low)) // only now, by rounding
+        return {};
     scale.labelDecimals = decimalsFor(scale.step);
     scale.valueDecimals = decimalsFor((scale.high - scale.low) / 300.0);
     return scale;

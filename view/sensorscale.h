@@ -16,6 +16,9 @@ struct SensorLimits
     std::optional<double> lower;
     std::optional<double> upper;
 
+    /// As the model holds them.
+    [[nodiscard]] double minimum() const { return lower.value_or(kNoLower); }
+    [[nodiscard]] double maximum() const { return upper.value_or(kNoUpper); }
     [[nodiscard]] bool isAny() const { return lower || upper; }
     [[nodiscard]] bool contains(double value) const { return !isBelow(value) && !isAbove(value); }
     [[nodiscard]] bool isBelow(double value) const { return lower && value < *lower; }

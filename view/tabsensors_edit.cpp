@@ -93,6 +93,5 @@ void TabSensors::Private::applyEdit(const SensorInfo &before, const SensorInfo &
     if (after.color != before.color)
         emit q->sensorColorEdited(before.channel, after.color);
     if (!(after.limits == before.limits))
-        emit q->sensorLimitsEdited(before.group, before.sensor, after.limits.lower.value_or(SensorLimits::kNoLower),
-                                   after.limits.upper.value_or(SensorLimits::kNoUpper));
+        emit q->sensorLimitsEdited(before.group, before.sensor, after.limits.minimum(), after.limits.maximum());
 }

@@ -232,6 +232,9 @@ private slots:
         row("one value", -100000.0, 100000.0, -3.0, -3.0, true);
         row("not in order", 5.0, 5.0, 1.0, 2.0, true);
         row("enormous", -100000.0, 100000.0, -1.7e308, 1.7e308, false);
+        row("enormous when rounded", -100000.0, 100000.0, 0.0, 1.75e308, false);
+        row("beyond what stands for no limit", 0.0, 200000.0, 5.0, 7.0, true);
+        row("too small for labels", 0.0, 1e-6, 0.0, 1e-7, false);
         row("not to be told apart", -100000.0, 100000.0, 1e15, 1e15 + 1.0, false);
     }
 
