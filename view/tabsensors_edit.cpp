@@ -30,7 +30,7 @@ bool TabSensors::Private::handleTreeKey(const QKeyEvent &event)
     const QModelIndex current = tree->currentIndex();
     const QWidget *focus = QApplication::focusWidget();
     const bool isEditing = focus && tree->viewport()->isAncestorOf(focus); // which passes on the key that ends it
-    if (!current.isValid() || isEditing || event.modifiers() != Qt::NoModifier)
+    if (!current.isValid() || isEditing || (event.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier)
         return false;
     const QModelIndex name = current.siblingAtColumn(SensorTreeModel::NameColumn);
     switch (event.key()) {
@@ -43,6 +43,7 @@ bool TabSensors::Private::handleTreeKey(const QKeyEvent &event)
         renameInPlace();
         return true;
     case Qt::Key_Return:
+    case Qt::Key_Enter:
         edit(currentSensor());
         return true;
     default:
