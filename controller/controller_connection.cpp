@@ -150,6 +150,9 @@ void Controller::onConnected()
     qCDebug(lcController) << Q_FUNC_INFO;
     d->view->hideProgress();
     d->linkWanted = true; // the firmware dialog connects too
+    const QString host = d->demo.isActive() ? QString() : d->connector.hostAddress();
+    if (std::exchange(d->measuredHost, host) != host)
+        d->view->forgetLiveValues(); // of another box
     d->sinceRestart.invalidate();
     d->deferredError.reset();
     d->deviceDescription.reset();
@@ -208,7 +211,8 @@ void Controller::onTimerWaitForDeviceDescription_timeout()
 void Controller::onTimerWaitForSensorDescription_timeout()
 {
     qCDebug(lcController) << Q_FUNC_INFO << "valuesInThousandths=" << true;
-    d->valuesInThousandths = true;
+    if (!std::exchange(d->valuesInThousandths, true))
+        d->view->forgetLiveValues(); // a thousand times too large
 }
 
 // --- Errors ----------------------------------------------------------------------------------------------------

@@ -151,7 +151,8 @@ void Controller::finishList()
 void Controller::handleSensorDescription(const QString &message)
 {
     qCDebug(lcController) << Q_FUNC_INFO;
-    d->valuesInThousandths = false;
+    if (std::exchange(d->valuesInThousandths, false))
+        d->view->forgetLiveValues(); // a thousandth of what they are
     const SensorDescription before = d->model->sensorDescription();
     SensorDescription description = before;
     applySensorDescription(parseSensorDescription(message), description);

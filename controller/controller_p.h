@@ -64,6 +64,7 @@ struct Controller::Private
     QString deferredWarning;
     std::optional<DeviceDescription> deviceDescription; ///< as the connected box gave it, like the next
     std::optional<SensorDescription> sensorDescription;
+    QString measuredHost;    ///< of the box whose values are shown; empty for a simulated one
     int boxClock = 0;        ///< ms, the sampling period that the box was last asked for or has reported
     bool linkWanted = false; ///< errors of a link that the user gave up are of no interest
 

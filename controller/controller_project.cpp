@@ -69,6 +69,8 @@ void Controller::onNewProject()
     d->model->setProjectModifiedFlag(false);
     d->series.clear();
     d->view->reset();
+    if (!d->model->isConnected())
+        d->view->forgetLiveValues();
     showDeviceState();
 }
 
@@ -126,6 +128,8 @@ void Controller::openFile(const QString &fileName)
     }
     if (d->model->structureRevision() != structure)
         d->series.clear();
+    if (opened && !d->model->isConnected())
+        d->view->forgetLiveValues();
     showDeviceState();
     d->view->tabHome()->refreshRecentProjects(); // the file may be gone
     if (opened)

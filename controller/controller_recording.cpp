@@ -103,7 +103,7 @@ void Controller::handleValueMessage(const QString &message)
         markModified();
     else if (d->calibrating)
         d->unstoredAnswer = sample;
-    d->view->showLiveValues(sample->values);
+    d->view->showLiveValues(sample->values, d->boxClock);
     d->view->logSample(secondsOfNewestSample(*d->model, d->series.index(0)), sample->values);
     d->model->emitDataChanged();
 }

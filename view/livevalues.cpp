@@ -14,7 +14,7 @@ std::optional<std::size_t> place(int channel)
 
 } // namespace
 
-void LiveValues::add(const std::array<double, kNumSensors> &values, qint64 now)
+void LiveValues::add(const std::array<double, kNumSensors> &values, qint64 now, int period)
 {
     for (std::size_t i = 0; i < values.size(); ++i) {
         const double value = std::isfinite(values[i]) ? values[i] : 0.0;
@@ -25,7 +25,9 @@ void LiveValues::add(const std::array<double, kNumSensors> &values, qint64 now)
         m_isHeld[i] = true;
     }
     m_time = now;
+    m_period = period;
     m_any = true;
+    m_fresh = true;
 }
 
 void LiveValues::resetHeld(int channel)
@@ -46,7 +48,7 @@ std::optional<HeldRange> LiveValues::held(int channel) const
     return i && m_isHeld[*i] ? std::optional<HeldRange>(m_held[*i]) : std::nullopt;
 }
 
-bool LiveValues::isFresh(qint64 now, int clock) const
+bool LiveValues::isFresh(qint64 now) const
 {
-    return m_any && now - m_time <= std::max(kShortestFreshness, kPeriods * clock);
+    return m_fresh && now - m_time <= std::max(kShortestFreshness, kPeriods * m_period);
 }

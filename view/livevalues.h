@@ -25,22 +25,26 @@ public:
     /// A value counts as fresh for three sampling periods, but at least for so many milliseconds.
     static constexpr qint64 kShortestFreshness = 1000;
 
-    /// `now` in milliseconds of any clock that only goes forward; a number that is not finite counts as 0.
-    void add(const std::array<double, kNumSensors> &values, qint64 now);
+    /// `period`: the sampling period of the box. Both it and `now` in milliseconds, `now` of any clock that only goes
+    /// forward; a value that is not finite counts as 0.
+    void add(const std::array<double, kNumSensors> &values, qint64 now, int period);
     /// The next value of the channel begins a new range.
     void resetHeld(int channel);
+    /// Nothing more will come for now: what there is stays, but does not count as fresh.
+    void expire() { m_fresh = false; }
 
     [[nodiscard]] bool isEmpty() const { return !m_any; }
     /// Nothing before the first sample or for a channel outside 0 to 4.
     [[nodiscard]] std::optional<double> latest(int channel) const;
     [[nodiscard]] std::optional<HeldRange> held(int channel) const;
-    /// `clock`: the sampling period in milliseconds.
-    [[nodiscard]] bool isFresh(qint64 now, int clock) const;
+    [[nodiscard]] bool isFresh(qint64 now) const;
 
 private:
     std::array<double, kNumSensors> m_latest{};
     std::array<HeldRange, kNumSensors> m_held{};
     std::array<bool, kNumSensors> m_isHeld{};
     qint64 m_time = 0;
+    int m_period = 0;
     bool m_any = false;
+    bool m_fresh = false;
 };

@@ -52,7 +52,7 @@ TabSensors::~TabSensors() = default;
 void TabSensors::setModel(Model *model)
 {
     d->model = model;
-    connect(model, &Model::appStateChanged, this, [this] { d->showHint(); });
+    connect(model, &Model::appStateChanged, this, [this] { d->followLink(); });
     updateDescription();
     updateValues();
 }
@@ -188,18 +188,26 @@ void TabSensors::Private::enlarge(SensorTile *tile)
 
 // --- Values ----------------------------------------------------------------------------------------------------
 
-void TabSensors::addSample(const std::array<double, kNumSensors> &values)
+void TabSensors::addSample(const std::array<double, kNumSensors> &values, int period)
 {
     const bool isFirst = d->live.isEmpty();
-    d->live.add(values, d->now());
-    if (!isVisible() || window()->isMinimized())
+    d->live.add(values, d->now(), period);
+    if (!isVisible())
         return;
     if (isFirst)
         d->showHint();
-    if (!d->repaintTimer.isActive())
+    if (!d->repaintTimer.isActive() && !window()->isMinimized()) // the other timer brings it up to date at last
         d->repaintTimer.start();
     if (!d->statusTimer.isActive())
         d->statusTimer.start();
+}
+
+void TabSensors::forgetLiveValues()
+{
+    d->live = {};
+    updateValues();
+    d->showHint();
+    d->refresh();
 }
 
 void TabSensors::updateValues()
@@ -218,9 +226,19 @@ void TabSensors::updateValues()
     d->refresh();
 }
 
+/// What a link that is down has sent last says nothing about now, however slow the box was.
+void TabSensors::Private::followLink()
+{
+    if (!model->isConnected() && isFresh()) {
+        live.expire();
+        refresh();
+    }
+    showHint();
+}
+
 bool TabSensors::Private::isFresh() const
 {
-    return model && live.isFresh(now(), model->clock());
+    return live.isFresh(now());
 }
 
 SensorReading TabSensors::Private::readingOf(const SensorInfo &sensor) const

@@ -30,8 +30,10 @@ public:
     void updateDescription();
     /// The last recorded values, unless the box has sent some.
     void updateValues();
-    /// What the box sent; cheap enough for every sample line.
-    void addSample(const std::array<double, kNumSensors> &values);
+    /// What the box sent, which measures every so many milliseconds; cheap enough for every sample line.
+    void addSample(const std::array<double, kNumSensors> &values, int period);
+    /// What the box sent does not go with what is described now: the last recorded values again, and nothing held.
+    void forgetLiveValues();
     /// Milliseconds of a clock that only goes forward, instead of the computer's; for tests.
     void setTimeSource(std::function<qint64()> now);
 

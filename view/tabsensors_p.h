@@ -83,6 +83,7 @@ struct TabSensors::Private
     void enlarge(SensorTile *tile);
 
     // --- Values ---
+    void followLink();
     [[nodiscard]] bool isFresh() const;
     [[nodiscard]] SensorReading readingOf(const SensorInfo &sensor) const;
     void refreshTiles();

@@ -109,9 +109,14 @@ void View::logSample(double seconds, const std::array<double, kNumSensors> &valu
     d->tabLogger->addSample(seconds, values);
 }
 
-void View::showLiveValues(const std::array<double, kNumSensors> &values)
+void View::showLiveValues(const std::array<double, kNumSensors> &values, int period)
 {
-    d->tabSensors->addSample(values);
+    d->tabSensors->addSample(values, period);
+}
+
+void View::forgetLiveValues()
+{
+    d->tabSensors->forgetLiveValues();
 }
 
 void View::showProgress(const QString &text)

@@ -56,6 +56,7 @@ struct Bench
         tab.updateDescription();
     }
 
+    void sample(const std::array<double, kNumSensors> &values, int period = 100) { tab.addSample(values, period); }
     [[nodiscard]] SensorTreeModel *tree() const { return tab.findChild<SensorTreeModel *>(); }
     [[nodiscard]] SensorTile *tile(int number) const
     {
@@ -163,12 +164,12 @@ private slots:
         PaintCounter counter;
         QElapsedTimer clock;
         clock.start();
-        bench.tab.addSample({0.5, 0, 0, 0, 0}); // the range of the scale
+        bench.sample({0.5, 0, 0, 0, 0}); // the range of the scale
         QTest::qWait(400);
         bench.tile(1)->display()->installEventFilter(&counter);
         clock.start();
         for (int i = 0; i < 2000; ++i) {
-            bench.tab.addSample({i % 2 / 2.0, 0, 0, 0, 0});
+            bench.sample({i % 2 / 2.0, 0, 0, 0, 0});
             if (i % 7 == 0)
                 QTest::qWait(1);
         }
@@ -193,17 +194,45 @@ private slots:
         QFETCH(int, wait);
         Bench bench;
         bench.describe(described({"a"_s}, 0.0, 10.0));
-        bench.model.setClock(clock);
         bench.tab.show();
         QCOMPARE(bench.status(), SensorStatus::NoValue);
-        bench.tab.addSample({5.0, 0, 0, 0, 0});
+        bench.sample({5.0, 0, 0, 0, 0}, clock);
         QTRY_COMPARE(bench.status(), SensorStatus::Inside);
         bench.time += wait;
         QTest::qWait(300); // the tab looks four times a second
         QTEST(bench.status() == SensorStatus::Stale, "stale");
         QCOMPARE(bench.tile(1)->display()->reading().value, 5.0);
-        bench.tab.addSample({11.0, 0, 0, 0, 0}); // a new connection goes on
+        bench.sample({11.0, 0, 0, 0, 0}); // a new connection goes on
         QTRY_COMPARE(bench.status(), SensorStatus::Above);
+    }
+
+    void aLostLinkEndsWhatIsLive()
+    {
+        Bench bench;
+        bench.describe(described({"a"_s}, 0.0, 10.0));
+        bench.model.setConnected(true);
+        bench.tab.show();
+        bench.sample({5.0, 0, 0, 0, 0}, 3600000);
+        QTRY_COMPARE(bench.status(), SensorStatus::Inside);
+        bench.model.setConnected(false);
+        bench.model.emitAppStateChanged();
+        QCOMPARE(bench.status(), SensorStatus::Stale);
+    }
+
+    void valuesOfAnotherScaleAreForgotten()
+    {
+        Model model{QString()};
+        View view(&model, std::make_unique<ScriptedPrompts>());
+        Controller controller(&model, &view);
+        view.tabs()->setCurrentWidget(view.tabSensors());
+        const auto *display = view.findChild<SensorTile *>("sensorTile1"_s)->display();
+        controller.onMessageReceived("0;1500;0;0;0;0"_s);
+        controller.onTimerWaitForSensorDescription_timeout(); // from now on in thousandths
+        controller.onMessageReceived("0;1500;0;0;0;0"_s);
+        view.show();
+        QCOMPARE(display->reading().held.value_or(HeldRange()), (HeldRange{1.5, 1.5}));
+        emit view.newProject(); // without a box
+        QVERIFY(!display->reading().hasValue());
     }
 
     void heldValuesAreCollectedHidden()
@@ -213,13 +242,13 @@ private slots:
         bench.model.setOffset(0, -1.0);
         bench.tab.updateDescription();
         for (double value : {3.0, 9.0, -4.0, 5.0})
-            bench.tab.addSample({value, 0, 0, 0, 0});
+            bench.sample({value, 0, 0, 0, 0});
         bench.tab.show();
         const auto held = [&] { return bench.tile(1)->display()->reading().held.value_or(HeldRange()); };
         QCOMPARE(bench.tile(1)->display()->reading().value, 4.0);
         QCOMPARE(held(), (HeldRange{-5.0, 8.0}));
         emit bench.tile(1)->resetRequested();
-        bench.tab.addSample({2.0, 0, 0, 0, 0});
+        bench.sample({2.0, 0, 0, 0, 0});
         QTRY_COMPARE(held(), (HeldRange{1.0, 1.0}));
     }
 

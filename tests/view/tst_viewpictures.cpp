@@ -197,7 +197,7 @@ private slots:
             view.findChild<QCheckBox *>("loggerCheckBoxA1"_s)->setChecked(true);
             for (int i = 0; i < 40; ++i) {
                 view.logSample(i * 0.1, {1.5 * i, 2.25, 3.0, 4.0, 5.0});
-                view.showLiveValues({1.5 * i, 2.25, 3.0 + i, 4.0, 5.0});
+                view.showLiveValues({1.5 * i, 2.25, 3.0 + i, 4.0, 5.0}, 100);
                 view.terminalReceived("%1;12.5;230.1;80;181.5;42\n"_s.arg(i));
             }
             view.terminalSent("run=1\n"_s);
