@@ -11,11 +11,16 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QPushButton>
+#include <QStyleOptionButton>
+#include <QStylePainter>
+#include <QTextDocument>
 #include <QVBoxLayout>
 
 #include <algorithm>
 
 namespace {
+
+constexpr int kNamesFirst = 1000; // before the empty room beside them
 
 struct LoggedSample
 {
@@ -23,12 +28,48 @@ struct LoggedSample
     std::array<double, kNumSensors> values{};
 };
 
+/// As wide as its name, but gives way to its neighbours and shortens the name then.
+class NameBox : public QCheckBox
+{
+public:
+    explicit NameBox(QWidget *parent)
+        : QCheckBox(parent)
+    {
+        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    }
+    void setName(QString name)
+    {
+        setToolTip(Qt::convertFromPlainText(name));
+        setAccessibleName(name);
+        // A name may hold an ampersand, which a check box would take for a mnemonic.
+        setText(name.replace(QLatin1Char('&'), QLatin1String("&&")));
+        setMaximumWidth(sizeHint().width());
+    }
+
+protected:
+    void changeEvent(QEvent *event) override
+    {
+        QCheckBox::changeEvent(event);
+        if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+            setMaximumWidth(sizeHint().width());
+    }
+    void paintEvent(QPaintEvent * /*event*/) override
+    {
+        QStylePainter painter(this);
+        QStyleOptionButton option;
+        initStyleOption(&option);
+        const QRect room = style()->subElementRect(QStyle::SE_CheckBoxContents, &option, this);
+        option.text = fontMetrics().elidedText(text(), Qt::ElideRight, room.width(), Qt::TextShowMnemonic);
+        painter.drawControl(QStyle::CE_CheckBox, option);
+    }
+};
+
 } // namespace
 
 struct TabDataLogger::Private
 {
     RingBuffer<LoggedSample> pending{TabDataLogger::kMaximumLines};
-    std::array<QCheckBox *, kNumSensors> boxes{};
+    std::array<NameBox *, kNumSensors> boxes{};
     LoggerColumns columns{};
     bool anyColumn = false;
     QStringList names;
@@ -52,7 +93,7 @@ QString TabDataLogger::Private::takePending()
 void TabDataLogger::Private::createBoxes(TabDataLogger *tab)
 {
     for (std::size_t i = 0; i < boxes.size(); ++i) {
-        boxes[i] = new QCheckBox(tab);
+        boxes[i] = new NameBox(tab);
         boxes[i]->setObjectName(QStringLiteral("loggerCheckBoxA%1").arg(i));
         connect(boxes[i], &QCheckBox::toggled, tab, &TabDataLogger::onSensorToggled);
     }
@@ -62,8 +103,8 @@ void TabDataLogger::Private::layOut(QWidget *tab) const
 {
     auto *row = new QHBoxLayout;
     row->setSpacing(20);
-    for (QCheckBox *box : boxes)
-        row->addWidget(box);
+    for (NameBox *box : boxes)
+        row->addWidget(box, kNamesFirst);
     row->addStretch(1);
     row->addWidget(clear);
     auto *column = new QVBoxLayout(tab);
@@ -154,8 +195,7 @@ void TabDataLogger::retranslateUi()
         QString name = d->names.value(i);
         if (name.isEmpty())
             name = tr("Sensor %1").arg(i + 1);
-        // A name may hold an ampersand, which a check box would take for a mnemonic.
-        d->boxes[static_cast<std::size_t>(i)]->setText(name.replace(QLatin1Char('&'), QLatin1String("&&")));
+        d->boxes[static_cast<std::size_t>(i)]->setName(name);
     }
     d->clear->setText(tr("&Leeren"));
     d->clear->setToolTip(tr("Alle Zeilen entfernen"));
