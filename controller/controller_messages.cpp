@@ -33,6 +33,17 @@ bool isSavedAlike(const SensorDescription &a, const SensorDescription &b)
     return alike;
 }
 
+bool isAnySensorNamed(const SensorDescription &description)
+{
+    if (description.numSensorGroups() == 0)
+        return false;
+    const SensorGroup &group = description.sensorGroup(0);
+    bool named = false;
+    for (int i = 0; !named && i < group.numSensors(); ++i)
+        named = !group.sensorName(i).isEmpty();
+    return named;
+}
+
 } // namespace
 
 // --- Lines in order --------------------------------------------------------------------------------------------
@@ -165,6 +176,8 @@ void Controller::handleSensorDescription(const QString &message)
     qCDebug(lcController) << "emit Model::projectChanged()";
     d->model->emitProjectChanged();
     showNewSensorLimits(before, description);
+    if (isAnySensorNamed(before) && !isSavedAlike(before, description))
+        d->view->showStatus(tr("Namen und Grenzen der Sensoren kommen jetzt von der Box."));
 }
 
 /// Rows take over limits that are news; the user's own range survives the description that every connection brings.

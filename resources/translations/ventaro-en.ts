@@ -586,6 +586,10 @@ Continue?</translation>
         <source>Verbunden mit %1.</source>
         <translation>Connected to %1.</translation>
     </message>
+    <message>
+        <source>Namen und Grenzen der Sensoren kommen jetzt von der Box.</source>
+        <translation>The names and limits of the sensors now come from the box.</translation>
+    </message>
 </context>
 <context>
     <name>CycleTile</name>
