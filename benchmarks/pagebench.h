@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/stylesheets.h"
+#include "app/startup.h"
 #include "model/model.h"
 
 #include <benchmark/benchmark.h>
@@ -86,8 +86,7 @@ inline int runPageBenchmarks(int argc, char **argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
     QApplication application(argc, argv);
-    QApplication::setStyle(QStringLiteral("Fusion"));
-    application.setStyleSheet(theme::styleApplication);
+    prepareApplication(application);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;
