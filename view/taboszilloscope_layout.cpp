@@ -6,6 +6,7 @@
 #include "view/oszirowinput.h"
 #include "view/taboszilloscope_flow.h"
 #include "view/taboszilloscope_p.h"
+#include "view/tabstyle.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -26,8 +27,10 @@ namespace {
 
 constexpr int kGap = 4;
 constexpr int kGroupGap = 14;
-constexpr int kHeadGap = 6; // five names and the correction are many for one line
-constexpr int kLineGap = 2; // the plots need the height
+constexpr int kHeadGap = 6;           // five names and the correction are many for one line
+constexpr int kLineGap = 2;           // the plots need the height
+constexpr int kWidestField = 420;     // pixels, with its caption
+constexpr int kLeastRowsHeight = 130; // pixels: a row and the scroll bar below it
 constexpr int kLargestSeconds = std::numeric_limits<int>::max() / 1000;
 const int kLargestMilliseconds = 24 * 60 * 60 * 1000;
 
@@ -43,10 +46,11 @@ QString compactSheet()
                           "QComboBox QAbstractItemView::item {min-height: 34px;}"
                           "QCheckBox {spacing: 4px; padding: 1px;}"
                           "QCheckBox::indicator {width: 24px; height: 24px;}"
+                          "QCheckBox#checkBoxAllMeasurings {min-width: 34px;}"
                           "QWidget#osziRows {background-color: white;}"
                           "*[osziParams=true] QLabel {font-size: 13px; min-height: 15px; max-height: 18px;}"
                           "*[osziParams=true] QLabel#osziTitle {font-size: 14px; font-weight: bold;}"
-                          "*[osziParams=true] QDoubleSpinBox {font-size: 15px; min-height: 25px; min-width: 70px;}"
+                          "*[osziParams=true] QDoubleSpinBox {font-size: 15px; min-height: 25px; min-width: 110px;}"
                           "*[osziParams=true] QDoubleSpinBox::up-button, *[osziParams=true] QDoubleSpinBox::down-button"
                           " {width: 24px; height: 25px;}"
                           "QScrollBar:horizontal {min-height: 34px;}"
@@ -92,6 +96,26 @@ QPushButton *createClearButton(const QString &name, QWidget *parent)
     return button;
 }
 
+/// Takes what height the controls leave: rows out of sight are no reason to scroll the controls.
+class RowsArea : public QScrollArea
+{
+public:
+    using QScrollArea::QScrollArea;
+
+    [[nodiscard]] QSize sizeHint() const override { return {QScrollArea::sizeHint().width(), kLeastRowsHeight}; }
+    [[nodiscard]] QSize minimumSizeHint() const override
+    {
+        return {QScrollArea::minimumSizeHint().width(), kLeastRowsHeight};
+    }
+};
+
+void setStretch(QWidget *widget, int factor)
+{
+    QSizePolicy policy = widget->sizePolicy();
+    policy.setHorizontalStretch(static_cast<uchar>(factor));
+    widget->setSizePolicy(policy);
+}
+
 /// A group of controls in one line, for the flow layout.
 QHBoxLayout *groupLayout(QWidget *group)
 {
@@ -101,22 +125,32 @@ QHBoxLayout *groupLayout(QWidget *group)
     return layout;
 }
 
+QWidget *createGroup(std::initializer_list<QWidget *> controls, QWidget *parent)
+{
+    auto *group = new QWidget(parent);
+    QHBoxLayout *layout = groupLayout(group);
+    for (QWidget *control : controls)
+        layout->addWidget(control);
+    return group;
+}
+
 } // namespace
 
 void TabOszilloscope::Private::build()
 {
     q->setStyleSheet(compactSheet());
-    auto *layout = new QVBoxLayout(q);
+    QWidget *page = tabstyle::addScrolledPage(q); // for windows that are too low
+    auto *layout = new QVBoxLayout(page);
     layout->setContentsMargins(kGap, kLineGap, kGap, kLineGap);
     layout->setSpacing(kLineGap);
     layout->addWidget(createHead());
     layout->addWidget(createRows(), 1);
     layout->addWidget(createTimeAxis());
 
-    auto *foot = new QWidget(q);
+    auto *foot = new QWidget(page);
     auto *flow = new FlowLayout(kGroupGap, kLineGap, foot);
     flow->addWidget(createMarkers(foot));
-    flow->addWidget(createMeasurements(foot));
+    addMeasurements(*flow, foot);
     flow->addWidget(createSampleRate(foot));
     layout->addWidget(foot);
 
@@ -141,7 +175,7 @@ QWidget *TabOszilloscope::Private::createRows()
         rows.at(static_cast<size_t>(position)) = row;
         layout->addWidget(row, 1);
     }
-    scrollArea = new QScrollArea(q);
+    scrollArea = new RowsArea(q);
     scrollArea->setObjectName(QStringLiteral("scrollArea"));
     scrollArea->setWidgetResizable(true);
     scrollArea->setFrameShape(QFrame::NoFrame);
@@ -195,24 +229,31 @@ void TabOszilloscope::Private::createLock(QWidget *parent)
 QWidget *TabOszilloscope::Private::createTimeAxis()
 {
     auto *axis = new QWidget(q);
-    QHBoxLayout *layout = groupLayout(axis);
+    auto *flow = new FlowLayout(2 * kGap, kLineGap, axis);
     scrollBar = new QScrollBar(Qt::Horizontal, axis);
     scrollBar->setObjectName(QStringLiteral("scrollBarOszi"));
     scrollBar->setFocusPolicy(Qt::StrongFocus);
-    zoomCaption = new QLabel(axis);
-    zoom = new QSlider(Qt::Horizontal, axis);
+    setStretch(scrollBar, 4);
+    flow->addWidget(scrollBar);
+    flow->addWidget(createZoom(axis));
+    flow->addWidget(createClockGrid(axis));
+    return axis;
+}
+
+QWidget *TabOszilloscope::Private::createZoom(QWidget *parent)
+{
+    auto *group = new QWidget(parent);
+    setStretch(group, 1);
+    zoomCaption = new QLabel(group);
+    zoom = new QSlider(Qt::Horizontal, group);
     zoom->setObjectName(QStringLiteral("sliderTimeZoom"));
     zoom->setRange(1, osziaxes::kMaximumZoom);
     zoom->setPageStep(5);
     zoom->setMinimumWidth(120);
-    zoom->setMaximumWidth(240);
-    layout->addWidget(scrollBar, 4);
-    layout->addSpacing(kGap);
+    QHBoxLayout *layout = groupLayout(group);
     layout->addWidget(zoomCaption);
-    layout->addWidget(zoom, 1);
-    layout->addSpacing(kGap);
-    layout->addWidget(createClockGrid(axis));
-    return axis;
+    layout->addWidget(zoom);
+    return group;
 }
 
 QWidget *TabOszilloscope::Private::createClockGrid(QWidget *parent)
@@ -267,79 +308,74 @@ QWidget *TabOszilloscope::Private::createMarkers(QWidget *parent)
 {
     markerFrame = new QFrame(parent);
     markerFrame->setObjectName(QStringLiteral("frameMarker"));
-    QHBoxLayout *layout = groupLayout(markerFrame);
-    for (int index = 0; index < Model::kNumMarkers; ++index) {
-        const Marker marker = createMarker(index, markerFrame);
-        markers.at(static_cast<size_t>(index)) = marker;
-        layout->addWidget(marker.button);
-        layout->addWidget(marker.label);
-        layout->addWidget(marker.seconds);
-        layout->addSpacing(kGap);
-    }
-    markerAbsolute = createToggle(QStringLiteral("checkBoxMarkerAbsolute"), false, markerFrame);
-    markerAbsoluteCaption = new QLabel(markerFrame);
+    auto *flow = new FlowLayout(2 * kGap, kLineGap, markerFrame);
+    for (int index = 0; index < Model::kNumMarkers; ++index)
+        flow->addWidget(createMarker(index, markerFrame));
+    auto *group = new QWidget(markerFrame);
+    markerAbsolute = createToggle(QStringLiteral("checkBoxMarkerAbsolute"), false, group);
+    markerAbsoluteCaption = new QLabel(group);
     markerAbsoluteCaption->setObjectName(QStringLiteral("labelMarkerAbsolute"));
-    clearMarkersButton = createClearButton(QStringLiteral("buttonClearMarkers"), markerFrame);
+    clearMarkersButton = createClearButton(QStringLiteral("buttonClearMarkers"), group);
+    QHBoxLayout *layout = groupLayout(group);
     layout->addWidget(markerAbsolute);
     layout->addWidget(markerAbsoluteCaption);
     layout->addWidget(clearMarkersButton);
+    flow->addWidget(group);
     return markerFrame;
 }
 
-TabOszilloscope::Private::Marker TabOszilloscope::Private::createMarker(int index, QWidget *parent)
+QWidget *TabOszilloscope::Private::createMarker(int index, QWidget *parent)
 {
     const QString number = QString::number(index + 1);
-    Marker marker;
-    marker.button = new QPushButton(number, parent);
+    auto *group = new QWidget(parent);
+    Marker &marker = markers.at(static_cast<size_t>(index));
+    marker.button = new QPushButton(number, group);
     marker.button->setObjectName(QStringLiteral("buttonMarker") + number);
     marker.button->setCheckable(true);
     marker.button->setStyleSheet(QStringLiteral("QPushButton {min-width: 34px; background-color: %1;}"
                                                 "QPushButton:checked {border: 4px solid black;}"
                                                 "QPushButton:disabled {background-color: gray;}")
                                      .arg(markerColor(index).name()));
-    marker.label = new QLabel(parent);
+    marker.label = new QLabel(group);
     marker.label->setObjectName(QStringLiteral("labelMarker") + number);
-    marker.seconds = new OsziDoubleSpinBox(QStringLiteral("000.00"), parent);
+    marker.seconds = new OsziDoubleSpinBox(QStringLiteral("000.00"), group);
     marker.seconds->setObjectName(QStringLiteral("markerSpinBox") + number);
     marker.seconds->setDecimals(4); // with three, 1.2345 s would be rounded here already, and downwards
     marker.seconds->setRange(0.0, kLargestSeconds);
     marker.seconds->setSingleStep(0.1);
-    return marker;
+    QHBoxLayout *layout = groupLayout(group);
+    layout->addWidget(marker.button);
+    layout->addWidget(marker.label);
+    layout->addWidget(marker.seconds);
+    return group;
 }
 
-QWidget *TabOszilloscope::Private::createMeasurements(QWidget *parent)
+void TabOszilloscope::Private::addMeasurements(FlowLayout &flow, QWidget *parent)
 {
-    auto *group = new QWidget(parent);
-    counterCaption = new QLabel(group);
-    counter = new QLabel(group);
+    counterCaption = new QLabel(parent);
+    counter = new QLabel(parent);
     counter->setObjectName(QStringLiteral("numMeasuringsLabel"));
-    displayedCaption = new QLabel(group);
-    allMeasurements = createCheckBox(QStringLiteral("checkBoxAllMeasurings"), true, group);
-    displayed = new QLineEdit(group);
+    displayedCaption = new QLabel(parent);
+    allMeasurements = createCheckBox(QStringLiteral("checkBoxAllMeasurings"), true, parent);
+    displayed = new QLineEdit(parent);
     displayed->setObjectName(QStringLiteral("displayedMeasLineEdit"));
     displayed->setMinimumWidth(110);
-    highlightCaption = new QLabel(group);
-    highlight = new OsziSpinBox(QStringLiteral("00000"), group);
+    highlightCaption = new QLabel(parent);
+    highlight = new OsziSpinBox(QStringLiteral("00000"), parent);
     highlight->setObjectName(QStringLiteral("highlightSpinBox"));
     highlight->setRange(0, 0);
-    QHBoxLayout *layout = groupLayout(group);
-    layout->addWidget(counterCaption);
-    layout->addWidget(counter);
-    layout->addSpacing(kGroupGap);
-    layout->addWidget(displayedCaption);
-    layout->addWidget(allMeasurements);
-    layout->addWidget(displayed);
-    layout->addSpacing(kGroupGap);
-    layout->addWidget(highlightCaption);
-    layout->addWidget(highlight);
-    layout->addSpacing(kGroupGap);
-    layout->addWidget(createDeletion(group));
-    return group;
+    flow.addWidget(createGroup({counterCaption, counter}, parent));
+    QWidget *choice = createGroup({displayedCaption, allMeasurements, displayed}, parent);
+    choice->setMaximumWidth(kWidestField);
+    flow.addWidget(choice);
+    flow.addWidget(createGroup({highlightCaption, highlight}, parent));
+    flow.addWidget(createDeletion(parent));
 }
 
 QWidget *TabOszilloscope::Private::createDeletion(QWidget *parent)
 {
     auto *group = new QWidget(parent);
+    group->setMaximumWidth(kWidestField);
     deletionCaption = new QLabel(group);
     deletion = new QLineEdit(group);
     deletion->setObjectName(QStringLiteral("measToDeleteLineEdit"));

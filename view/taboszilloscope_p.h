@@ -48,12 +48,13 @@ struct TabOszilloscope::Private
     QWidget *createHead();
     QWidget *createSensorSwitch(int position, QWidget *parent);
     QWidget *createTimeAxis();
+    QWidget *createZoom(QWidget *parent);
     QWidget *createClockGrid(QWidget *parent);
     QWidget *createYCorrection(QWidget *parent);
     QWidget *createSampleRate(QWidget *parent);
     QWidget *createMarkers(QWidget *parent);
-    Marker createMarker(int index, QWidget *parent);
-    QWidget *createMeasurements(QWidget *parent);
+    QWidget *createMarker(int index, QWidget *parent);
+    void addMeasurements(FlowLayout &flow, QWidget *parent);
     QWidget *createDeletion(QWidget *parent);
     void createLock(QWidget *parent);
     void connectRow(int position);

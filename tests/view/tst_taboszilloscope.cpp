@@ -216,7 +216,10 @@ private slots:
         bench.find<QCheckBox>("checkBoxYCorrection")->setChecked(true);
         QCOMPARE(plot->channelOffset(0), -18.0);
         QCOMPARE(plot->channelOffset(1), 0.0); // not that long yet
-        bench.grow(20, 50.0);
+        bench.grow(2, 50.0);
+        bench.model.emitDataChanged();
+        QCOMPARE(plot->channelOffset(1), 0.0); // still not
+        bench.grow(18, 52.0);
         bench.model.emitDataChanged();
         QCOMPARE(plot->channelOffset(1), -58.0);
         QVERIFY(bench.model.deleteChannel(0));

@@ -18,6 +18,23 @@ void wheel(QWidget *target, QPoint at, int delta, Qt::KeyboardModifiers modifier
     QCoreApplication::sendEvent(target, &event);
 }
 
+/// Where the controls outside of the rows are, in the page that scrolls.
+QVector<QRect> controlPlaces(const QWidget &page)
+{
+    const auto *rows = page.findChild<QWidget *>("scrollArea"_s);
+    QVector<QRect> places;
+    for (const QWidget *control : page.findChildren<QWidget *>()) {
+        const bool isControl = qobject_cast<const QAbstractSpinBox *>(control)
+                               || qobject_cast<const QAbstractButton *>(control)
+                               || qobject_cast<const QLabel *>(control) || qobject_cast<const QSlider *>(control)
+                               || qobject_cast<const QLineEdit *>(control);
+        const bool isPart = qobject_cast<const QAbstractSpinBox *>(control->parentWidget());
+        if (isControl && !isPart && control->isVisibleTo(&page) && !rows->isAncestorOf(control))
+            places.append(QRect(control->mapTo(&page, {}), control->size()));
+    }
+    return places;
+}
+
 } // namespace
 
 class TestTabOszilloscopeControls : public QObject
@@ -26,6 +43,30 @@ class TestTabOszilloscopeControls : public QObject
 
 private slots:
     void initTestCase() { qApp->setStyleSheet(theme::styleApplication); }
+
+    void controlsWrap_data()
+    {
+        columns<QSize>("size");
+        row("smallest window", QSize(223, 314));
+        row("half a screen", QSize(460, 600));
+        row("small laptop", QSize(847, 614));
+    }
+
+    void controlsWrap()
+    {
+        QFETCH(QSize, size);
+        OsziBench bench;
+        bench.tab.resize(size);
+        QCoreApplication::processEvents();
+        const QWidget *page = bench.find<QFrame>("frameMarker")->parentWidget()->parentWidget();
+        const QVector<QRect> places = controlPlaces(*page);
+        QVERIFY(places.size() > 30);
+        for (int i = 0; i < places.size(); ++i) {
+            QVERIFY(page->rect().contains(places.at(i)));
+            for (int k = 0; k < i; ++k)
+                QVERIFY(!places.at(i).intersects(places.at(k)));
+        }
+    }
 
     void markerEdited_data()
     {
