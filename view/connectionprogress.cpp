@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
+#include <QTextDocument>
 
 ConnectionProgress::ConnectionProgress(QWidget *window)
     : QFrame(window)
@@ -44,7 +45,7 @@ ConnectionProgress::ConnectionProgress(QWidget *window)
 void ConnectionProgress::showText(const QString &text)
 {
     m_label->setText(text);
-    m_label->setToolTip(text);
+    m_label->setToolTip(Qt::convertFromPlainText(text));
     centre();
     show();
     raise();

@@ -7,6 +7,7 @@
 #include <QSignalBlocker>
 #include <QStyle>
 #include <QStyleOption>
+#include <QTextDocument>
 #include <QToolTip>
 #include <QWheelEvent>
 
@@ -159,6 +160,6 @@ bool ElidedLabel::event(QEvent *event)
     if (event->type() != QEvent::ToolTip || !cut)
         return QLabel::event(event);
     const QString help = toolTip().isEmpty() ? text() : text() + QLatin1Char('\n') + toolTip();
-    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), help, this);
+    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), Qt::convertFromPlainText(help), this);
     return true;
 }
