@@ -50,7 +50,7 @@ public:
         return std::isfinite(value) ? value : 0.0;
     }
     [[nodiscard]] int integer(int from = 0) { return text(from).toInt(nullptr, 10); }
-    [[nodiscard]] int digit(int from = 0) { return std::max(0, m_line.mid(startOf(from), 1).toInt()); }
+    [[nodiscard]] int digit(int from = 0) { return std::max(0, m_line.midRef(startOf(from), 1).toInt()); }
 
 private:
     [[nodiscard]] int startOf(int from) { return m_search.indexFrom(from) + m_offset; }

@@ -79,7 +79,8 @@ void forEachElement(const QVariantMap &fields, const char *key, const char *comp
         return;
     }
     int index = 0;
-    for (const QVariant &element : value.toList())
+    const QVariantList elements = value.toList();
+    for (const QVariant &element : elements)
         apply(index++, element);
 }
 
