@@ -70,7 +70,8 @@ inline const QString stylePushButton =
     + QStringLiteral(";font-size: 16px;min-height: 40px;min-width: 50px;}QPushButton:checked {background-color: ")
     + colorPrimary
     + QStringLiteral(";color: ") + colorBackground
-    + QStringLiteral(";}QPushButton:disabled {color: #CCC;background-color: gray;}");
+    + QStringLiteral(";}QPushButton:disabled {color: #CCC;background-color: gray;}"
+                     "QPushButton:focus {border: 2px solid black;padding: -2px;}");
 
 inline const QString styleColoredButton =
     QStringLiteral("ColoredButton {     border: 0px solid #999;    border-radius: 3px;    padding:   0px;"
@@ -132,7 +133,7 @@ inline const QString styleMain =
                      "QMessageBox QLabel#qt_msgboxex_icon_label {min-width: 0px;min-height: 0px;}"
                      "QMessageBox QPushButton {font-size: 24px;color: white;min-width: 100px;min-height: 50px;"
                      "border: 1px solid white;padding: 0px 10px;}"
-                     "QMessageBox QPushButton:focus {border: 3px solid white;}"
+                     "QMessageBox QPushButton:focus {border: 3px solid white;padding: -2px 8px;}"
                      "QHeaderView::section {    background-color: ") + colorPrimary
     + QStringLiteral(";    color: white;    padding-left: 4px;    padding-right: 4px;    border: 1px solid ")
     + colorBorder
