@@ -47,8 +47,9 @@ FAULTS = {
     "place holder": (SOURCE, translated("<translation>Open &amp;file %2</translation>"), "place holders"),
     "mnemonic": (SOURCE, translated("<translation>Open file %1</translation>"), "mnemonics"),
     "blank": (SOURCE, translated("<translation>Open &amp;file %1 </translation>"), "blanks at the ends"),
-    "literal": (SOURCE.replace('"pageFile"', '"Größe"'), catalogue(ENTRIES), "page.cpp:7: German text outside tr()"),
-    "raw literal": (SOURCE.replace('"pageFile"', 'R"(die Werte)"'), catalogue(ENTRIES), "German text outside tr()"),
+    "literal": (SOURCE.replace('"pageFile"', '"Größe"'), catalogue(ENTRIES), "page.cpp:7: text outside tr()"),
+    "raw literal": (SOURCE.replace('"pageFile"', 'R"(die Werte)"'), catalogue(ENTRIES), "text outside tr()"),
+    "shown literal": (SOURCE.replace("setObjectName", "setToolTip"), catalogue(ENTRIES), "text outside tr()"),
 }
 
 
