@@ -227,7 +227,7 @@ void TabBlackBox::retranslateUi()
     d->selectNew->setToolTip(tr("Die Tage auswählen, von denen noch nichts geladen ist"));
     d->fetch->setText(tr("&Holen"));
     d->fetch->setToolTip(tr("Die Dateien der ausgewählten Tage von der Box kopieren"));
-    d->openFolder->setText(tr("&Ordner öffnen …"));
+    d->openFolder->setText(tr("&Ordner öffnen..."));
     d->openFolder->setToolTip(tr("Dateien der Box aus einem Ordner dieses Rechners nehmen"));
     d->import->setToolTip(tr("Die ausgewählten Dateien als Messungen in das Projekt übernehmen"));
     d->dayTable->setAccessibleName(tr("Aufgezeichnete Tage"));

@@ -202,12 +202,12 @@ void TabSensors::Private::connectTree()
 void TabSensors::Private::retranslateUi()
 {
     tree->setAccessibleName(TabSensors::tr("Sensoren"));
-    editButton->setText(TabSensors::tr("&Bearbeiten…"));
+    editButton->setText(TabSensors::tr("&Bearbeiten..."));
     editButton->setToolTip(TabSensors::tr("Name, Farbe und Grenzen des gewählten Sensors (Eingabetaste)"));
     resetButton->setText(TabSensors::tr("&Min/Max neu"));
     resetButton->setToolTip(TabSensors::tr("Minimum und Maximum aller Sensoren neu beginnen"));
     renameAction->setText(TabSensors::tr("Umbenennen (F2)"));
-    editAction->setText(TabSensors::tr("Bearbeiten…"));
+    editAction->setText(TabSensors::tr("Bearbeiten..."));
     resetAction->setText(TabSensors::tr("Minimum und Maximum neu beginnen"));
     sensors->retranslate();
     showHint();

@@ -27,7 +27,7 @@ QString View::Private::askExportFile(const QString &title, const QString &filter
     // The dialog asked about the name chosen, not about the one with the suffix.
     if (file != chosen && QFile::exists(file)
         && !q->askYesNo(tr("Datei überschreiben"),
-                        tr("Die Datei %1 gibt es schon. Überschreiben?").arg(QDir::toNativeSeparators(file))))
+                        tr("Die Datei \"%1\" ist schon vorhanden. Überschreiben?").arg(QDir::toNativeSeparators(file))))
         return {};
     return file;
 }

@@ -128,7 +128,7 @@ void ViewActions::retranslateBox() const
     setTexts(disconnectBox, tr("Trennen"), tr("Mesotra Verbindung trennen."), tr("Trennt die Verbindung zur Box"));
     setTexts(calibrate, tr("Kalibrieren"), {}, tr("Setzt die aktuellen Werte aller Sensoren auf null"));
     setTexts(startRecording, tr("Start"), {}, tr("Startet oder beendet eine Aufzeichnung"));
-    setTexts(firmwareUpdate, tr("&Firmware Update…"), {}, tr("Überträgt eine neue Firmware auf die Box"));
+    setTexts(firmwareUpdate, tr("&Firmware Update..."), {}, tr("Überträgt eine neue Firmware auf die Box"));
 }
 
 void ViewActions::retranslateOther() const

@@ -29,11 +29,11 @@
     </message>
     <message>
         <source>Text der Lizenz</source>
-        <translation>Text of the licence</translation>
+        <translation>Licence text</translation>
     </message>
     <message>
         <source>Kopiert die Versionen als Text für eine Anfrage beim Hersteller</source>
-        <translation>Copies the versions as text for a question to the manufacturer</translation>
+        <translation>Copies the versions as text for an enquiry to the manufacturer</translation>
     </message>
     <message>
         <source>&amp;Schließen</source>
@@ -76,11 +76,11 @@
     </message>
     <message>
         <source>Hardware der Box</source>
-        <translation>Hardware of the box</translation>
+        <translation>Box hardware</translation>
     </message>
     <message>
         <source>Firmware der Box</source>
-        <translation>Firmware of the box</translation>
+        <translation>Box firmware</translation>
     </message>
     <message>
         <source>Betriebssystem</source>
@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>Demo: simulierte Box, keine Messwerte</source>
-        <translation>Demo: simulated box, no measurements</translation>
+        <translation>Demo: simulated box, no real readings</translation>
     </message>
 </context>
 <context>
@@ -282,7 +282,7 @@
     </message>
     <message>
         <source>Achtung: Das Projekt ist mit %1 ms je Wert aufgezeichnet, die Box misst mit %2 ms.</source>
-        <translation>Attention: the project was recorded with %1 ms per value, the box samples with %2 ms.</translation>
+        <translation>Attention: the project was recorded at %1 ms per value, the box samples at %2 ms.</translation>
     </message>
     <message>
         <source>Verbindung getrennt, Aufnahme beendet. Alle Daten sind erhalten.</source>
@@ -344,7 +344,7 @@
     </message>
     <message>
         <source>Cannot open file %1 !.</source>
-        <translation>Cannot open file %1 !</translation>
+        <translation>Cannot open file %1!</translation>
     </message>
     <message>
         <source>Problem</source>
@@ -544,7 +544,7 @@ Import them again?</translation>
     </message>
     <message>
         <source>Nur %1 von %2 Bildern übernommen, mehr Plätze sind nicht frei.</source>
-        <translation>Only %1 of %2 pictures taken over, no more places are free.</translation>
+        <translation>Only %1 of %2 pictures added; there is no room for more.</translation>
     </message>
     <message>
         <source>Bild %1 wird aus dem Projekt gelöscht.
@@ -568,11 +568,11 @@ Continue?</translation>
     </message>
     <message>
         <source>Die Demo ist nicht möglich: Der Simulator lässt sich nicht starten.</source>
-        <translation>The demo is not possible: the simulator cannot be started.</translation>
+        <translation>The demo cannot run: the simulator does not start.</translation>
     </message>
     <message>
         <source>Die Demo ist nicht möglich: Der Simulator antwortet nicht.</source>
-        <translation>The demo is not possible: the simulator does not answer.</translation>
+        <translation>The demo cannot run: the simulator does not respond.</translation>
     </message>
     <message>
         <source>Die Demo ist beendet: Der Simulator läuft nicht mehr.</source>
@@ -754,7 +754,7 @@ Continue?</translation>
     <name>IPAddressDialog</name>
     <message>
         <source>&lt;b&gt;Verbindung abgebrochen&lt;/b&gt;</source>
-        <translation>&lt;b&gt;Connection cancelled&lt;/b&gt;</translation>
+        <translation>&lt;b&gt;Connection aborted&lt;/b&gt;</translation>
     </message>
     <message>
         <source>Unter anderer IP-Adresse verbinden:</source>
@@ -1002,7 +1002,7 @@ Doppelklick passt den Wertebereich an.</source>
         <translation>Keys in the plot: + and - time axis, Ctrl with + and - value axis,
 arrows move, Home and End jump, F fits the value range to the curves.
 Mouse: wheel time axis, Ctrl with wheel value axis, middle button or Shift moves,
-double click fits the value range.</translation>
+double-click fits the value range.</translation>
     </message>
 </context>
 <context>
@@ -1013,7 +1013,7 @@ double click fits the value range.</translation>
     </message>
     <message>
         <source>Farbe der Kurve: Doppelklick oder F2 zum Ändern</source>
-        <translation>Colour of the curve: double click or F2 to change</translation>
+        <translation>Colour of the curve: double-click or F2 to change</translation>
     </message>
     <message>
         <source>Kurve zeigen: Klick oder Leertaste</source>
@@ -1021,7 +1021,7 @@ double click fits the value range.</translation>
     </message>
     <message>
         <source>Bezeichnung: Doppelklick oder F2 zum Ändern</source>
-        <translation>Label: double click or F2 to change</translation>
+        <translation>Label: double-click or F2 to change</translation>
     </message>
     <message>
         <source>Farbe der Kurve</source>
@@ -1245,7 +1245,7 @@ double click fits the value range.</translation>
     </message>
     <message>
         <source>1. Box einschalten und &lt;b&gt;Verbinden&lt;/b&gt; drücken oder die &lt;b&gt;Demo&lt;/b&gt; starten.&lt;br&gt;2. &lt;b&gt;Start&lt;/b&gt; in der Werkzeugleiste zeichnet eine Messung auf, &lt;b&gt;Stop&lt;/b&gt; beendet sie.&lt;br&gt;3. Kurven ansehen unter &lt;b&gt;Oszilloskop&lt;/b&gt;, Messungen vergleichen unter &lt;b&gt;Auswertung&lt;/b&gt;.&lt;br&gt;4. Projekt speichern. Beim nächsten Mal steht es hier bereit.</source>
-        <translation>1. Switch the box on and press &lt;b&gt;Connect&lt;/b&gt;, or start the &lt;b&gt;demo&lt;/b&gt;.&lt;br&gt;2. &lt;b&gt;Start&lt;/b&gt; in the tool bar records a measurement, &lt;b&gt;Stop&lt;/b&gt; ends it.&lt;br&gt;3. Look at curves in &lt;b&gt;Oscilloscope&lt;/b&gt;, compare measurements in &lt;b&gt;Evaluation&lt;/b&gt;.&lt;br&gt;4. Save the project. The next time it is ready here.</translation>
+        <translation>1. Switch on the box and press &lt;b&gt;Connect&lt;/b&gt;, or start the &lt;b&gt;demo&lt;/b&gt;.&lt;br&gt;2. &lt;b&gt;Start&lt;/b&gt; in the tool bar records a measurement, &lt;b&gt;Stop&lt;/b&gt; ends it.&lt;br&gt;3. View the curves in &lt;b&gt;Oscilloscope&lt;/b&gt;, compare measurements in &lt;b&gt;Evaluation&lt;/b&gt;.&lt;br&gt;4. Save the project. Next time you will find it here.</translation>
     </message>
     <message>
         <source>Netzlaufwerk</source>
@@ -1416,19 +1416,19 @@ double click fits the value range.</translation>
     </message>
     <message>
         <source>Art der Anzeige (Tasten 1 bis 4)</source>
-        <translation>Kind of display (keys 1 to 4)</translation>
+        <translation>Display type (keys 1 to 4)</translation>
     </message>
     <message>
         <source>%1: Art der Anzeige</source>
-        <translation>%1: kind of display</translation>
+        <translation>%1: display type</translation>
     </message>
     <message>
         <source>Minimum und Maximum neu beginnen (Entf)</source>
-        <translation>Start minimum and maximum anew (Del)</translation>
+        <translation>Reset minimum and maximum (Del)</translation>
     </message>
     <message>
         <source>%1: Minimum und Maximum neu beginnen</source>
-        <translation>%1: start minimum and maximum anew</translation>
+        <translation>%1: reset minimum and maximum</translation>
     </message>
     <message>
         <source>Alle Sensoren zeigen (Esc)</source>
@@ -1436,7 +1436,7 @@ double click fits the value range.</translation>
     </message>
     <message>
         <source>Groß zeigen (Eingabetaste oder Doppelklick)</source>
-        <translation>Enlarge (Enter or double click)</translation>
+        <translation>Enlarge (Enter or double-click)</translation>
     </message>
     <message>
         <source>Alle Sensoren zeigen</source>
@@ -1458,7 +1458,7 @@ double click fits the value range.</translation>
 F2 oder Doppelklick: umbenennen
 Eingabetaste: bearbeiten</source>
         <translation>%1
-F2 or double click: rename
+F2 or double-click: rename
 Enter: edit</translation>
     </message>
     <message>
@@ -1542,7 +1542,7 @@ Identification of this computer:
     </message>
     <message>
         <source>Dateien vom %1</source>
-        <translation>Files of %1</translation>
+        <translation>Files from %1</translation>
     </message>
     <message>
         <source>Lokale Dateien</source>
@@ -1593,12 +1593,12 @@ Identification of this computer:
         <translation>Copy the files of the selected days from the box</translation>
     </message>
     <message>
-        <source>&amp;Ordner öffnen …</source>
-        <translation>&amp;Open folder …</translation>
+        <source>&amp;Ordner öffnen...</source>
+        <translation>&amp;Open folder...</translation>
     </message>
     <message>
         <source>Dateien der Box aus einem Ordner dieses Rechners nehmen</source>
-        <translation>Take files of the box from a folder on this computer</translation>
+        <translation>Use files of the box from a folder on this computer</translation>
     </message>
     <message>
         <source>Die ausgewählten Dateien als Messungen in das Projekt übernehmen</source>
@@ -1880,7 +1880,7 @@ Identification of this computer:
     </message>
     <message>
         <source>So geht es los</source>
-        <translation>How to begin</translation>
+        <translation>Getting started</translation>
     </message>
     <message>
         <source>Zuletzt geöffnet</source>
@@ -1900,11 +1900,11 @@ Identification of this computer:
     </message>
     <message>
         <source>Die Demo ist nicht verfügbar: Das Programm &quot;ventaro-box-simulator&quot; liegt nicht neben Ventaro.</source>
-        <translation>The demo is not available: the program &quot;ventaro-box-simulator&quot; is not beside Ventaro.</translation>
+        <translation>The demo is not available: the program &quot;ventaro-box-simulator&quot; is not next to Ventaro.</translation>
     </message>
     <message>
         <source>Noch keine. Jede Box, mit der die Verbindung gelungen ist, steht hier bereit.</source>
-        <translation>None yet. Every box that Ventaro has been connected to is ready here.</translation>
+        <translation>None yet. Every box that Ventaro has connected to is listed here.</translation>
     </message>
     <message>
         <source>Mit %1 verbinden</source>
@@ -2154,7 +2154,7 @@ Esc cancels.</translation>
     <message>
         <source>Kein Sensor ausgewählt.
 Links die Sensoren ankreuzen, die gezeigt werden sollen.</source>
-        <translation>No sensor chosen.
+        <translation>No sensor selected.
 Tick the sensors to be shown on the left.</translation>
     </message>
     <message>
@@ -2162,8 +2162,8 @@ Tick the sensors to be shown on the left.</translation>
         <translation>Sensors</translation>
     </message>
     <message>
-        <source>&amp;Bearbeiten…</source>
-        <translation>&amp;Edit…</translation>
+        <source>&amp;Bearbeiten...</source>
+        <translation>&amp;Edit...</translation>
     </message>
     <message>
         <source>Name, Farbe und Grenzen des gewählten Sensors (Eingabetaste)</source>
@@ -2175,19 +2175,19 @@ Tick the sensors to be shown on the left.</translation>
     </message>
     <message>
         <source>Minimum und Maximum aller Sensoren neu beginnen</source>
-        <translation>Start minimum and maximum of all sensors anew</translation>
+        <translation>Reset minimum and maximum of all sensors</translation>
     </message>
     <message>
         <source>Umbenennen (F2)</source>
         <translation>Rename (F2)</translation>
     </message>
     <message>
-        <source>Bearbeiten…</source>
-        <translation>Edit…</translation>
+        <source>Bearbeiten...</source>
+        <translation>Edit...</translation>
     </message>
     <message>
         <source>Minimum und Maximum neu beginnen</source>
-        <translation>Start minimum and maximum anew</translation>
+        <translation>Reset minimum and maximum</translation>
     </message>
 </context>
 <context>
@@ -2239,7 +2239,7 @@ Arrow up and down: earlier lines</translation>
     </message>
     <message>
         <source>Netzwerk, Uhrzeit und Sensoren der Box werden auf ihrer eigenen Seite eingestellt. Die Seite öffnet sich im Browser; dieser Computer muss im Netz der Box sein.</source>
-        <translation>The box&apos;s network, clock and sensors are set up on its own page. The page opens in the browser; this computer must be in the network of the box.</translation>
+        <translation>The box&apos;s network, clock and sensors are set up on its own page. The page opens in the browser; this computer must be on the network of the box.</translation>
     </message>
     <message>
         <source>Im &amp;Browser öffnen</source>
@@ -2383,8 +2383,8 @@ Arrow up and down: earlier lines</translation>
         <translation>Overwrite file</translation>
     </message>
     <message>
-        <source>Die Datei %1 gibt es schon. Überschreiben?</source>
-        <translation>The file %1 already exists. Overwrite it?</translation>
+        <source>Die Datei &quot;%1&quot; ist schon vorhanden. Überschreiben?</source>
+        <translation>The file &quot;%1&quot; already exists. Overwrite it?</translation>
     </message>
     <message>
         <source>Save terminal</source>
@@ -2484,7 +2484,7 @@ Arrow up and down: earlier lines</translation>
     </message>
     <message>
         <source>Beginnt ein leeres Projekt</source>
-        <translation>Begins an empty project</translation>
+        <translation>Starts an empty project</translation>
     </message>
     <message>
         <source>Projekt &amp;öffnen...</source>
@@ -2500,7 +2500,7 @@ Arrow up and down: earlier lines</translation>
     </message>
     <message>
         <source>Speichert das Projekt in seiner Datei</source>
-        <translation>Saves the project in its file</translation>
+        <translation>Saves the project to its file</translation>
     </message>
     <message>
         <source>Projekt speichern &amp;unter...</source>
@@ -2508,7 +2508,7 @@ Arrow up and down: earlier lines</translation>
     </message>
     <message>
         <source>Speichert das Projekt in einer neuen Datei</source>
-        <translation>Saves the project in a new file</translation>
+        <translation>Saves the project to a new file</translation>
     </message>
     <message>
         <source>BlackBox Daten Öffnen</source>
@@ -2583,8 +2583,8 @@ Arrow up and down: earlier lines</translation>
         <translation>Starts or stops a recording</translation>
     </message>
     <message>
-        <source>&amp;Firmware Update…</source>
-        <translation>&amp;Firmware update…</translation>
+        <source>&amp;Firmware Update...</source>
+        <translation>&amp;Firmware update...</translation>
     </message>
     <message>
         <source>Überträgt eine neue Firmware auf die Box</source>
@@ -2612,7 +2612,7 @@ Arrow up and down: earlier lines</translation>
     </message>
     <message>
         <source>Beendet das Programm</source>
-        <translation>Ends the program</translation>
+        <translation>Quits the program</translation>
     </message>
     <message>
         <source>German</source>
