@@ -43,9 +43,10 @@ constexpr AnswerText kAnswers[] = {
     {QMessageBox::Cancel, QT_TRANSLATE_NOOP("DialogPrompts", "Abbrechen")},
 };
 
-/// With large fonts Qt's own sizes cut off folders, file sizes and dates.
+/// With large fonts Qt's own sizes cut off folders, file sizes and dates, and the buttons end where their texts end.
 void makeRoomy(QFileDialog &dialog)
 {
+    dialog.setStyleSheet(QStringLiteral("QPushButton {padding: 0px 14px;}"));
     dialog.resize(kFileDialogSize.boundedTo(dialog.screen()->availableSize()));
     const auto *list = dialog.findChild<QTreeView *>(QStringLiteral("treeView")); // none in a platform's own dialog
     if (!list)
@@ -206,6 +207,7 @@ QString DialogPrompts::openFolder(const QString &title, const QString &folder)
     QFileDialog dialog(window(), title, folder);
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly);
+    makeRoomy(dialog);
     return chosenFile(dialog);
 }
 
