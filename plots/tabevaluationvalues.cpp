@@ -266,7 +266,8 @@ void TabEvaluationValues::showCapability(const QuantitySeries &series)
     m_cpk->setStyleSheet(gradeSheet(gradeOf(figures)));
     const int outside = countOutside(series.values, limits);
     if (limits.isInverted())
-        m_outside->setText(tr("Untere Grenze über oberer!"));
+        m_outside->setText(limits.lower == limits.upper ? tr("Grenzen sind gleich!")
+                                                        : tr("Untere Grenze über oberer!"));
     else if (limits.isEmpty())
         m_outside->setText(tr("Keine Grenzen"));
     else

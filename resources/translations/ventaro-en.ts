@@ -1804,6 +1804,10 @@ Identification of this computer:
         <translation>Cpk %1</translation>
     </message>
     <message>
+        <source>Grenzen sind gleich!</source>
+        <translation>Limits are equal!</translation>
+    </message>
+    <message>
         <source>Untere Grenze über oberer!</source>
         <translation>Lower limit above upper!</translation>
     </message>
