@@ -83,8 +83,16 @@ void RecentProjectList::createRow(Row &row, int number)
 
 void RecentProjectList::setFiles(const QStringList &files)
 {
+    QString focused;
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        if (m_rows[i].open->hasFocus())
+            focused = m_files.value(static_cast<int>(i));
+    }
     m_files = files;
     refresh();
+    const int row = focused.isEmpty() ? -1 : m_files.indexOf(focused);
+    if (row >= 0 && row < static_cast<int>(m_rows.size())) // the focus stays with the project, not with its place
+        m_rows[static_cast<std::size_t>(row)].open->setFocus();
 }
 
 void RecentProjectList::refresh()
