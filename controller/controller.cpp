@@ -90,6 +90,7 @@ void Controller::connectTabs()
 
     QObject::connect(project, &TabProject::imageButtonClicked, this, &Controller::onTabProject_imageButtonClicked);
     QObject::connect(project, &TabProject::imageDeleteClicked, this, &Controller::onTabProject_imageDeleteClicked);
+    QObject::connect(project, &TabProject::imageSaveClicked, this, &Controller::onTabProject_imageSaveClicked);
     QObject::connect(project, &TabProject::imageFilesGiven, this, &Controller::onTabProject_imageFilesGiven);
     QObject::connect(project, &TabProject::imageGiven, this, &Controller::onTabProject_imageGiven);
 

@@ -91,6 +91,7 @@ public slots:
     void onTabProject_commentChanged();
     void onTabProject_imageButtonClicked(int image);
     void onTabProject_imageDeleteClicked(int image);
+    void onTabProject_imageSaveClicked(int image);
     void onTabProject_imageFilesGiven(int image, const QStringList &files);
     void onTabProject_imageGiven(int image, const QImage &picture);
     void onTabOszi_deleteMeasurements(const QString &range);
@@ -189,6 +190,7 @@ private:
     void openFile(const QString &fileName);
     void showDeviceState();
     [[nodiscard]] QString askProjectFileToSave();
+    [[nodiscard]] QString askPictureFileToSave();
     void applyEdit(const std::function<void()> &edit);
     [[nodiscard]] bool mayReplaceImage(int image);
     [[nodiscard]] bool takeImageFile(int image, const QString &file);

@@ -3,11 +3,14 @@
 #include "controller/logging.h"
 #include "model/model.h"
 #include "model/photo.h"
+#include "model/projectimage.h"
 #include "view/view.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QPixmap>
+#include <QSaveFile>
 
 #include <array>
 
@@ -48,6 +51,16 @@ public:
     ~WaitCursor() { QApplication::restoreOverrideCursor(); }
     Q_DISABLE_COPY_MOVE(WaitCursor)
 };
+
+const QLatin1String kPictureSuffix(".png");
+
+/// The file is whole, or as it was.
+bool writePicture(const QPixmap &picture, const QString &fileName)
+{
+    const WaitCursor cursor;
+    QSaveFile file(fileName);
+    return file.open(QIODevice::WriteOnly) && file.write(toPng(picture)) > 0 && file.commit();
+}
 
 } // namespace
 
@@ -98,6 +111,34 @@ void Controller::onTabProject_imageDeleteClicked(int image)
         return;
     d->model->blockSignals(false);
     (d->view->*kDeletions.at(static_cast<std::size_t>(image)))();
+}
+
+/// Empty: cancelled.
+QString Controller::askPictureFileToSave()
+{
+    const QString title = tr("Bild speichern");
+    QString file = d->prompt([&] { return d->view->askSaveFile(title, tr("PNG-Bild (*.png)")); });
+    if (file.isEmpty() || file.endsWith(kPictureSuffix, Qt::CaseInsensitive))
+        return file;
+    file += kPictureSuffix;
+    const QString question = tr("Die Datei \"%1\" ist schon vorhanden. Überschreiben?").arg(file);
+    const bool mayWrite = !QFileInfo::exists(file) || d->prompt([&] { return d->view->askYesNo(title, question); });
+    return mayWrite ? file : QString();
+}
+
+void Controller::onTabProject_imageSaveClicked(int image)
+{
+    qCDebug(lcController) << Q_FUNC_INFO << image;
+    const QPixmap picture = d->model->image(image);
+    if (refuseWhileOccupied() || picture.isNull())
+        return;
+    const QString file = askPictureFileToSave();
+    if (file.isEmpty())
+        return;
+    if (writePicture(picture, file))
+        d->view->showStatus(tr("Bild gespeichert: %1").arg(file));
+    else
+        d->prompt([this] { d->view->showWarning(tr("Das Bild konnte nicht gespeichert werden!"), tr("Problem")); });
 }
 
 /// Whoever chooses a file in a dialog has decided; what is dropped or pasted may have missed its tile.

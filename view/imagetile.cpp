@@ -202,6 +202,7 @@ void ImageTile::contextMenuEvent(QContextMenuEvent *event)
     add(tr("&Einfügen"), "clipboard-text.png", QKeySequence::Paste, clipboard && hasPicture(*clipboard),
         &ImageTile::paste);
     add(tr("&Kopieren"), "image.png", QKeySequence::Copy, isFull, &ImageTile::copy);
+    add(tr("&Speichern unter..."), "content-save-as.png", {}, isFull, &ImageTile::saveRequested);
     add(tr("&Löschen..."), "delete.png", QKeySequence::Delete, isFull, &ImageTile::deleteRequested);
     menu->popup(event->globalPos());
 }

@@ -31,6 +31,7 @@ signals:
     void chooseRequested();
     void enlargeRequested();
     void deleteRequested();
+    void saveRequested();
     /// Files that look like pictures, not empty.
     void filesGiven(const QStringList &files);
     /// Not null.

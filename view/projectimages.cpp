@@ -57,6 +57,7 @@ void ProjectImages::addTile(int image)
     m_tiles[static_cast<std::size_t>(image)] = tile;
     connect(tile, &ImageTile::chooseRequested, this, [this, image] { emit chooseClicked(image); });
     connect(tile, &ImageTile::deleteRequested, this, [this, image] { emit deleteClicked(image); });
+    connect(tile, &ImageTile::saveRequested, this, [this, image] { emit saveClicked(image); });
     connect(tile, &ImageTile::enlargeRequested, this, [this, image] { enlarge(image); });
     connect(tile, &ImageTile::filesGiven, this,
             [this, image](const QStringList &files) { emit filesGiven(image, files); });

@@ -23,6 +23,7 @@ public:
 signals:
     void chooseClicked(int image);
     void deleteClicked(int image);
+    void saveClicked(int image);
     void enlarged(int image);
     void filesGiven(int image, const QStringList &files);
     void imageGiven(int image, const QImage &picture);

@@ -163,6 +163,7 @@ void TabProject::Private::connectTo(TabProject *tab) const
     connect(images, &ProjectImages::chooseClicked, tab, &TabProject::imageButtonClicked);
     connect(images, &ProjectImages::enlarged, tab, &TabProject::imageLabelClicked);
     connect(images, &ProjectImages::deleteClicked, tab, &TabProject::imageDeleteClicked);
+    connect(images, &ProjectImages::saveClicked, tab, &TabProject::imageSaveClicked);
     connect(images, &ProjectImages::filesGiven, tab, &TabProject::imageFilesGiven);
     connect(images, &ProjectImages::imageGiven, tab, &TabProject::imageGiven);
 }

@@ -34,6 +34,7 @@ signals:
     void imageButtonClicked(int image); ///< the user wants to choose a file
     void imageLabelClicked(int image);  ///< the picture has been enlarged
     void imageDeleteClicked(int image);
+    void imageSaveClicked(int image);                          ///< the user wants it in a file
     void imageFilesGiven(int image, const QStringList &files); ///< dropped or pasted, not empty
     void imageGiven(int image, const QImage &picture);         ///< likewise, not null
 

@@ -590,6 +590,22 @@ Continue?</translation>
         <source>Namen und Grenzen der Sensoren kommen jetzt von der Box.</source>
         <translation>The names and limits of the sensors now come from the box.</translation>
     </message>
+    <message>
+        <source>Bild speichern</source>
+        <translation>Save picture</translation>
+    </message>
+    <message>
+        <source>PNG-Bild (*.png)</source>
+        <translation>PNG picture (*.png)</translation>
+    </message>
+    <message>
+        <source>Bild gespeichert: %1</source>
+        <translation>Picture saved: %1</translation>
+    </message>
+    <message>
+        <source>Das Bild konnte nicht gespeichert werden!</source>
+        <translation>The picture could not be saved!</translation>
+    </message>
 </context>
 <context>
     <name>CycleTile</name>
@@ -853,6 +869,10 @@ Continue?</translation>
     <message>
         <source>Bild %1 löschen</source>
         <translation>Delete picture %1</translation>
+    </message>
+    <message>
+        <source>&amp;Speichern unter...</source>
+        <translation>&amp;Save as...</translation>
     </message>
 </context>
 <context>

@@ -270,6 +270,18 @@ private slots:
         }
     }
 
+    void pictureIsSavedToAFile()
+    {
+        Bench bench;
+        bench.model.setImage(2, QPixmap(7, 5));
+        bench.prompts->saveNames = {path("picture"), path("picture"), path("no/picture.png")};
+        bench.prompts->answers = {QMessageBox::No}; // the second one would replace the first
+        for (int attempt = 0; attempt < 3; ++attempt)
+            emit bench.view.tabProject()->imageSaveClicked(2);
+        QCOMPARE(QImage(path("picture.png")).size(), QSize(7, 5));
+        QVERIFY(bench.prompts->questions.size() == 1 && bench.prompts->warnings.size() == 1);
+    }
+
     void picturesAreDeletedOnConfirmation()
     {
         Bench bench;
