@@ -21,13 +21,6 @@ QString projectFilter()
     return Controller::tr("Ventaro Dateien (*.vnt)");
 }
 
-/// "Teil 1.2" has no suffix in the user's eyes.
-bool hasSuffix(const QString &fileName)
-{
-    const QString suffix = QFileInfo(fileName).suffix();
-    return !suffix.isEmpty() && suffix.front().isLetter();
-}
-
 /// Shows the progress bar for its lifetime.
 class ProgressScope
 {
@@ -168,9 +161,9 @@ void Controller::onSaveProjectAs()
 QString Controller::askProjectFileToSave()
 {
     QString fileName = d->prompt([this] { return d->view->askSaveFile(tr("Projekt speichern"), projectFilter()); });
-    if (fileName.isEmpty() || hasSuffix(fileName))
+    if (fileName.isEmpty() || fileName.endsWith(kProjectSuffix, Qt::CaseInsensitive))
         return fileName;
-    fileName += kProjectSuffix;
+    fileName += kProjectSuffix; // or the file dialog would not show it
     if (!QFileInfo::exists(fileName))
         return fileName;
     // The file dialog could only ask about the name as it was typed.

@@ -63,7 +63,8 @@ private slots:
     {
         columns<QString, QString>("typed", "written");
         row("suffix", "suffix.vnt", "suffix.vnt");
-        row("number behind a point", "Teil 1.2", "Teil 1.2.vnt");
+        row("capitals", "SUFFIX.VNT", "SUFFIX.VNT");
+        row("name behind a point", "Fa.Neu", "Fa.Neu.vnt");
     }
 
     void saveNames()
