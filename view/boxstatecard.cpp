@@ -74,7 +74,6 @@ QHBoxLayout *BoxStateCard::createHead()
     m_dot->setFixedSize(kDotSize, kDotSize);
     m_state = new QLabel(this);
     m_state->setObjectName(QStringLiteral("labelHomeState"));
-    m_state->setWordWrap(true);
     m_state->setStyleSheet(QStringLiteral("QLabel {font: bold 22px; color: %1;}").arg(theme::colorPrimary));
     auto *head = new QHBoxLayout;
     head->setSpacing(10);
@@ -104,6 +103,7 @@ void BoxStateCard::setStacked(bool stacked)
         m_grid->removeWidget(m_values[i]);
     }
     placeFacts(stacked);
+    m_state->setWordWrap(stacked);
 }
 
 void BoxStateCard::placeFacts(bool stacked)

@@ -144,8 +144,6 @@ QWidget *TabHome::Private::createBoxCard(QWidget *page)
 QVBoxLayout *TabHome::Private::createAddresses(QWidget *card)
 {
     addressHeading = new QLabel(card);
-    tabstyle::makeHeading(addressHeading);
-    addressHeading->setWordWrap(true);
     noAddresses = new QLabel(card);
     tabstyle::makeHint(noAddresses);
     auto *column = new QVBoxLayout;
@@ -177,8 +175,6 @@ QWidget *TabHome::Private::createProjectCard(QWidget *page)
     newButton = createButton(card, "buttonHomeNew", QStringLiteral("file-plus.png"));
     openButton = createButton(card, "buttonHomeOpen", QStringLiteral("folder-open.png"));
     projectHeading = new QLabel(card);
-    tabstyle::makeHeading(projectHeading);
-    projectHeading->setWordWrap(true);
     projects = new RecentProjectList(card);
     auto *buttons = new QVBoxLayout;
     buttons->setSpacing(kGap);
@@ -242,6 +238,8 @@ void TabHome::Private::setTiny(bool isTiny)
     logo->setPixmap(tiny ? picture.scaledToWidth(picture.width() * 3 / 4, Qt::SmoothTransformation) : picture);
     subtitle->setStyleSheet(
         QStringLiteral("QLabel {font-size: %1px; color: %2;}").arg(tiny ? 18 : 22).arg(theme::colorDark));
+    for (QLabel *heading : {addressHeading, projectHeading})
+        tabstyle::makeHeading(heading, tiny ? 18 : 22);
     state->setStacked(tiny);
 }
 

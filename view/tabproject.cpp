@@ -87,7 +87,6 @@ void TabProject::Private::createDanger(QWidget *parent)
                                          "QPushButton:focus {border: 3px solid black;}")
                               .arg(kDanger.name()));
     warning = new QLabel(danger);
-    warning->setWordWrap(true);
     clear = new QPushButton(danger);
     clear->setObjectName(QStringLiteral("buttonClearData"));
     clear->setIcon(actionIcon(QStringLiteral("delete.png"), Qt::white));
@@ -132,7 +131,9 @@ void TabProject::Private::arrange(int width)
     columns->setDirection(direction(kNarrowPage));
     phases->setDirection(direction(kNarrowStrip));
     dangerRow->setDirection(direction(kNarrowStrip));
+    warning->setWordWrap(width < kNarrowStrip); // else the page would not become lower than it likes to be
     images->setNarrow(width < kNarrowImages);
+    images->setMinimumHeight(width < kNarrowPage ? images->sizeHint().height() : 0);
     if (tiny != (width < kTinyPage))
         setTiny(!tiny);
 }
