@@ -66,10 +66,10 @@ QLayout *TabEvaluationValues::createChoice()
 
 QLayout *TabEvaluationValues::createLimits()
 {
-    m_upperLimit = new LimitField(this);
-    m_upperLimit->setObjectName(QStringLiteral("upperLimit"));
     m_lowerLimit = new LimitField(this);
     m_lowerLimit->setObjectName(QStringLiteral("lowerLimit"));
+    m_upperLimit = new LimitField(this);
+    m_upperLimit->setObjectName(QStringLiteral("upperLimit"));
     m_cp = newFigure(this, "labelCp");
     m_cpk = newFigure(this, "labelCpk");
     m_outside = newFigure(this, "labelOutside");
@@ -113,6 +113,9 @@ QLayout *TabEvaluationValues::createLeftSide()
 
 void TabEvaluationValues::createLayout()
 {
+    // The tab key follows the order in which the parts are made.
+    m_sensors = new SensorSelection(this);
+    QLayout *left = createLeftSide();
     auto *rightSide = new QWidget(this);
     QLayout *right = createRightSide();
     right->setContentsMargins(0, 0, 0, 0);
@@ -120,11 +123,10 @@ void TabEvaluationValues::createLayout()
     rightSide->setMaximumWidth(kWidestRightSide);
     auto *middle = new QHBoxLayout;
     middle->setSpacing(12);
-    middle->addLayout(createLeftSide(), 3);
+    middle->addLayout(left, 3);
     middle->addWidget(rightSide, 2);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(6, 6, 6, 6);
-    m_sensors = new SensorSelection(this);
     layout->addWidget(m_sensors);
     layout->addLayout(middle, 1);
 }
