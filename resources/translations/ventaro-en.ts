@@ -1916,7 +1916,7 @@ Identification of this computer:
     </message>
     <message>
         <source>&amp;Demo starten</source>
-        <translation>Start &amp;demo</translation>
+        <translation>Start de&amp;mo</translation>
     </message>
     <message>
         <source>Keine Box zur Hand? Die Demo zeigt Ventaro mit einer simulierten Box.</source>
