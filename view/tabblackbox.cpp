@@ -210,8 +210,10 @@ void TabBlackBox::setResult(const QString &text)
 
 void TabBlackBox::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange) {
+        d->result->clear(); // it was put into words when the import ended
         retranslateUi();
+    }
     QWidget::changeEvent(event);
 }
 
