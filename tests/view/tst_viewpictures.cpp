@@ -5,6 +5,7 @@
 #include "tests/support/scriptedprompts.h"
 #include "view/dialogprompts.h"
 #include "view/ipaddressdialog.h"
+#include "view/oszirowcontrols.h"
 #include "view/tabblackbox.h"
 #include "view/tabdatalogger.h"
 #include "view/tabevaluation.h"
@@ -150,6 +151,10 @@ QString clippedText(const QWidget *page)
         if (label->isVisible() && !label->wordWrap() && label->width() < label->minimumSizeHint().width()
             && label->sizePolicy().horizontalPolicy() != QSizePolicy::Ignored)
             return label->text();
+        const auto *elided = qobject_cast<const ElidedLabel *>(label); // a row's title has the whole name above it
+        if (elided && elided->isVisible() && elided->objectName() != "osziTitle"_s
+            && elided->contentsRect().width() < elided->fontMetrics().horizontalAdvance(elided->text()))
+            return elided->text();
     }
     return {};
 }
