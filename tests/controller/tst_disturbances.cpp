@@ -48,9 +48,10 @@ private slots:
     {
         Rig rig;
         rig.box.reboot(); // for a while nobody listens
-        rig.bench.prompts->addresses = {"127.0.0.1"_s, QString()};
+        rig.bench.prompts->addresses = {"127.0.0.2"_s, QString()};
         emit rig.bench.view.connectDisconnect();
         QTRY_COMPARE(rig.bench.prompts->addressDialogs, 2);
+        QCOMPARE(rig.bench.controller.connector()->hostAddress(), "127.0.0.2"_s);
         QCOMPARE(rig.bench.prompts->messages.size(), std::size_t(2));
         QCOMPARE(rig.bench.prompts->mostOpenAtOnce, 1);
         QVERIFY(!rig.bench.view.isProgressShown());

@@ -173,6 +173,9 @@ private slots:
         emit bench.view.saveProject();
         QCOMPARE(Model(path("typed.vnt")).offset(1), 2.5);
         QVERIFY(offset->hasFocus());
+        QTest::keyClicks(offset, "7"_s);
+        emit bench.view.quit();
+        QCOMPARE(bench.prompts->questions.back().text, "Vor dem Beenden Ventaro Projekt speichern?"_s);
 
         bench.say(sensorLine());
         bench.view.tabs()->setCurrentWidget(bench.view.tabSensors());

@@ -36,6 +36,17 @@ private slots:
         QCOMPARE(bench.shots(), 2);
     }
 
+    void thousandthsUntilTheSensorsAreDescribed()
+    {
+        Bench bench;
+        bench.say("run=1");
+        bench.controller.onTimerWaitForSensorDescription_timeout();
+        bench.say("0;1500;250");
+        bench.say("<sensorDescription numGroups=\"0\">");
+        bench.say("0;1500;250");
+        QCOMPARE(bench.samples(0, 0), (QVector<double>{1.5, 1500}));
+    }
+
     void clockEcho_data()
     {
         // clock: 40 before

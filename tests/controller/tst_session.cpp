@@ -124,6 +124,10 @@ private slots:
         QTRY_COMPARE(rig.box.receivedCommands().constLast(), "t=100"_s);
         QVERIFY(!bench.model.sensorDescription().sensorGroup(0).sensorName(0).isEmpty()); // the box is still the same
         QVERIFY(!bench.model.hardwareVersion().isEmpty() && !bench.model.isProjectModified());
+        bench.model.setProjectModifiedFlag(true);
+        bench.prompts->answers = {QMessageBox::Discard};
+        emit bench.view.newProject(); // what is thrown away takes its box along
+        QVERIFY(!bench.model.isConnected());
     }
 
     void independentBox()
