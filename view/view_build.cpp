@@ -313,6 +313,7 @@ void View::Private::retranslate()
     showRecordingTexts();
     if (link != Link::Unknown)
         showLink(link == Link::Connected);
+    actions.holdWidths(toolBar);
     demoLabel->setText(tr("Demonstration"));
     refreshFileLabel();
 }

@@ -134,6 +134,8 @@ void View::Private::showLink(bool connected)
     link = connected ? Link::Connected : Link::NotConnected;
     actions.connectBox->setText(connected ? tr("&Trennen") : tr("&Verbinden"));
     actions.connectBox->setToolTip(connected ? tr("Mesotra Verbindung trennen.") : tr("Mit Mesotra verbinden."));
+    actions.connectBox->setStatusTip(connected ? tr("Trennt die Verbindung zur Box")
+                                               : tr("Verbindet mit der Mesotra Box"));
     actions.disconnectBox->setEnabled(connected);
 }
 

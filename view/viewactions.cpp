@@ -10,6 +10,8 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include <algorithm>
+
 namespace {
 
 /// Icons in a menu as high as its large text; a style sheet cannot say so.
@@ -50,6 +52,20 @@ void addSpacer(QToolBar *bar)
     auto *spacer = new QWidget(bar);
     spacer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     bar->addWidget(spacer);
+}
+
+void holdWidth(QWidget *button, const QStringList &texts, bool compact)
+{
+    button->ensurePolished();
+    button->setMinimumWidth(0);
+    const QFontMetrics metrics = button->fontMetrics();
+    const auto width = [&metrics](const QString &text) { return metrics.size(Qt::TextShowMnemonic, text).width(); };
+    int widest = 0;
+    for (const QString &text : texts)
+        widest = std::max(widest, width(text));
+    const int shown = width(static_cast<QToolButton *>(button)->text());
+    if (!compact)
+        button->setMinimumWidth(button->sizeHint().width() + widest - shown);
 }
 
 } // namespace
@@ -171,6 +187,14 @@ void ViewActions::setCompact(QToolBar *bar, bool compact) const
     bar->setToolButtonStyle(compact ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextBesideIcon);
     for (QAction *action : m_dispensable)
         action->setVisible(!compact);
+    holdWidths(bar);
+}
+
+void ViewActions::holdWidths(const QToolBar *bar) const
+{
+    const bool compact = bar->toolButtonStyle() == Qt::ToolButtonIconOnly;
+    holdWidth(bar->widgetForAction(connectBox), {tr("&Trennen"), tr("&Verbinden")}, compact);
+    holdWidth(bar->widgetForAction(startRecording), {tr("&Stop"), tr("&Start")}, compact);
 }
 
 void ViewActions::nameToolButtons() const

@@ -26,6 +26,8 @@ public:
     void fillToolBar(QToolBar *bar);
     /// In a narrow window the bar keeps what the box and the menu need, as icons; the rest is in the menu.
     void setCompact(QToolBar *bar, bool compact) const;
+    /// The buttons whose text changes keep the room of the longest, so that none moves away under the pointer.
+    void holdWidths(const QToolBar *bar) const;
     /// What a tool button shows as an icon alone gets its text as accessible name.
     void nameToolButtons() const;
     /// With the language menu, which is not owned, among the others.
