@@ -127,6 +127,7 @@ void fillMessageBox(QMessageBox &box, const QString &title, const QString &text,
             continue;
         QPushButton *button = box.addButton(answer.button);
         button->setText(QCoreApplication::translate("DialogPrompts", answer.text));
+        button->setIcon({}); // some desktops give it one, of a size for small type
         if (!box.defaultButton())
             box.setDefaultButton(button);
     }
