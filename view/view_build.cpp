@@ -74,7 +74,10 @@ View::Private::Private(View *view, Model *data, std::unique_ptr<UserPrompts> que
 void View::Private::createWindow()
 {
     // A check box asks for too little room while its indicator has a minimum size only.
-    q->setStyleSheet(QStringLiteral("QCheckBox::indicator {width: 22px; height: 22px;}"));
+    // The sheet for menus gives entries that are disabled the colour of the others.
+    q->setStyleSheet(QStringLiteral("QCheckBox::indicator {width: 22px; height: 22px;}"
+                                    "QMenu::item:disabled {color: %1;}")
+                         .arg(theme::colorMedium));
     createToolBar();
     createTabs();
     createStatusBar();
