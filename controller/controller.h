@@ -62,8 +62,9 @@ public:
     [[nodiscard]] MesotraConnector *connector() const;
     /// Of the simulator while the demonstration runs, else 0.
     [[nodiscard]] qint64 demoProcessId() const;
-    /// Copies the "*.bb" files of a folder into another one, over those of the same name. The copies, absolute and
-    /// sorted by name; what could not be copied is in the log only.
+    /// Copies the "*.bb" files of a folder into another one, over those of the same name unless these are copies from
+    /// another folder that hold something else. The copies, absolute, in the order of the originals' names; what could
+    /// not be copied is in the log only.
     QStringList copyLocalDirToTmpDir(const QString &localDirectory, const QDir &temporaryDirectory);
 
 public slots:

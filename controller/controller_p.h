@@ -8,6 +8,7 @@
 #include "model/sensordescription.h"
 
 #include <QElapsedTimer>
+#include <QHash>
 #include <QPointer>
 #include <QProgressBar>
 #include <QStringList>
@@ -70,7 +71,8 @@ struct Controller::Private
 
     // --- Transfers and restart of the box ---
     QString temporaryDirectory;
-    QElapsedTimer sinceRestart; ///< since the box was told to restart; invalid: not waited for
+    QHash<QString, QString> copiedFrom; ///< the local file of which a file in the temporary directory is a copy
+    QElapsedTimer sinceRestart;         ///< since the box was told to restart; invalid: not waited for
     QTimer reconnectTimer;
     int restartWait; ///< ms
     bool fetching = false;

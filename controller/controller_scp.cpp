@@ -3,6 +3,7 @@
 #include "controller/controller_p.h"
 #include "controller/logging.h"
 #include "device/scptransfer.h"
+#include "model/blackboxfile.h"
 #include "view/tabblackbox.h"
 #include "view/updatedialog.h"
 #include "view/view.h"
@@ -51,6 +52,20 @@ bool copyOver(const QFileInfo &source, const QString &target)
     if (!replaced)
         (void)QFile::remove(part); // nothing half done stays
     return replaced;
+}
+
+/// A file of another folder that has the same name but holds something else keeps its copy.
+QString placeForCopy(const QFileInfo &file, const QDir &folder, QHash<QString, QString> &copiedFrom)
+{
+    const QString source = file.canonicalFilePath();
+    QString target = folder.absoluteFilePath(file.fileName());
+    for (int i = 2; copiedFrom.value(target, source) != source; ++i) {
+        if (blackBoxFingerprint(target) == blackBoxFingerprint(source))
+            return target;
+        target = folder.absoluteFilePath(file.completeBaseName() + QStringLiteral("-%1.").arg(i) + file.suffix());
+    }
+    copiedFrom.insert(target, source);
+    return target;
 }
 
 /// Shows for its lifetime that a fetch is under way.
@@ -195,7 +210,7 @@ QStringList Controller::copyLocalDirToTmpDir(const QString &localDirectory, cons
     QStringList copied;
     for (const QFileInfo &file : QDir(localDirectory).entryInfoList(kLoggerFiles, QDir::Files, QDir::Name)) {
         qCDebug(lcController).noquote() << "file =" << file.fileName();
-        const QString target = temporaryDirectory.absoluteFilePath(file.fileName());
+        const QString target = placeForCopy(file, temporaryDirectory, d->copiedFrom);
         if (copyOver(file, target))
             copied.append(target);
         else

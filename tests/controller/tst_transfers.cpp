@@ -161,6 +161,18 @@ private slots:
         transfers.bench.prompts->folders = {source.path()};
         transfers.click("buttonOpenFolder");
         QCOMPARE(QDir(transfers.target()).entryList(QDir::Files), (QStringList{"a.bb"_s, "b.bb"_s}));
+        const QTemporaryDir other;
+        writeFile(other.filePath("a.bb"_s), "another shot");
+        writeFile(other.filePath("b.bb"_s), "b.bb");
+        writeFile(source.filePath("b.bb"_s), "grown");
+        transfers.bench.prompts->folders = {other.path(), source.path()};
+        transfers.click("buttonOpenFolder"); // must not replace what the tab offers
+        transfers.click("buttonOpenFolder");
+        QStringList contents;
+        for (const char *name : {"a.bb", "a-2.bb", "b.bb"})
+            contents += QString::fromLatin1(contentOf(QDir(transfers.target()).filePath(QLatin1String(name))));
+        QCOMPARE(contents, (QStringList{"a.bb"_s, "another shot"_s, "grown"_s}));
+        QCOMPARE(QDir(transfers.target()).entryList(QDir::Files).size(), 3);
     }
 
     /// The box goes away after the command and comes back; the program says so, offers to connect and waits for it.
