@@ -257,7 +257,8 @@ void OsziRow::retranslateUi()
     m_grid->setAccessibleName(tr("%1: Raster").arg(row));
     m_offset->setAccessibleName(tr("%1: Korrektur dy").arg(row));
     m_title->setToolTip(tr("Tasten im Diagramm: + und - Zeitachse, Strg mit + und - Werteachse,\n"
-                           "Pfeile verschieben, Pos1 und Ende springen, F passt den Wertebereich an die Kurven an.\n"
+                           "Pfeile verschieben, Pos1 und Ende springen, F passt den Wertebereich an die Kurven an,\n"
+                           "Strg mit Pfeil nach links oder rechts zeigt die Werte (mit Umschalt in Zehnerschritten).\n"
                            "Maus: Rad Zeitachse, Strg mit Rad Werteachse, mittlere Taste oder Umschalt verschiebt,\n"
                            "Doppelklick passt den Wertebereich an."));
     updateTitle();

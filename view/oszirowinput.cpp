@@ -8,6 +8,12 @@
 #include <QStyleHints>
 #include <QWheelEvent>
 
+namespace {
+
+constexpr int kReadOutLeap = 10; // samples, with the shift key
+
+} // namespace
+
 OsziRowInput::OsziRowInput(OsziWidget *plot)
     : QObject(plot)
     , m_plot(plot)
@@ -32,6 +38,13 @@ bool OsziRowInput::eventFilter(QObject *watched, QEvent *event)
         return true;
     case QEvent::KeyPress:
         return key(*static_cast<QKeyEvent *>(event));
+    case QEvent::KeyRelease:
+        if (static_cast<QKeyEvent *>(event)->key() == Qt::Key_Control)
+            emit readOutEnded();
+        break;
+    case QEvent::FocusOut: // also when the tab is being destroyed; then nobody must hear of it
+        QMetaObject::invokeMethod(this, &OsziRowInput::readOutEnded, Qt::QueuedConnection);
+        break;
     case QEvent::Resize:
         emit plotResized();
         break;
@@ -93,6 +106,8 @@ bool OsziRowInput::release(const QMouseEvent &event)
 
 bool OsziRowInput::key(const QKeyEvent &event)
 {
+    if (readOutKey(event))
+        return true;
     switch (event.key()) {
     case Qt::Key_Left:
         emit timeStepped(-1);
@@ -121,6 +136,16 @@ bool OsziRowInput::key(const QKeyEvent &event)
     default:
         return zoomKey(event);
     }
+}
+
+bool OsziRowInput::readOutKey(const QKeyEvent &event)
+{
+    const bool later = event.key() == Qt::Key_Right;
+    if (!event.modifiers().testFlag(Qt::ControlModifier) || !(later || event.key() == Qt::Key_Left))
+        return false;
+    const int samples = event.modifiers().testFlag(Qt::ShiftModifier) ? kReadOutLeap : 1;
+    emit readOutStepped(later ? samples : -samples);
+    return true;
 }
 
 bool OsziRowInput::zoomKey(const QKeyEvent &event)

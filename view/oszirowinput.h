@@ -32,6 +32,9 @@ signals:
     void jumpedToEnd();
     void fitRequested();
     void cancelled();
+    /// Ctrl and an arrow key: samples by which the read-out moves; positive is later. It ends with the key Ctrl.
+    void readOutStepped(int samples);
+    void readOutEnded();
     void plotResized();
 
 protected:
@@ -46,6 +49,7 @@ private:
     bool release(const QMouseEvent &event);
     bool key(const QKeyEvent &event);
     bool zoomKey(const QKeyEvent &event);
+    bool readOutKey(const QKeyEvent &event);
 
     OsziWidget *m_plot;
     Drag m_drag = Drag::None;

@@ -105,6 +105,8 @@ struct TabOszilloscope::Private
     void setSpanAsUser(OsziRow *row, osziaxes::ValueSpan span);
     void showMouse(int x);
     void hideMouse();
+    void stepReadOut(const OsziWidget &plot, int samples);
+    void endReadOut();
 
     // --- Markers (taboszilloscope_markers.cpp) ---
     void armMarker(int index, bool armed);
@@ -169,6 +171,7 @@ struct TabOszilloscope::Private
     bool heldBack = false;      ///< the user moved back by hand, be it by one sample: new samples do not pull the view
     int lastSamples = 0;        ///< samples of the longest curve when the scroll bar was last set up
     bool growing = false;       ///< the scroll bar is being set up because samples came
+    int readOutSample = -1;     ///< of those in sight, the one that the keyboard's read-out shows
     int uncorrectedNewest = -1; ///< the measurement that has not yet reached the time of the y correction
     int growthsThisTurn = 0;
     bool turnEndQueued = false;

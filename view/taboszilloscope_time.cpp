@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 // --- The scroll bar ---
 
@@ -187,6 +188,21 @@ void TabOszilloscope::Private::showMouse(int x)
         if (!row->isHidden())
             row->plot()->showMouseMarker(x);
     }
+}
+
+/// With the keyboard: from the middle of the curves in sight, sample by sample.
+void TabOszilloscope::Private::stepReadOut(const OsziWidget &plot, int samples)
+{
+    const int visible = (plot.contentsRect().width() - OsziWidget::kLeftMargin) / plot.zoom();
+    const int last = std::max(std::min(visible, longest - scrollBar->value()) - 1, 0);
+    readOutSample = std::clamp(readOutSample < 0 ? last / 2 : readOutSample + samples, 0, last);
+    showMouse(OsziWidget::kLeftMargin + readOutSample * plot.zoom());
+}
+
+void TabOszilloscope::Private::endReadOut()
+{
+    if (std::exchange(readOutSample, -1) >= 0)
+        hideMouse();
 }
 
 void TabOszilloscope::Private::hideMouse()

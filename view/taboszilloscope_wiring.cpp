@@ -58,6 +58,8 @@ void TabOszilloscope::Private::connectInput(int position)
     connect(input, &OsziRowInput::jumpedToEnd, q, [this] { scrollBar->setValue(scrollBar->maximum()); });
     connect(input, &OsziRowInput::fitRequested, q, [this, position] { fitValue(position); });
     connect(input, &OsziRowInput::cancelled, q, [this] { armMarker(-1, false); });
+    connect(input, &OsziRowInput::readOutStepped, q, [this, row](int samples) { stepReadOut(*row->plot(), samples); });
+    connect(input, &OsziRowInput::readOutEnded, q, [this] { endReadOut(); });
     connect(input, &OsziRowInput::plotResized, q, [this] { plotResized(); });
 }
 

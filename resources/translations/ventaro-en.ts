@@ -1016,11 +1016,13 @@ Continue?</translation>
     </message>
     <message>
         <source>Tasten im Diagramm: + und - Zeitachse, Strg mit + und - Werteachse,
-Pfeile verschieben, Pos1 und Ende springen, F passt den Wertebereich an die Kurven an.
+Pfeile verschieben, Pos1 und Ende springen, F passt den Wertebereich an die Kurven an,
+Strg mit Pfeil nach links oder rechts zeigt die Werte (mit Umschalt in Zehnerschritten).
 Maus: Rad Zeitachse, Strg mit Rad Werteachse, mittlere Taste oder Umschalt verschiebt,
 Doppelklick passt den Wertebereich an.</source>
         <translation>Keys in the plot: + and - time axis, Ctrl with + and - value axis,
-arrows move, Home and End jump, F fits the value range to the curves.
+arrows move, Home and End jump, F fits the value range to the curves,
+Ctrl with the left or right arrow shows the values (with Shift in steps of ten).
 Mouse: wheel time axis, Ctrl with wheel value axis, middle button or Shift moves,
 double-click fits the value range.</translation>
     </message>

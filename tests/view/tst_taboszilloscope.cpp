@@ -5,6 +5,8 @@
 
 #include <QtWidgets>
 
+Q_DECLARE_METATYPE(Qt::KeyboardModifiers)
+
 class TestTabOszilloscope : public QObject
 {
     Q_OBJECT
@@ -244,6 +246,39 @@ private slots:
         QTest::keyClick(edit, Qt::Key_Return);
         QCOMPARE(requests.count(), 2);
         QCOMPARE(requests.first().first().toString(), " 1-3, 5"_s);
+    }
+
+    void readOutByKeys_data()
+    {
+        columns<QVector<int>, Qt::KeyboardModifiers, int>("keys", "modifiers", "sample");
+        const auto ctrl = Qt::KeyboardModifiers(Qt::ControlModifier);
+        const int left = Qt::Key_Left;
+        const int right = Qt::Key_Right;
+        row("in the middle first", QVector<int>{left}, ctrl, 14);
+        row("to and fro", QVector<int>{left, right, left, left, left}, ctrl, 12);
+        row("in leaps", QVector<int>{right, right}, ctrl | Qt::ShiftModifier, 24);
+        row("not beyond the end", QVector<int>{right, right, right, right}, ctrl | Qt::ShiftModifier, 29);
+        row("not before the beginning", QVector<int>{left, left, left, left}, ctrl | Qt::ShiftModifier, 0);
+    }
+
+    void readOutByKeys()
+    {
+        QFETCH(QVector<int>, keys);
+        QFETCH(Qt::KeyboardModifiers, modifiers);
+        QFETCH(int, sample);
+        OsziBench bench;
+        bench.addShot(30);
+        OsziWidget *plot = bench.tab.row(1);
+        for (int key : keys)
+            QTest::keyPress(plot, Qt::Key(key), modifiers);
+        QStringList shown;
+        for (const auto *label : plot->findChildren<QLabel *>())
+            shown += label->isVisible() ? label->text() : QString();
+        QVERIFY2(shown.contains(QString::number(2 + sample)),
+                 qPrintable(shown.join(QLatin1Char(',')))); // as the bench numbers them
+        QTest::keyRelease(plot, Qt::Key_Control);
+        for (const auto *label : plot->findChildren<QLabel *>())
+            QVERIFY(!label->isVisible());
     }
 
     void readOutIsMirrored()
