@@ -43,7 +43,7 @@ struct ImportSummary
     {
         QString names = unreadable.mid(0, kMostNames).join(QLatin1Char('\n'));
         if (unreadable.size() > kMostNames)
-            names += QLatin1String("\n…");
+            names += QStringLiteral("\n…");
         return Controller::tr("Diese Dateien konnten nicht gelesen werden:") + QLatin1Char('\n') + names;
     }
 };
