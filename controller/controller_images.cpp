@@ -24,7 +24,8 @@ constexpr std::array<Deletion, Model::kNumImages> kDeletions{&View::deleteImage0
 QString pictureFilter()
 {
     QStringList patterns;
-    for (const QString &suffix : photoSuffixes())
+    const QStringList suffixes = photoSuffixes();
+    for (const QString &suffix : suffixes)
         patterns += QLatin1String("*.") + suffix;
     return Controller::tr("Bilder (%1)").arg(patterns.join(QLatin1Char(' ')));
 }

@@ -179,7 +179,7 @@ void TabEvaluationValues::showTable()
 {
     QuantityTableModel::Content content;
     content.timestamps = timestampsOf(*data()->model(), data()->numShots(m_sensor));
-    for (const Quantity &quantity : m_shown) {
+    for (const Quantity &quantity : qAsConst(m_shown)) {
         const QString unit = data()->quantityUnit(m_sensor, quantity);
         content.columns.push_back({quantity, withUnit(data()->quantityName(quantity), unit, tr("%1 [%2]")),
                                    data()->limits(m_sensor, quantity), data()->series(m_sensor, quantity).shots});
@@ -209,7 +209,7 @@ void TabEvaluationValues::fitColumns()
 void TabEvaluationValues::showChoice()
 {
     QStringList names;
-    for (const Quantity &quantity : m_shown)
+    for (const Quantity &quantity : qAsConst(m_shown))
         names.append(data()->quantityName(quantity));
     QStringList listed;
     for (int i = 0; i < m_quantityBox->count(); ++i)

@@ -100,7 +100,8 @@ void BlackBoxDays::setEntries(const QStringList &entries)
         if (day.fetched)
             days.append(day);
     }
-    for (const QDate &date : loggedDays(entries)) {
+    const QVector<QDate> logged = loggedDays(entries);
+    for (const QDate &date : logged) {
         const int row = rowOf(date);
         if (row >= 0 && m_days.at(row).fetched)
             continue;

@@ -29,7 +29,8 @@ QStringList pictureFiles(const QMimeData &data)
 {
     static const QStringList suffixes = photoSuffixes();
     QStringList files;
-    for (const QUrl &url : data.urls()) {
+    const QList<QUrl> urls = data.urls();
+    for (const QUrl &url : urls) {
         if (url.isLocalFile() && suffixes.contains(QFileInfo(url.toLocalFile()).suffix().toLower()))
             files += url.toLocalFile();
     }

@@ -10,6 +10,19 @@ namespace {
 
 constexpr int kColumns = 6;
 
+struct Place
+{
+    int row;
+    int column;
+    int columns;
+};
+
+/// Two wide ones above three: what is photographed is mostly wider than high.
+Place placeOf(int image)
+{
+    return image < 2 ? Place{0, 3 * image, 3} : Place{1, 2 * (image - 2), 2};
+}
+
 } // namespace
 
 ProjectImages::ProjectImages(QWidget *parent)
@@ -40,13 +53,8 @@ void ProjectImages::placeTiles()
 {
     auto *grid = static_cast<QGridLayout *>(layout());
     for (int image = 0; image < Model::kNumImages; ++image) {
-        ImageTile *tile = m_tiles[static_cast<std::size_t>(image)];
-        // Two wide ones above three: what is photographed is mostly wider than high.
-        const bool isAbove = image < 2;
-        if (m_narrow)
-            grid->addWidget(tile, image, 0, 1, kColumns);
-        else
-            grid->addWidget(tile, isAbove ? 0 : 1, isAbove ? 3 * image : 2 * (image - 2), 1, isAbove ? 3 : 2);
+        const Place place = m_narrow ? Place{image, 0, kColumns} : placeOf(image);
+        grid->addWidget(m_tiles[static_cast<std::size_t>(image)], place.row, place.column, 1, place.columns);
         grid->setRowStretch(image, m_narrow || image < 2 ? 1 : 0);
     }
 }

@@ -47,7 +47,8 @@ QSize SideTabBar::tabSizeHint(int index) const
     const QFontMetrics metrics(tabFont());
     int width = kTabWidth;
     int lines = 0;
-    for (const QString &word : tabText(index).split(QLatin1Char(' '))) {
+    const QStringList words = tabText(index).split(QLatin1Char(' '));
+    for (const QString &word : words) {
         width = std::max(width, metrics.horizontalAdvance(word) + kMarkerWidth + 2 * kPadding);
         ++lines;
     }

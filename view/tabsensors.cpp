@@ -145,7 +145,8 @@ void TabSensors::Private::orderTabs() const
 {
     QWidget *before = nullptr;
     for (QWidget *tile : grid->tiles()) {
-        for (QWidget *next : static_cast<SensorTile *>(tile)->tabOrder()) {
+        const QVector<QWidget *> order = static_cast<SensorTile *>(tile)->tabOrder();
+        for (QWidget *next : order) {
             if (before)
                 setTabOrder(before, next);
             before = next;

@@ -43,6 +43,27 @@ QPair<int, int> part(int index, int parts, int length, int gap)
     return {begin, std::max(1, end - begin)};
 }
 
+/// From one tile to another, as an arrow key sees it.
+struct Way
+{
+    int ahead;
+    int aside;
+};
+
+Way wayAlong(int key, QPoint distance)
+{
+    switch (key) {
+    case Qt::Key_Left:
+        return {-distance.x(), std::abs(distance.y())};
+    case Qt::Key_Right:
+        return {distance.x(), std::abs(distance.y())};
+    case Qt::Key_Up:
+        return {-distance.y(), std::abs(distance.x())};
+    default:
+        return {distance.y(), std::abs(distance.x())};
+    }
+}
+
 } // namespace
 
 QVector<QRect> tilePlaces(int count, const QSize &area, int gap)
@@ -115,14 +136,9 @@ QWidget *TileGrid::neighbour(const QWidget *tile, int key) const
     QWidget *nearest = nullptr;
     int nearestDistance = 0;
     for (QWidget *other : m_tiles) {
-        const QPoint way = other->geometry().center() - own.center();
-        const int ahead = key == Qt::Key_Left    ? -way.x()
-                          : key == Qt::Key_Right ? way.x()
-                          : key == Qt::Key_Up    ? -way.y()
-                                                 : way.y();
-        const int aside = key == Qt::Key_Left || key == Qt::Key_Right ? std::abs(way.y()) : std::abs(way.x());
-        const int distance = ahead + 3 * aside;
-        if (other == tile || other->isHidden() || ahead <= 0 || (nearest && distance >= nearestDistance))
+        const Way way = wayAlong(key, other->geometry().center() - own.center());
+        const int distance = way.ahead + 3 * way.aside;
+        if (other == tile || other->isHidden() || way.ahead <= 0 || (nearest && distance >= nearestDistance))
             continue;
         nearest = other;
         nearestDistance = distance;

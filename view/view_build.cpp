@@ -117,7 +117,8 @@ void View::Private::createTabs()
         page->setObjectName(QLatin1String(name));
         tabs->addTab(page, QString());
         // The tab key would stop where nothing can be done; what gets the focus scrolls into sight by itself.
-        for (auto *area : page->findChildren<QScrollArea *>())
+        const auto areas = page->findChildren<QScrollArea *>();
+        for (QScrollArea *area : areas)
             area->setFocusPolicy(Qt::NoFocus);
     };
     add(tabHome = new TabHome, "tabHome");
