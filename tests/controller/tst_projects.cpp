@@ -147,6 +147,7 @@ private slots:
         else
             bench.controller.onTabProject_clearDataClicked();
         QVERIFY(bench.controller.isRecordingRunning());
+        QCOMPARE(bench.controller.seriesIndex(0), -1); // nothing gets into shots that came from elsewhere
         bench.say("0;4;4;4;4;4");
         bench.say("0;5;5;5;5;5");
         QCOMPARE(bench.firstSamples(), next == "open" ? (QVector<double>{1, 2, 4}) : QVector<double>{4});
