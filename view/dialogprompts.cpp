@@ -47,6 +47,9 @@ constexpr AnswerText kAnswers[] = {
 void makeRoomy(QFileDialog &dialog)
 {
     dialog.setStyleSheet(QStringLiteral("QPushButton {padding: 0px 14px;}"));
+    const auto buttons = dialog.findChildren<QPushButton *>();
+    for (QPushButton *button : buttons)
+        button->setIcon({}); // as in message boxes
     dialog.resize(kFileDialogSize.boundedTo(dialog.screen()->availableSize()));
     const auto *list = dialog.findChild<QTreeView *>(QStringLiteral("treeView")); // none in a platform's own dialog
     if (!list)
