@@ -1,5 +1,6 @@
 #include "device/mesotraconnector.h"
 #include "model/model.h"
+#include "plots/osziwidget.h"
 #include "tests/support/files.h"
 #include "tests/support/literals.h"
 #include "tests/support/logcapture.h"
@@ -13,6 +14,8 @@
 #include "view/view.h"
 
 #include <QtWidgets>
+
+#include <algorithm>
 
 namespace {
 
@@ -244,6 +247,11 @@ private slots:
             QCOMPARE(time->text(), "1"_s + step.point + "250 s"_s);
             const auto *tree = bench.view.findChild<SensorTreeModel *>();
             QCOMPARE(tree->indexOf(0, SensorTreeModel::ValueColumn).data().toString(), "1"_s + step.point + "50"_s);
+            auto *plot = bench.view.findChild<OsziWidget *>("osziWidget1"_s);
+            plot->showMouseMarker(OsziWidget::kLeftMargin);
+            const auto labels = plot->findChildren<QLabel *>();
+            QVERIFY(std::any_of(labels.cbegin(), labels.cend(),
+                                [&](const QLabel *label) { return label->text() == "1"_s + step.point + "5"_s; }));
             for (const auto *box : bench.view.findChildren<QAbstractSpinBox *>())
                 QCOMPARE(box->locale().decimalPoint(), step.point);
         }
