@@ -160,7 +160,8 @@ void Controller::onTabOszi_deleteMeasurements(const QString &range)
 bool Controller::deleteRange(const QString &range)
 {
     int removed = 0;
-    for (const RangePart &part : parseMeasurementRange(range)) {
+    const QVector<RangePart> parts = parseMeasurementRange(range);
+    for (const RangePart &part : parts) {
         if (!part.isSingle() && !part.isSpan()) {
             qCDebug(lcController).noquote().nospace()
                 << "syntax error in range!!  (range=" << part.pieces.join(QLatin1Char(',')) << ")";

@@ -20,8 +20,6 @@ namespace {
 constexpr int kRestartPatience = 120000;
 constexpr int kReconnectInterval = 1000;
 
-const QStringList kLoggerFiles{QStringLiteral("*.bb")};
-
 void setWaitCursor(bool waiting)
 {
     if (waiting)
@@ -30,10 +28,16 @@ void setWaitCursor(bool waiting)
         QApplication::restoreOverrideCursor();
 }
 
+QFileInfoList loggerFilesIn(const QDir &folder)
+{
+    return folder.entryInfoList({QStringLiteral("*.bb")}, QDir::Files, QDir::Name);
+}
+
 QStringList loggerFiles(const QDir &folder)
 {
     QStringList files;
-    for (const QFileInfo &file : folder.entryInfoList(kLoggerFiles, QDir::Files, QDir::Name))
+    const QFileInfoList found = loggerFilesIn(folder);
+    for (const QFileInfo &file : found)
         files.append(file.absoluteFilePath());
     return files;
 }
@@ -208,7 +212,8 @@ QStringList Controller::copyLocalDirToTmpDir(const QString &localDirectory, cons
 {
     qCDebug(lcController) << Q_FUNC_INFO;
     QStringList copied;
-    for (const QFileInfo &file : QDir(localDirectory).entryInfoList(kLoggerFiles, QDir::Files, QDir::Name)) {
+    const QFileInfoList found = loggerFilesIn(QDir(localDirectory));
+    for (const QFileInfo &file : found) {
         qCDebug(lcController).noquote() << "file =" << file.fileName();
         const QString target = placeForCopy(file, temporaryDirectory, d->copiedFrom);
         if (copyOver(file, target))

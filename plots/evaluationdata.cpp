@@ -10,9 +10,12 @@ namespace {
 
 // What a sensor shows that nobody has chosen anything for.
 const Quantity kUsualChoice{Quantity::Kind::Maximum, Quantity::kWholeShot};
-const QVector<Quantity> kUsualQuantities{{Quantity::Kind::Minimum, Quantity::kWholeShot},
-                                         {Quantity::Kind::Maximum, Quantity::kWholeShot},
-                                         {Quantity::Kind::Mean, Quantity::kWholeShot}};
+QVector<Quantity> usualQuantities()
+{
+    return {{Quantity::Kind::Minimum, Quantity::kWholeShot},
+            {Quantity::Kind::Maximum, Quantity::kWholeShot},
+            {Quantity::Kind::Mean, Quantity::kWholeShot}};
+}
 
 bool isFinite(const std::optional<double> &limit)
 {
@@ -156,7 +159,7 @@ QVector<Quantity> EvaluationData::shownQuantities(int sensor) const
         if (settings && settings->isShown)
             shown.append(quantity);
     }
-    return shown.isEmpty() ? kUsualQuantities : shown;
+    return shown.isEmpty() ? usualQuantities() : shown;
 }
 
 void EvaluationData::setShown(int sensor, const Quantity &quantity, bool shown)
