@@ -147,9 +147,10 @@ void TabOszilloscope::Private::build()
     layout->addWidget(createRows(), 1);
     layout->addWidget(createTimeAxis());
 
+    // Lines of their own, so that a wide window does not break in the middle of the controls of the measurements.
+    layout->addWidget(createMarkers(page));
     auto *foot = new QWidget(page);
     auto *flow = new FlowLayout(kGroupGap, kLineGap, foot);
-    flow->addWidget(createMarkers(foot));
     addMeasurements(*flow, foot);
     flow->addWidget(createSampleRate(foot));
     layout->addWidget(foot);

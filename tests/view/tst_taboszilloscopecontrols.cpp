@@ -58,7 +58,7 @@ private slots:
         OsziBench bench;
         bench.tab.resize(size);
         QCoreApplication::processEvents();
-        const QWidget *page = bench.find<QFrame>("frameMarker")->parentWidget()->parentWidget();
+        const QWidget *page = bench.find<QFrame>("frameMarker")->parentWidget();
         const QVector<QRect> places = controlPlaces(*page);
         QVERIFY(places.size() > 30);
         for (int i = 0; i < places.size(); ++i) {
