@@ -1,3 +1,4 @@
+#include "model/model.h"
 #include "view/sensordialog.h"
 #include "view/sensortreemodel.h"
 #include "view/tabsensors_p.h"
@@ -71,7 +72,7 @@ void TabSensors::Private::rename(int index, const QString &name)
 
 void TabSensors::Private::edit(int index)
 {
-    if (index < 0)
+    if (index < 0 || !model || model->isBusy()) // the sensors may be others when the dialog is closed
         return;
     const SensorInfo before = sensors->sensors().sensors.at(index);
     auto *dialog = new SensorDialog(before, q);
