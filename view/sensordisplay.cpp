@@ -124,7 +124,7 @@ void SensorDisplay::dropFace()
 QString SensorDisplay::widestValue(const QFont &font) const
 {
     const SensorScale &scale = m_face.scale;
-    QString widest = sensorValueText(m_reading.hasValue() ? m_reading.value : 0.0, valueDecimals());
+    QString widest = sensorValueText(m_reading.hasValue() ? m_reading.readOut : 0.0, valueDecimals());
     for (double end : {scale.low, scale.high}) {
         const QString text = sensorValueText(end, valueDecimals());
         if (widthOf(font, text) > widthOf(font, widest))
@@ -150,7 +150,8 @@ void SensorDisplay::paintValue(QPainter &painter, const QRectF &area) const
     digits.setPixelSize(std::max(1, static_cast<int>(size)));
     const QFontMetricsF metrics(digits);
     const double baseline = area.center().y() + 0.5 * metrics.capHeight();
-    const QString text = m_reading.hasValue() ? sensorValueText(m_reading.value, valueDecimals()) : QStringLiteral("–");
+    const QString text =
+        m_reading.hasValue() ? sensorValueText(m_reading.readOut, valueDecimals()) : QStringLiteral("–");
     const bool isStale = !m_reading.hasValue() || m_reading.status == SensorStatus::Stale;
     painter.setPen(isStale ? kStaleColor : m_reading.isOutside() ? statusColor(m_reading.status) : kDigitColor);
     painter.setFont(digits);

@@ -111,7 +111,7 @@ QString readingText(const SensorReading &reading, const QString &unit, int decim
 {
     if (!reading.hasValue())
         return statusText(reading.status);
-    QString value = sensorValueText(reading.value, decimals);
+    QString value = sensorValueText(reading.readOut, decimals);
     if (!unit.isEmpty())
         value += QLatin1Char(' ') + unit;
     return value + QLatin1String(", ") + statusText(reading.status);

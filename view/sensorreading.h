@@ -12,7 +12,8 @@ enum class SensorStatus { NoValue, Stale, Inside, Below, Above };
 struct SensorReading
 {
     SensorStatus status = SensorStatus::NoValue;
-    double value = 0.0; ///< without meaning where there is no value
+    double value = 0.0;   ///< without meaning where there is no value, like the next
+    double readOut = 0.0; ///< what the digits say: the value, but not renewed faster than they can be read
     std::optional<HeldRange> held;
 
     [[nodiscard]] bool hasValue() const { return status != SensorStatus::NoValue; }

@@ -18,7 +18,7 @@
 namespace {
 
 constexpr int kRepaintInterval = 50; // ms: 20 times a second
-constexpr int kStatusInterval = 250; // digits in the tree could not be read faster
+constexpr int kStatusInterval = 250; // digits could not be read faster
 
 } // namespace
 
@@ -197,10 +197,11 @@ void TabSensors::addSample(const std::array<double, kNumSensors> &values, int pe
         return;
     if (isFirst)
         d->showHint();
-    if (!d->repaintTimer.isActive() && !window()->isMinimized()) // the other timer brings it up to date at last
-        d->repaintTimer.start();
-    if (!d->statusTimer.isActive())
+    d->scheduleTiles();
+    if (!d->statusTimer.isActive()) {
         d->statusTimer.start();
+        d->readOutAnew();
+    }
 }
 
 void TabSensors::forgetLiveValues()
@@ -242,21 +243,42 @@ bool TabSensors::Private::isFresh() const
     return live.isFresh(now());
 }
 
+std::optional<double> TabSensors::Private::valueOf(int channel) const
+{
+    return live.isEmpty() ? recorded.at(static_cast<std::size_t>(channel)) : live.latest(channel);
+}
+
+/// Digits that run with every repaint could not be read, and those of the tree and of a tile are to be the same.
+void TabSensors::Private::readOutAnew()
+{
+    for (int channel = 0; channel < kNumSensors; ++channel)
+        readOut.at(static_cast<std::size_t>(channel)) = valueOf(channel);
+}
+
 SensorReading TabSensors::Private::readingOf(const SensorInfo &sensor) const
 {
     SensorReading reading;
     if (sensor.channel < 0)
         return reading;
     const auto place = static_cast<std::size_t>(sensor.channel);
-    std::optional<double> value = live.isEmpty() ? recorded.at(place) : live.latest(sensor.channel);
+    std::optional<double> value = valueOf(sensor.channel);
     if (value)
         value = *value + sensor.offset;
     reading.status = sensorStatus(value, isFresh(), sensor.limits);
     reading.value = value.value_or(0.0);
+    reading.readOut = readOut.at(place) ? *readOut.at(place) + sensor.offset : reading.value;
     reading.held = live.held(sensor.channel);
     if (reading.held)
         reading.held = HeldRange{reading.held->minimum + sensor.offset, reading.held->maximum + sensor.offset};
     return reading;
+}
+
+/// Not more often than 20 times a second, whoever asks. A minimised window is brought up to date at last when the
+/// values are no longer fresh.
+void TabSensors::Private::scheduleTiles()
+{
+    if (!repaintTimer.isActive() && !q->window()->isMinimized())
+        repaintTimer.start();
 }
 
 void TabSensors::Private::refreshTiles()
@@ -275,7 +297,7 @@ void TabSensors::Private::refreshTree()
         const SensorReading reading = readingOf(all.at(i));
         const SensorScale scale = sensorScale(all.at(i).limits, reading.held);
         const QString text =
-            reading.hasValue() ? sensorValueText(reading.value, scale.valueDecimals) : QStringLiteral("–");
+            reading.hasValue() ? sensorValueText(reading.readOut, scale.valueDecimals) : QStringLiteral("–");
         sensors->setReading(i, text, reading.status);
         if (tiles.at(i))
             tiles.at(i)->describeReading();
@@ -284,6 +306,7 @@ void TabSensors::Private::refreshTree()
 
 void TabSensors::Private::refresh()
 {
+    readOutAnew();
     refreshTiles();
     refreshTree();
 }
@@ -291,7 +314,9 @@ void TabSensors::Private::refresh()
 void TabSensors::Private::checkFreshness()
 {
     if (isFresh()) {
+        readOutAnew();
         refreshTree();
+        scheduleTiles();
         return;
     }
     statusTimer.stop();

@@ -35,6 +35,7 @@ struct TabSensors::Private
     // --- Values ---
     LiveValues live;
     std::array<std::optional<double>, kNumSensors> recorded; ///< shown until something live comes
+    std::array<std::optional<double>, kNumSensors> readOut;  ///< what all digits say
     QElapsedTimer elapsed;
     std::function<qint64()> now;
     QTimer repaintTimer; ///< bundles samples; runs only in sight
@@ -86,8 +87,11 @@ struct TabSensors::Private
     void followLink();
     [[nodiscard]] bool isFresh() const;
     [[nodiscard]] SensorReading readingOf(const SensorInfo &sensor) const;
+    [[nodiscard]] std::optional<double> valueOf(int channel) const;
+    void scheduleTiles();
     void refreshTiles();
     void refreshTree();
+    void readOutAnew();
     void refresh();
     void checkFreshness();
     void resetHeld(int index);

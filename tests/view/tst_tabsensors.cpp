@@ -177,6 +177,7 @@ private slots:
         QVERIFY2(counter.count > 0 && counter.count <= 20 * seconds + 1,
                  qPrintable("%1 in %2 s"_s.arg(counter.count).arg(seconds)));
         QTRY_COMPARE(bench.tile(1)->display()->reading().value, 0.5); // the last one is not left out
+        QTRY_COMPARE(bench.tile(1)->display()->reading().readOut, 0.5);
     }
 
     void valuesGetStale_data()
