@@ -177,6 +177,7 @@ private slots:
         row("1920x1080", QSize(1920, 1080), true, false);
         row("1280x800 without a box", QSize(1280, 800), false, false);
         row("1280x800, English", QSize(1280, 800), true, true);
+        row("1920x1080, English", QSize(1920, 1080), true, true);
     }
 
     void nothingIsClipped()
