@@ -127,7 +127,7 @@ private slots:
     // The first line is held until the whole burst has arrived, so that the connector has all of it to deliver at once.
     void deliversABurstWithoutStarvingTheLoop()
     {
-        constexpr int kLines = 200000;
+        constexpr int kLines = 600000;
         Link link;
         QVERIFY(link.open());
         link.events.clear();
