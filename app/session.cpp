@@ -2,7 +2,7 @@
 
 #include "app/logging.h"
 #include "model/model.h"
-#include "view/view.h"
+#include "view/window/view.h"
 
 #include <QApplication>
 #include <QSplashScreen>

@@ -4,10 +4,10 @@
 #include "app/machinelicence.h"
 #include "app/stylesheets.h"
 #include "app/theme.h"
-#include "kit/qtmaterialpalette.h"
-#include "kit/qtmaterialstyle.h"
-#include "kit/qtmaterialtheme.h"
-#include "view/qttexts.h"
+#include "kit/material/qtmaterialpalette.h"
+#include "kit/material/qtmaterialstyle.h"
+#include "kit/material/qtmaterialtheme.h"
+#include "view/window/qttexts.h"
 
 #include <QApplication>
 #include <QFontDatabase>

@@ -1,10 +1,10 @@
 // What a number costs in the CSV export: through the locale and a text stream, and as the export writes it; and the
 // export of a whole project with the longest time in which the window gets no turn.
 
-#include "model/csvexport.h"
-#include "model/germannumber.h"
 #include "model/model.h"
-#include "model/pacer.h"
+#include "model/project/csvexport.h"
+#include "model/project/germannumber.h"
+#include "model/project/pacer.h"
 
 #include <benchmark/benchmark.h>
 

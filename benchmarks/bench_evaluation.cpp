@@ -1,10 +1,10 @@
 // How long the evaluation's overview and page of values take for what a user does, and for a new sample.
 
 #include "benchmarks/pagebench.h"
-#include "plots/dashboard.h"
-#include "plots/evaluationdata.h"
-#include "plots/limitfield.h"
-#include "plots/tabevaluationvalues.h"
+#include "plots/evaluation/common/evaluationdata.h"
+#include "plots/evaluation/common/limitfield.h"
+#include "plots/evaluation/dashboard/dashboard.h"
+#include "plots/evaluation/values/tabevaluationvalues.h"
 
 #include <QCheckBox>
 #include <QDoubleSpinBox>

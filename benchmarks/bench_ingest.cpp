@@ -5,9 +5,9 @@
 #include "controller/controller.h"
 #include "device/mesotraconnector.h"
 #include "model/model.h"
-#include "view/sidetabs.h"
-#include "view/taboszilloscope.h"
-#include "view/view.h"
+#include "view/oscilloscope/taboszilloscope.h"
+#include "view/window/sidetabs.h"
+#include "view/window/view.h"
 
 #include <benchmark/benchmark.h>
 

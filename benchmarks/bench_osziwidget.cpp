@@ -1,9 +1,9 @@
 // How long a row of the oscilloscope takes to paint: 1200 x 220 pixels, shots of 2000 samples.
 
-#include "plots/curvelayer.h"
-#include "plots/labelcache.h"
-#include "plots/oszipainter.h"
-#include "plots/osziwidget.h"
+#include "plots/oscilloscope/curvelayer.h"
+#include "plots/oscilloscope/labelcache.h"
+#include "plots/oscilloscope/oszipainter.h"
+#include "plots/oscilloscope/osziwidget.h"
 
 #include <QApplication>
 #include <QImage>

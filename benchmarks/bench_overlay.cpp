@@ -1,7 +1,7 @@
 // How long the overlay page takes for what a user does, and for a new sample while a recording runs.
 
 #include "benchmarks/pagebench.h"
-#include "plots/tabevaluationoverlay.h"
+#include "plots/evaluation/overlay/tabevaluationoverlay.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>

@@ -1,8 +1,8 @@
 // The project file of 1000 shots of 5 sensors with 600 samples each: Qt's own JSON classes with a text stream against
 // the streaming writer and reader. Peak memory over the samples is measured by counting what malloc hands out.
 
-#include "model/pacer.h"
-#include "model/projectfile.h"
+#include "model/project/pacer.h"
+#include "model/project/projectfile.h"
 
 #include <QBuffer>
 #include <QFile>

@@ -1,7 +1,7 @@
 // How long the runtime page takes for what a user does, and for a new sample while a recording runs.
 
 #include "benchmarks/pagebench.h"
-#include "plots/tabevaluationruntime.h"
+#include "plots/evaluation/runtime/tabevaluationruntime.h"
 
 #include <QAbstractButton>
 #include <QDoubleSpinBox>

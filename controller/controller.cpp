@@ -2,14 +2,14 @@
 
 #include "controller/controller_p.h"
 #include "controller/logging.h"
-#include "device/hostaddress.h"
-#include "device/samplingperiod.h"
+#include "device/protocol/hostaddress.h"
+#include "device/protocol/samplingperiod.h"
 #include "model/model.h"
-#include "view/tabblackbox.h"
-#include "view/taboszilloscope.h"
-#include "view/tabproject.h"
-#include "view/tabsensors.h"
-#include "view/view.h"
+#include "view/blackbox/tabblackbox.h"
+#include "view/oscilloscope/taboszilloscope.h"
+#include "view/project/tabproject.h"
+#include "view/sensors/tabsensors.h"
+#include "view/window/view.h"
 
 #include <QApplication>
 

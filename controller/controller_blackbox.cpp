@@ -2,8 +2,8 @@
 #include "controller/controller_p.h"
 #include "controller/logging.h"
 #include "model/model.h"
-#include "view/tabblackbox.h"
-#include "view/view.h"
+#include "view/blackbox/tabblackbox.h"
+#include "view/window/view.h"
 
 #include <QFileInfo>
 #include <QScopedValueRollback>

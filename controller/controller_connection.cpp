@@ -1,11 +1,11 @@
 #include "controller/controller.h"
 #include "controller/controller_p.h"
 #include "controller/logging.h"
-#include "device/hostaddress.h"
-#include "device/samplingperiod.h"
+#include "device/protocol/hostaddress.h"
+#include "device/protocol/samplingperiod.h"
 #include "model/model.h"
-#include "view/tabblackbox.h"
-#include "view/view.h"
+#include "view/blackbox/tabblackbox.h"
+#include "view/window/view.h"
 
 #include <QApplication>
 

@@ -2,7 +2,7 @@
 #include "controller/controller_p.h"
 #include "controller/logging.h"
 #include "model/model.h"
-#include "view/view.h"
+#include "view/window/view.h"
 
 #include <utility>
 

@@ -2,9 +2,9 @@
 #include "controller/controller_p.h"
 #include "controller/logging.h"
 #include "model/model.h"
-#include "model/photo.h"
-#include "model/projectimage.h"
-#include "view/view.h"
+#include "model/project/photo.h"
+#include "model/project/projectimage.h"
+#include "view/window/view.h"
 
 #include <QApplication>
 #include <QDir>

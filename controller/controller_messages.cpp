@@ -2,9 +2,9 @@
 #include "controller/controller_p.h"
 #include "controller/logging.h"
 #include "model/model.h"
-#include "view/tabblackbox.h"
-#include "view/taboszilloscope.h"
-#include "view/view.h"
+#include "view/blackbox/tabblackbox.h"
+#include "view/oscilloscope/taboszilloscope.h"
+#include "view/window/view.h"
 
 #include <QApplication>
 

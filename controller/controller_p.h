@@ -3,7 +3,7 @@
 #include "controller/controller.h"
 #include "controller/recordingseries.h"
 #include "device/mesotraconnector.h"
-#include "device/messages.h"
+#include "device/protocol/messages.h"
 #include "model/devicedescription.h"
 #include "model/sensordescription.h"
 

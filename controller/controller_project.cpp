@@ -2,10 +2,10 @@
 #include "controller/controller_p.h"
 #include "controller/logging.h"
 #include "model/model.h"
-#include "view/tabhome.h"
-#include "view/taboszilloscope.h"
-#include "view/tabproject.h"
-#include "view/view.h"
+#include "view/home/tabhome.h"
+#include "view/oscilloscope/taboszilloscope.h"
+#include "view/project/tabproject.h"
+#include "view/window/view.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -3,10 +3,10 @@
 #include "controller/controller_p.h"
 #include "controller/logging.h"
 #include "device/scptransfer.h"
-#include "model/blackboxfile.h"
-#include "view/tabblackbox.h"
-#include "view/updatedialog.h"
-#include "view/view.h"
+#include "model/blackbox/blackboxfile.h"
+#include "view/blackbox/tabblackbox.h"
+#include "view/box/updatedialog.h"
+#include "view/window/view.h"
 
 #include <QApplication>
 #include <QDir>

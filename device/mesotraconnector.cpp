@@ -1,7 +1,7 @@
 #include "device/mesotraconnector.h"
 
 #include "device/logging.h"
-#include "device/samplingperiod.h"
+#include "device/protocol/samplingperiod.h"
 #include "device/scptransfer.h"
 
 #include <QElapsedTimer>

@@ -1,6 +1,6 @@
 #include "device/scpprocess.h"
 
-#include "device/scpcommand.h"
+#include "device/protocol/scpcommand.h"
 
 #include <QEventLoop>
 #include <QProcess>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "device/scpresult.h"
+#include "device/protocol/scpresult.h"
 
 #include <QByteArray>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "device/scpcommand.h"
+#include "device/protocol/scpcommand.h"
+#include "device/protocol/scpresult.h"
 #include "device/scpprocess.h"
-#include "device/scpresult.h"
 
 #include <functional>
 #include <memory>

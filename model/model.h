@@ -1,10 +1,10 @@
 #pragma once
 
-#include "model/blackboxfile.h"
+#include "model/blackbox/blackboxfile.h"
 #include "model/devicedescription.h"
+#include "model/project/projectimage.h"
+#include "model/project/projectmeta.h"
 #include "model/projectdata.h"
-#include "model/projectimage.h"
-#include "model/projectmeta.h"
 #include "model/samplelist.h"
 #include "model/sensordescription.h"
 #include "model/verticalmarkers.h"

@@ -1,6 +1,6 @@
 #include "model/indexcheck.h"
 #include "model/model.h"
-#include "model/pacer.h"
+#include "model/project/pacer.h"
 
 #include <QFile>
 #include <QFileInfo>

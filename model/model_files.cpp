@@ -1,10 +1,10 @@
-#include "model/atomicfile.h"
-#include "model/csvexport.h"
 #include "model/indexcheck.h"
 #include "model/model.h"
-#include "model/pacer.h"
-#include "model/projectfile.h"
-#include "model/projectimage.h"
+#include "model/project/atomicfile.h"
+#include "model/project/csvexport.h"
+#include "model/project/pacer.h"
+#include "model/project/projectfile.h"
+#include "model/project/projectimage.h"
 
 #include <QFileInfo>
 #include <QScopedValueRollback>

@@ -1,8 +1,8 @@
 #include "model/indexcheck.h"
 #include "model/model.h"
-#include "model/pacer.h"
-#include "model/projectfile.h"
-#include "model/projectimage.h"
+#include "model/project/pacer.h"
+#include "model/project/projectfile.h"
+#include "model/project/projectimage.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -21,19 +21,20 @@ RULES = {
     "ventaro_plotmath": ([], ["Core"]),
     "ventaro_kit": ([], ["Core", "Gui", "Widgets"]),
     "ventaro_plots": (["plotmath", "model", "types", "kit", "theme"], ["Core", "Gui", "Widgets"]),
-    "ventaro_view": (["plots", "plotmath", "model", "types", "kit", "theme"], ["Core", "Gui", "Widgets"]),
+    "ventaro_evaluation": (["plots", "plotmath", "model", "types", "kit", "theme"], ["Core", "Gui", "Widgets"]),
+    "ventaro_view": (["evaluation", "plots", "plotmath", "model", "types", "kit", "theme"], ["Core", "Gui", "Widgets"]),
     "ventaro_controller": (
-        ["view", "plots", "plotmath", "model", "types", "kit", "theme", "device", "protocol"],
+        ["view", "evaluation", "plots", "plotmath", "model", "types", "kit", "theme", "device", "protocol"],
         ["Core", "Gui", "Widgets", "Network"],
     ),
     "ventaro_startup": (
-        ["controller", "view", "plots", "plotmath", "model", "types", "kit", "theme", "device", "protocol"],
+        ["controller", "view", "evaluation", "plots", "plotmath", "model", "types", "kit", "theme", "device", "protocol"],
         ["Core", "Gui", "Widgets", "Network"],
     ),
     "ventaro_simulator": (["protocol", "types"], ["Core", "Network"]),
 }
 # Single files that may include more layers than the rest of theirs.
-EXCEPTIONS = {"view/updatedialog.cpp": ["device"]}
+EXCEPTIONS = {"view/box/updatedialog.cpp": ["device"]}
 # Folders whose programs are not layers: they may include everything, but no layer may include them.
 PROGRAM_FOLDERS = {"tests", "benchmarks", "tools"}
 SOURCE_SUFFIXES = {".h", ".cpp"}
@@ -57,12 +58,19 @@ def sections(arguments):
     return result
 
 
+def cmake_lists(root):
+    """The CMakeLists.txt files of the layers, which may lie in a folder of a folder."""
+    for folder in root.iterdir():
+        if folder.is_dir() and folder.name not in PROGRAM_FOLDERS | {"build"}:
+            yield from folder.rglob("CMakeLists.txt")
+
+
 def read_layers(root):
     """Maps each listed file to its layer, and each layer to the targets it links; also the files of programs."""
     layer_of, links, programs = {}, {}, set()
-    for cmake in sorted(root.glob("*/CMakeLists.txt")):
+    for cmake in sorted(cmake_lists(root)):
         text = cmake.read_text(encoding="utf-8")
-        folder = cmake.parent.name
+        folder = cmake.parent.relative_to(root).as_posix()
         for target, arguments in LAYER_CALL.findall(text):
             parts = sections(arguments)
             links[target] = parts["LINK"]

@@ -2,7 +2,7 @@
 #include "app/startup.h"
 #include "tests/support/literals.h"
 #include "tests/support/rows.h"
-#include "view/view.h"
+#include "view/window/view.h"
 
 #include <QApplication>
 #include <QDialog>

@@ -2,10 +2,10 @@
 
 #include "controller/controller.h"
 #include "model/model.h"
-#include "plots/osziwidget.h"
+#include "plots/oscilloscope/osziwidget.h"
 #include "tests/support/scriptedprompts.h"
-#include "view/taboszilloscope.h"
-#include "view/view.h"
+#include "view/oscilloscope/taboszilloscope.h"
+#include "view/window/view.h"
 
 #include <QCoreApplication>
 #include <QtTest>

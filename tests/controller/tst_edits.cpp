@@ -1,9 +1,9 @@
 #include "bench.h"
 #include "tests/support/literals.h"
 #include "tests/support/rows.h"
-#include "view/sensortreemodel.h"
-#include "view/tabproject.h"
-#include "view/tabsensors.h"
+#include "view/project/tabproject.h"
+#include "view/sensors/sensortreemodel.h"
+#include "view/sensors/tabsensors.h"
 
 #include <QAbstractButton>
 #include <QClipboard>

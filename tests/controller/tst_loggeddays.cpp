@@ -4,7 +4,7 @@
 #include "simulator/datalogger.h"
 #include "tests/support/literals.h"
 #include "tests/support/sshserver.h"
-#include "view/tabblackbox.h"
+#include "view/blackbox/tabblackbox.h"
 
 #include <QLabel>
 #include <QPushButton>

@@ -2,7 +2,7 @@
 
 #include "tests/support/literals.h"
 #include "tests/support/rows.h"
-#include "view/tabblackbox.h"
+#include "view/blackbox/tabblackbox.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 
 #include "tests/support/files.h"
 #include "tests/support/literals.h"
-#include "view/tabproject.h"
+#include "view/project/tabproject.h"
 
 #include <QComboBox>
 #include <QProcess>

@@ -2,7 +2,7 @@
 #include "tests/support/faketool.h"
 #include "tests/support/literals.h"
 #include "tests/support/rows.h"
-#include "view/recentbutton.h"
+#include "view/home/recentbutton.h"
 
 #include <QAction>
 #include <QFile>

@@ -7,8 +7,8 @@
 #include "tests/support/files.h"
 #include "tests/support/literals.h"
 #include "tests/support/logcapture.h"
-#include "view/tabblackbox.h"
-#include "view/updatedialog.h"
+#include "view/blackbox/tabblackbox.h"
+#include "view/box/updatedialog.h"
 
 #include <QtWidgets>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "kit/qtmaterialstyle.h"
-#include "kit/qtmaterialtheme.h"
+#include "kit/material/qtmaterialstyle.h"
+#include "kit/material/qtmaterialtheme.h"
 
 #include <QHash>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "view/userprompts.h"
+#include "view/common/userprompts.h"
 
 #include <QStringList>
 

@@ -1,11 +1,11 @@
 #include "tools/demo/demonstration.h"
 
 #include "simulator/mouldcycle.h"
-#include "view/sensortile.h"
-#include "view/sidetabs.h"
-#include "view/taboszilloscope.h"
-#include "view/tabproject.h"
-#include "view/tabsensors.h"
+#include "view/oscilloscope/taboszilloscope.h"
+#include "view/project/tabproject.h"
+#include "view/sensors/sensortile.h"
+#include "view/sensors/tabsensors.h"
+#include "view/window/sidetabs.h"
 
 #include <QAbstractButton>
 #include <QAction>

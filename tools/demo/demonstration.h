@@ -4,7 +4,7 @@
 #include "model/model.h"
 #include "simulator/boxsimulator.h"
 #include "tools/demo/dialogdriver.h"
-#include "view/view.h"
+#include "view/window/view.h"
 
 #include <QDir>
 #include <QObject>

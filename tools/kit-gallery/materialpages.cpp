@@ -1,10 +1,10 @@
 #include "tools/kit-gallery/materialpages.h"
 
-#include "kit/qtmaterialflatbutton.h"
-#include "kit/qtmaterialraisedbutton.h"
-#include "kit/qtmaterialscrollbar.h"
-#include "kit/qtmaterialtextfield.h"
-#include "kit/qtmaterialtoggle.h"
+#include "kit/material/qtmaterialflatbutton.h"
+#include "kit/material/qtmaterialraisedbutton.h"
+#include "kit/material/qtmaterialscrollbar.h"
+#include "kit/material/qtmaterialtextfield.h"
+#include "kit/material/qtmaterialtoggle.h"
 #include "tools/kit-gallery/gallery.h"
 
 #include <QIcon>

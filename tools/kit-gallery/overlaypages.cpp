@@ -1,10 +1,10 @@
 #include "tools/kit-gallery/overlaypages.h"
 
-#include "kit/progressindicator.h"
-#include "kit/qtmaterialoverlaywidget.h"
-#include "kit/qtmaterialpaint.h"
-#include "kit/qtmaterialripple.h"
-#include "kit/shadowframe.h"
+#include "kit/material/qtmaterialoverlaywidget.h"
+#include "kit/material/qtmaterialpaint.h"
+#include "kit/material/qtmaterialripple.h"
+#include "kit/small/progressindicator.h"
+#include "kit/small/shadowframe.h"
 #include "tools/kit-gallery/gallery.h"
 
 #include <QLabel>

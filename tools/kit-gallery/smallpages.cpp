@@ -1,10 +1,10 @@
 #include "tools/kit-gallery/smallpages.h"
 
-#include "kit/clickablelabel.h"
-#include "kit/coloredbutton.h"
-#include "kit/leftrightstepbox.h"
-#include "kit/progressindicator.h"
-#include "kit/shadowframe.h"
+#include "kit/small/clickablelabel.h"
+#include "kit/small/coloredbutton.h"
+#include "kit/small/leftrightstepbox.h"
+#include "kit/small/progressindicator.h"
+#include "kit/small/shadowframe.h"
 #include "tools/kit-gallery/gallery.h"
 
 #include <QLabel>

@@ -1,6 +1,6 @@
 #include "tools/scp-bridge/script.h"
 
-#include "device/hostaddress.h"
+#include "device/protocol/hostaddress.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,0 +1,121 @@
+#pragma once
+
+#include "kit/gauge/qcitem.h"
+
+#include <QWidget>
+
+#include <memory>
+#include <utility>
+
+/// A round gauge that is put together from parts, see QcItem. It knows what it shows - a value, a range, bands, texts -
+/// and its parts how. Parts that do not move are painted once and kept as pictures until the size, the screen, the
+/// theme, the font, the language or the parts change; a new value repaints the area of what it moves.
+///
+/// To a screen reader it is a dial that tells its value. Without damping it has no timer.
+class QcGaugeWidget : public QWidget
+{
+    Q_OBJECT
+    Q_PROPERTY(double value READ value WRITE setValue)
+
+public:
+    /// Without parts.
+    explicit QcGaugeWidget(QWidget *parent = nullptr);
+    ~QcGaugeWidget() override;
+    /// With the parts for a measured value: bands, marks, numerals, title, unit, needle, value, held extremes, glass.
+    [[nodiscard]] static QcGaugeWidget *createSensorGauge(QWidget *parent = nullptr);
+
+    // --- Parts, in the order in which they are painted; the gauge owns them ---
+    /// Puts a new part on top, made from the arguments.
+    template <typename Item, typename... Arguments>
+    Item *append(Arguments &&...arguments)
+    {
+        auto item = std::make_unique<Item>(std::forward<Arguments>(arguments)...);
+        Item *raw = item.get();
+        insertPart(partCount(), std::move(item));
+        return raw;
+    }
+    /// At the nearest possible place; null is logged and ignored.
+    void insertPart(int index, std::unique_ptr<QcItem> part);
+    /// Gives the part away; null if there is none.
+    [[nodiscard]] std::unique_ptr<QcItem> takePart(int index);
+    /// An index that does not exist is ignored.
+    void removePart(int index);
+    /// `to` is the part's index afterwards. An index that does not exist is ignored.
+    void movePart(int from, int to);
+    [[nodiscard]] int partCount() const;
+    /// Null if there is none.
+    [[nodiscard]] QcItem *part(int index) const;
+    /// The first part of this class, null if there is none.
+    template <typename Item>
+    [[nodiscard]] Item *find() const
+    {
+        for (int i = 0; i < partCount(); ++i)
+            if (auto *found = dynamic_cast<Item *>(part(i)))
+                return found;
+        return nullptr;
+    }
+
+    // --- What it shows ---
+    /// From the first to the last mark, also reversed. Finite, else logged and ignored.
+    void setRange(double from, double to);
+    [[nodiscard]] double minimum() const; ///< the smaller end of the range
+    [[nodiscard]] double maximum() const;
+    /// Bands with ends that are not finite or with an invalid colour are left out.
+    void setBands(const QVector<QcBand> &bands);
+    void setTitle(const QString &title);
+    [[nodiscard]] QString title() const;
+    void setUnit(const QString &unit);
+    /// Of all needles that point at the value. Invalid: the theme's.
+    void setNeedleColor(const QColor &color);
+    /// Of the value as a number: 0 to 15, else the nearest.
+    void setDecimals(int decimals);
+    /// The true value also outside the range, where the needle stays just beyond the end. What is not finite is no
+    /// value.
+    void setValue(double value);
+    void clearValue();
+    [[nodiscard]] bool hasValue() const;
+    [[nodiscard]] double value() const; ///< 0 without one
+    /// The extremes since some moment, in either order. What is not finite clears them.
+    void setHeld(double minimum, double maximum);
+    void clearHeld();
+    /// Whether the value is too old to be trusted: everything looks pale. So it does while the widget is disabled.
+    void setStale(bool stale);
+    [[nodiscard]] bool isStale() const;
+    /// The time in ms in which the needle covers about two thirds of the way to a new value; 0, the default: none.
+    void setDamping(int milliseconds);
+    /// True while the needle is on its way; a timer runs only then.
+    [[nodiscard]] bool isOnTheWay() const;
+
+    /// Value and unit, and whether they are out of date, in words.
+    [[nodiscard]] QString spokenValue() const;
+    /// What the part at this index sees when it is painted.
+    [[nodiscard]] QcCanvas canvas(int index) const;
+    [[nodiscard]] const QcReading &reading() const;
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+    [[nodiscard]] bool hasHeightForWidth() const override { return true; }
+    [[nodiscard]] int heightForWidth(int width) const override { return width; }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+
+private:
+    friend class QcItem;
+
+    void partChanged(const QcItem &item);
+    /// Everything anew.
+    void renew();
+    template <typename T>
+    void assign(T &property, const T &value);
+    void prepare() const;
+    void setReading(const QcReading &reading);
+    void moveNeedle();
+    void paintStill(QPainter &painter, int first, int end);
+
+    struct Part;
+    struct Private;
+    std::unique_ptr<Private> d;
+};

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "kit/gauge/qcitem.h"
+
+/// The glass above the other parts: a faint shade towards the rim and a sheen at the top. The radius is that of its
+/// edge.
+class QcGlassItem : public QcItem
+{
+public:
+    explicit QcGlassItem(double radius = 97.4);
+
+    void paint(QPainter &painter, const QcCanvas &canvas, const QcReading &reading) const override;
+};

@@ -1,0 +1,44 @@
+#include "kit/gauge/qcitem.h"
+
+#include "kit/gauge/qcgaugewidget.h"
+
+#include <algorithm>
+#include <cmath>
+
+QcItem::QcItem(double radius)
+    : m_radius(radius)
+{}
+
+QcItem::~QcItem() = default;
+
+void QcItem::setRadius(double percent)
+{
+    if (std::isfinite(percent))
+        assign(m_radius, std::clamp(percent, 0.0, 100.0));
+}
+
+void QcItem::setVisible(bool visible)
+{
+    assign(m_visible, visible);
+}
+
+bool QcItem::looksDifferent(const QcCanvas &, const QcReading &, const QcReading &) const
+{
+    return true;
+}
+
+QRectF QcItem::area(const QcCanvas &canvas, const QcReading &) const
+{
+    return canvas.square(100.0);
+}
+
+double QcItem::neededStep(const QcCanvas &) const
+{
+    return 0.0;
+}
+
+void QcItem::changed()
+{
+    if (m_gauge)
+        m_gauge->partChanged(*this);
+}

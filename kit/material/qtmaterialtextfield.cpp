@@ -1,0 +1,415 @@
+#include "kit/material/qtmaterialtextfield.h"
+
+#include "kit/material/qtmaterialpaint.h"
+#include "kit/material/qtmaterialpalette.h"
+#include "kit/material/qtmaterialstyle.h"
+
+#include <QAccessible>
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QToolTip>
+
+#include <algorithm>
+
+namespace {
+
+using QtMaterialPaint::themeColor;
+using State = QtMaterialTextFieldStateMachine::State;
+
+enum Track { kLabelTrack, kLineTrack, kTrackCount };
+
+constexpr int kStateTime = 180;       // ms
+constexpr int kTouchHeight = 40;      // pixels that a finger in a glove finds
+constexpr qreal kSmall = 0.8;         // the size of label and support, of the text's
+constexpr int kInset = 4;             // pixels from the widget's edge to the text
+constexpr int kOwnInset = 2;          // of them, those that the base class adds to the margins
+constexpr int kLineRoom = 4;          // pixels below the text, the line included
+constexpr int kDefaultLength = 32767; // what QLineEdit takes unless told otherwise
+
+} // namespace
+
+QtMaterialTextField::QtMaterialTextField(QWidget *parent)
+    : QLineEdit(parent)
+    , m_motion(this, kTrackCount)
+{
+    setFrame(false);
+    connect(this, &QLineEdit::textChanged, this, &QtMaterialTextField::showState);
+    connect(&QtMaterialStyle::instance(), &QtMaterialStyle::themeChanged, this, &QtMaterialTextField::takeTheme);
+    connect(&m_motion, &QtMaterialMotion::stepped, this, &QtMaterialTextField::showPlaceholder);
+    takeTheme();
+    fitRoom();
+}
+
+QtMaterialTextField::QtMaterialTextField(const QString &label, QWidget *parent)
+    : QtMaterialTextField(parent)
+{
+    setLabel(label);
+}
+
+// --- What it says ---
+
+void QtMaterialTextField::setLabel(const QString &label)
+{
+    if (accessibleName() == m_label)
+        setAccessibleName(label);
+    m_label = label;
+    m_state.setLabelled(!label.isEmpty());
+    fitRoom();
+    showState();
+}
+
+void QtMaterialTextField::setHelperText(const QString &text)
+{
+    m_helperText = text;
+    fitRoom();
+    describe();
+}
+
+void QtMaterialTextField::setErrorText(const QString &text)
+{
+    if (text == m_errorText)
+        return;
+    m_errorText = text;
+    m_state.setWrong(!text.isEmpty());
+    fitRoom();
+    describe();
+    showState();
+    if (text.isEmpty() || !isVisible())
+        return;
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+void QtMaterialTextField::describe()
+{
+    if (accessibleDescription() == m_description) // else someone else describes the field
+        setAccessibleDescription(supportText());
+    m_description = supportText();
+    update();
+}
+
+void QtMaterialTextField::setCounterShown(bool shown)
+{
+    m_counterShown = shown;
+    fitRoom();
+}
+
+void QtMaterialTextField::setClearable(bool clearable)
+{
+    m_clearable = clearable;
+    fitRoom();
+}
+
+void QtMaterialTextField::setSupportReserved(bool kept)
+{
+    m_supportReserved = kept;
+    fitRoom();
+}
+
+QString QtMaterialTextField::supportText() const
+{
+    return m_errorText.isEmpty() ? m_helperText : m_errorText;
+}
+
+QString QtMaterialTextField::counterText() const
+{
+    if (!m_counterShown)
+        return {};
+    const QString count = QString::number(text().size());
+    return maxLength() == kDefaultLength ? count : QStringLiteral("%1 / %2").arg(count, QString::number(maxLength()));
+}
+
+// --- Room ---
+
+QFont QtMaterialTextField::smallFont() const
+{
+    QFont result = font();
+    if (result.pixelSize() > 0)
+        result.setPixelSize(std::max(1, qRound(result.pixelSize() * kSmall)));
+    else
+        result.setPointSizeF(result.pointSizeF() * kSmall);
+    return result;
+}
+
+int QtMaterialTextField::labelRoom() const
+{
+    return m_label.isEmpty() ? 0 : QFontMetrics(smallFont()).height();
+}
+
+int QtMaterialTextField::supportRoom() const
+{
+    const bool needed = m_supportReserved || m_counterShown || !supportText().isEmpty();
+    return needed ? QFontMetrics(smallFont()).height() + 2 : 0;
+}
+
+void QtMaterialTextField::fitRoom()
+{
+    const int textHeight = fontMetrics().height() + 2;
+    const int air = std::max(6, kTouchHeight - labelRoom() - textHeight - kLineRoom);
+    const int top = labelRoom() + air / 2;
+    const int bottom = air - air / 2 + kLineRoom + supportRoom();
+    const int end = m_clearable ? textHeight + kInset : kInset - kOwnInset;
+    const int begin = kInset - kOwnInset;
+    setTextMargins(isLeftToRight() ? begin : end, top, isLeftToRight() ? end : begin, bottom);
+
+    const int height = top + textHeight + bottom;
+    // Layouts prefer the smallest height of a style sheet to what the field says it needs.
+    if (minimumHeight() < height || minimumHeight() == m_ownMinimumHeight) {
+        m_ownMinimumHeight = height;
+        setMinimumHeight(height);
+    }
+    update();
+}
+
+qreal QtMaterialTextField::lineY() const
+{
+    return height() - supportRoom() - kLineRoom / 2.0;
+}
+
+QRect QtMaterialTextField::supportRect() const
+{
+    const int room = supportRoom();
+    return {kInset, height() - room, width() - 2 * kInset, room};
+}
+
+QRect QtMaterialTextField::supportTextRect() const
+{
+    const int taken = m_counterShown ? QFontMetrics(smallFont()).horizontalAdvance(counterText()) + 2 * kInset : 0;
+    return QStyle::visualRect(layoutDirection(), supportRect(), supportRect().adjusted(0, 0, -taken, 0));
+}
+
+QRect QtMaterialTextField::clearRect() const
+{
+    if (!m_clearable || text().isEmpty() || isReadOnly() || !isEnabled())
+        return {};
+    const int side = std::max(kTouchHeight, fontMetrics().height());
+    const int below = height() - supportRoom();
+    const QRect place(width() - std::min(side, width() / 2), 0, std::min(side, width() / 2), below);
+    return QStyle::visualRect(layoutDirection(), rect(), place);
+}
+
+// --- State ---
+
+void QtMaterialTextField::takeTheme()
+{
+    // Only a sheet of its own gets the field past the colours that the application's sheet has for line edits.
+    const auto name = [](const char *key) { return themeColor(QLatin1String(key)).name(QColor::HexArgb); };
+    setStyleSheet(QStringLiteral("QtMaterialTextField{background:transparent;color:%1;selection-background-color:%2;"
+                                 "selection-color:%3;}QtMaterialTextField:disabled{color:%4;}")
+                      .arg(name("text"), name("primary1"), name("alternateText"), name("disabled")));
+    showState();
+}
+
+void QtMaterialTextField::showPlaceholder()
+{
+    QColor color = themeColor(QLatin1String("primary3"));
+    const bool labelAway = m_label.isEmpty() || m_motion.value(kLabelTrack) >= 1.0;
+    if (!m_state.isPlaceholderShown() || !labelAway)
+        color.setAlpha(0);
+    QPalette colors = palette();
+    if (colors.color(QPalette::PlaceholderText) == color)
+        return;
+    colors.setColor(QPalette::PlaceholderText, color);
+    setPalette(colors);
+}
+
+void QtMaterialTextField::showState()
+{
+    m_state.setEnabled(isEnabled());
+    m_state.setFocused(hasFocus());
+    m_state.setFilled(!text().isEmpty() || !displayText().isEmpty()); // an input mask shows its blanks
+
+    m_motion.moveTo(kLabelTrack, m_state.isLabelFloating() ? 1.0 : 0.0, kStateTime);
+    m_motion.moveTo(kLineTrack, m_state.isFocused() ? 1.0 : 0.0, kStateTime);
+    showPlaceholder();
+    update();
+}
+
+bool QtMaterialTextField::event(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        const auto *help = static_cast<QHelpEvent *>(event);
+        const bool cut = QFontMetrics(smallFont()).horizontalAdvance(supportText()) > supportTextRect().width();
+        if (cut && supportTextRect().contains(help->pos())) {
+            QToolTip::showText(help->globalPos(), supportText(), this);
+            return true;
+        }
+    }
+    const bool handled = QLineEdit::event(event);
+    if (event->type() == QEvent::Polish) {
+        fitRoom();
+        showPlaceholder();
+    }
+    return handled;
+}
+
+void QtMaterialTextField::changeEvent(QEvent *event)
+{
+    QLineEdit::changeEvent(event);
+    switch (event->type()) {
+    case QEvent::FontChange:
+    case QEvent::StyleChange:
+    case QEvent::LayoutDirectionChange:
+        fitRoom();
+        showPlaceholder();
+        break;
+    case QEvent::EnabledChange:
+        m_clearPressed = false;
+        showState();
+        break;
+    default:
+        break;
+    }
+}
+
+void QtMaterialTextField::showEvent(QShowEvent *event)
+{
+    QLineEdit::showEvent(event);
+    showState(); // an input mask comes without a signal
+}
+
+void QtMaterialTextField::focusInEvent(QFocusEvent *event)
+{
+    QLineEdit::focusInEvent(event);
+    showState();
+}
+
+void QtMaterialTextField::focusOutEvent(QFocusEvent *event)
+{
+    QLineEdit::focusOutEvent(event);
+    showState();
+}
+
+void QtMaterialTextField::enterEvent(QEvent *event)
+{
+    QLineEdit::enterEvent(event);
+    update();
+}
+
+void QtMaterialTextField::leaveEvent(QEvent *event)
+{
+    QLineEdit::leaveEvent(event);
+    update();
+}
+
+void QtMaterialTextField::mousePressEvent(QMouseEvent *event)
+{
+    m_clearPressed = event->button() == Qt::LeftButton && clearRect().contains(event->pos());
+    if (!m_clearPressed)
+        QLineEdit::mousePressEvent(event);
+}
+
+void QtMaterialTextField::mouseMoveEvent(QMouseEvent *event)
+{
+    const bool overText = !isReadOnly() && !clearRect().contains(event->pos());
+    const Qt::CursorShape shape = overText ? Qt::IBeamCursor : Qt::ArrowCursor;
+    if (cursor().shape() != shape) {
+        setCursor(shape);
+        update(); // the cross shows that it is pointed at
+    }
+    if (!m_clearPressed)
+        QLineEdit::mouseMoveEvent(event);
+}
+
+void QtMaterialTextField::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (!m_clearPressed) {
+        QLineEdit::mouseReleaseEvent(event);
+        return;
+    }
+    m_clearPressed = false;
+    if (!clearRect().contains(event->pos()))
+        return;
+    clear();
+    emit textEdited(text());
+}
+
+// --- Painting ---
+
+QColor QtMaterialTextField::accentColor() const
+{
+    switch (m_state.state()) {
+    case State::Disabled:
+        return themeColor(QLatin1String("disabled"));
+    case State::Wrong:
+        return QtMaterialPalette::red700();
+    case State::Focused:
+        return themeColor(QLatin1String("primary1"));
+    case State::Resting:
+        break;
+    }
+    return themeColor(QLatin1String("primary3"));
+}
+
+void QtMaterialTextField::paintEvent(QPaintEvent *event)
+{
+    QLineEdit::paintEvent(event);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (!m_label.isEmpty())
+        paintLabel(painter);
+    paintLine(painter);
+    if (supportRoom() > 0)
+        paintSupport(painter);
+    if (!clearRect().isEmpty())
+        paintCross(painter);
+}
+
+void QtMaterialTextField::paintLabel(QPainter &painter) const
+{
+    const qreal risen = m_motion.value(kLabelTrack);
+    const QFontMetrics metrics = fontMetrics();
+    const QMargins margins = textMargins();
+    const qreal resting = (margins.top() + height() - margins.bottom() - metrics.height()) / 2.0;
+    const qreal scale = 1.0 + (kSmall - 1.0) * risen;
+    const int room = qRound((width() - 2 * kInset) / scale);
+    const QString shown = metrics.elidedText(m_label, Qt::ElideRight, room);
+    painter.save();
+    painter.translate(isLeftToRight() ? kInset : width() - kInset, resting * (1.0 - risen));
+    painter.scale(scale, scale);
+    painter.setPen(accentColor());
+    const int left = isLeftToRight() ? 0 : -metrics.horizontalAdvance(shown);
+    painter.drawText(left, metrics.ascent(), shown);
+    painter.restore();
+}
+
+void QtMaterialTextField::paintLine(QPainter &painter) const
+{
+    const qreal y = lineY();
+    const qreal middle = width() / 2.0;
+    const bool firm = isEnabled() && !isReadOnly();
+    const bool noticed = underMouse() || m_state.state() == State::Wrong;
+    const QColor thin = noticed || !firm ? accentColor() : themeColor(QLatin1String("accent3"));
+    painter.setPen(QPen(thin, 1.0, firm ? Qt::SolidLine : Qt::DotLine));
+    painter.drawLine(QPointF(0, y + 0.5), QPointF(width(), y + 0.5));
+    const qreal out = m_motion.value(kLineTrack);
+    if (out > 0.0)
+        painter.fillRect(QRectF(middle - middle * out, y, width() * out, 2.0), accentColor());
+}
+
+void QtMaterialTextField::paintSupport(QPainter &painter) const
+{
+    painter.setFont(smallFont());
+    const bool plain = m_state.state() == State::Focused;
+    painter.setPen(plain ? themeColor(QLatin1String("primary3")) : accentColor());
+    const int flags = static_cast<int>(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeading)) | Qt::AlignVCenter;
+    const QRect place = supportTextRect();
+    painter.drawText(place, flags, painter.fontMetrics().elidedText(supportText(), Qt::ElideRight, place.width()));
+    const int end = static_cast<int>(QStyle::visualAlignment(layoutDirection(), Qt::AlignTrailing)) | Qt::AlignVCenter;
+    painter.drawText(supportRect(), end, counterText());
+}
+
+void QtMaterialTextField::paintCross(QPainter &painter) const
+{
+    const QMargins margins = textMargins();
+    const qreal half = fontMetrics().height() * 0.22;
+    const qreal x = isLeftToRight() ? width() - margins.right() / 2.0 : margins.left() / 2.0;
+    const QPointF centre(x, (margins.top() + height() - margins.bottom()) / 2.0);
+    const bool pointed = underMouse() && clearRect().contains(mapFromGlobal(QCursor::pos()));
+    painter.setPen(QPen(themeColor(pointed ? QLatin1String("primary1") : QLatin1String("primary3")), 2.0, Qt::SolidLine,
+                        Qt::RoundCap));
+    painter.drawLine(centre - QPointF(half, half), centre + QPointF(half, half));
+    painter.drawLine(centre - QPointF(half, -half), centre + QPointF(half, -half));
+}

@@ -1,0 +1,128 @@
+#include "kit/small/clickablelabel.h"
+
+#include "kit/logging.h"
+#include "kit/material/qtmaterialpaint.h"
+#include "kit/material/qtmaterialstyle.h"
+#include "kit/small/accessibles.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace {
+
+constexpr int kMargin = 4; // pixels between the text and the frame that shows the focus
+constexpr double kRadius = 3.0;
+constexpr double kHoverTint = 0.08;
+constexpr double kPressTint = 0.16;
+
+QColor primary()
+{
+    return QtMaterialPaint::themeColor(QLatin1String("primary1"));
+}
+
+} // namespace
+
+ClickableLabel::ClickableLabel(QWidget *parent)
+    : ClickableLabel(QString(), parent)
+{}
+
+ClickableLabel::ClickableLabel(const QString &text, QWidget *parent)
+    : QLabel(parent)
+{
+    installKitAccessibility();
+    setText(text); // not by QLabel's constructor: screen readers would be told of a QLabel, and remember it
+    setMargin(kMargin);
+    setFocusPolicy(Qt::StrongFocus);
+    setCursor(Qt::PointingHandCursor);
+    connect(&QtMaterialStyle::instance(), &QtMaterialStyle::themeChanged, this, qOverload<>(&QWidget::update));
+}
+
+void ClickableLabel::click()
+{
+    if (!isEnabled())
+        return;
+    qCDebug(lcKit) << "emit clicked()";
+    emit clicked();
+}
+
+void ClickableLabel::focusInEvent(QFocusEvent *event)
+{
+    QLabel::focusInEvent(event);
+    update();
+}
+
+void ClickableLabel::focusOutEvent(QFocusEvent *event)
+{
+    QLabel::focusOutEvent(event);
+    update();
+}
+
+void ClickableLabel::keyPressEvent(QKeyEvent *event)
+{
+    const int key = event->key();
+    if (key != Qt::Key_Space && key != Qt::Key_Return && key != Qt::Key_Enter) {
+        QLabel::keyPressEvent(event);
+        return;
+    }
+    if (!event->isAutoRepeat())
+        click();
+}
+
+void ClickableLabel::enterEvent(QEvent *event)
+{
+    QLabel::enterEvent(event);
+    update();
+}
+
+void ClickableLabel::leaveEvent(QEvent *event)
+{
+    QLabel::leaveEvent(event);
+    update();
+}
+
+void ClickableLabel::mousePressEvent(QMouseEvent *event)
+{
+    m_pressed = event->button() == Qt::LeftButton;
+    update();
+    event->setAccepted(m_pressed); // other buttons are for whoever lies below
+}
+
+// The second press of a quick pair is a press like any other.
+void ClickableLabel::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    mousePressEvent(event);
+}
+
+void ClickableLabel::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton) {
+        event->ignore();
+        return;
+    }
+    const bool isClick = m_pressed && rect().contains(event->pos());
+    m_pressed = false;
+    update();
+    if (isClick)
+        click();
+}
+
+void ClickableLabel::drawFocus(QPainter &painter) const
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (hasFocus())
+        QtMaterialPaint::drawFocusRing(painter, rect(), kRadius, primary());
+}
+
+void ClickableLabel::paintEvent(QPaintEvent *event)
+{
+    if (isEnabled() && underMouse()) {
+        QPainter ground(this);
+        ground.setRenderHint(QPainter::Antialiasing);
+        ground.setPen(Qt::NoPen);
+        ground.setBrush(QtMaterialPaint::withOpacity(primary(), m_pressed ? kPressTint : kHoverTint));
+        ground.drawRoundedRect(rect(), kRadius, kRadius);
+    }
+    QLabel::paintEvent(event);
+    QPainter painter(this);
+    drawFocus(painter);
+}

@@ -1,0 +1,191 @@
+#include "model/project/projectmeta.h"
+
+#include <QIODevice>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr int kMetaVersion = 1;
+constexpr int kMostQuantities = 1000; // of one sensor
+
+const QString kVersionKey = QStringLiteral("metaVersion");
+const QString kSensorsKey = QStringLiteral("sensors");
+const QString kShotsKey = QStringLiteral("shots");
+const QString kStartKey = QStringLiteral("startThreshold");
+const QString kStopKey = QStringLiteral("stopThreshold");
+const QString kChosenKey = QStringLiteral("chosenQuantity");
+const QString kQuantitiesKey = QStringLiteral("quantities");
+const QString kQuantityKey = QStringLiteral("quantity");
+const QString kShownKey = QStringLiteral("shown");
+const QString kLowerKey = QStringLiteral("lowerLimit");
+const QString kUpperKey = QStringLiteral("upperLimit");
+const QString kCheckKey = QStringLiteral("check");
+const QString kLabelKey = QStringLiteral("label");
+const QString kTimeKey = QStringLiteral("time");
+
+std::optional<double> toLimit(const QJsonValue &value)
+{
+    return value.isDouble() && std::isfinite(value.toDouble()) ? std::optional(value.toDouble()) : std::nullopt;
+}
+
+QJsonObject toJson(const QuantityMeta &quantity)
+{
+    QJsonObject object{{kQuantityKey, quantity.key}, {kShownKey, quantity.isShown}};
+    if (quantity.lowerLimit)
+        object.insert(kLowerKey, *quantity.lowerLimit);
+    if (quantity.upperLimit)
+        object.insert(kUpperKey, *quantity.upperLimit);
+    return object;
+}
+
+QJsonObject toJson(const SensorMeta &sensor)
+{
+    QJsonArray quantities;
+    for (const QuantityMeta &quantity : sensor.quantities)
+        quantities.append(toJson(quantity));
+    return {{kStartKey, sensor.startThreshold},
+            {kStopKey, sensor.stopThreshold},
+            {kChosenKey, sensor.chosenQuantity},
+            {kQuantitiesKey, quantities}};
+}
+
+QJsonObject toJson(quint32 check, const QString &label, const QDateTime &timestamp)
+{
+    QJsonObject object{{kCheckKey, double(check)}};
+    if (!label.isEmpty())
+        object.insert(kLabelKey, label);
+    if (timestamp.isValid())
+        object.insert(kTimeKey, timestamp.toUTC().toString(Qt::ISODateWithMs));
+    return object;
+}
+
+template <typename Value>
+Value elementOf(const std::vector<Value> &values, std::size_t index)
+{
+    return index < values.size() ? values[index] : Value();
+}
+
+SensorMeta toSensor(const QJsonObject &object)
+{
+    SensorMeta sensor;
+    sensor.startThreshold = toLimit(object.value(kStartKey)).value_or(0.0);
+    sensor.stopThreshold = toLimit(object.value(kStopKey)).value_or(0.0);
+    sensor.chosenQuantity = object.value(kChosenKey).toString();
+    const QJsonArray quantities = object.value(kQuantitiesKey).toArray();
+    for (int i = 0; i < std::min(kMostQuantities, quantities.size()); ++i) {
+        const QJsonObject settings = quantities.at(i).toObject();
+        const QString key = settings.value(kQuantityKey).toString();
+        if (key.isEmpty() || sensor.find(key))
+            continue;
+        sensor.quantities.push_back({key, settings.value(kShownKey).toBool(), toLimit(settings.value(kLowerKey)),
+                                     toLimit(settings.value(kUpperKey))});
+    }
+    return sensor;
+}
+
+void readShots(ProjectMeta &meta, const QJsonArray &shots, const ShotChecks &checks)
+{
+    const std::size_t count = std::min(checks.size(), static_cast<std::size_t>(shots.size()));
+    meta.labels.resize(count);
+    meta.timestamps.resize(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        const QJsonObject shot = shots.at(static_cast<int>(i)).toObject();
+        if (shot.value(kCheckKey).toDouble(-1.0) != double(checks[i]))
+            continue;
+        meta.labels[i] = shot.value(kLabelKey).toString().left(ProjectMeta::kLongestLabel);
+        const QString time = shot.value(kTimeKey).toString();
+        const QDateTime timestamp = QDateTime::fromString(time, Qt::ISODateWithMs);
+        meta.timestamps[i] = timestamp.isValid() ? timestamp.toLocalTime() : QDateTime();
+    }
+}
+
+} // namespace
+
+const QuantityMeta *SensorMeta::find(const QString &key) const
+{
+    const auto found = std::find_if(quantities.begin(), quantities.end(),
+                                    [&key](const QuantityMeta &quantity) { return quantity.key == key; });
+    return found == quantities.end() ? nullptr : &*found;
+}
+
+QuantityMeta &SensorMeta::at(const QString &key)
+{
+    const auto found = std::find_if(quantities.begin(), quantities.end(),
+                                    [&key](const QuantityMeta &quantity) { return quantity.key == key; });
+    if (found != quantities.end())
+        return *found;
+    quantities.push_back({key, false, std::nullopt, std::nullopt});
+    return quantities.back();
+}
+
+bool ProjectMeta::isBlank() const
+{
+    return sensors == ProjectMeta().sensors
+           && std::all_of(labels.begin(), labels.end(), [](const QString &label) { return label.isEmpty(); })
+           && std::none_of(timestamps.begin(), timestamps.end(),
+                           [](const QDateTime &timestamp) { return timestamp.isValid(); });
+}
+
+void ProjectMeta::removeShot(int shot)
+{
+    const auto index = static_cast<std::size_t>(shot);
+    if (index < labels.size())
+        labels.erase(labels.begin() + shot);
+    if (index < timestamps.size())
+        timestamps.erase(timestamps.begin() + shot);
+}
+
+bool operator==(const QuantityMeta &a, const QuantityMeta &b)
+{
+    return a.key == b.key && a.isShown == b.isShown && a.lowerLimit == b.lowerLimit && a.upperLimit == b.upperLimit;
+}
+
+bool operator==(const SensorMeta &a, const SensorMeta &b)
+{
+    return a.startThreshold == b.startThreshold && a.stopThreshold == b.stopThreshold
+           && a.chosenQuantity == b.chosenQuantity && a.quantities == b.quantities;
+}
+
+bool operator==(const ProjectMeta &a, const ProjectMeta &b)
+{
+    return a.sensors == b.sensors && a.labels == b.labels && a.timestamps == b.timestamps;
+}
+
+QString metaFileName(const QString &projectFile)
+{
+    return projectFile + QLatin1String(".meta");
+}
+
+bool writeProjectMeta(QIODevice &target, const ProjectMeta &meta, const ShotChecks &checks)
+{
+    QJsonArray sensors;
+    for (const SensorMeta &sensor : meta.sensors)
+        sensors.append(toJson(sensor));
+    QJsonArray shots;
+    for (std::size_t i = 0; i < checks.size(); ++i)
+        shots.append(toJson(checks[i], elementOf(meta.labels, i), elementOf(meta.timestamps, i)));
+    const QJsonObject root{{kVersionKey, kMetaVersion}, {kSensorsKey, sensors}, {kShotsKey, shots}};
+    const QByteArray text = QJsonDocument(root).toJson(QJsonDocument::Compact);
+    return target.write(text) == text.size();
+}
+
+std::optional<ProjectMeta> readProjectMeta(QIODevice &source, const ShotChecks &checks)
+{
+    const QByteArray text = source.read(kLargestMeta + 1);
+    if (text.size() > kLargestMeta)
+        return {};
+    const QJsonObject root = QJsonDocument::fromJson(text).object();
+    if (root.value(kVersionKey).toInt() != kMetaVersion)
+        return {};
+    ProjectMeta meta;
+    const QJsonArray sensors = root.value(kSensorsKey).toArray();
+    for (int i = 0; i < std::min(kNumSensors, sensors.size()); ++i)
+        meta.sensors[static_cast<std::size_t>(i)] = toSensor(sensors.at(i).toObject());
+    readShots(meta, root.value(kShotsKey).toArray(), checks);
+    return meta;
+}

@@ -1,0 +1,3 @@
+#include "plots/common/logging.h"
+
+Q_LOGGING_CATEGORY(lcPlots, "ventaro.plots")

@@ -1,0 +1,67 @@
+#include "plots/evaluation/common/sensorselection.h"
+
+#include "kit/small/coloredbutton.h"
+#include "model/model.h"
+#include "plots/evaluation/common/evaluationdata.h"
+
+#include <QButtonGroup>
+#include <QHBoxLayout>
+#include <QTextDocument>
+
+#include <algorithm>
+
+SensorSelection::SensorSelection(QWidget *parent)
+    : QWidget(parent)
+{
+    // As high as the other buttons, with room for longer names than a button of its own.
+    setStyleSheet(QStringLiteral("ColoredButton {font-size: 16px; min-height: 40px;}"));
+    auto *group = new QButtonGroup(this);
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    for (int sensor = 0; sensor < kNumSensors; ++sensor) {
+        auto *button = new ColoredButton(this);
+        button->setObjectName(QStringLiteral("sensorButton%1").arg(sensor));
+        button->setCheckable(true);
+        button->setAutoDefault(false);
+        button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // a long name must not widen the page
+        group->addButton(button, sensor);
+        layout->addWidget(button);
+        m_buttons[static_cast<std::size_t>(sensor)] = button;
+    }
+    m_buttons[0]->setChecked(true);
+    showSensors(nullptr);
+    connect(group, &QButtonGroup::idToggled, this, &SensorSelection::onGroup_idToggled);
+}
+
+int SensorSelection::sensor() const
+{
+    const auto checked = std::find_if(m_buttons.begin(), m_buttons.end(),
+                                      [](const ColoredButton *button) { return button->isChecked(); });
+    return checked == m_buttons.end() ? 0 : static_cast<int>(std::distance(m_buttons.begin(), checked));
+}
+
+void SensorSelection::setSensor(int sensor)
+{
+    if (sensor >= 0 && sensor < kNumSensors)
+        m_buttons[static_cast<std::size_t>(sensor)]->setChecked(true);
+}
+
+// The button shortens a name that does not fit; the tool tip has all of it.
+void SensorSelection::showSensors(const Model *model)
+{
+    for (int sensor = 0; sensor < kNumSensors; ++sensor) {
+        ColoredButton *button = m_buttons[static_cast<std::size_t>(sensor)];
+        const QString name = sensorNameOf(model, sensor);
+        button->setText(QString(name).replace(QLatin1Char('&'), QLatin1String("&&"))); // no keyboard shortcut
+        button->setToolTip(Qt::convertFromPlainText(name));
+        button->setAccessibleName(name);
+        if (model)
+            button->setColor(model->color(sensor));
+    }
+}
+
+void SensorSelection::onGroup_idToggled(int sensor, bool checked)
+{
+    if (checked) // the button that was checked before reports the switch, too
+        emit sensorChanged(sensor);
+}

@@ -1,0 +1,112 @@
+#include "plots/evaluation/dashboard/cycletile.h"
+
+#include "app/theme.h"
+#include "plots/common/localnumber.h"
+#include "plots/evaluation/dashboard/dashboardtile.h"
+
+#include <QEvent>
+#include <QPainter>
+
+namespace {
+
+constexpr int kLineHeight = 30; // pixels
+
+QString secondsText(const std::optional<double> &seconds)
+{
+    return seconds ? localNumber(*seconds, 'f', 1) + QStringLiteral(" s") : QStringLiteral("–");
+}
+
+QFont sized(const QFont &font, int pixels, bool bold)
+{
+    QFont result = font;
+    result.setPixelSize(pixels);
+    result.setBold(bold);
+    return result;
+}
+
+} // namespace
+
+CycleTile::CycleTile(QWidget *parent)
+    : QAbstractButton(parent)
+{
+    setCursor(Qt::PointingHandCursor);
+    setFocusPolicy(Qt::StrongFocus);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    describe();
+}
+
+void CycleTile::set(const Content &content)
+{
+    m_content = content;
+    describe();
+    update();
+}
+
+void CycleTile::describe()
+{
+    setAccessibleName(tr("Zykluszeit: %1, Schüsse: %2").arg(secondsText(m_content.latestCycle)).arg(m_content.shots));
+    setToolTip(tr("Zeit vom Beginn des vorigen Schusses bis zum Beginn des letzten; ohne Zeitstempel die Dauer der "
+                  "Aufzeichnung"));
+}
+
+QSize CycleTile::sizeHint() const
+{
+    return {360, 280};
+}
+
+QSize CycleTile::minimumSizeHint() const
+{
+    return {280, 230};
+}
+
+void CycleTile::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        describe();
+    QAbstractButton::changeEvent(event);
+}
+
+void CycleTile::enterEvent(QEvent *event)
+{
+    QAbstractButton::enterEvent(event);
+    update();
+}
+
+void CycleTile::leaveEvent(QEvent *event)
+{
+    QAbstractButton::leaveEvent(event);
+    update();
+}
+
+void CycleTile::paintEvent(QPaintEvent *event)
+{
+    Q_UNUSED(event)
+    QPainter painter(this);
+    drawTileFrame(painter, *this, theme::qColorPrimary);
+    const QRect inside = tileContents(*this);
+    const auto line = [&](int y, int height, const QString &text, Qt::Alignment alignment) {
+        painter.drawText(QRect(inside.left(), inside.top() + y, inside.width(), height),
+                         int(alignment | Qt::AlignVCenter) | Qt::TextSingleLine, text);
+    };
+    painter.setPen(theme::qColorText);
+    painter.setFont(sized(font(), 19, true));
+    line(0, 26, tr("Zykluszeit"), Qt::AlignLeft);
+    painter.setFont(sized(font(), 40, true));
+    line(50, 52, secondsText(m_content.latestCycle), Qt::AlignLeft);
+    painter.setFont(sized(font(), 16, false));
+    painter.setPen(theme::qColorDark);
+    line(26, 22, tr("Letzter Zyklus"), Qt::AlignLeft);
+    const QString time = m_content.latestTimestamp.isValid()
+                             ? m_content.latestTimestamp.toString(QStringLiteral("yyyy/MM/dd hh:mm:ss"))
+                             : QStringLiteral("–");
+    const QString mean =
+        m_content.cyclesInMean > 0 ? tr("Mittel der letzten %1").arg(m_content.cyclesInMean) : tr("Mittel");
+    const QString titles[] = {mean, tr("Schüsse"), tr("Letzter Schuss")};
+    const QString texts[] = {secondsText(m_content.meanCycle), QString::number(m_content.shots), time};
+    for (int i = 0; i < 3; ++i) {
+        painter.setPen(theme::qColorDark);
+        line(112 + i * kLineHeight, kLineHeight, titles[i], Qt::AlignLeft);
+        painter.setPen(theme::qColorText);
+        line(112 + i * kLineHeight, kLineHeight, texts[i], Qt::AlignRight);
+    }
+}

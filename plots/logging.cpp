@@ -1,3 +1,0 @@
-#include "plots/logging.h"
-
-Q_LOGGING_CATEGORY(lcPlots, "ventaro.plots")

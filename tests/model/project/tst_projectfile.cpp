@@ -1,0 +1,320 @@
+#include "model/json/jsonnumber.h"
+#include "model/project/pacer.h"
+#include "model/project/projectfile.h"
+#include "tests/model/project/referenceproject.h"
+#include "tests/support/faildevice.h"
+#include "tests/support/literals.h"
+#include "tests/support/rows.h"
+
+#include <QBuffer>
+
+#include <cmath>
+#include <cstring>
+#include <limits>
+#include <random>
+
+namespace {
+
+const auto kNoYield = [](int) {};
+
+quint64 bits(double value)
+{
+    quint64 result = 0;
+    std::memcpy(&result, &value, sizeof result);
+    return result;
+}
+
+// Every finite double with the same likelihood for each exponent, mixed with what sensors deliver.
+QVector<double> randomDoubles(int count, unsigned seed)
+{
+    std::mt19937_64 random(seed);
+    QVector<double> values;
+    while (values.size() < count) {
+        const quint64 pattern = random();
+        double value = 0.0;
+        std::memcpy(&value, &pattern, sizeof value);
+        const auto digits = static_cast<double>(static_cast<qint64>(pattern) >> (pattern % 60));
+        values << digits << digits / 1000.0 << digits / 1e6 << std::ldexp(value, 0) << digits * 1e3;
+        if (!std::isfinite(value))
+            values.removeAt(values.size() - 2);
+    }
+    return values;
+}
+
+QByteArray numberText(double value)
+{
+    char text[kMaxNumberLength];
+    return QByteArray(text, static_cast<int>(writeJsonNumber(text, value) - text));
+}
+
+QByteArray write(const ProjectDocument &document)
+{
+    QBuffer buffer;
+    Pacer pacer(kNoYield, 1);
+    if (!buffer.open(QIODevice::WriteOnly) || !writeProject(buffer, document, pacer))
+        return "failed";
+    return buffer.data();
+}
+
+std::optional<ProjectContent> read(QByteArray text)
+{
+    QBuffer buffer(&text);
+    Pacer pacer(kNoYield, 1);
+    return buffer.open(QIODevice::ReadOnly) ? readProject(buffer, pacer) : std::nullopt;
+}
+
+// The samples of "sensor 1" of a file that holds nothing else.
+QVector<SampleList> readSamples(const QByteArray &measurements)
+{
+    const auto content = read("{\"sensor 1\": " + measurements + "}");
+    if (!content || !content->measurements[0])
+        return {{-1.0}};
+    return QVector<SampleList>(content->measurements[0]->begin(), content->measurements[0]->end());
+}
+
+ProjectDocument fullDocument(const QVector<SampleList> &samples)
+{
+    ProjectDocument document;
+    document.data = {"Deckel \"groß\""_s, "4711"_s, "J. Öz"_s, "1.2.2021"_s, "K\\L"_s, 850, 1.25, 0.1, 1200};
+    document.clock = 20;
+    document.comment = "Zeile 1\nZeile 2\t\u20ac \U0001F600 / \x7f"_s + QChar(1) + QChar(0xd800);
+    document.mesotraType = 3;
+    document.markersAbsolute = true;
+    document.osziMinimum = {-1.5, 0, 1e-7, 3e300, 5e-324};
+    document.osziMaximum = {1, 2, 3, 4, 1e22};
+    document.images[1] = QByteArray("\x89PNG\0\xff", 6);
+    document.sensorNames = {"Weg"_s, "Druck"_s, QString(), QString(), QString()};
+    document.markers = {1, 20, 300, std::numeric_limits<int>::max()};
+    document.phases = {"a"_s, "b"_s, "ß"_s, QString(), QString()};
+    document.corrections = {0.1, -0.2, 0, 1e-9, 12345678.9};
+    for (int i = 0; i < samples.size(); ++i)
+        document.samples[static_cast<std::size_t>(i % kNumSensors)].push_back({&samples[i], samples[i].size()});
+    return document;
+}
+
+} // namespace
+
+class TestProjectFile : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void writesNumbersLikeQt_data()
+    {
+        columns<double>("value");
+        const QVector<double> values{0.0,   1.0,    -1.0,       0.1,    0.5,    123.456,   999999.999,
+                                     0.001, 0.0001, 0.00012345, 1e-5,   1.5e-7, 1e12,      1e15,
+                                     1e19,  1e20,   1e21,       1e22,   1.5e20, 1.2345e19, 12345e18,
+                                     1e100, 1e101,  1.7e25,     5e-324, 1e-99,  1e-100,    2.5e-310};
+        for (double value : values)
+            row(qPrintable(QString::number(value, 'g', 17)), value);
+        for (int power = 50; power <= 65; ++power)
+            for (double step : {-1.0, -0.5, 0.0, 0.5, 1.0})
+                row(qPrintable("2^%1 + %2"_s.arg(power).arg(step)),
+                    -(std::ldexp(1.0, power) + step * std::ldexp(1.0, std::max(power - 52, 0))));
+        row("largest", std::numeric_limits<double>::max());
+        row("smallest normal", std::numeric_limits<double>::min());
+    }
+
+    void writesNumbersLikeQt()
+    {
+        QFETCH(double, value);
+        const QByteArray expected = QJsonDocument(QJsonArray{value}).toJson(QJsonDocument::Compact);
+        QCOMPARE(numberText(value), expected.mid(1, expected.size() - 2));
+    }
+
+    void writesAnyNumberLikeQt()
+    {
+        const QVector<double> values = randomDoubles(50000, 1);
+        const QByteArray expected = QJsonDocument(reference::array(values)).toJson(QJsonDocument::Compact);
+        QByteArray text;
+        for (double value : values)
+            text += ',' + (value == 0.0 ? "0"_ba : numberText(value));
+        QCOMPARE('[' + text.mid(1) + ']', expected);
+    }
+
+    void writesTheTextOfQt()
+    {
+        const QVector<SampleList> none;
+        QCOMPARE(write(fullDocument(none)), reference::text(fullDocument(none)));
+        const QVector<SampleList> samples{{1.5, 2.0}, {}, {-3.25}, {}, {1e-300}, randomDoubles(20000, 2), {0.0}};
+        QVector<SampleList> positiveZeros = samples;
+        for (double &value : positiveZeros[5])
+            value += 0.0;
+        const ProjectDocument document = fullDocument(positiveZeros);
+        QCOMPARE(write(document), reference::text(document));
+    }
+
+    void readsBackEveryBit()
+    {
+        QVector<SampleList> samples{
+            {}, {-0.0, 0.0, 5e-324, -5e-324, std::numeric_limits<double>::min(), 2.2250738585072011e-308}};
+        samples << randomDoubles(150000, 3) << SampleList(66000, 1.0 / 3) << SampleList() << randomDoubles(1000, 4);
+        const auto content = read(write(fullDocument(samples)));
+        QVERIFY(content);
+        for (int i = 0; i < samples.size(); ++i) {
+            const auto &measurements = content->measurements[static_cast<std::size_t>(i % kNumSensors)];
+            QVERIFY(measurements && int(measurements->size()) > i / kNumSensors);
+            const SampleList &found = measurements->at(static_cast<std::size_t>(i / kNumSensors));
+            QCOMPARE(found.size(), samples[i].size());
+            for (int k = 0; k < found.size(); ++k)
+                QCOMPARE(bits(found[k]), bits(samples[i][k]));
+        }
+        QCOMPARE(content->fields.value("comment"_s).toString(), fullDocument({}).comment);
+        QCOMPARE(content->fields.value("corrections"_s).toList().at(4).toDouble(), 12345678.9);
+    }
+
+    void reportsAFullDevice()
+    {
+        const QVector<SampleList> samples{randomDoubles(30000, 5)};
+        const ProjectDocument document = fullDocument(samples);
+        const QByteArray whole = write(document);
+        const int size = whole.size();
+        for (int limit : {0, 1, 100, 1000, 65535, 65536, 65537, size / 2, size - 65537, size - 2, size - 1, size}) {
+            FailDevice device(limit);
+            Pacer pacer(kNoYield, 1);
+            QCOMPARE(writeProject(device, document, pacer), limit == size);
+            QVERIFY(whole.startsWith(device.taken()));
+        }
+    }
+
+    void acceptsOrRefuses_data()
+    {
+        columns<QByteArray, bool>("text", "valid");
+        const auto row = [](const char *name, const QByteArray &text, bool valid) { ::row(name, text, valid); };
+        row("empty object", "{}", true);
+        row("blanks around", " \r\n\t{ \"a\" : 1 , \"b\":[ ] }\n ", true);
+        row("byte order mark", "\xEF\xBB\xBF{}", true);
+        row("lists in unknown keys", "{\"x\":[[],{\"y\":[true,false,null,\"[\",-1.5e+3]}]}", true);
+        row("deepest nesting", "{\"x\":" + QByteArray(1023, '[') + QByteArray(1023, ']') + "}", true);
+        row("too deep", "{\"x\":" + QByteArray(1024, '[') + QByteArray(1024, ']') + "}", false);
+        row("nothing", "", false);
+        row("list", "[]", false);
+        row("text behind", "{} x", false);
+        row("zero byte behind", QByteArray("{}\0", 3), false);
+        row("comma at the end", R"({"a":1,})", false);
+        row("no comma", R"({"a":1 "b":2})", false);
+        row("key without quotes", "{a:1}", false);
+        row("wrong bracket", "{\"a\":[1}}", false);
+        row("leading zero in a sample", R"({"sensor 1":[[01]]})", false);
+        row("plus sign", R"({"a":+1})", false);
+        row("nan sample", R"({"sensor 1":[[nan]]})", false);
+        row("negative infinity sample", R"({"sensor 1":[[-inf]]})", false);
+        row("exponent without digits", R"({"a":1e})", false);
+        row("unknown string unfinished", "{\"a\":\"x\\\"", false);
+    }
+
+    void acceptsOrRefuses()
+    {
+        QFETCH(QByteArray, text);
+        QTEST(read(text).has_value(), "valid");
+    }
+
+    void refusesEveryTruncation()
+    {
+        const QVector<SampleList> samples{{1.5, -2e-7, 3.0}, {}, {4.0}};
+        const QByteArray whole = write(fullDocument(samples)).trimmed();
+        for (int size = 0; size < whole.size(); ++size)
+            QVERIFY2(!read(whole.left(size)), qPrintable(QString::number(size)));
+        QVERIFY(read(whole));
+    }
+
+    void readsNumbers_data()
+    {
+        columns<QByteArray, double>("text", "value");
+        const auto row = [](const QByteArray &text, double value) { ::row(text.left(40).constData(), text, value); };
+        row("-0", -0.0);
+        row("1E+2", 100.0);
+        row("1e999", 0.0);
+        row("1e-999", 0.0);
+        row("1e99999999999999999999", 0.0);
+        row("1" + QByteArray(400, '0'), 0.0);
+        row("4.9406564584124654e-324", 5e-324);
+        row("2.4703282292062327e-324", 0.0);
+        row("2.4703282292062328e-324", 5e-324);
+        row("9007199254740993", 9007199254740992.0);
+        row("9007199254740993.00000000000000000000000000000001", 9007199254740994.0);
+        row("0." + QByteArray(200000, '0') + "1e200001", 1.0);
+        row("1" + QByteArray(100000, '0') + "e-100000", 1.0);
+    }
+
+    void readsNumbers()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(double, value);
+        const QVector<SampleList> samples = readSamples("[[7," + text + ",8]]");
+        QCOMPARE(samples.size(), 1);
+        QCOMPARE(samples[0].size(), 3);
+        QCOMPARE(bits(std::abs(samples[0][1])), bits(std::abs(value)));
+        QVERIFY(value != 0.0 || !text.startsWith("-0") || std::signbit(samples[0][1]));
+    }
+
+    void readsAcrossBufferEnds()
+    {
+        const QByteArray numbers = "[-12.5e-1,0,1e+2,123456789]";
+        const QByteArray tail =
+            ", \"comment\": \"a\\u00e4\\\"b\\\\\", \"clock\": 50, \"markers\": [true, null, false]}";
+        for (int shift = 0; shift < 140; ++shift) {
+            const QByteArray text = "{" + QByteArray(65536 - 70 - shift, ' ') + "\"sensor 2\":[" + numbers + "]" + tail;
+            const auto content = read(text);
+            QVERIFY(content && content->measurements[1]);
+            QCOMPARE(content->measurements[1]->front(), (SampleList{-1.25, 0.0, 100.0, 123456789.0}));
+            QCOMPARE(content->fields.value("comment"_s).toString(), "aä\"b\\"_s);
+            QCOMPARE(content->fields.value("clock"_s).toDouble(), 50.0);
+            QCOMPARE(content->fields.value("markers"_s).toList().at(0).toBool(), true);
+        }
+    }
+
+    void readsOddMeasurements_data()
+    {
+        columns<QByteArray, QVector<SampleList>>("text", "expected");
+        const auto row = [](const QByteArray &text, const QVector<SampleList> &expected) {
+            ::row(text.constData(), text, expected);
+        };
+        row("[]", {});
+        row("[[],[]]", {{}, {}});
+        row("[ [ ] , [ 1 ] ]", {{}, {1.0}});
+        row(R"([[1,"2",3]])", {{1.0, 0.0, 3.0}});
+        row("[[null,true,[4,[5]],{\"a\":6},7]]", {{0.0, 0.0, 0.0, 0.0, 7.0}});
+        row(R"([5,"x",{"a":[1]},[2]])", {{}, {}, {}, {2.0}});
+    }
+
+    void readsOddMeasurements()
+    {
+        QFETCH(QByteArray, text);
+        QTEST(readSamples(text), "expected");
+    }
+
+    void readsStrings_data()
+    {
+        columns<QByteArray, QString>("json", "text");
+        row("empty", ""_ba, QString());
+        row("escapes", R"(\"\\\/\b\f\n\r\t)"_ba, "\"\\/\b\f\n\r\t");
+        row("code units", R"(\u20AC\ud83d\ude00)"_ba, "\u20ac\U0001F600");
+        row("lone surrogate", R"(x\udc00y)"_ba, QString("x"_s + QChar(0xdc00) + QLatin1Char('y')));
+        row("zero", R"(a\u0000b)"_ba, QString("a"_s + QChar(0) + QLatin1Char('b')));
+        row("cut code unit", R"(\u12)"_ba, "u12");
+        row("broken UTF-8", "a\xff!"_ba, QString("a"_s + QChar(0xfffd) + QLatin1Char('!')));
+        row("long", QByteArray(300000, 'x'), QString(300000, QLatin1Char('x')));
+    }
+
+    void readsStrings()
+    {
+        QFETCH(QByteArray, json);
+        const auto content = read("{\"comment\":\"" + json + "\"}");
+        QVERIFY(content);
+        QTEST(content->fields.value("comment"_s).toString(), "text");
+    }
+
+    void boundsWhatItKeeps()
+    {
+        const QByteArray list = "[" + "0,"_ba.repeated(1000000) + "0]";
+        const auto content = read("{\"x\":" + list + ",\"markers\":" + list + ",\"measurement\":[1]}");
+        QVERIFY(content);
+        QCOMPARE(content->fields.keys(), QStringList{"markers"_s});
+        QVERIFY(content->fields.value("markers"_s).toList().size() <= 64);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestProjectFile)
+#include "tst_projectfile.moc"

@@ -1,3 +1,0 @@
-#include "view/logging.h"
-
-Q_LOGGING_CATEGORY(lcView, "ventaro.view")

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "view/oscilloscope/taboszilloscope_axes.h"
+
+#include <QColor>
+#include <QWidget>
+
+class ElidedLabel;
+class OsziDoubleSpinBox;
+class OsziWidget;
+class QCheckBox;
+class QLabel;
+
+/// One row of the oscilloscope tab: the plot of a sensor position and the parameters beside it. Plot and parameters
+/// never disagree: what the plot refuses is taken back in the boxes.
+class OsziRow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    static constexpr int kCheckBoxWidth = 30; ///< pixels, of one without text
+
+    /// Position 0 to 4; the object names count from 1.
+    explicit OsziRow(int position, QWidget *parent = nullptr);
+
+    [[nodiscard]] OsziWidget *plot() const { return m_plot; }
+    [[nodiscard]] OsziDoubleSpinBox *maxBox() const { return m_max; }
+    [[nodiscard]] OsziDoubleSpinBox *minBox() const { return m_min; }
+    [[nodiscard]] OsziDoubleSpinBox *offsetBox() const { return m_offset; }
+
+    /// The value range shown. setSpan() emits nothing, widens the limits of the boxes if it must, and ignores ends
+    /// that are not finite, not in order or too close for the plot; false then.
+    [[nodiscard]] osziaxes::ValueSpan span() const;
+    bool setSpan(osziaxes::ValueSpan span);
+    [[nodiscard]] osziaxes::ValueSpan limits() const;
+    /// Limits of the range boxes; what is shown is held within them. Emits nothing; false for limits that are not
+    /// finite, not in order or too close.
+    bool setLimits(osziaxes::ValueSpan limits);
+    /// The y correction; emits nothing.
+    void showOffset(double offset);
+    /// Name and unit as the row's title, in the colour given. An empty name stands for the position.
+    void setTitle(const QString &name, const QString &unit, const QColor &color);
+    [[nodiscard]] QString defaultName() const;
+    /// Open: the parameters can be changed.
+    void setEditable(bool editable);
+    [[nodiscard]] bool isEditable() const { return m_editable; }
+    void retranslateUi();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void createBoxes(QWidget *params);
+    void layOut(QWidget *params);
+    void connectBoxes();
+    void applyMaximum(double value);
+    void applyMinimum(double value);
+    void showSpan();
+    void updateEnabled();
+    void updateTitle();
+
+    int m_position;
+    bool m_editable = true;
+    QString m_name;
+    QString m_unit;
+    QColor m_color = Qt::black;
+    OsziWidget *m_plot = nullptr;
+    ElidedLabel *m_title = nullptr;
+    QLabel *m_rangeCaption = nullptr;
+    QLabel *m_autoCaption = nullptr;
+    QLabel *m_gridCaption = nullptr;
+    QLabel *m_offsetCaption = nullptr;
+    OsziDoubleSpinBox *m_max = nullptr;
+    OsziDoubleSpinBox *m_min = nullptr;
+    QCheckBox *m_gridAuto = nullptr;
+    OsziDoubleSpinBox *m_grid = nullptr;
+    OsziDoubleSpinBox *m_offset = nullptr;
+};

@@ -1,0 +1,262 @@
+#include "view/project/imagetile.h"
+
+#include "app/theme.h"
+#include "model/project/photo.h"
+#include "view/common/actionicon.h"
+#include "view/project/tilepicture.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QMimeData>
+#include <QPushButton>
+#include <QUrl>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int kRefusalTime = 1500; // ms
+constexpr int kButtonSize = 36;
+constexpr int kMargin = 6;
+
+/// The files of a drag or of the clipboard that look like pictures.
+QStringList pictureFiles(const QMimeData &data)
+{
+    static const QStringList suffixes = photoSuffixes();
+    QStringList files;
+    const QList<QUrl> urls = data.urls();
+    for (const QUrl &url : urls) {
+        if (url.isLocalFile() && suffixes.contains(QFileInfo(url.toLocalFile()).suffix().toLower()))
+            files += url.toLocalFile();
+    }
+    return files;
+}
+
+bool hasPicture(const QMimeData &data)
+{
+    return data.hasImage() || !pictureFiles(data).isEmpty();
+}
+
+/// A project file is for the window, which opens it.
+bool isProjectFile(const QMimeData &data)
+{
+    const QList<QUrl> urls = data.urls();
+    return urls.size() == 1 && urls.constFirst().path().endsWith(QLatin1String(".vnt"), Qt::CaseInsensitive);
+}
+
+QPushButton *newIconButton(const QString &name, const QString &iconFile, QWidget *parent)
+{
+    auto *button = new QPushButton(parent);
+    button->setObjectName(name);
+    button->setIcon(actionIcon(iconFile, theme::qColorBackground));
+    button->setIconSize(QSize(24, 24));
+    button->setFocusPolicy(Qt::NoFocus); // the picture's keys and its menu do the same
+    button->setStyleSheet(QStringLiteral("QPushButton {min-width: %1px; max-width: %1px; min-height: %1px;"
+                                         " max-height: %1px;}")
+                              .arg(kButtonSize));
+    return button;
+}
+
+} // namespace
+
+ImageTile::ImageTile(int number, QWidget *parent)
+    : ShadowFrame(parent)
+    , m_number(number)
+    , m_picture(new TilePicture(this))
+    , m_caption(new QLabel(this))
+    , m_choose(newIconButton(QStringLiteral("imageButton%1").arg(number), QStringLiteral("folder-open.png"), this))
+    , m_delete(newIconButton(QStringLiteral("imageDeleteButton%1").arg(number), QStringLiteral("delete.png"), this))
+{
+    setObjectName(QStringLiteral("imageTile%1").arg(number));
+    m_picture->setObjectName(QStringLiteral("imageLabel%1").arg(number));
+    setFocusProxy(m_picture);
+    setAcceptDrops(true);
+    setRaisedByHover(true);
+    layOut();
+    m_refusalTimer.setSingleShot(true);
+    m_refusalTimer.setInterval(kRefusalTime);
+    connect(&m_refusalTimer, &QTimer::timeout, this, [this] { m_picture->setDrop(TilePicture::Drop::None); });
+    connect(m_choose, &QPushButton::clicked, this, &ImageTile::chooseRequested);
+    connect(m_delete, &QPushButton::clicked, this, &ImageTile::deleteRequested);
+    connect(m_picture, &TilePicture::clicked, this, [this] {
+        if (picture().isNull())
+            emit chooseRequested();
+        else
+            emit enlargeRequested();
+    });
+    retranslateUi();
+}
+
+void ImageTile::layOut()
+{
+    auto *foot = new QHBoxLayout;
+    foot->setSpacing(kMargin);
+    foot->addWidget(m_caption, 1);
+    foot->addWidget(m_choose);
+    foot->addWidget(m_delete);
+    auto *column = new QVBoxLayout(this);
+    column->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+    column->setSpacing(kMargin);
+    column->addWidget(m_picture, 1);
+    column->addLayout(foot);
+}
+
+void ImageTile::setPicture(const QPixmap &picture)
+{
+    if (picture.cacheKey() == this->picture().cacheKey())
+        return;
+    m_picture->setPicture(picture);
+    showState();
+}
+
+QPixmap ImageTile::picture() const
+{
+    return m_picture->picture();
+}
+
+void ImageTile::showState()
+{
+    const bool isEmpty = picture().isNull();
+    const QString size = tr("%1 × %2 Bildpunkte").arg(picture().width()).arg(picture().height());
+    m_delete->setVisible(!isEmpty);
+    m_choose->setToolTip(isEmpty ? tr("Bild auswählen") : tr("Anderes Bild auswählen"));
+    m_picture->setToolTip(isEmpty ? tr("Bild auswählen, ablegen oder einfügen (Strg+V)")
+                                  : size + QLatin1Char('\n') + tr("Klicken zum Vergrößern, Entf zum Löschen"));
+    m_picture->setAccessibleDescription(isEmpty ? tr("kein Bild") : size);
+}
+
+void ImageTile::copy() const
+{
+    if (!picture().isNull())
+        QGuiApplication::clipboard()->setPixmap(picture());
+}
+
+void ImageTile::paste()
+{
+    if (!take(QGuiApplication::clipboard()->mimeData()))
+        refuse();
+}
+
+/// Files first: what a file manager copies comes with a picture of its icon on some desktops.
+bool ImageTile::take(const QMimeData *source)
+{
+    if (!source)
+        return false;
+    const QStringList files = pictureFiles(*source);
+    const QImage image = files.isEmpty() ? qvariant_cast<QImage>(source->imageData()) : QImage();
+    if (files.isEmpty() && image.isNull())
+        return false;
+    // Later: whoever drags waits for the end of the drop, and must not wait for the answer to a question.
+    const auto give = [this, files, image] {
+        if (files.isEmpty())
+            emit imageGiven(image);
+        else
+            emit filesGiven(files);
+    };
+    QMetaObject::invokeMethod(this, give, Qt::QueuedConnection);
+    return true;
+}
+
+void ImageTile::refuse()
+{
+    m_picture->setDrop(TilePicture::Drop::Refused);
+    m_refusalTimer.start();
+}
+
+// --- Keys, menu, drag and drop -----------------------------------------------------------------------------------
+
+void ImageTile::keyPressEvent(QKeyEvent *event)
+{
+    const bool isDelete = event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace;
+    if (event->matches(QKeySequence::Paste))
+        paste();
+    else if (event->matches(QKeySequence::Copy))
+        copy();
+    else if (isDelete && !picture().isNull())
+        emit deleteRequested();
+    else
+        ShadowFrame::keyPressEvent(event);
+}
+
+void ImageTile::contextMenuEvent(QContextMenuEvent *event)
+{
+    const bool isFull = !picture().isNull();
+    const QMimeData *clipboard = QGuiApplication::clipboard()->mimeData();
+    auto *menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    const auto add = [this, menu](const QString &text, const char *icon, const QKeySequence &key, bool isEnabled,
+                                  auto slot) {
+        const QColor tint = isEnabled ? theme::qColorPrimary : theme::qColorMedium;
+        QAction *action = menu->addAction(actionIcon(QLatin1String(icon), tint), text);
+        action->setShortcut(key); // to be read; the picture takes these keys itself
+        action->setShortcutContext(Qt::WidgetShortcut);
+        action->setEnabled(isEnabled);
+        connect(action, &QAction::triggered, this, slot);
+    };
+    add(tr("&Vergrößern"), "magnify-plus.png", Qt::Key_Return, isFull, &ImageTile::enlargeRequested);
+    add(tr("&Auswählen..."), "folder-open.png", {}, true, &ImageTile::chooseRequested);
+    add(tr("&Einfügen"), "clipboard-text.png", QKeySequence::Paste, clipboard && hasPicture(*clipboard),
+        &ImageTile::paste);
+    add(tr("&Kopieren"), "image.png", QKeySequence::Copy, isFull, &ImageTile::copy);
+    add(tr("&Speichern unter..."), "content-save-as.png", {}, isFull, &ImageTile::saveRequested);
+    add(tr("&Löschen..."), "delete.png", QKeySequence::Delete, isFull, &ImageTile::deleteRequested);
+    menu->popup(event->globalPos());
+}
+
+void ImageTile::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (QApplication::activeModalWidget()) { // a question would stand on top of the open dialog
+        event->ignore();
+        return;
+    }
+    if (hasPicture(*event->mimeData())) {
+        m_refusalTimer.stop();
+        m_picture->setDrop(TilePicture::Drop::Welcome);
+        event->setDropAction(Qt::CopyAction); // a file manager would delete what it moves
+        event->accept();
+        return;
+    }
+    event->ignore();
+    if (!isProjectFile(*event->mimeData()))
+        refuse();
+}
+
+void ImageTile::dragLeaveEvent(QDragLeaveEvent * /*event*/)
+{
+    m_picture->setDrop(TilePicture::Drop::None);
+}
+
+void ImageTile::dropEvent(QDropEvent *event)
+{
+    m_picture->setDrop(TilePicture::Drop::None);
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    if (!take(event->mimeData()))
+        refuse();
+}
+
+// --- Texts -------------------------------------------------------------------------------------------------------
+
+void ImageTile::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslateUi();
+    ShadowFrame::changeEvent(event);
+}
+
+void ImageTile::retranslateUi()
+{
+    const QString name = tr("Bild %1").arg(m_number);
+    m_caption->setText(name);
+    m_picture->setAccessibleName(name);
+    m_picture->setTexts(tr("Auswählen oder hier ablegen"), tr("Hier ablegen"), tr("Das ist kein Bild"));
+    m_choose->setAccessibleName(tr("Bild %1 auswählen").arg(m_number));
+    m_delete->setToolTip(tr("Bild löschen"));
+    m_delete->setAccessibleName(tr("Bild %1 löschen").arg(m_number));
+    showState();
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "kit/small/clickablelabel.h"
+
+#include <QPixmap>
+
+/// The face of an ImageTile: the picture as large as it fits, or a place to put one.
+class TilePicture : public ClickableLabel
+{
+    Q_OBJECT
+
+public:
+    enum class Drop { None, Welcome, Refused };
+
+    explicit TilePicture(QWidget *parent = nullptr);
+
+    void setPicture(const QPixmap &picture);
+    [[nodiscard]] const QPixmap &picture() const { return m_picture; }
+    /// How something that is held over the tile, or was given to it, is received.
+    void setDrop(Drop drop);
+    /// What is read where there is no picture, where one can be dropped, and where something else was.
+    void setTexts(const QString &invitation, const QString &welcome, const QString &refusal);
+
+    [[nodiscard]] QSize sizeHint() const override;
+    [[nodiscard]] QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    void paintPicture(QPainter &painter);
+    void paintPlace(QPainter &painter, const QColor &color, const QString &text) const;
+
+    QPixmap m_picture;
+    QPixmap m_scaled; ///< for the size and the screen it was last painted on
+    Drop m_drop = Drop::None;
+    QString m_invitation;
+    QString m_welcome;
+    QString m_refusal;
+};

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "view/sensors/livevalues.h"
+
+#include <QString>
+
+#include <optional>
+
+/// What a sensor's value should keep to; none where no limit is set. If there are both, lower < upper.
+struct SensorLimits
+{
+    /// What the model holds for a limit that is not set.
+    static constexpr double kNoLower = -100000.0;
+    static constexpr double kNoUpper = 100000.0;
+
+    std::optional<double> lower;
+    std::optional<double> upper;
+
+    /// As the model holds them.
+    [[nodiscard]] double minimum() const { return lower.value_or(kNoLower); }
+    [[nodiscard]] double maximum() const { return upper.value_or(kNoUpper); }
+    [[nodiscard]] bool isAny() const { return lower || upper; }
+    [[nodiscard]] bool contains(double value) const { return !isBelow(value) && !isAbove(value); }
+    [[nodiscard]] bool isBelow(double value) const { return lower && value < *lower; }
+    [[nodiscard]] bool isAbove(double value) const { return upper && value > *upper; }
+    [[nodiscard]] bool operator==(const SensorLimits &other) const
+    {
+        return lower == other.lower && upper == other.upper;
+    }
+};
+
+/// From the numbers of a description; limits that are not in order count as not set.
+[[nodiscard]] SensorLimits sensorLimits(double minimum, double maximum);
+
+/// The range that a display covers: its ends are multiples of the step between two labels.
+struct SensorScale
+{
+    double low = 0.0;
+    double high = 0.0;
+    double step = 0.0;
+    int labelDecimals = 0;
+    int valueDecimals = 2;
+
+    /// False as long as nothing tells which values to expect.
+    [[nodiscard]] bool isKnown() const { return high > low; }
+    /// 0 at the low end, 1 at the high one; values beyond are taken for the end itself.
+    [[nodiscard]] double fraction(double value) const;
+    [[nodiscard]] int numSteps() const;
+    [[nodiscard]] bool operator==(const SensorScale &other) const
+    {
+        return low == other.low && high == other.high && step == other.step;
+    }
+    [[nodiscard]] bool operator!=(const SensorScale &other) const { return !(*this == other); }
+};
+
+/// A little more than the limits, so that what is outside shows; an end without a limit follows the held values.
+/// Without limits and values the scale is not known.
+[[nodiscard]] SensorScale sensorScale(const SensorLimits &limits, const std::optional<HeldRange> &held);
+
+/// The value with always the same number of decimals, so that the digits stand still; in the language in use. Very
+/// large numbers are written with an exponent.
+[[nodiscard]] QString sensorValueText(double value, int decimals);

@@ -1,0 +1,229 @@
+#include "view/window/dialogprompts.h"
+
+#include "app/theme.h"
+#include "view/box/ipaddressdialog.h"
+#include "view/common/actionicon.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QScreen>
+#include <QScrollArea>
+#include <QTreeView>
+
+namespace {
+
+constexpr QSize kPanelSize(800, 600);
+constexpr int kButtonRowHeight = 84;
+constexpr QSize kIconSize(72, 72);
+constexpr QSize kFileDialogSize(1000, 660);
+constexpr int kFileColumns[] = {330, 120, 120, 190}; // name, size, type, date
+
+// More text than that scrolls.
+constexpr int kMaxLines = 12;
+constexpr int kMaxCharacters = 500;
+
+struct AnswerText
+{
+    QMessageBox::StandardButton button;
+    const char *text;
+};
+
+// In the order in which they stand in a box.
+constexpr AnswerText kAnswers[] = {
+    {QMessageBox::Save, QT_TRANSLATE_NOOP("DialogPrompts", "Speichern")},
+    {QMessageBox::Discard, QT_TRANSLATE_NOOP("DialogPrompts", "Verwerfen")},
+    {QMessageBox::Yes, QT_TRANSLATE_NOOP("DialogPrompts", "Ja")},
+    {QMessageBox::No, QT_TRANSLATE_NOOP("DialogPrompts", "Nein")},
+    {QMessageBox::Ok, QT_TRANSLATE_NOOP("DialogPrompts", "OK")},
+    {QMessageBox::Cancel, QT_TRANSLATE_NOOP("DialogPrompts", "Abbrechen")},
+};
+
+/// With large fonts Qt's own sizes cut off folders, file sizes and dates, and the buttons end where their texts end.
+void makeRoomy(QFileDialog &dialog)
+{
+    dialog.setStyleSheet(QStringLiteral("QPushButton {padding: 0px 14px;}"));
+    const auto buttons = dialog.findChildren<QPushButton *>();
+    for (QPushButton *button : buttons)
+        button->setIcon({}); // as in message boxes
+    dialog.resize(kFileDialogSize.boundedTo(dialog.screen()->availableSize()));
+    const auto *list = dialog.findChild<QTreeView *>(QStringLiteral("treeView")); // none in a platform's own dialog
+    if (!list)
+        return;
+    int column = 0;
+    for (const int width : kFileColumns)
+        list->header()->resizeSection(column++, width);
+}
+
+void scrollLongText(QMessageBox &box, QGridLayout &grid)
+{
+    auto *label = box.findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
+    const int index = grid.indexOf(label);
+    if (index < 0 || (box.text().count(QLatin1Char('\n')) < kMaxLines && box.text().size() <= kMaxCharacters))
+        return;
+    int row = 0;
+    int column = 0;
+    int rows = 0;
+    int columns = 0;
+    grid.getItemPosition(index, &row, &column, &rows, &columns);
+    grid.removeWidget(label);
+    auto *area = new QScrollArea(&box);
+    area->setWidget(label);
+    area->setWidgetResizable(true);
+    for (QWidget *part : {area->viewport(), static_cast<QWidget *>(label)})
+        part->setAutoFillBackground(false); // or it is painted in the window's grey
+    label->setWordWrap(true);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    grid.addWidget(area, row, column, rows, columns);
+}
+
+void prepare(QFileDialog &dialog, const QString &filter)
+{
+    makeRoomy(dialog);
+    dialog.setNameFilters(filter.split(QStringLiteral(";;")));
+    const auto useSuffix = [&dialog](const QString &selected) { dialog.setDefaultSuffix(filterSuffix(selected)); };
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, useSuffix);
+    useSuffix(dialog.selectedNameFilter());
+}
+
+QString chosenFile(QFileDialog &dialog)
+{
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
+}
+
+} // namespace
+
+QMessageBox::StandardButton escapeAnswer(QMessageBox::StandardButtons buttons)
+{
+    if (buttons.testFlag(QMessageBox::Cancel))
+        return QMessageBox::Cancel;
+    if (buttons.testFlag(QMessageBox::No))
+        return QMessageBox::No;
+    if (buttons.testFlag(QMessageBox::Save))
+        return QMessageBox::Save; // a box closed in passing must not throw data away
+    QMessageBox::StandardButton last = QMessageBox::NoButton;
+    for (const AnswerText &answer : kAnswers) {
+        if (buttons.testFlag(answer.button))
+            last = answer.button;
+    }
+    return last;
+}
+
+QString filterSuffix(const QString &nameFilter)
+{
+    static const QRegularExpression pattern(QStringLiteral("\\*\\.(\\w+)"));
+    return pattern.match(nameFilter).captured(1);
+}
+
+void fillMessageBox(QMessageBox &box, const QString &title, const QString &text, QMessageBox::StandardButtons buttons)
+{
+    box.setWindowTitle(title);
+    box.setTextFormat(Qt::PlainText); // what the user typed and what the box sent stays as it is
+    box.setText(QString(text).replace(QLatin1String("<br>"), QLatin1String("\n"))); // the one tag in the texts
+    // The platform's order would tear apart what reads as "save, discard, cancel".
+    for (const AnswerText &answer : kAnswers) {
+        if (!buttons.testFlag(answer.button))
+            continue;
+        QPushButton *button = box.addButton(answer.button);
+        button->setText(QCoreApplication::translate("DialogPrompts", answer.text));
+        button->setIcon({}); // some desktops give it one, of a size for small type
+        if (!box.defaultButton())
+            box.setDefaultButton(button);
+    }
+    box.setEscapeButton(escapeAnswer(buttons));
+}
+
+void makePanel(QMessageBox &box, const QString &iconFile)
+{
+    box.setIconPixmap(actionIcon(iconFile, theme::qColorBackground).pixmap(kIconSize));
+    // The icon is a label too and must not be as wide as the text.
+    box.setStyleSheet(QStringLiteral("QLabel#qt_msgboxex_icon_label {min-width: %1px; max-width: %1px;}"
+                                     "QLabel#qt_msgbox_label {padding-right: 24px;}"
+                                     "QPushButton {padding: 0px 20px;}")
+                          .arg(kIconSize.width() + kIconSize.width() / 2));
+    // A message box sets its size by its layout and ignores the minimum in the sheet.
+    if (auto *grid = qobject_cast<QGridLayout *>(box.layout())) {
+        if (auto *icon = box.findChild<QWidget *>(QStringLiteral("qt_msgboxex_icon_label")))
+            grid->setAlignment(icon, Qt::AlignVCenter);
+        grid->setRowMinimumHeight(0, kPanelSize.height() - kButtonRowHeight);
+        scrollLongText(box, *grid);
+        grid->addItem(new QSpacerItem(kPanelSize.width(), 0), grid->rowCount(), 0, 1, grid->columnCount());
+    }
+}
+
+QWidget *DialogPrompts::window() const
+{
+    QWidget *dialog = QApplication::activeModalWidget();
+    return dialog ? dialog : m_window.data();
+}
+
+QMessageBox::StandardButton DialogPrompts::run(const QString &title, const QString &text,
+                                               QMessageBox::StandardButtons buttons, const QString &iconFile)
+{
+    QMessageBox box(window());
+    fillMessageBox(box, title, text, buttons);
+    makePanel(box, iconFile);
+    box.exec();
+    const QMessageBox::StandardButton answer = box.standardButton(box.clickedButton());
+    return answer == QMessageBox::NoButton ? escapeAnswer(buttons) : answer;
+}
+
+QMessageBox::StandardButton DialogPrompts::ask(const QString &title, const QString &text,
+                                               QMessageBox::StandardButtons buttons)
+{
+    return run(title, text, buttons, QStringLiteral("help-circle-outline.png"));
+}
+
+void DialogPrompts::inform(const QString &title, const QString &text)
+{
+    (void)run(title, text, QMessageBox::Ok, QStringLiteral("information.png")); // there is one answer only
+}
+
+void DialogPrompts::warn(const QString &title, const QString &text)
+{
+    (void)run(title, text, QMessageBox::Ok, QStringLiteral("alert.png")); // likewise
+}
+
+QString DialogPrompts::openFileName(const QString &title, const QString &folder, const QString &filter)
+{
+    QFileDialog dialog(window(), title, folder);
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    prepare(dialog, filter);
+    return chosenFile(dialog);
+}
+
+QString DialogPrompts::saveFileName(const QString &title, const QString &folder, const QString &filter)
+{
+    QFileDialog dialog(window(), title, folder);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    prepare(dialog, filter);
+    return chosenFile(dialog);
+}
+
+QString DialogPrompts::openFolder(const QString &title, const QString &folder)
+{
+    QFileDialog dialog(window(), title, folder);
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    makeRoomy(dialog);
+    return chosenFile(dialog);
+}
+
+std::optional<QString> DialogPrompts::askAddress(const QString &current)
+{
+    IPAddressDialog dialog(current, m_isValid, m_window);
+    if (dialog.exec() == QDialog::Accepted)
+        return dialog.address();
+    return std::nullopt;
+}
+
+void DialogPrompts::setAddressValidator(std::function<bool(const QString &)> isValid)
+{
+    m_isValid = std::move(isValid);
+}

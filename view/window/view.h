@@ -1,0 +1,176 @@
+#pragma once
+
+#include "model/sensordescription.h"
+#include "view/common/demostate.h"
+#include "view/common/userprompts.h"
+
+#include <QMainWindow>
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <optional>
+
+class Model;
+class QTabWidget;
+class QToolBar;
+class TabBlackBox;
+class TabDataLogger;
+class TabEvaluation;
+class TabHome;
+class TabOszilloscope;
+class TabProject;
+class TabSensors;
+class TabTerminal;
+class TabWebConfig;
+
+/// Actions whose state the controller sets.
+enum class Actions { Connect = 0, Disconnect = 1, Calibrate = 2, Recording = 3 };
+/// Look of an action; Disabled is the only state that cannot be triggered.
+enum class ActionState { Disabled = 0, Normal = 1, Active = 2, Alert = 3 };
+
+/// The main window: tool bar, tabs, and every question to the user. Turns user actions into signals that the
+/// controller handles, and redraws itself when the model reports changes.
+class View : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// Neither the model nor, if given, the prompts may be null; the model must outlive the view.
+    explicit View(Model *model, std::unique_ptr<UserPrompts> prompts = nullptr);
+    ~View() override;
+
+    [[nodiscard]] TabHome *tabHome() const;
+    [[nodiscard]] TabProject *tabProject() const;
+    [[nodiscard]] TabSensors *tabSensors() const;
+    [[nodiscard]] TabOszilloscope *tabOszi() const;
+    [[nodiscard]] TabEvaluation *tabEvaluation() const;
+    [[nodiscard]] TabWebConfig *tabWebConfig() const;
+    [[nodiscard]] TabDataLogger *tabLogger() const;
+    [[nodiscard]] TabTerminal *tabTerminal() const;
+    [[nodiscard]] TabBlackBox *tabBlackBox() const;
+    [[nodiscard]] QTabWidget *tabs() const;
+
+    // --- Questions and messages: one at a time ---
+    /// While a question or message is open, a further message waits for its turn, and a further question is answered
+    /// at once with what changes nothing: save, not quit, cancel, no, no file, no address.
+    [[nodiscard]] bool isAsking() const;
+    [[nodiscard]] bool askToSave();
+    [[nodiscard]] bool askToQuit();
+    [[nodiscard]] QMessageBox::StandardButton askToSaveAndQuit();
+    [[nodiscard]] bool askYesNo(const QString &title, const QString &text);
+    /// "Achtung: Alle Messdaten werden gelöscht!" with "Abbrechen"; true to go on.
+    [[nodiscard]] bool askToClearData();
+    void showMessage(const QString &text, const QString &title);
+    void showWarning(const QString &text, const QString &title);
+    /// File dialogs start in the last folder and remember the one chosen. Empty: cancelled.
+    [[nodiscard]] QString askOpenFile(const QString &title, const QString &filter);
+    [[nodiscard]] QString askSaveFile(const QString &title, const QString &filter);
+    [[nodiscard]] QString askFolder(const QString &title);
+    [[nodiscard]] std::optional<QString> askAddress(const QString &current);
+    /// Which texts askAddress() lets through, and which of the addresses remembered are offered; until it is called
+    /// every text that is not blank.
+    void setAddressValidator(std::function<bool(const QString &)> isValid);
+
+    // --- State shown ---
+    void setActionState(Actions action, ActionState state);
+    void setTabEnabled(int tab, bool enabled);
+    void setConnected(bool connected);
+    void setRecordingRunning(bool running);
+    /// Tabs and actions as for an empty project.
+    void reset();
+    /// The connection's progress dialog: centred on the window, 100 pixels high, half the window's width. Not modal
+    /// to the event loop; while it is shown the connect action, its button and the escape key hide it and emit
+    /// progressCancelled().
+    void showProgress(const QString &text);
+    void hideProgress();
+    [[nodiscard]] bool isProgressShown() const;
+    /// Shown in the status bar for the time given, 0: until replaced.
+    void showStatus(const QString &text, int milliseconds = 10000);
+    /// Adds a widget at the right of the status bar (the controller's progress bar); not owned afterwards by the view.
+    void addStatusWidget(QWidget *widget);
+    void setDeviceAddress(const QString &address);
+    void setDemoState(DemoState state);
+    /// Offered on the start page, also after the next start of the program.
+    void rememberProject(const QString &file);
+    void rememberAddress(const QString &address);
+    /// Opens the dialog with the versions and licences, or brings it to the front. Not modal.
+    void showAbout();
+    void writeSettings();
+    /// Takes over what is being typed into a field that waits for the end of the input.
+    void commitInput();
+
+    /// What a sample line holds, recorded or not, of a box that measures every so many milliseconds; cheap enough for
+    /// every line.
+    void showLiveValues(const std::array<double, kNumSensors> &values, int period);
+    /// What came so far does not go with the sensors that are known now.
+    void forgetLiveValues();
+
+    // --- Live text of terminal and data logger; both cheap enough for every line ---
+    void terminalReceived(const QString &line);
+    void terminalSent(const QString &line);
+    /// One sample line for the data-logger tab.
+    void logSample(double seconds, const std::array<double, kNumSensors> &values);
+
+signals:
+    void newProject();
+    void openProject();
+    void saveProject();
+    void saveProjectAs();
+    void importBlackBox();
+    void firmwareUpdate();
+    void connectDisconnect();
+    void calibrate();
+    void startStopRecording();
+    void quit();
+    void connectToAddress(const QString &address);
+    void startStopDemo();
+    void openImportBlackBoxData();
+    void saveOszi();
+    void saveCSV();
+    void saveTerminal();
+    void clearLogger();
+    void loggerHeadline();
+    /// The line as typed, without a line feed.
+    void terminalSend(const QString &line);
+    void terminalClear();
+    void about();
+    void clearMarkers();
+    void commentChanged();
+    void imageButtonClicked();
+    void imageLabelClicked();
+    void offsetChanged(double offset);
+    /// The user named a project file to open otherwise than in a dialog: on the start page, or dropped onto the window.
+    void openProjectFile(const QString &fileName);
+    /// The user gave up an attempt to connect.
+    void progressCancelled();
+    /// The user chose a language in the menu (two-letter code); it is in use.
+    void languageSelected(const QString &code);
+
+public slots:
+    void updateView();
+    void onModel_appStateChanged();
+    void onModel_ProjectChanged();
+    void onModel_DataChanged();
+    void onModel_ViewDataChanged();
+    void resetCorrection();
+    void menu();
+    void buttonLockPressed();
+    void languageChanged();
+    void onTabSelected(int index);
+    void deleteImage0Confimed();
+    void deleteImage1Confimed();
+    void deleteImage2Confimed();
+    void deleteImage3Confimed();
+    void deleteImage4Confimed();
+
+protected:
+    bool event(QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    struct Private;
+    std::unique_ptr<Private> d;
+};
