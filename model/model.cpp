@@ -5,6 +5,8 @@
 #include <QCoreApplication>
 #include <QDebug>
 
+#include <utility>
+
 namespace {
 
 // What a fresh plot shows as well.
@@ -36,9 +38,9 @@ void Model::clear()
     m_hardwareVersion.clear();
     m_firmwareVersion = QStringLiteral("8.0");
     m_comment.clear();
-    m_currentFile.clear();
+    setCurrentFile(QString());
     setFileList({});
-    m_projectModified = false;
+    setModified(false);
     m_clock = 100;
     m_meta = ProjectMeta();
     resetColors();
@@ -96,13 +98,20 @@ void Model::setProjectModifiedFlag(bool modified)
         qCDebug(lcModel) << "***** MODEL CHANGED TRUE ***";
         ++m_changes;
     }
-    m_projectModified = modified;
+    setModified(modified);
+}
+
+void Model::setModified(bool modified)
+{
+    if (std::exchange(m_projectModified, modified) != modified)
+        emit fileStateChanged();
 }
 
 void Model::setCurrentFile(const QString &absolutePath)
 {
     qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " file=" << absolutePath;
-    m_currentFile = absolutePath;
+    if (std::exchange(m_currentFile, absolutePath) != absolutePath)
+        emit fileStateChanged();
 }
 
 bool Model::refusesWhileBusy(const char *function) const
@@ -120,10 +129,28 @@ void Model::setYield(const Yield &yield)
         m_yield = [](int) { QCoreApplication::processEvents(); };
 }
 
+// Receivers may open scopes of their own, so what is pending is taken first.
+void Model::endChanges()
+{
+    if (--m_pending.scopes > 0)
+        return;
+    const PendingChanges pending = std::exchange(m_pending, {});
+    blockSignals(false); // open from here on, whatever they were before
+    if (pending.appState)
+        emitAppStateChanged();
+    if (pending.project)
+        emitProjectChanged();
+    if (pending.data)
+        emitDataChanged();
+}
+
 void Model::emitAppStateChanged()
 {
     qCDebug(lcModel) << Q_FUNC_INFO << "emit appStateChanged()";
-    emit appStateChanged();
+    if (m_pending.scopes > 0)
+        m_pending.appState = true;
+    else
+        emit appStateChanged();
 }
 
 void Model::emitProjectChanged()
@@ -140,12 +167,19 @@ void Model::announceProjectChanged(const char *function)
 {
     qCDebug(lcModel) << function << "emit projectChanged()";
     ++m_changes;
-    emit projectChanged();
+    if (m_pending.scopes > 0)
+        m_pending.project = true;
+    else
+        emit projectChanged();
 }
 
 void Model::announceDataChanged(const char *function)
 {
     qCDebug(lcModel) << function << "emit dataChanged()";
+    if (m_pending.scopes > 0) {
+        m_pending.data = true;
+        return;
+    }
     emit dataChanged();
     if (!signalsBlocked())
         discardRemoved(); // every receiver has let go of them by now

@@ -41,7 +41,7 @@ class Model : public QObject
 
 public:
     static constexpr int kNumMarkers = kNumVerticalMarkers;
-    static constexpr int kNumPhases = 5;
+    static constexpr int kNumPhases = kNumCyclePhases;
     static constexpr int kNumImages = 5;
 
     /// Called from the long loops of open(), save(), saveCsv() and addBlackBoxFile(), about every 20 ms, with the
@@ -179,9 +179,22 @@ signals:
     void projectChanged();
     void dataChanged();
     void viewDataChanged();
+    /// The name of the project's file or its modified mark has changed.
+    void fileStateChanged();
 
 private:
     using Channel = std::vector<std::unique_ptr<SampleList>>;
+
+    friend class ChangeScope;
+    struct PendingChanges
+    {
+        int scopes = 0; // open ones
+        bool appState = false;
+        bool project = false;
+        bool data = false;
+    };
+    void endChanges();
+    void setModified(bool modified);
 
     // The log lines of these name the caller.
     void announceProjectChanged(const char *function);
@@ -248,4 +261,5 @@ private:
     bool m_busy = false;
     bool m_metaSaved = true;
     Yield m_yield;
+    PendingChanges m_pending;
 };

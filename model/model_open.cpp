@@ -177,7 +177,7 @@ void Model::apply(OpenedProject &project, const QString &absolutePath)
         version = QStringLiteral("6.0");
     qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " file version=" << version;
     applyDescription(fields);
-    m_currentFile = absolutePath;
+    setCurrentFile(absolutePath);
     m_images = project.images;
     m_encodedImages = std::move(project.encodedImages);
     if (version.toInt() < kCurrentFileVersion) // 0 for what is no integer
@@ -303,6 +303,7 @@ void Model::announceOpened(const char *function)
     emit dataChanged();
     qCDebug(lcModel) << function << "emitting viewDataChanged()";
     emit viewDataChanged();
+    emit fileStateChanged();
     discardRemoved();
     setProjectModifiedFlag(false);
     qCDebug(lcModel) << function << " END";

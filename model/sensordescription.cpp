@@ -2,6 +2,8 @@
 
 #include "model/logging.h"
 
+#include <QCoreApplication>
+
 #include <array>
 
 QColor defaultSensorColor(int position)
@@ -10,6 +12,11 @@ QColor defaultSensorColor(int position)
                                                         QColor(Qt::darkBlue), QColor(QStringLiteral("darkorange")),
                                                         QColor(Qt::darkCyan)};
     return position >= 0 && position < kNumSensors ? colors[static_cast<std::size_t>(position)] : QColor();
+}
+
+QString shownSensorName(const QString &ownName, int sensor)
+{
+    return ownName.isEmpty() ? QCoreApplication::translate("SensorDescription", "Sensor %1").arg(sensor + 1) : ownName;
 }
 
 void SensorGroup::setNumSensors(int n)

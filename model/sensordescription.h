@@ -10,6 +10,9 @@ constexpr int kNumSensors = 5;
 /// Default curve colour of a sensor position (0 to 4); an invalid colour for any other position.
 [[nodiscard]] QColor defaultSensorColor(int position);
 
+/// The name to show for a sensor, counted from 0 within its group: its own one, or "Sensor N" in the language in use.
+[[nodiscard]] QString shownSensorName(const QString &ownName, int sensor);
+
 /// One group of sensors. Indices count from 0; an index outside the group is logged and ignored, and the
 /// getters then return an empty string, 0.0 or an invalid colour.
 class SensorGroup

@@ -3,6 +3,8 @@
 #include <array>
 
 constexpr int kNumVerticalMarkers = 4;
+/// The markers lie between the phases of a cycle.
+constexpr int kNumCyclePhases = kNumVerticalMarkers + 1;
 
 /// Positions of the vertical markers as sample indices, never negative, in non-decreasing order.
 using VerticalMarkers = std::array<int, kNumVerticalMarkers>;

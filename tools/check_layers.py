@@ -18,7 +18,7 @@ RULES = {
     "ventaro_model": (["types"], ["Core", "Gui"]),
     "ventaro_protocol": (["types"], ["Core"]),
     "ventaro_device": (["protocol", "types"], ["Core", "Network"]),
-    "ventaro_plotmath": ([], ["Core"]),
+    "ventaro_plotmath": (["types"], ["Core"]),
     "ventaro_kit": ([], ["Core", "Gui", "Widgets"]),
     "ventaro_plots": (["plotmath", "model", "types", "kit", "theme"], ["Core", "Gui", "Widgets"]),
     "ventaro_evaluation": (["plots", "plotmath", "model", "types", "kit", "theme"], ["Core", "Gui", "Widgets"]),

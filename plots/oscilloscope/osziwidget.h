@@ -1,14 +1,13 @@
 #pragma once
 
 #include "model/samplelist.h"
+#include "plots/oscilloscope/plotgeometry.h"
 
 #include <QColor>
 #include <QFrame>
 #include <QString>
 
 #include <memory>
-
-struct PlotGeometry;
 
 /// The plot: curves over a common value axis and a common time axis, with grids, reference lines, markers, phase
 /// names, one highlighted curve and a mouse read-out. Points at sample lists and owns none: whoever removes samples

@@ -1,5 +1,6 @@
 #include "view/oscilloscope/oszirow.h"
 
+#include "model/sensordescription.h"
 #include "plots/oscilloscope/osziwidget.h"
 #include "view/oscilloscope/oszirowcontrols.h"
 
@@ -194,7 +195,7 @@ void OsziRow::showOffset(double offset)
 
 QString OsziRow::defaultName() const
 {
-    return tr("Sensor %1").arg(m_position + 1);
+    return shownSensorName(QString(), m_position);
 }
 
 void OsziRow::setTitle(const QString &name, const QString &unit, const QColor &color)

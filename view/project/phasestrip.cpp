@@ -30,7 +30,6 @@ QColor phaseColor(int phase)
 PhaseStrip::PhaseStrip(QWidget *parent)
     : QWidget(parent)
 {
-    static_assert(kNumPhases == Model::kNumPhases);
     m_row = new QHBoxLayout(this);
     m_row->setContentsMargins(0, 0, 0, 0);
     m_row->setSpacing(0);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/verticalmarkers.h"
+
 #include <QBoxLayout>
 #include <QWidget>
 
@@ -36,7 +38,7 @@ private:
     void paintPhase(QPainter &painter, int phase) const;
     void showTimes();
 
-    static constexpr int kNumPhases = 5;
+    static constexpr int kNumPhases = kNumCyclePhases;
     QBoxLayout *m_row = nullptr;
     std::array<QBoxLayout *, kNumPhases> m_cells{}; ///< within the area of a phase
     std::array<QLineEdit *, kNumPhases> m_names{};

@@ -28,8 +28,7 @@ SensorInfo describe(const Model &model, int groupIndex, int sensor)
     info.sensor = sensor;
     info.channel = groupIndex == 0 && sensor < kNumSensors ? sensor : -1;
     info.ownName = group.sensorName(sensor).simplified();
-    info.name =
-        info.ownName.isEmpty() ? text(QT_TRANSLATE_NOOP("SensorList", "Sensor %1")).arg(sensor + 1) : info.ownName;
+    info.name = shownSensorName(info.ownName, sensor);
     info.unit = group.sensorUnit(sensor).simplified();
     info.color = colorOf(info, model, group);
     info.limits = sensorLimits(group.sensorMinimum(sensor), group.sensorMaximum(sensor));

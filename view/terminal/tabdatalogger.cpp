@@ -192,10 +192,7 @@ void TabDataLogger::changeEvent(QEvent *event)
 void TabDataLogger::retranslateUi()
 {
     for (int i = 0; i < kNumSensors; ++i) {
-        QString name = d->names.value(i);
-        if (name.isEmpty())
-            name = tr("Sensor %1").arg(i + 1);
-        d->boxes[static_cast<std::size_t>(i)]->setName(name);
+        d->boxes[static_cast<std::size_t>(i)]->setName(shownSensorName(d->names.value(i), i));
     }
     d->clear->setText(tr("&Leeren"));
     d->clear->setToolTip(tr("Alle Zeilen entfernen"));

@@ -107,7 +107,7 @@ QString sensorNameOf(const Model *model, int sensor)
 {
     const SensorGroup *group = model ? groupOf(*model, sensor) : nullptr;
     const QString name = group ? group->sensorName(sensor) : QString();
-    return name.isEmpty() ? EvaluationData::tr("Sensor %1").arg(sensor + 1) : name;
+    return shownSensorName(name, sensor);
 }
 
 QString EvaluationData::sensorName(int sensor) const

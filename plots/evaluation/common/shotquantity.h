@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/verticalmarkers.h"
+
 #include <QString>
 #include <QVector>
 
@@ -12,8 +14,8 @@ struct Quantity
 {
     enum class Kind { AtMarker, Minimum, Maximum, Mean, Integral, PeakTime };
     static constexpr int kNumKinds = 6;
-    static constexpr int kNumMarkers = 4;
-    static constexpr int kNumPhases = kNumMarkers + 1;
+    static constexpr int kNumMarkers = kNumVerticalMarkers;
+    static constexpr int kNumPhases = kNumCyclePhases;
     static constexpr int kWholeShot = 0;
 
     Kind kind = Kind::Maximum;
