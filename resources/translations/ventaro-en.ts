@@ -730,10 +730,6 @@ Continue?</translation>
 <context>
     <name>EvaluationData</name>
     <message>
-        <source>Sensor %1</source>
-        <translation>Sensor %1</translation>
-    </message>
-    <message>
         <source>Wert an Marker %1</source>
         <translation>Value at marker %1</translation>
     </message>
@@ -950,10 +946,6 @@ Continue?</translation>
 </context>
 <context>
     <name>OsziRow</name>
-    <message>
-        <source>Sensor %1</source>
-        <translation>Sensor %1</translation>
-    </message>
     <message>
         <source>%1 [%2]</source>
         <translation>%1 [%2]</translation>
@@ -1322,6 +1314,13 @@ double-click fits the value range.</translation>
     </message>
 </context>
 <context>
+    <name>SensorDescription</name>
+    <message>
+        <source>Sensor %1</source>
+        <translation>Sensor %1</translation>
+    </message>
+</context>
+<context>
     <name>SensorDialog</name>
     <message>
         <source>Sensor bearbeiten</source>
@@ -1382,10 +1381,6 @@ double-click fits the value range.</translation>
 </context>
 <context>
     <name>SensorList</name>
-    <message>
-        <source>Sensor %1</source>
-        <translation>Sensor %1</translation>
-    </message>
     <message>
         <source>Gruppe %1</source>
         <translation>Group %1</translation>
@@ -1653,10 +1648,6 @@ Identification of this computer:
 </context>
 <context>
     <name>TabDataLogger</name>
-    <message>
-        <source>Sensor %1</source>
-        <translation>Sensor %1</translation>
-    </message>
     <message>
         <source>&amp;Leeren</source>
         <translation>C&amp;lear</translation>
