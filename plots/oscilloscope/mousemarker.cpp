@@ -1,6 +1,5 @@
 #include "plots/oscilloscope/mousemarker.h"
 
-#include "plots/common/localnumber.h"
 #include "plots/oscilloscope/osziscene.h"
 
 #include <QLabel>
@@ -69,7 +68,7 @@ bool MouseMarker::show(const OsziScene &scene, int x)
     const int y = std::clamp(scene.geometry.yOfValue(value), -kHairLineHalf, scene.geometry.height + kHairLineHalf);
     m_hairLine->move(x, y - kHairLineHalf);
     m_hairLine->show();
-    m_readOut->setText(localNumber(value, 'g', 6));
+    m_readOut->setText(QString::number(value, 'g', 6));
     m_readOut->adjustSize();
     m_readOut->move(readOutPlace({x, y}, m_readOut->size(), scene.geometry));
     m_readOut->show();

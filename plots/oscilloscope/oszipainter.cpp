@@ -1,6 +1,5 @@
 #include "plots/oscilloscope/oszipainter.h"
 
-#include "plots/common/localnumber.h"
 #include "plots/oscilloscope/labelcache.h"
 #include "plots/oscilloscope/osziscene.h"
 #include "plots/oscilloscope/plotgrid.h"
@@ -101,12 +100,6 @@ void paintValueGrid(QPainter &painter, const OsziScene &scene, const QRect &regi
     }
 }
 
-/// With the decimal point of the language in use.
-QString shownTimeLabel(qint64 time)
-{
-    return timeLabel(time).replace(QLatin1Char('.'), QLocale().decimalPoint());
-}
-
 void paintClockGrid(QPainter &painter, const OsziScene &scene, const QRect &region, LabelCache &labels)
 {
     const PlotGeometry &geometry = scene.geometry;
@@ -121,8 +114,7 @@ void paintClockGrid(QPainter &painter, const OsziScene &scene, const QRect &regi
         painter.setPen(Qt::gray);
         painter.drawLine(x, geometry.margin, x, geometry.bottom());
         painter.setPen(Qt::black);
-        painter.drawStaticText(x - kTimeLabelShift, geometry.bottom(),
-                               labels.label(shownTimeLabel(time), painter.font()));
+        painter.drawStaticText(x - kTimeLabelShift, geometry.bottom(), labels.label(timeLabel(time), painter.font()));
     }
 }
 
@@ -170,7 +162,7 @@ QString endValueText(const OsziScene &scene)
     const qint64 last = curve->end() - 1;
     if (last > scene.geometry.lastVisibleIndex())
         return {};
-    return localNumber(scene.drawnValue(*curve, last), 'f', labelDecimals(scene.geometry.span()) + 1);
+    return QString::number(scene.drawnValue(*curve, last), 'f', labelDecimals(scene.geometry.span()) + 1);
 }
 
 QRect endValueRect(const OsziScene &scene, const QFont &font, LabelCache &labels)
