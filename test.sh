@@ -6,6 +6,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/tools/steps.sh"
 
 tools/install_packages.sh test
 step "layers" python3 tools/check_layers.py
+step "classes" python3 tools/check_classes.py
 step "format" tools/check_format.sh
 step "translations" python3 tools/check_translations.py
 step "release build" build release
