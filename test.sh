@@ -14,4 +14,5 @@ step "build with sanitizers" build dev
 
 export QT_QPA_PLATFORM=offscreen
 export UBSAN_OPTIONS=print_stacktrace=1
+export VENTARO_PROGRAMS=$PWD/build/release/bin # driven in a real window
 exec ctest --preset dev --parallel "$(nproc)" --no-tests=error

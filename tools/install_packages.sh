@@ -15,6 +15,7 @@ case ${1:-test} in
 run) [ -z "${WAYLAND_DISPLAY:-}" ] || [ -n "${DISPLAY:-}" ] || packages+=(qtwayland5) ;;
 test)
     packages+=(clang-format universal-ctags)
+    packages+=(xvfb openbox xdotool x11-utils imagemagick)
     packages+=(libnss-wrapper openssh-server appstream desktop-file-utils libxml2-utils shared-mime-info)
     ;;
 package) packages+=(dpkg-dev file) ;;
