@@ -5,7 +5,6 @@
 
 #include <QScrollBar>
 #include <QSlider>
-#include <QStaticText>
 
 #include <algorithm>
 #include <limits>
@@ -123,7 +122,7 @@ namespace {
 struct ValueScale
 {
     explicit ValueScale(const OsziWidget &plot)
-        : margin(static_cast<int>(QStaticText(QStringLiteral("ABCgj")).size().height()) + 2)
+        : margin(plot.plotGeometry().margin)
         , height(std::max(plot.height() - 2 * margin, 1))
         , perPixel((plot.maxValue() - plot.minValue()) / height)
         , lowest(plot.minValue())

@@ -15,8 +15,6 @@
 
 #include <QtWidgets>
 
-#include <algorithm>
-
 namespace {
 
 /// Every text that the user may read, in a fixed order.
