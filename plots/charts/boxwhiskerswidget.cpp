@@ -139,6 +139,7 @@ void BoxWhiskersWidget::setVertical(bool vertical)
     if (m_vertical == vertical)
         return;
     m_vertical = vertical;
+    // The plot stretches along its value axis only.
     setSizePolicy(sizePolicy().transposed());
     updateGeometry();
     update();
@@ -170,6 +171,6 @@ void BoxWhiskersWidget::paintEvent(QPaintEvent *event)
     drawWhiskers(painter, geometry, m_numbers);
     drawBox(painter, geometry, m_numbers, m_fillColor);
     drawMedian(painter, geometry, m_numbers.median);
-    painter.setClipping(false);
+    painter.setClipping(false); // labels lie in the margins
     drawLabels(painter, geometry, m_numbers);
 }

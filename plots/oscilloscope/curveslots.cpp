@@ -36,6 +36,7 @@ bool CurveSlots::setCurve(int slot, const SampleList *samples, const QColor &col
 bool CurveSlots::setPlace(int slot, int shift, double channelOffset)
 {
     OsziCurve *curve = findOrLog(slot);
+    // An offset that is not finite would move the curve beyond all pixels for good.
     if (!curve || !std::isfinite(channelOffset))
         return false;
     curve->shift = shift;

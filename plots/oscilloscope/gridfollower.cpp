@@ -48,12 +48,13 @@ void GridFollower::followClockGrid()
     const int grid = autoClockGrid(m_scene.geometry.zoom, m_scene.geometry.clock, m_scene.clockGrid);
     if (grid == m_scene.clockGrid)
         return;
-    m_scene.clockGrid = grid;
+    m_scene.clockGrid = grid; // before announcing: whoever listens may ask for it
     announce(m_clockGridChosen);
 }
 
 void GridFollower::announce(const std::function<void()> &chosen)
 {
+    // A spin box that shows the spacing sends it back at once, rounded to 0.00 or cut to its own maximum.
     const QScopedValueRollback<bool> announcing(m_announcing, true);
     chosen();
 }

@@ -70,12 +70,13 @@ void GrowthWatch::lookAt(int slot)
     const OsziCurve *curve = m_curves.find(slot);
     if (!curve || !curve->samples)
         return;
+    // Also remembers a list that became shorter, so that growing back counts as growth.
     const int oldCount = std::exchange(m_knownCounts[size_t(slot)], curve->samples->size());
     if (curve->samples->size() <= oldCount)
         return;
     if (std::find(m_growingSlots.begin(), m_growingSlots.end(), slot) == m_growingSlots.end()) {
         if (m_growingSlots.size() == kMostGrowing)
-            m_growingSlots.erase(m_growingSlots.begin());
+            m_growingSlots.erase(m_growingSlots.begin()); // the one that has been known longest
         m_growingSlots.push_back(slot);
     }
     m_grown(slot, oldCount);

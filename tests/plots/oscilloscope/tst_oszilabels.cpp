@@ -45,7 +45,7 @@ QImage wholeLabel(const QString &text, const QFont &font, const QColor &ground)
     return image;
 }
 
-/// The same but for shades: where a glyph lies within its pixels depends on what was drawn before.
+/// The same, shades apart: where a glyph lies within its pixels depends on what was drawn before.
 bool looksLike(const QImage &a, const QImage &b)
 {
     constexpr int kShade = 32;
@@ -80,7 +80,7 @@ QStringList cutLabels(const OsziWidget &plot)
 
 Q_DECLARE_METATYPE(Step)
 
-/// Fonts come from style sheets, as in the program. Meaningful off-screen, and even more so in a real window.
+/// Labels in the fonts of style sheets, as in the program. Runs off-screen and in a real window.
 class TestOsziLabels : public QObject
 {
     Q_OBJECT
