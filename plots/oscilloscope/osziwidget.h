@@ -82,26 +82,27 @@ signals:
 
 public slots:
     void setEnabled(int channel, bool state);
-    void setEnabled(int channel);
-    void setDisabled(int channel);
+    void setEnabled(int channel);  ///< nothing uses it yet
+    void setDisabled(int channel); ///< nothing uses it yet
     void setAllEnabled(bool state);
     void setStartIndex(int start);
     void setMinValue(double value);
     void setMaxValue(double value);
+    /// Milliseconds. Nothing uses these four yet: the pages set all markers with their colours.
     void setVerticalMarker0(int position);
     void setVerticalMarker1(int position);
     void setVerticalMarker2(int position);
     void setVerticalMarker3(int position);
     void setPhaseName(int phase, const QString &name);
     void setZoom(int zoom);
-    void setZoom(double zoom);
+    void setZoom(double zoom); ///< nothing uses it yet
     void setClock(int clock);
     void setClockGrid(int grid);
     void setClockGridAuto(bool automatic);
     void showMouseMarker(int x);
     void hideMouseMarker();
     void setOffset(double offset);
-    void setChannelOffset(int channel, double offset);
+    void setChannelOffset(int channel, double offset); ///< nothing uses it yet
     void clearChannelOffsets();
     void setAutoChannelOffsets(int time);
     void setAutoChannelOffset(int channel, int time);
