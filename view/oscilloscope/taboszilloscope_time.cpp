@@ -194,7 +194,7 @@ void TabOszilloscope::Private::showMouse(int x)
 void TabOszilloscope::Private::stepReadOut(const OsziWidget &plot, int samples)
 {
     const int visible = (plot.contentsRect().width() - OsziWidget::kLeftMargin) / plot.zoom();
-    const int last = std::max(std::min(visible, longest - scrollBar->value()) - 1, 0);
+    const int last = std::max(std::min(visible, longestCurve() - scrollBar->value()) - 1, 0);
     readOutSample = std::clamp(readOutSample < 0 ? last / 2 : readOutSample + samples, 0, last);
     showMouse(OsziWidget::kLeftMargin + readOutSample * plot.zoom());
 }

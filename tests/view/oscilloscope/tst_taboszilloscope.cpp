@@ -281,6 +281,20 @@ private slots:
             QVERIFY(!label->isVisible());
     }
 
+    void readOutByKeysReachesSamplesThatCameLater()
+    {
+        OsziBench bench;
+        bench.addShot(0);
+        bench.grow(30);
+        bench.model.emitDataChanged();
+        OsziWidget *plot = bench.tab.row(1);
+        QTest::keyPress(plot, Qt::Key_Right, Qt::ControlModifier);
+        const auto *readOut = plot->findChild<QLabel *>("mouseReadOut"_s);
+        QVERIFY(readOut);
+        QCOMPARE(readOut->text(), "16"_s); // sample 14, in the middle
+        QTest::keyRelease(plot, Qt::Key_Control);
+    }
+
     void readOutIsMirrored()
     {
         OsziBench bench;
