@@ -61,6 +61,8 @@ public:
     [[nodiscard]] double channelOffset(int slot) const;
     /// The samples that fit right of the left margin at the present width and zoom.
     [[nodiscard]] int visibleSamples() const;
+    /// Where values and samples lie in the widget, as of now.
+    [[nodiscard]] PlotGeometry plotGeometry() const;
     /// Markers and phase names; the position is in milliseconds.
     [[nodiscard]] int verticalMarkerCount() const;
     [[nodiscard]] int horizontalLineCount() const;
@@ -102,9 +104,6 @@ public slots:
     void setHighlightColor(const QColor &color);
 
 protected:
-    /// Where values and samples lie in the widget, as of now.
-    [[nodiscard]] PlotGeometry plotGeometry() const;
-
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;

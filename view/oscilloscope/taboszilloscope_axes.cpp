@@ -72,12 +72,6 @@ bool followsEnd(int start, int samples, int visible)
     return start >= samples - visible - kFollowDistance;
 }
 
-int sampleAt(int x, int startIndex, int zoom)
-{
-    const double column = static_cast<double>(x - OsziWidget::kLeftMargin) / std::max(zoom, 1);
-    return toIndex(qint64(startIndex) + qRound64(column));
-}
-
 int steppedZoom(int zoom, int steps)
 {
     for (; steps > 0 && zoom < kMaximumZoom; --steps)

@@ -34,8 +34,6 @@ constexpr double kNarrowestSpan = 0.001;
 /// True if a view that starts at `start` goes on following the newest of `samples`.
 [[nodiscard]] bool followsEnd(int start, int samples, int visible);
 
-/// Sample nearest to pixel column x of a plot, never negative.
-[[nodiscard]] int sampleAt(int x, int startIndex, int zoom);
 /// The next zoom, in pixels a sample, `steps` wheel steps further (negative: out).
 [[nodiscard]] int steppedZoom(int zoom, int steps);
 /// Start index with which the sample under column x stays there when the zoom changes; never negative.

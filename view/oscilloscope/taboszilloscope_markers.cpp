@@ -80,7 +80,8 @@ void TabOszilloscope::Private::placeArmedMarker(int x)
     if (armedMarker < 0)
         return;
     markerPlaced = true;
-    const int sample = osziaxes::sampleAt(x, scrollBar->value(), zoom->value());
+    const int sample = static_cast<int>(
+        std::clamp<qint64>(rows.front()->plot()->plotGeometry().sampleAt(x), 0, std::numeric_limits<int>::max()));
     int before = 0;
     if (!markerAbsolute->isChecked() && armedMarker > 0 && model)
         before = std::max(model->verticalMarker(armedMarker - 1), 0);

@@ -135,7 +135,11 @@ private slots:
         columns<bool, int, int, int, int>("absolute", "zoom", "start", "x", "milliseconds");
         row("absolute", true, 1, 0, 170, 10000);
         row("scrolled", true, 1, 500, 170, 60000);
-        row("nearest sample", true, 10, 0, 176, 1100);
+        row("the sample that the read-out shows", true, 10, 0, 176, 1000);
+        row("its last column", true, 10, 0, 179, 1000);
+        row("the next sample", true, 10, 0, 180, 1100);
+        row("scrolled and zoomed", true, 10, 500, 176, 51000);
+        row("half a sample left of the axis", true, 10, 500, 65, 50000);
         row("left of the axis", true, 1, 0, 10, 0);
         row("distance to the marker before", false, 1, 0, 170, 8000);
         row("before the marker before", false, 1, 0, 80, 0);
@@ -156,7 +160,13 @@ private slots:
         bench.find<QSlider>("sliderTimeZoom")->setValue(zoom);
         bench.find<QScrollBar>("scrollBarOszi")->setValue(start);
         bench.find<QPushButton>("buttonMarker", 3)->click();
-        QTest::mouseClick(bench.tab.row(1), Qt::LeftButton, Qt::NoModifier, {x, 20});
+        QTest::mousePress(bench.tab.row(1), Qt::LeftButton, Qt::NoModifier, {x, 20});
+        if (absolute && x >= OsziWidget::kLeftMargin) { // the marker lands on the sample that is read out
+            const int sample = moved.first().at(1).toInt() / bench.model.clock();
+            const double value = bench.model.measurement(1, 0)->at(sample);
+            QCOMPARE(bench.tab.row(1)->findChild<QLabel *>("mouseReadOut"_s)->text().toDouble(), value);
+        }
+        QTest::mouseRelease(bench.tab.row(1), Qt::LeftButton, Qt::NoModifier, {x, 20});
         QCOMPARE(moved.count(), 1);
         QCOMPARE(moved.first().at(0).toInt(), 2);
         QTEST(moved.first().at(1).toInt(), "milliseconds");
