@@ -1,6 +1,6 @@
 #pragma once
 
-#include "view/oscilloscope/taboszilloscope_axes.h"
+#include "view/oscilloscope/valueaxis.h"
 
 #include <QColor>
 #include <QWidget>
@@ -18,8 +18,6 @@ class OsziRow : public QWidget
     Q_OBJECT
 
 public:
-    static constexpr int kCheckBoxWidth = 30; ///< pixels, of one without text
-
     /// Position 0 to 4; the object names count from 1.
     explicit OsziRow(int position, QWidget *parent = nullptr);
 
@@ -30,12 +28,12 @@ public:
 
     /// The value range shown. setSpan() emits nothing, widens the limits of the boxes if it must, and ignores ends
     /// that are not finite, not in order or too close for the plot; false then.
-    [[nodiscard]] osziaxes::ValueSpan span() const;
-    bool setSpan(osziaxes::ValueSpan span);
-    [[nodiscard]] osziaxes::ValueSpan limits() const;
+    [[nodiscard]] ValueSpan span() const;
+    bool setSpan(ValueSpan span);
+    [[nodiscard]] ValueSpan limits() const;
     /// Limits of the range boxes; what is shown is held within them. Emits nothing; false for limits that are not
     /// finite, not in order or too close.
-    bool setLimits(osziaxes::ValueSpan limits);
+    bool setLimits(ValueSpan limits);
     /// The y correction; emits nothing.
     void showOffset(double offset);
     /// Name and unit as the row's title, in the colour given. An empty name stands for the position.
@@ -44,9 +42,9 @@ public:
     /// Open: the parameters can be changed.
     void setEditable(bool editable);
     [[nodiscard]] bool isEditable() const { return m_editable; }
-    void retranslateUi();
 
 protected:
+    void changeEvent(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -58,6 +56,7 @@ private:
     void showSpan();
     void updateEnabled();
     void updateTitle();
+    void retranslateUi();
 
     int m_position;
     bool m_editable = true;

@@ -1,4 +1,4 @@
-#include "view/oscilloscope/taboszilloscope_flow.h"
+#include "view/common/flowlayout.h"
 
 #include <QWidget>
 
