@@ -41,6 +41,7 @@ int ElidedLabel::widthOf(int characters) const
 void ElidedLabel::paintEvent(QPaintEvent *event)
 {
     Q_UNUSED(event)
+    // Elided only here: text() has to stay whole for screen readers and the tool tip.
     QPainter painter(this);
     QStyleOption option;
     option.initFrom(this);

@@ -23,7 +23,7 @@ void KeyReadOut::step(int samples)
 {
     const PlotGeometry geometry = m_rows.plots().front()->plotGeometry();
     const int inSight = std::min(m_rows.visibleSamples(), m_pointer.longestCurve() - geometry.startIndex);
-    const int last = std::max(inSight - 1, 0);
+    const int last = std::max(inSight - 1, 0); // the curves may end left of what is in sight
     m_sample = std::clamp(m_sample < 0 ? last / 2 : m_sample + samples, 0, last);
     emit pointedAt(geometry.xOfSample(qint64(geometry.startIndex) + m_sample));
 }

@@ -93,7 +93,7 @@ void MarkerBar::reportEntry(const QObject *sender, double seconds)
         qCDebug(lcView) << "  SpinBox unknown!!!";
         return;
     }
-    const qint64 milliseconds = qRound64(seconds * 1000.0);
+    const qint64 milliseconds = qRound64(seconds * 1000.0); // of the largest seconds it does not fit into int
     qCDebug(lcView).nospace() << "value=" << seconds;
     qCDebug(lcView).nospace() << "checkBoxAbs is Checked=" << isAbsolute();
     report(static_cast<int>(found - m_markers.begin()),
@@ -117,7 +117,7 @@ void MarkerBar::arm(int index)
     m_armed = index;
     for (int i = 0; i < kNumVerticalMarkers; ++i) {
         QPushButton *button = m_markers.at(static_cast<std::size_t>(i)).button;
-        const QSignalBlocker blocker(button);
+        const QSignalBlocker blocker(button); // toggled() would come back here
         button->setChecked(i == m_armed);
     }
     emit armedChanged(m_armed >= 0);
@@ -147,6 +147,7 @@ void MarkerBar::release()
 void MarkerBar::clear()
 {
     qCDebug(lcView) << "emit markerChangedAbsolute(int, int)";
+    // Absolute in either mode: the position 0 is meant, not a distance of 0.
     for (int index = 0; index < kNumVerticalMarkers; ++index)
         emit markerChangedAbsolute(index, 0);
 }

@@ -7,7 +7,7 @@ OsziDoubleSpinBox::OsziDoubleSpinBox(const QString &sample, QWidget *parent)
 QString OsziDoubleSpinBox::textFromValue(double value) const
 {
     QLocale plain = locale();
-    plain.setNumberOptions(QLocale::OmitGroupSeparator);
+    plain.setNumberOptions(QLocale::OmitGroupSeparator); // as QDoubleSpinBox does
     QString text = plain.toString(value, 'f', decimals());
     if (!text.contains(plain.decimalPoint()))
         return text;

@@ -51,7 +51,7 @@ QWidget *OsziHead::createSensorSwitch(int position, QWidget *parent)
     connect(made.label, &ElidedLabel::clicked, made.box, &QCheckBox::click);
     connect(made.box, &QCheckBox::toggled, this, [this, position](bool shown) { emit sensorToggled(position, shown); });
     QHBoxLayout *layout = oszicontrols::layOutGroup(group);
-    layout->setSpacing(0); // the box ends in a gap of its own
+    layout->setSpacing(0); // the box has a gap at its end
     layout->addWidget(made.box);
     layout->addWidget(made.label);
     return group;

@@ -133,6 +133,7 @@ void OsziPage::setModel(Model *model)
 
 void OsziPage::takeSlots()
 {
+    // Pointing has shown all curves; the offsets of the slots stay, but belong to other measurements now.
     m_filter.reapply();
     m_yCorrection.applyIfOn();
     m_shots->showCount(m_pointer.measurementCount());

@@ -105,7 +105,7 @@ void OsziRow::layOut(QWidget *params)
     grid->addWidget(m_offset, 3, 2);
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(2, 1);
-    // The boxes take what height there is, up to a comfortable one; what is left stays below.
+    // The boxes grow with the row up to a comfortable height; the rest stays empty below them.
     for (int line : {1, 3})
         grid->setRowStretch(line, 100);
     grid->setRowStretch(4, 1);
@@ -120,7 +120,7 @@ void OsziRow::connectBoxes()
     connect(m_grid, changed, m_plot, &OsziWidget::setValueGrid);
     connect(m_gridAuto, &QCheckBox::toggled, m_plot, &OsziWidget::setValueGridAuto);
     connect(m_gridAuto, &QCheckBox::toggled, this, &OsziRow::updateEnabled);
-    // Silently: the box rounds, and a rounded grid going back to the plot would be found changed at each paint.
+    // Silently: the box rounds, and the plot would find a rounded grid changed at every paint.
     connect(m_plot, &OsziWidget::valueGridChanged, m_grid, &OsziDoubleSpinBox::showValue);
 }
 
@@ -153,9 +153,10 @@ bool OsziRow::setSpan(ValueSpan span)
         return false;
     const QSignalBlocker blockMax(m_max);
     const QSignalBlocker blockMin(m_min);
+    // A project may have been saved with other limits than those in force: its range counts.
     for (OsziDoubleSpinBox *box : {m_max, m_min})
         box->setRange(std::min(box->minimum(), span.minimum), std::max(box->maximum(), span.maximum));
-    // The end that moves away from the other one goes first, so that the plot refuses neither.
+    // The end that moves away from the other one is set first, so that the plot refuses neither.
     if (valueaxis::isShowable({m_plot->minValue(), span.maximum})) {
         m_plot->setMaxValue(span.maximum);
         m_plot->setMinValue(span.minimum);
@@ -233,7 +234,8 @@ void OsziRow::updateEnabled()
 
 bool OsziRow::eventFilter(QObject *watched, QEvent *event)
 {
-    // The title shows which plot the keys act on.
+    // The title shows on which plot the keys act.
+    // Queued, because the focus also leaves while the tab is being destroyed.
     if (watched == m_plot && (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut))
         QMetaObject::invokeMethod(this, &OsziRow::updateTitle, Qt::QueuedConnection);
     return QWidget::eventFilter(watched, event);

@@ -18,7 +18,7 @@ SamplingBox::SamplingBox(QWidget *parent)
     m_periods = new QComboBox(this);
     m_periods->setObjectName(QStringLiteral("comboBoxClock"));
     m_periods->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    m_caption->setBuddy(m_periods);
+    m_caption->setBuddy(m_periods); // for screen readers; the caption has no mnemonic
     QHBoxLayout *layout = oszicontrols::layOutGroup(this);
     layout->addWidget(m_caption);
     layout->addWidget(m_periods);

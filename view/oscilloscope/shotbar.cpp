@@ -33,6 +33,7 @@ QLineEdit *createField(const QString &name, QWidget *parent)
 ShotBar::ShotBar(QWidget *parent)
     : QWidget(parent)
 {
+    // One flow for all groups: nested ones would wrap as a block.
     m_flow = new FlowLayout(kGroupGap, oszicontrols::kLineGap, this);
     createMeasurements();
     m_flow->addWidget(createDeletion());
@@ -90,7 +91,7 @@ void ShotBar::connectControls()
 void ShotBar::showCount(int count)
 {
     m_count = count;
-    const QSignalBlocker blocker(m_highlight);
+    const QSignalBlocker blocker(m_highlight); // the plots have highlighted the newest already
     m_highlight->setMaximum(count);
     m_highlight->setValue(count);
     showCounter();
@@ -134,7 +135,7 @@ QString ShotBar::displayedText() const
 
 void ShotBar::leaveDisplayed()
 {
-    const QSignalBlocker blocker(m_displayed);
+    const QSignalBlocker blocker(m_displayed); // losing the focus would end the editing once more
     m_displayed->clearFocus();
 }
 

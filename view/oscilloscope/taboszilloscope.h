@@ -57,6 +57,7 @@ signals:
     void samplingPeriodChosen(const QString &label);
 
 public slots:
+    /// Repaints the rows and shows the names of the sensors. Nothing in the program calls it yet.
     void update();
     void updateOsziSlider();
     void displayAllMeas(bool state);

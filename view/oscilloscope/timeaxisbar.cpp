@@ -46,7 +46,7 @@ void TimeAxisBar::createScrollBar(FlowLayout &flow)
 {
     m_scrollBar = new QScrollBar(Qt::Horizontal, this);
     m_scrollBar->setObjectName(QStringLiteral("scrollBarOszi"));
-    m_scrollBar->setFocusPolicy(Qt::StrongFocus);
+    m_scrollBar->setFocusPolicy(Qt::StrongFocus); // a scroll bar is left out of the Tab key's order otherwise
     setStretch(m_scrollBar, 4);
     flow.addWidget(m_scrollBar);
 }
@@ -121,6 +121,7 @@ void TimeAxisBar::setExtent(const Extent &extent)
     const timeaxis::ScrollState state = timeaxis::scrollState(extent.samples, extent.visible);
     // Many samples may have come since the last call: a view that would have followed the first of them follows all.
     const int next = extent.grew ? std::min(extent.samples, m_lastSamples + 1) : extent.samples;
+    // Zooming by hand must not jump to the end on the way.
     const bool held = m_heldBack || m_zoom->isSliderDown();
     const bool follows = !held && timeaxis::followsEnd(m_scrollBar->value(), next, extent.visible);
     m_lastSamples = extent.samples;
@@ -168,7 +169,7 @@ void TimeAxisBar::zoomAt(int x, int steps)
     const int from = m_zoom->value();
     const int to = timeaxis::steppedZoom(from, steps);
     const int start = timeaxis::startAfterZoom(x, m_scrollBar->value(), from, to);
-    m_zoom->setValue(to);
+    m_zoom->setValue(to); // sets the range of the scroll bar as well, so the start can only be set after it
     m_scrollBar->setValue(start);
 }
 

@@ -37,6 +37,7 @@ void ValueGestures::startDrag()
 
 void ValueGestures::drag(int pixels)
 {
+    // From where the drag began: adding up small moves would add up their rounding.
     setSpan(valueaxis::movedSpan(m_dragSpan, pixels * valueaxis::valuePerPixel(m_row->plot()->plotGeometry())));
 }
 

@@ -18,7 +18,7 @@ void wheel(QWidget *target, QPoint at, int delta, Qt::KeyboardModifiers modifier
     QCoreApplication::sendEvent(target, &event);
 }
 
-/// Where the controls outside of the rows are, in the page that scrolls.
+/// Where the controls outside the rows are, in the page that scrolls.
 QVector<QRect> controlPlaces(const QWidget &page)
 {
     const auto *rows = page.findChild<QWidget *>("scrollArea"_s);
@@ -68,12 +68,29 @@ private slots:
         }
     }
 
+    void tabKeyGoesDownThePage()
+    {
+        const QStringList expected{
+            "sensor1CheckBox"_s,  "sensor5CheckBox"_s,         "checkBoxYCorrection"_s, "lockButton"_s,
+            "osziWidget1"_s,      "offsetSpinBox1"_s,          "osziWidget5"_s,         "offsetSpinBox5"_s,
+            "scrollArea"_s,       "scrollBarOszi"_s,           "sliderTimeZoom"_s,      "clockGridSpinBox"_s,
+            "buttonMarker1"_s,    "markerSpinBox4"_s,          "buttonClearMarkers"_s,  "checkBoxAllMeasurings"_s,
+            "highlightSpinBox"_s, "buttonDeleteMeasurement"_s, "comboBoxClock"_s};
+        OsziBench bench;
+        QStringList met;
+        for (QWidget *next = bench.tab.nextInFocusChain(); next != &bench.tab; next = next->nextInFocusChain()) {
+            if (next->focusPolicy() & Qt::TabFocus && expected.contains(next->objectName()))
+                met << next->objectName();
+        }
+        QCOMPARE(met, expected);
+    }
+
     void markerEdited_data()
     {
         columns<int, double, int>("number", "seconds", "milliseconds");
         row("rounded up, not truncated", 1, 1.2345, 1235);
         row("whole", 4, 12.0, 12000);
-        row("not a hair below", 2, 1.001, 1001);
+        row("not a millisecond less", 2, 1.001, 1001);
         row("beyond what fits", 3, 1e12, 2147483000);
     }
 
@@ -190,12 +207,12 @@ private slots:
         bench.tab.setMaximumSensorRange(0, 2, 0.0, 100.0);
         QCOMPARE(bench.tab.row(2)->maxValue(), 100.0);
         QCOMPARE(bench.model.osziMinimum(2), 0.0);
-        bench.tab.setMaximumSensorRange(0, 2, 300.0, 500.0); // nothing of what was shown is left
+        bench.tab.setMaximumSensorRange(0, 2, 300.0, 500.0); // nothing of what was shown lies within
         QCOMPARE(bench.find<QDoubleSpinBox>("minSpinBox", 3)->value(), 300.0);
         QCOMPARE(bench.tab.row(2)->minValue(), 300.0);
         QCOMPARE(bench.model.osziMaximum(2), 500.0);
 
-        bench.model.setOsziMinimum(2, -9000.0); // of a project that was saved with other limits
+        bench.model.setOsziMinimum(2, -9000.0); // from a project that was saved with other limits
         bench.model.setOsziMaximum(2, 9000.0);
         bench.model.setOsziMinimum(3, 7.0);
         bench.model.setOsziMaximum(3, 7.0);
@@ -262,9 +279,9 @@ private slots:
     void wheelKeepsTheTimeUnderThePointer_data()
     {
         columns<int, int, bool>("from", "delta", "changes");
-        row("nearer", 1, 360, true);
-        row("further", 10, -240, true);
-        row("at the far end", 1, -120, false);
+        row("in", 1, 360, true);
+        row("out", 10, -240, true);
+        row("out at the smallest zoom", 1, -120, false);
         row("a fraction of a step", 5, 40, false);
     }
 
@@ -293,7 +310,7 @@ private slots:
             false);
         row("Shift along the values", Qt::LeftButton, Qt::KeyboardModifiers(Qt::ShiftModifier), QPoint(5, 30), 500,
             true);
-        row("a plain drag is the read-out's", Qt::LeftButton, Qt::KeyboardModifiers(), QPoint(-100, 10), 500, false);
+        row("without a key: moves the read-out", Qt::LeftButton, Qt::KeyboardModifiers(), QPoint(-100, 10), 500, false);
     }
 
     void dragPansOneAxis()
@@ -317,10 +334,10 @@ private slots:
 
     void gesturesOnTheValueAxis_data()
     {
-        // keys: none: a double click
+        // no keys: a double click
         columns<QKeySequence, double, double>("keys", "minimum", "maximum");
-        row("nearer", QKeySequence(Qt::CTRL + Qt::Key_Plus), 20.0, 180.0);
-        row("further", QKeySequence(Qt::CTRL + Qt::Key_Minus), -25.0, 225.0);
+        row("in", QKeySequence(Qt::CTRL + Qt::Key_Plus), 20.0, 180.0);
+        row("out", QKeySequence(Qt::CTRL + Qt::Key_Minus), -25.0, 225.0);
         row("up", QKeySequence(Qt::Key_Up), 20.0, 220.0);
         row("F fits 11 to 110", QKeySequence(Qt::Key_F), 6.0, 115.0);
         row("double click", QKeySequence(), 6.0, 115.0);
