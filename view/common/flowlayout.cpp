@@ -1,4 +1,4 @@
-#include "view/oscilloscope/taboszilloscope_flow.h"
+#include "view/common/flowlayout.h"
 
 #include <QWidget>
 
@@ -11,7 +11,7 @@ bool takesMore(const QLayoutItem &item)
     return item.expandingDirections().testFlag(Qt::Horizontal);
 }
 
-/// What an item has to have; one that takes more can do with less than it would like.
+/// What an item needs at least: its size hint, or less if it expands.
 int leastWidth(const QLayoutItem &item)
 {
     const int wanted = item.sizeHint().width();
@@ -64,7 +64,7 @@ QVector<FlowLayout::Line> FlowLayout::linesFor(int width) const
     for (QLayoutItem *item : m_items) {
         if (item->isEmpty())
             continue;
-        const int least = std::min(leastWidth(*item), width);
+        const int least = std::min(leastWidth(*item), width); // a line holds one group, however narrow it is
         const bool fits = !lines.isEmpty() && lines.last().width + m_horizontalGap + least <= width;
         if (!fits)
             lines.append(Line());
@@ -136,7 +136,7 @@ void FlowLayout::stretch(const Line &line, QRect area) const
         const int factor = stretchOf(*item);
         const int share = factor > 0 ? spare * factor / factors : 0;
         const int width = std::min(leastWidth(*item), area.width()) + share;
-        factors -= factor;
+        factors -= factor; // the last one gets what rounding left
         spare -= share;
         item->setGeometry(QRect(x, area.top(), width, area.height()));
         x += width + m_horizontalGap;
@@ -147,13 +147,14 @@ void FlowLayout::spread(const Line &line, QRect area) const
 {
     const int gaps = static_cast<int>(line.items.size()) - 1;
     const int spare = std::max(area.width() - line.width, 0);
-    const int granted = std::min(spare, line.wishes); // the rest is shared
+    const int granted = std::min(spare, line.wishes);
     const int rest = spare - granted;
     int x = area.left();
     int wishes = 0;
     for (int i = 0; i < line.items.size(); ++i) {
         QLayoutItem *item = line.items.at(i);
         const int least = std::min(leastWidth(*item), area.width());
+        // The difference of two running totals: rounding each share on its own would lose pixels at the end.
         const int before = line.wishes > 0 ? wishes * granted / line.wishes : 0;
         wishes += std::min(item->sizeHint().width(), area.width()) - least;
         const int grant = line.wishes > 0 ? wishes * granted / line.wishes - before : 0;

@@ -3,10 +3,10 @@
 #include <QLayout>
 #include <QVector>
 
-/// Lays groups of controls out in lines from left to right and breaks a line where the next group does not fit, so
-/// that the same controls serve a narrow window in several lines and a wide one in few. Groups that expand count with
-/// their smallest width there. A group may be such a layout itself. What remains of a line goes to the groups with a
-/// stretch factor; without any, first to those that would like more, then in equal shares between the groups.
+/// Lays out groups of controls in lines from left to right and breaks a line where the next group does not fit, so that
+/// the same controls take several lines in a narrow window and few in a wide one. A group that expands is measured by
+/// its smallest width for that. A group may contain such a layout itself. The rest of a line is given to the groups
+/// with a stretch factor; if there are none, first to those whose size hint is wider, then to the gaps in equal shares.
 class FlowLayout : public QLayout
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ public:
     [[nodiscard]] int heightForWidth(int width) const override;
     /// All in one line.
     [[nodiscard]] QSize sizeHint() const override;
-    /// As wide as the widest that does not break, as high as the present width demands.
+    /// As wide as the widest group that cannot break, as high as the present width requires.
     [[nodiscard]] QSize minimumSize() const override;
     void setGeometry(const QRect &rect) override;
 
@@ -32,7 +32,7 @@ private:
     struct Line
     {
         QVector<QLayoutItem *> items;
-        int width = 0;  ///< of the items at their least and the gaps between them
+        int width = 0;  ///< of the items at their least width and the gaps between them
         int wishes = 0; ///< what the items would like beyond that
         int height = 0;
     };

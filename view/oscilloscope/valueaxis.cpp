@@ -1,21 +1,13 @@
-#include "view/oscilloscope/taboszilloscope_axes.h"
+#include "view/oscilloscope/valueaxis.h"
 
-#include "plots/oscilloscope/osziwidget.h"
+#include "plots/oscilloscope/plotgeometry.h"
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
-namespace osziaxes {
+namespace valueaxis {
 
 namespace {
-
-constexpr qint64 kLargest = std::numeric_limits<int>::max();
-
-int toIndex(qint64 value)
-{
-    return static_cast<int>(std::clamp<qint64>(value, 0, kLargest));
-}
 
 /// The decimal step that has about three digits of the span: numbers that a person would type.
 double roundStep(double width)
@@ -23,11 +15,12 @@ double roundStep(double width)
     return std::pow(10.0, std::floor(std::log10(std::max(width, kNarrowestSpan))) - 2.0);
 }
 
-/// Rounds both ends to the step; a division by its inverse keeps 0.1 at 0.1.
+/// Rounds both ends to the step.
 ValueSpan roundedSpan(ValueSpan span, double (*low)(double), double (*high)(double))
 {
     const double step = roundStep(span.maximum - span.minimum);
     const double inverse = std::round(1.0 / step);
+    // Dividing by the whole inverse keeps 0.1 at 0.1, which a product with 0.01 does not.
     if (inverse > 1.0)
         return {low(span.minimum * inverse) / inverse, high(span.maximum * inverse) / inverse};
     return {low(span.minimum / step) * step, high(span.maximum / step) * step};
@@ -55,53 +48,21 @@ bool isShowable(ValueSpan span)
     return span.minimum < span.maximum - 0.0001;
 }
 
-int visibleSamples(int width, int zoom)
+double valuePerPixel(const PlotGeometry &geometry)
 {
-    return std::max(width - OsziWidget::kLeftMargin, 0) / std::max(zoom, 1);
+    return geometry.span() / std::max(geometry.plotHeight(), 1);
 }
 
-ScrollState scrollState(int samples, int visible)
+double valueAt(const PlotGeometry &geometry, int y)
 {
-    if (samples < visible)
-        return {};
-    return {true, samples - visible, visible / 2};
-}
-
-bool followsEnd(int start, int samples, int visible)
-{
-    return start >= samples - visible - kFollowDistance;
-}
-
-int sampleAt(int x, int startIndex, int zoom)
-{
-    const double column = static_cast<double>(x - OsziWidget::kLeftMargin) / std::max(zoom, 1);
-    return toIndex(qint64(startIndex) + qRound64(column));
-}
-
-int steppedZoom(int zoom, int steps)
-{
-    for (; steps > 0 && zoom < kMaximumZoom; --steps)
-        zoom = std::max(zoom + 1, qRound(zoom * 1.25));
-    for (; steps < 0 && zoom > 1; ++steps)
-        zoom = std::min(zoom - 1, qRound(zoom / 1.25));
-    return std::clamp(zoom, 1, kMaximumZoom);
-}
-
-int startAfterZoom(int x, int startIndex, int oldZoom, int newZoom)
-{
-    const int pixels = x - OsziWidget::kLeftMargin;
-    return toIndex(qint64(startIndex) + pixels / std::max(oldZoom, 1) - pixels / std::max(newZoom, 1));
-}
-
-int toMilliseconds(int sample, int clock)
-{
-    return static_cast<int>(std::clamp<qint64>(qint64(sample) * clock, std::numeric_limits<int>::min(), kLargest));
+    const int bottom = geometry.margin + std::max(geometry.plotHeight(), 1);
+    return geometry.minValue + (bottom - y) * valuePerPixel(geometry);
 }
 
 ValueSpan fittedSpan(double lowest, double highest)
 {
     double air = (highest - lowest) / 20.0;
-    if (!(air > 0.0))
+    if (!(air > 0.0)) // a constant curve has no range to take a share of
         air = std::max(std::abs(highest) / 20.0, 1.0);
     return roundedSpan({lowest - air, highest + air}, down, up);
 }
@@ -132,4 +93,4 @@ ValueSpan boundedSpan(ValueSpan span, ValueSpan limits)
     return {std::max(span.minimum, limits.minimum), span.maximum};
 }
 
-} // namespace osziaxes
+} // namespace valueaxis
