@@ -42,6 +42,7 @@ private slots:
 
     void cleanup()
     {
+        QLocale::setDefault(QLocale::c());
         m_page.reset();
         m_model.reset();
     }
@@ -68,6 +69,15 @@ private slots:
         QCOMPARE(cell(1, RuntimeTableModel::Pause), "30"_s);
         QCOMPARE(cell(2, RuntimeTableModel::Pause), QString());
         QCOMPARE(cell(3, RuntimeTableModel::Pause), "29.5"_s);
+    }
+
+    void figuresHaveADecimalPointInEveryLanguage()
+    {
+        QLocale::setDefault(QLocale(QLocale::German));
+        addShot(*m_model, shotOf(12, 100, 47), 1.0);
+        m_page->update();
+        QCOMPARE(rowTexts(0).mid(2, 4), QStringList({"1.2"_s, "9.9"_s, "11.1"_s, "15"_s}));
+        QCOMPARE(cell(1, RuntimeTableModel::Start), "1.2"_s);
     }
 
     void summariesGetTheirLists()
