@@ -11,7 +11,7 @@
 namespace {
 
 constexpr int kWidestSample = 10; // pixels
-constexpr int kUsualCount = 200;  // samples that the time axis has room for while there are none
+constexpr int kUsualCount = 200;  // samples that fit into the width while there are none
 
 } // namespace
 

@@ -1,13 +1,12 @@
 #pragma once
 
 #include "plots/evaluation/common/trendgeometry.h"
+#include "plots/evaluation/dashboard/tile.h"
 
-#include <QAbstractButton>
 #include <QColor>
 
-/// A tile of the dashboard, and a button: what a sensor's newest shot gave, whether it keeps its limits, and how the
-/// last shots went.
-class DashboardTile : public QAbstractButton
+/// The tile of one sensor: the value of its newest shot, whether it keeps its limits, and the trend of the last shots.
+class DashboardTile final : public Tile
 {
     Q_OBJECT
 
@@ -39,18 +38,12 @@ public:
     /// What the badge says: the Cpk, or why there is none.
     [[nodiscard]] QString verdict() const;
 
-    [[nodiscard]] QSize sizeHint() const override;
-    [[nodiscard]] QSize minimumSizeHint() const override;
-
 protected:
-    void changeEvent(QEvent *event) override;
-    void enterEvent(QEvent *event) override;
-    void leaveEvent(QEvent *event) override;
+    void describe() override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
     [[nodiscard]] QString limitsText() const;
-    void describe();
     void drawHead(QPainter &painter, const QRect &area) const;
     void drawValue(QPainter &painter, const QRect &area) const;
     void drawBadge(QPainter &painter, const QRect &area) const;
@@ -59,8 +52,3 @@ private:
 
     Content m_content;
 };
-
-/// The frame that all tiles of the dashboard have: a card with a coloured edge; it shows hovering, pressing and focus.
-void drawTileFrame(QPainter &painter, const QAbstractButton &tile, const QColor &edge);
-/// What the frame leaves for the contents.
-[[nodiscard]] QRect tileContents(const QAbstractButton &tile);

@@ -12,6 +12,12 @@ enum class AlignBy {
     Falling, ///< where they first come down to it from above
 };
 
+/// True where the shots are lined up by a threshold that they cross.
+[[nodiscard]] inline bool usesThreshold(AlignBy by)
+{
+    return by == AlignBy::Rising || by == AlignBy::Falling;
+}
+
 struct AlignmentRule
 {
     AlignBy by = AlignBy::Start;

@@ -81,7 +81,7 @@ void OverlayShots::align(OverlayShot &shot)
 {
     if (shot.isPlaced())
         return;
-    if (m_rule.by == AlignBy::Rising || m_rule.by == AlignBy::Falling)
+    if (usesThreshold(m_rule.by))
         m_work += std::max(0, shot.samples.size() - shot.searched);
     shot.aligned = alignedSample(shot.samples, m_rule, shot.searched);
     shot.searched = std::max(1, shot.samples.size());

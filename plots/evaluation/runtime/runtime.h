@@ -1,8 +1,16 @@
 #pragma once
 
+#include <QList>
 #include <QVector>
 
 #include <vector>
+
+/// The thresholds of one sensor, in its unit.
+struct RuntimeThresholds
+{
+    double start = 0.0;
+    double stop = 0.0;
+};
 
 /// What a shot is measured against. Values are compared after the offset was added.
 struct RuntimeCriteria
@@ -44,6 +52,17 @@ struct ShotRuntime
 /// The result for a list that has only grown at its end since `before`: looks at the new samples alone.
 [[nodiscard]] ShotRuntime extendedRuntime(const ShotRuntime &before, const QVector<double> &samples,
                                           const RuntimeCriteria &criteria);
+
+/// The figures of all shots that the box plots show, in seconds.
+struct RuntimeSummary
+{
+    QList<double> starts;
+    QList<double> durations; ///< only of shots whose start and stop differ
+    QList<double> stops;
+    double longestTime = 0.0; ///< total time of the longest shot
+};
+
+[[nodiscard]] RuntimeSummary runtimeSummary(const std::vector<ShotRuntime> &results);
 
 /// The results of all shots of one sensor. Keeps a shared copy of every list but the last, which tells for certain
 /// whether a list is still the same one, even if it was removed and its memory used again; a list that is appended to
