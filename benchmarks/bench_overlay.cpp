@@ -3,7 +3,6 @@
 #include "benchmarks/pagebench.h"
 #include "plots/evaluation/overlay/tabevaluationoverlay.h"
 
-#include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -47,14 +46,14 @@ void thresholdChanged(benchmark::State &state)
     }
 }
 
-// The caches are of one sensor: everything is found out anew.
+// The caches are of one sensor: everything is computed again.
 void sensorSwitched(benchmark::State &state)
 {
     Bench bench(state);
     int sensor = 0;
     for (auto _ : state) {
         sensor = 1 - sensor;
-        bench.page.findChild<QAbstractButton *>(QStringLiteral("sensorButton%1").arg(sensor))->setChecked(true);
+        bench.chooseSensor(sensor);
         bench.page.repaint();
     }
 }
@@ -90,8 +89,3 @@ BENCHMARK(rowChosen)->Apply(manyShots);
 BENCHMARK_TEMPLATE(sampleArrived, Bench)->Apply(manyShots);
 
 } // namespace
-
-int main(int argc, char **argv)
-{
-    return runPageBenchmarks(argc, argv);
-}
