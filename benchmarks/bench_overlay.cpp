@@ -18,7 +18,7 @@ double cycle(int shot, int sample, int samplesPerShot)
     return 100.0 - 90.0 * std::cos(phase) + (sample * 31 + shot * 17) % 7;
 }
 
-// With everything switched on: aligned by a threshold, a reference, mean and band.
+// With everything switched on: alignment by a threshold, a reference, mean and band.
 struct Bench : ModelPageBench<TabEvaluationOverlay>
 {
     explicit Bench(const benchmark::State &state)
@@ -29,7 +29,7 @@ struct Bench : ModelPageBench<TabEvaluationOverlay>
         find<QCheckBox>("checkMean")->setChecked(true);
         find<QCheckBox>("checkBand")->setChecked(true);
         auto *alignment = find<QComboBox>("comboAlignment");
-        alignment->setCurrentIndex(alignment->count() - 2); // the threshold, coming from below
+        alignment->setCurrentIndex(alignment->count() - 2); // the rising threshold
         threshold->setValue(100.0);
         QApplication::processEvents();
     }
@@ -46,7 +46,7 @@ void thresholdChanged(benchmark::State &state)
     }
 }
 
-// The caches are of one sensor: everything is computed again.
+// Only one sensor is cached: everything is computed again.
 void sensorSwitched(benchmark::State &state)
 {
     Bench bench(state);
@@ -58,13 +58,13 @@ void sensorSwitched(benchmark::State &state)
     }
 }
 
-// A measurement was removed meanwhile, so that the page kept nothing.
+// While the page was hidden the measurements changed, so that it kept nothing.
 void pageShown(benchmark::State &state)
 {
     Bench bench(state);
     for (auto _ : state) {
         bench.page.hide();
-        (void)bench.model->appendMeasurement(0); // only the change counts
+        (void)bench.model->appendMeasurement(0); // any change of the structure will do
         bench.model->emitDataChanged();
         bench.page.show();
         bench.page.repaint();

@@ -9,7 +9,7 @@ namespace {
 
 using Bench = ModelPageBench<TabEvaluationRuntime>;
 
-// No sample lies below either threshold: every shot is searched to its end, from both sides.
+// No sample is below either threshold: every shot is searched completely, from both sides.
 void thresholdChanged(benchmark::State &state)
 {
     Bench bench(state);

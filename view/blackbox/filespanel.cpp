@@ -124,6 +124,6 @@ void FilesPanel::retranslateUi()
     m_step->setAccessibleName(tr("Datei in der Vorschau"));
     m_step->setToolTip(tr("Vorige und nächste Datei des Tages ansehen"));
     m_files.retranslate();
-    m_preview->update(); // its caption is put into words when it is painted
+    m_preview->update(); // it composes its caption while painting
     updateState();
 }

@@ -9,7 +9,7 @@ class FilesPanel;
 class TransferBar;
 
 /// The tab "BlackBox": left the days that the box has logged, right the files of the chosen day. Owns the days and
-/// their ticks. Only asks for what the user wants; whoever listens does it and reports back.
+/// their ticks. Only emits what the user wants; the listener does it and reports back.
 class TabBlackBox : public QWidget
 {
     Q_OBJECT
@@ -30,14 +30,14 @@ public:
     /// "3 von 7" and a ring that fills up; whatever would start another transfer is disabled meanwhile. 0 of 0:
     /// nothing is being transferred.
     void setTransferProgress(int done, int total);
-    /// The logger files of a day (dd.mm.yyyy) are on this computer now: all of them, also those of before. A text that
-    /// is no date is logged and ignored.
+    /// The logger files of a day (dd.mm.yyyy) that are on this computer now, including those that were known before. A
+    /// text that is no date is logged and ignored.
     void addFetchedFiles(const QString &date, const QStringList &absoluteFiles);
     /// Logger files of a local folder, absolute. Shown above the days.
     void addLocalFiles(const QStringList &files);
     /// The fingerprints of the files whose measurements the project holds.
     void setImportedFiles(const QSet<QByteArray> &fingerprints);
-    /// How the last import went; stays until the next.
+    /// How the last import went; shown until the next one.
     void setResult(const QString &text);
 
 signals:

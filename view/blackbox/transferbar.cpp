@@ -56,6 +56,6 @@ void TransferBar::setResult(const QString &text)
 void TransferBar::retranslateUi()
 {
     m_indicator->setAccessibleName(tr("Fortschritt der Übertragung"));
-    m_result->clear(); // it was put into words when the import ended
+    m_result->clear(); // its text was composed in the language before
     showProgress();
 }

@@ -64,7 +64,7 @@ void ScrolledPlot::fitTimeAxis()
     m_scrollBar->setRange(0, hidden);
     m_scrollBar->setPageStep(std::max(1, count - hidden));
     m_scrollBar->setSingleStep(std::max(1, m_scrollBar->pageStep() / 10));
-    m_scrollBar->setVisible(hidden > 0);
+    m_scrollBar->setVisible(hidden > 0); // may resize the plot, but only in height
 }
 
 bool ScrolledPlot::eventFilter(QObject *watched, QEvent *event)

@@ -6,7 +6,7 @@
 
 #include <optional>
 
-/// The tile of the dashboard that tells of the shots as such: how many there are and how long a cycle takes.
+/// The tile of the dashboard that shows how many shots there are and how long a cycle takes.
 class CycleTile final : public Tile
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ public:
     struct Content
     {
         int shots = 0;
-        std::optional<double> latestCycle; ///< seconds; none without a shot
+        std::optional<double> latestCycle; ///< seconds; std::nullopt without a shot
         std::optional<double> meanCycle;   ///< seconds
         int cyclesInMean = 0;
         QDateTime latestTimestamp; ///< of the newest shot; may be invalid

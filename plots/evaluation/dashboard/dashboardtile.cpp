@@ -82,7 +82,7 @@ QString DashboardTile::limitsText() const
     return limits.lower ? tr("ab %1").arg(figureText(*limits.lower)) : tr("bis %1").arg(figureText(*limits.upper));
 }
 
-// For those who cannot see the picture.
+// The tile is painted, so a screen reader needs its content as text.
 void DashboardTile::describe()
 {
     if (m_content.sensor.isEmpty())
@@ -113,6 +113,7 @@ void DashboardTile::drawValue(QPainter &painter, const QRect &area) const
     const QString text = m_content.latest ? figureText(*m_content.latest) : QStringLiteral("–");
     painter.setPen(isOutside ? badgeColors(CapabilityGrade::Poor).fill : theme::qColorText);
     QFont font = sizedFont(40, true);
+    // A long figure gets a smaller font: it must never be cut.
     while (font.pixelSize() > 20 && QFontMetrics(font).horizontalAdvance(text) > area.width() - 60)
         font.setPixelSize(font.pixelSize() - 2);
     painter.setFont(font);
@@ -148,7 +149,7 @@ void DashboardTile::drawSparkline(QPainter &painter, const QRect &area) const
     drawTrend(painter, geometry, m_content.lastShots, m_content.limits, m_content.color);
 }
 
-// How many shots are good, and below it what they are judged by.
+// The number of good shots, and below it the limits.
 void DashboardTile::drawCounts(QPainter &painter, const QRect &area) const
 {
     const QRect upper(area.left(), area.top() + 2, area.width(), 24);

@@ -11,7 +11,7 @@ class DashboardTile final : public Tile
     Q_OBJECT
 
 public:
-    /// Too few shots for a verdict show no colour.
+    /// With fewer shots than this there is no verdict and no colour.
     static constexpr int kFewestShots = 20;
     static constexpr int kSparklineShots = 50;
 
@@ -21,11 +21,11 @@ public:
         QString quantity;
         QString unit;
         QColor color;
-        std::optional<double> latest; ///< none if the newest shot lacks the quantity
+        std::optional<double> latest; ///< std::nullopt if the newest shot lacks the quantity
         ToleranceLimits limits;
         Capability capability;
         int count = 0;         ///< shots that have the quantity
-        int outside = 0;       ///< of them
+        int outside = 0;       ///< those outside the limits
         TrendValues lastShots; ///< up to kSparklineShots
     };
 

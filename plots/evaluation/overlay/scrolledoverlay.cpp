@@ -60,7 +60,7 @@ void ScrolledOverlay::showShots(OverlayShots &shots, const OverlayLooks &looks, 
     m_plot->samplesAppended();
 }
 
-/// Selected shots keep their colours and are drawn over the others, which fade.
+// Selected shots keep their colours and are drawn over the others, which fade.
 void ScrolledOverlay::showCurves(const OverlayShots &shots, const OverlayLooks &looks, const OverlayScene &scene,
                                  const std::vector<bool> &shown)
 {
@@ -85,7 +85,7 @@ void ScrolledOverlay::showCurves(const OverlayShots &shots, const OverlayLooks &
     showHighlighted(isThick ? shots.shots()[static_cast<size_t>(scene.current)]->id : 0);
 }
 
-/// Draws a shot thick, so that it can be read off with the mouse; an id of 0: none.
+// The highlighted curve is drawn thick and is the one whose values the mouse reads; an id of 0: none.
 void ScrolledOverlay::showHighlighted(quint64 id)
 {
     const auto slot = std::find_if(m_slots.begin(), m_slots.end(), [id](const Slot &s) { return s.id == id; });
@@ -97,7 +97,7 @@ void ScrolledOverlay::showHighlighted(quint64 id)
     m_plot->highlightSingle(highlighted);
 }
 
-/// Tells the plot only what differs: after every change it draws all its curves again.
+// Tells the plot only what differs: after every change it draws all its curves again.
 void ScrolledOverlay::setSlots(const std::vector<Slot> &wanted)
 {
     const auto isSame = [](const Slot &a, const Slot &b) {
@@ -131,7 +131,7 @@ void ScrolledOverlay::showMean(OverlayShots &shots, const OverlayScene &scene, c
     m_plot->setMean(needsMean ? &shots.meanOf(shown) : nullptr, scene.showsMean, scene.sigmas);
 }
 
-/// What the shots are lined up by: a vertical line through the aligned samples, and the threshold that they cross
+// What the shots are lined up by: a vertical line through the aligned samples, and the threshold that they cross
 /// there.
 void ScrolledOverlay::showLines(const OverlayShots &shots, const OverlayScene &scene)
 {
@@ -145,7 +145,7 @@ void ScrolledOverlay::showLines(const OverlayShots &shots, const OverlayScene &s
         m_plot->setHorizontalLine(0, scene.rule.threshold, Qt::darkGreen);
 }
 
-/// To curves, threshold and band.
+// To curves, threshold and band.
 void ScrolledOverlay::fitAxes(OverlayShots &shots, const OverlayScene &scene, const std::vector<bool> &shown,
                               const std::vector<bool> &drawn)
 {

@@ -12,7 +12,7 @@ class OverlayPlot;
 class OverlayShots;
 struct OverlayShot;
 
-/// What is to be seen of an overlay.
+/// How the shots of an overlay are drawn.
 struct OverlayScene
 {
     AlignmentRule rule;

@@ -68,8 +68,8 @@ bool RuntimeCache::isKnown(size_t shot, const QVector<double> &samples) const
            && m_results[shot].count == samples.size();
 }
 
-// Removals move results to smaller indices; order stays, so one walk over both finds every result that is still good.
-// A result that is not found here is dropped and computed again.
+// Removals move results to smaller indices; the order stays, so one pass over both finds every result that is still
+// valid. A result that is not found here is dropped and computed again.
 void RuntimeCache::alignTo(const Shots &shots)
 {
     size_t kept = 0;

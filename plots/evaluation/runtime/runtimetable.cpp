@@ -47,7 +47,7 @@ RuntimeTable::RuntimeTable(QWidget *parent)
     setModel(m_rows);
     setMaximumWidth(kWidestTable);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    horizontalHeader()->setStretchLastSection(true);
+    horizontalHeader()->setStretchLastSection(true); // so fitColumns() leaves the last one alone
     retranslateUi();
 }
 

@@ -61,7 +61,7 @@ void RuntimeTableModel::setRows(const std::vector<RuntimeRow> &rows)
         return;
     const auto changedFrom = static_cast<int>(std::distance(m_rows.begin(), first));
     std::copy(newFirst, rows.end(), first);
-    computeSummary();
+    computeSummary(); // before the announcement, which includes the two last rows
     emit dataChanged(index(changedFrom, 0), index(rowCount() - 1, NumColumns - 1));
 }
 

@@ -106,6 +106,7 @@ void TabEvaluationRuntime::setThresholds(int sensor, double start, double stop)
                                          << " stop=" << stop;
     if (!isSensor(sensor) || !std::isfinite(start) || !std::isfinite(stop))
         return;
+    // Bounded here, too, as other sensors' thresholds are not in the fields.
     m_thresholds[static_cast<size_t>(sensor)] = ThresholdFields::bounded({start, stop});
     if (sensor != m_currentSensor)
         return;

@@ -14,7 +14,7 @@ class LimitsPanel final : public TranslatedWidget
 public:
     explicit LimitsPanel(QWidget *parent = nullptr);
 
-    /// As the user left them.
+    /// As they are in the two fields.
     [[nodiscard]] ToleranceLimits limits() const;
     /// Emits nothing. The unit may be empty.
     void set(const QVector<double> &values, const ToleranceLimits &limits, const QString &unit);

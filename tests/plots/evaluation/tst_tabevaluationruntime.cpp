@@ -133,7 +133,7 @@ private slots:
         QTableView *table = child<QTableView>("tableRuntime");
         table->setCurrentIndex(table->model()->index(0, 3));
         QCOMPARE(*plot->curve(0), shotOf(1, 2, 3));
-        m_page->onCellClicked(3, 0); // the mean is no shot
+        m_page->onCellClicked(3, 0); // the row of means is no shot
         QCOMPARE(m_page->shownShot(), 0);
 
         addShot(*m_model, shotOf(1, 1, 1), 1.0);
@@ -143,7 +143,8 @@ private slots:
         QCOMPARE(plot->curve(0)->at(0), 302.0);
     }
 
-    // Signals stay blocked where a deletion fails half-way; the sanitizer would report what is drawn after that.
+    // Signals stay blocked where a deletion fails half-way; a plot that still drew removed samples would read freed
+    // memory.
     void plotSurvivesRemovalItWasNotToldOf()
     {
         addShot(*m_model, shotOf(50, 50, 50), 1.0);
