@@ -1,4 +1,5 @@
 #include "plots/oscilloscope/osziwidget.h"
+#include "view/common/cyclephases.h"
 #include "view/common/logging.h"
 #include "view/oscilloscope/oszirowcontrols.h"
 #include "view/oscilloscope/taboszilloscope_p.h"
@@ -12,25 +13,14 @@
 #include <algorithm>
 #include <limits>
 
-namespace {
-
-const std::array<QColor, Model::kNumMarkers> &markerColors()
-{
-    static const std::array<QColor, Model::kNumMarkers> colors{QColor(0x8e, 0x24, 0xaa), QColor(0x00, 0x77, 0xb6),
-                                                               QColor(0x2e, 0x7d, 0x32), QColor(0xe6, 0x51, 0x00)};
-    return colors;
-}
-
-} // namespace
-
 QColor TabOszilloscope::markerColor(int index)
 {
-    return index >= 0 && index < Model::kNumMarkers ? markerColors().at(static_cast<size_t>(index)) : QColor();
+    return cyclephases::markerColor(index);
 }
 
 int TabOszilloscope::markerOfPhase(int phase)
 {
-    return std::clamp(phase, 0, Model::kNumMarkers - 1);
+    return cyclephases::markerOfPhase(phase);
 }
 
 // --- From the user ---
