@@ -3,9 +3,9 @@
 #include <QDateTime>
 #include <QTextStream>
 
-QString withSuffix(const QString &fileName, const QString &suffix)
+QString withSuffix(const QString &fileName, const QString &suffix, Qt::CaseSensitivity sensitivity)
 {
-    return fileName.endsWith(suffix) ? fileName : fileName + suffix;
+    return fileName.endsWith(suffix, sensitivity) ? fileName : fileName + suffix;
 }
 
 bool writeTerminal(QIODevice &target, const QString &text, const QDateTime &savedAt)

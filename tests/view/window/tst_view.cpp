@@ -261,10 +261,10 @@ private slots:
         const auto *label = bench.view->findChild<QLabel *>("labelProjectFile"_s);
         QCOMPARE(label->text(), "Neues Projekt"_s);
         bench.model.setCurrentFile("/daten/deckel.vnt"_s);
-        bench.model.setProjectModifiedFlag(true); // the model tells nobody
-        QTRY_COMPARE(label->text(), "deckel.vnt – geändert"_s);
+        bench.model.setProjectModifiedFlag(true);
+        QCOMPARE(label->text(), "deckel.vnt – geändert"_s);
         bench.model.setProjectModifiedFlag(false);
-        QTRY_COMPARE(label->text(), "deckel.vnt – gespeichert"_s);
+        QCOMPARE(label->text(), "deckel.vnt – gespeichert"_s);
     }
 
     void editInTheProjectTabIsNotLost()
