@@ -1,9 +1,11 @@
 #pragma once
 
+#include "view/window/pages.h"
+
 #include <QObject>
 
+class MainWindow;
 class Model;
-class View;
 
 /// The files that the window itself writes: the terminal's text, a picture of the oscilloscope, the samples as CSV.
 /// Each is written when the window's signal of that name is emitted; what goes wrong is told in the status bar.
@@ -13,7 +15,7 @@ class Exports : public QObject
 
 public:
     /// Both must outlive this object.
-    Exports(View *view, Model *model);
+    Exports(MainWindow *window, Model *model, const Pages &pages);
 
 private:
     [[nodiscard]] bool refuseWhileBusy() const;
@@ -21,6 +23,7 @@ private:
     void saveOszi() const;
     void saveCsv() const;
 
-    View *m_view;
+    MainWindow *m_window;
     Model *m_model;
+    Pages m_pages;
 };

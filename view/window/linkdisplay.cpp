@@ -5,9 +5,9 @@
 #include "view/box/tabwebconfig.h"
 #include "view/home/tabhome.h"
 #include "view/terminal/tabdatalogger.h"
+#include "view/window/mainwindow.h"
 #include "view/window/pagetable.h"
 #include "view/window/statusdisplay.h"
-#include "view/window/view.h"
 #include "view/window/viewactions.h"
 
 #include <QAction>
@@ -23,11 +23,12 @@ QString titleText(bool connected)
 
 } // namespace
 
-LinkDisplay::LinkDisplay(View *view, ViewActions &actions, StatusDisplay &status)
-    : m_view(view)
+LinkDisplay::LinkDisplay(MainWindow *window, ViewActions &actions, const Pages &pages, StatusDisplay &status)
+    : m_window(window)
     , m_actions(actions)
+    , m_pages(pages)
     , m_status(status)
-    , m_progress(new ConnectionProgress(view))
+    , m_progress(new ConnectionProgress(window))
 {
     connect(m_progress, &ConnectionProgress::cancelled, this, &LinkDisplay::cancelProgress);
     connect(actions.connectBox, &QAction::triggered, this, &LinkDisplay::connectOrCancel);
@@ -37,41 +38,41 @@ void LinkDisplay::showConnected(bool connected)
 {
     m_actions.showLink(connected);
     const ActionState others = connected ? ActionState::Normal : ActionState::Disabled;
-    m_view->setActionState(Actions::Connect, connected ? ActionState::Active : ActionState::Normal);
-    m_view->setActionState(Actions::Calibrate, others);
-    m_view->setActionState(Actions::Recording, others);
+    m_window->setActionState(Actions::Connect, connected ? ActionState::Active : ActionState::Normal);
+    m_window->setActionState(Actions::Calibrate, others);
+    m_window->setActionState(Actions::Recording, others);
     // The last word: calibration and recording end up enabled, without a connection too.
-    m_view->setRecordingRunning(false);
-    m_view->setWindowTitle(titleText(connected));
+    m_window->setRecordingRunning(false);
+    m_window->setWindowTitle(titleText(connected));
     if (!connected)
         return;
     const QVector<int> opened = PageTable::openedByConnection();
     for (int page : opened)
-        m_view->setTabEnabled(page, true);
+        m_window->setTabEnabled(page, true);
 }
 
 void LinkDisplay::showRecording(bool running)
 {
     const bool started = running && !m_isRecording;
     m_isRecording = running;
-    m_view->setActionState(Actions::Recording, running ? ActionState::Active : ActionState::Normal);
+    m_window->setActionState(Actions::Recording, running ? ActionState::Active : ActionState::Normal);
     m_actions.showRecording(running); // after the state, which brings the icon of a recording that is not running
-    m_view->setActionState(Actions::Calibrate, ActionState::Normal);
-    m_view->tabHome()->setRecording(running);
-    if (started && m_view->tabLogger()->isAnySensorChecked())
-        emit m_view->loggerHeadline();
+    m_window->setActionState(Actions::Calibrate, ActionState::Normal);
+    m_pages.home->setRecording(running);
+    if (started && m_pages.logger->isAnySensorChecked())
+        emit m_window->loggerHeadline();
 }
 
 void LinkDisplay::showDemo(DemoState state)
 {
     m_status.showDemo(state == DemoState::Starting || state == DemoState::Running);
-    m_view->tabHome()->setDemoState(state);
+    m_pages.home->setDemoState(state);
 }
 
 void LinkDisplay::showAddress(const QString &address)
 {
-    m_view->tabWebConfig()->setAddress(address);
-    m_view->tabHome()->setAddress(address);
+    m_pages.webConfig->setAddress(address);
+    m_pages.home->setAddress(address);
 }
 
 // --- The attempt to connect --------------------------------------------------------------------------------------
@@ -79,13 +80,13 @@ void LinkDisplay::showAddress(const QString &address)
 void LinkDisplay::showProgress(const QString &text)
 {
     m_progress->showText(text);
-    m_view->tabHome()->setConnecting(true);
+    m_pages.home->setConnecting(true);
 }
 
 void LinkDisplay::hideProgress()
 {
     m_progress->hide();
-    m_view->tabHome()->setConnecting(false);
+    m_pages.home->setConnecting(false);
 }
 
 bool LinkDisplay::isProgressShown() const
@@ -95,8 +96,8 @@ bool LinkDisplay::isProgressShown() const
 
 void LinkDisplay::cancelProgress()
 {
-    m_view->hideProgress();
-    emit m_view->progressCancelled();
+    m_window->hideProgress();
+    emit m_window->progressCancelled();
 }
 
 void LinkDisplay::connectOrCancel()
@@ -104,5 +105,5 @@ void LinkDisplay::connectOrCancel()
     if (isProgressShown())
         cancelProgress();
     else
-        emit m_view->connectDisconnect();
+        emit m_window->connectDisconnect();
 }

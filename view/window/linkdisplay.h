@@ -1,12 +1,13 @@
 #pragma once
 
 #include "view/common/demostate.h"
+#include "view/window/pages.h"
 
 #include <QObject>
 
 class ConnectionProgress;
+class MainWindow;
 class StatusDisplay;
-class View;
 struct ViewActions;
 
 /// What the window shows of the link to the box: the connection and the attempt to connect, the recording, the
@@ -17,7 +18,7 @@ class LinkDisplay : public QObject
 
 public:
     /// All must outlive this object.
-    LinkDisplay(View *view, ViewActions &actions, StatusDisplay &status);
+    LinkDisplay(MainWindow *window, ViewActions &actions, const Pages &pages, StatusDisplay &status);
 
     void showConnected(bool connected);
     void showRecording(bool running);
@@ -32,9 +33,10 @@ private:
     void cancelProgress();
     void connectOrCancel();
 
-    View *m_view;
+    MainWindow *m_window;
     ViewActions &m_actions;
+    Pages m_pages;
     StatusDisplay &m_status;
-    ConnectionProgress *m_progress; ///< owned by the view
+    ConnectionProgress *m_progress; ///< owned by the window
     bool m_isRecording = false;
 };

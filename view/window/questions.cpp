@@ -2,7 +2,6 @@
 
 #include "app/theme.h"
 #include "view/common/logging.h"
-#include "view/window/exportfiles.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -128,7 +127,7 @@ QString Questions::saveFileWithSuffix(const QString &title, const QString &filte
     const QString chosen = saveFile(title, filter);
     if (chosen.isEmpty())
         return chosen;
-    const QString file = withSuffix(chosen, suffix, sensitivity);
+    const QString file = chosen.endsWith(suffix, sensitivity) ? chosen : chosen + suffix;
     if (file == chosen || !QFileInfo::exists(file))
         return file;
     const QString text = tr("Die Datei \"%1\" ist schon vorhanden. Überschreiben?").arg(QDir::toNativeSeparators(file));

@@ -1,29 +1,31 @@
 #include "view/window/view.h"
 
-#include "app/theme.h"
 #include "model/model.h"
 #include "view/common/inputcommit.h"
 #include "view/common/logging.h"
-#include "view/common/tabstyle.h"
 #include "view/oscilloscope/taboszilloscope.h"
 #include "view/sensors/tabsensors.h"
 #include "view/terminal/tabdatalogger.h"
 #include "view/terminal/tabterminal.h"
-#include "view/window/viewsignals.h"
 #include "view/window/windowparts.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QCloseEvent>
+#include <QTabWidget>
 
 View::View(Model *model, std::unique_ptr<UserPrompts> prompts)
     : m_model(model)
 {
     qCDebug(lcView) << Q_FUNC_INFO;
-    setWindowTitle(theme::applicationName);
-    setStyleSheet(tabstyle::windowSheet());
     d = std::make_unique<WindowParts>(this, model, std::move(prompts));
     m_pages = d->pages.pages();
-    viewsignals::connectAll(this, d->actions, model);
+    connect(d->actions.menu, &QAction::triggered, this, &View::menu);
+    connect(m_pages.tabs, &QTabWidget::currentChanged, this, &View::onTabSelected);
+    connect(model, &Model::appStateChanged, this, &View::onModel_appStateChanged);
+    connect(model, &Model::projectChanged, this, &View::onModel_ProjectChanged);
+    connect(model, &Model::dataChanged, this, &View::onModel_DataChanged);
+    connect(model, &Model::viewDataChanged, this, &View::onModel_ViewDataChanged);
     d->readSettings();
     for (Actions action : {Actions::Connect, Actions::Calibrate, Actions::Recording})
         setActionState(action, ActionState::Normal);
@@ -34,10 +36,6 @@ View::View(Model *model, std::unique_ptr<UserPrompts> prompts)
 View::~View()
 {
     qCDebug(lcView) << Q_FUNC_INFO;
-    // The widgets go after the parts: what they report on their way out must not reach the signals and slots here.
-    const QList<QWidget *> widgets = findChildren<QWidget *>();
-    for (QWidget *widget : widgets)
-        widget->disconnect(this);
 }
 
 // --- Questions and messages --------------------------------------------------------------------------------------

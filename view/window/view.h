@@ -3,10 +3,8 @@
 #include "model/sensordescription.h"
 #include "view/common/demostate.h"
 #include "view/common/userprompts.h"
-#include "view/window/actionstate.h"
+#include "view/window/mainwindow.h"
 #include "view/window/pages.h"
-
-#include <QMainWindow>
 
 #include <array>
 #include <functional>
@@ -19,7 +17,7 @@ struct WindowParts;
 /// The main window: tool bar, tabs, and every question to the user. Turns user actions into signals that the
 /// controller handles, and redraws itself when the model reports changes. A face: every member is carried out by one of
 /// the parts that WindowParts lists.
-class View : public QMainWindow
+class View : public MainWindow
 {
     Q_OBJECT
 
@@ -53,13 +51,10 @@ public:
     void showWarning(const QString &text, const QString &title);
     /// File dialogs start in the last folder and remember the one chosen. Empty: cancelled.
     [[nodiscard]] QString askOpenFile(const QString &title, const QString &filter);
-    [[nodiscard]] QString askSaveFile(const QString &title, const QString &filter);
-    /// As askSaveFile(), for files that must end with a suffix such as ".csv": it is appended unless it is there. If
-    /// there is a file of the longer name, which the dialog could not ask about, the user is asked whether to overwrite
-    /// it, under the title of the dialog or the one given. Empty also if not.
+    [[nodiscard]] QString askSaveFile(const QString &title, const QString &filter) override;
     [[nodiscard]] QString askSaveFileWithSuffix(const QString &title, const QString &filter, const QString &suffix,
                                                 Qt::CaseSensitivity sensitivity = Qt::CaseInsensitive,
-                                                const QString &overwriteTitle = {});
+                                                const QString &overwriteTitle = {}) override;
     [[nodiscard]] QString askFolder(const QString &title);
     [[nodiscard]] std::optional<QString> askAddress(const QString &current);
     /// Which texts askAddress() lets through, and which of the addresses remembered are offered; until it is called
@@ -67,20 +62,19 @@ public:
     void setAddressValidator(std::function<bool(const QString &)> isValid);
 
     // --- State shown ---
-    void setActionState(Actions action, ActionState state);
-    void setTabEnabled(int tab, bool enabled);
-    void setConnected(bool connected);
-    void setRecordingRunning(bool running);
+    void setActionState(Actions action, ActionState state) override;
+    void setTabEnabled(int tab, bool enabled) override;
+    void setConnected(bool connected) override;
+    void setRecordingRunning(bool running) override;
     /// Tabs and actions as for an empty project.
     void reset();
     /// The connection's progress dialog: centred on the window, 100 pixels high, half the window's width. Not modal
     /// to the event loop; while it is shown the connect action, its button and the escape key hide it and emit
     /// progressCancelled().
     void showProgress(const QString &text);
-    void hideProgress();
+    void hideProgress() override;
     [[nodiscard]] bool isProgressShown() const;
-    /// Shown in the status bar for the time given, 0: until replaced.
-    void showStatus(const QString &text, int milliseconds = 10000);
+    void showStatus(const QString &text, int milliseconds = 10000) override;
     /// Adds a widget at the right of the status bar (the controller's progress bar); not owned afterwards by the view.
     void addStatusWidget(QWidget *widget);
     void setDeviceAddress(const QString &address);
@@ -106,42 +100,8 @@ public:
     /// One sample line for the data-logger tab.
     void logSample(double seconds, const std::array<double, kNumSensors> &values);
 
-signals:
-    void newProject();
-    void openProject();
-    void saveProject();
-    void saveProjectAs();
-    void importBlackBox();
-    void firmwareUpdate();
-    void connectDisconnect();
-    void calibrate();
-    void startStopRecording();
-    void quit();
-    void connectToAddress(const QString &address);
-    void startStopDemo();
-    void openImportBlackBoxData();
-    void saveOszi();
-    void saveCSV();
-    void saveTerminal();
-    void clearLogger();
-    void loggerHeadline();
-    /// The line as typed, without a line feed.
-    void terminalSend(const QString &line);
-    void terminalClear(); ///< the page has cleared itself; nothing uses it yet
-    void about();
-    // The five that follow are emitted, but nothing uses them yet: the tabs report the same with more detail.
-    void clearMarkers();
-    void commentChanged();
-    void imageButtonClicked();
-    void imageLabelClicked();
-    void offsetChanged(double offset);
-    /// The user named a project file to open otherwise than in a dialog: on the start page, or dropped onto the window.
-    void openProjectFile(const QString &fileName);
-    /// The user gave up an attempt to connect.
-    void progressCancelled();
-
 public slots:
-    void updateView();
+    void updateView() override;
     void onModel_appStateChanged();
     void onModel_ProjectChanged();
     void onModel_DataChanged();

@@ -5,22 +5,25 @@
 #include "view/oscilloscope/taboszilloscope.h"
 #include "view/terminal/tabdatalogger.h"
 #include "view/window/dialogprompts.h"
-#include "view/window/view.h"
+#include "view/window/mainwindow.h"
+#include "view/window/windowsignals.h"
 
-WindowParts::WindowParts(View *window, Model *data, std::unique_ptr<UserPrompts> prompts)
-    : view(window)
+WindowParts::WindowParts(MainWindow *face, Model *data, std::unique_ptr<UserPrompts> prompts)
+    : window(face)
     , model(data)
-    , questions(prompts ? std::move(prompts) : std::make_unique<DialogPrompts>(window))
-    , actions(window)
-    , toolBar(window, actions, languages.createLanguageMenu(window))
-    , pages(window)
-    , status(window, data)
-    , link(window, actions, status)
+    , questions(prompts ? std::move(prompts) : std::make_unique<DialogPrompts>(face))
+    , actions(face)
+    , toolBar(face, actions, languages.createLanguageMenu(face))
+    , pages(face)
+    , status(face, data)
+    , link(face, actions, pages.pages(), status)
     , display(data, pages.pages(), status)
     , recent(pages.pages().home)
-    , exports(window, data)
-    , memory(window, questions, languages)
-{}
+    , exports(face, data, pages.pages())
+    , memory(face, questions, languages)
+{
+    windowsignals::connectAll(face, actions, pages.pages());
+}
 
 void WindowParts::readSettings()
 {
@@ -31,11 +34,11 @@ void WindowParts::readSettings()
 void WindowParts::showEmptyProject()
 {
     for (int page = 0; page < pages.count(); ++page)
-        view->setTabEnabled(page, true);
-    view->setConnected(model->isConnected());
+        window->setTabEnabled(page, true);
+    window->setConnected(model->isConnected());
     pages.pages().oszi->clearDeletionField();
     pages.pages().logger->clear();
-    view->updateView();
+    window->updateView();
 }
 
 void WindowParts::retranslate()
@@ -52,7 +55,7 @@ void WindowParts::retranslate()
 void WindowParts::showAbout()
 {
     if (!about)
-        about = new AboutDialog(model, view);
+        about = new AboutDialog(model, window);
     about->show();
     about->raise();
     about->activateWindow();

@@ -18,8 +18,8 @@ class AboutDialog;
 /// it needs through its constructor; none of them sees this.
 struct WindowParts
 {
-    /// Without prompts the user is asked in dialogs. The view owns all widgets.
-    WindowParts(View *view, Model *model, std::unique_ptr<UserPrompts> prompts);
+    /// Without prompts the user is asked in dialogs. The window owns all widgets.
+    WindowParts(MainWindow *window, Model *model, std::unique_ptr<UserPrompts> prompts);
 
     /// Applies what the settings hold.
     void readSettings();
@@ -30,7 +30,7 @@ struct WindowParts
     /// Opens the dialog with the versions and licences, or brings it to the front.
     void showAbout();
 
-    View *view;
+    MainWindow *window;
     Model *model;
     Questions questions;
     ViewActions actions;
@@ -43,5 +43,5 @@ struct WindowParts
     RecentLists recent;
     Exports exports;
     WindowMemory memory;
-    AboutDialog *about = nullptr; ///< made when it is first asked for; owned by the view
+    AboutDialog *about = nullptr; ///< made when it is first asked for; owned by the window
 };
