@@ -957,6 +957,13 @@ Continue?</translation>
     </message>
 </context>
 <context>
+    <name>MainWindow</name>
+    <message>
+        <source>Der Browser konnte nicht geöffnet werden.</source>
+        <translation>The browser could not be opened.</translation>
+    </message>
+</context>
+<context>
     <name>Model</name>
     <message>
         <source>WZ schließen</source>
@@ -2484,13 +2491,6 @@ Arrow up and down: earlier lines</translation>
     <message>
         <source>Abbrechen</source>
         <translation>Cancel</translation>
-    </message>
-</context>
-<context>
-    <name>View</name>
-    <message>
-        <source>Der Browser konnte nicht geöffnet werden.</source>
-        <translation>The browser could not be opened.</translation>
     </message>
 </context>
 <context>
