@@ -91,7 +91,7 @@ struct Bench
     Model model{QString()};
     View view{&model, std::make_unique<ScriptedPrompts>()};
     MesotraConnector connector;
-    UpdateDialog dialog{&view, &connector, QString()};
+    UpdateDialog dialog{&view, {}, &connector, QString()};
 
     Bench()
     {

@@ -5,8 +5,6 @@
 class QDateTime;
 class QIODevice;
 
-/// The name with the suffix behind it, unless it ends so already; upper and lower case differ.
-[[nodiscard]] QString withSuffix(const QString &fileName, const QString &suffix);
 /// The line "Ventaro - terminal: saved on dd.MM.yyyy at hh:mm:ss", an empty line, the text. False if not every byte
 /// could be written.
 [[nodiscard]] bool writeTerminal(QIODevice &target, const QString &text, const QDateTime &savedAt);

@@ -1,12 +1,7 @@
-#include "view/window/exportfiles.h"
+#include "view/terminal/terminalfile.h"
 
 #include <QDateTime>
 #include <QTextStream>
-
-QString withSuffix(const QString &fileName, const QString &suffix)
-{
-    return fileName.endsWith(suffix) ? fileName : fileName + suffix;
-}
 
 bool writeTerminal(QIODevice &target, const QString &text, const QDateTime &savedAt)
 {
