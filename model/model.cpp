@@ -2,6 +2,7 @@
 
 #include "model/arrayindex.h"
 #include "model/logging.h"
+#include "model/project/projecteditor.h"
 
 #include <cmath>
 
@@ -14,10 +15,44 @@ double finiteOrZero(double value)
 
 } // namespace
 
+/// What the parts that read files may call of the model. Not the model itself: the log names functions by their
+/// signatures, which would begin with "virtual" then.
+class Model::Editor final : public ProjectEditor
+{
+public:
+    explicit Editor(Model &model)
+        : m_model(model)
+    {}
+    void clear() override { m_model.clear(); }
+    void setCurrentFile(const QString &absolutePath) override { m_model.setCurrentFile(absolutePath); }
+    void setProjectModifiedFlag(bool modified) override { m_model.setProjectModifiedFlag(modified); }
+    [[nodiscard]] double offset(int sensor) const override { return m_model.offset(sensor); }
+    void setOffset(int sensor, double offset) override { m_model.setOffset(sensor, offset); }
+    void setPhaseName(int phase, const QString &name) override { m_model.setPhaseName(phase, name); }
+    void setVerticalMarkerAbsolute(int index, int pos) override { m_model.setVerticalMarkerAbsolute(index, pos); }
+    void setSensorDescription(const SensorDescription &all) override { m_model.setSensorDescription(all); }
+    void setSensorName(int sensor, const QString &name) override { m_model.setSensorName(sensor, name); }
+    void setSensorMinimum(int group, int sensor, double to) override { m_model.setSensorMinimum(group, sensor, to); }
+    void setSensorMaximum(int group, int sensor, double to) override { m_model.setSensorMaximum(group, sensor, to); }
+    void setTimestamp(int shot, const QDateTime &time) override { m_model.setTimestamp(shot, time); }
+
+private:
+    Model &m_model;
+};
+
 Model::Model(const QString &fileToOpen, QObject *parent)
     : QObject(parent)
+    , m_editor(std::make_unique<Editor>(*this))
+    , m_files(*m_editor, m_project, m_changes, m_work)
+    , m_import(*m_editor, m_project, m_changes, m_work)
 {
     qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " fileToOpen=" << fileToOpen;
+    // The parts know nothing of blocked signals: a model whose signals are blocked stops them here.
+    connect(&m_changes, &ModelChanges::appStateChanged, this, &Model::appStateChanged);
+    connect(&m_changes, &ModelChanges::projectChanged, this, &Model::projectChanged);
+    connect(&m_changes, &ModelChanges::dataChanged, this, &Model::dataChanged);
+    connect(&m_changes, &ModelChanges::viewDataChanged, this, &Model::viewDataChanged);
+    connect(&m_changes, &ModelChanges::fileStateChanged, this, &Model::fileStateChanged);
     clear();
     if (!fileToOpen.isEmpty() && !open(fileToOpen))
         qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " could not open " << fileToOpen;
@@ -26,21 +61,6 @@ Model::Model(const QString &fileToOpen, QObject *parent)
 Model::~Model() = default;
 
 // --- Measurements ----------------------------------------------------------------------------------------------
-
-bool Model::hasShot(int measurement, const char *function) const
-{
-    return isIndex(measurement, at(m_project.shots.shotCount()), function);
-}
-
-bool Model::hasSensor(int sensor, const char *function)
-{
-    return isIndex(sensor, kNumSensors, function);
-}
-
-bool Model::hasMeasurement(int sensor, int measurement, const char *function) const
-{
-    return hasSensor(sensor, function) && isIndex(measurement, at(m_project.shots.count(sensor)), function);
-}
 
 bool Model::deleteChannel(int measurement)
 {

@@ -15,6 +15,7 @@
 #include <QStringList>
 
 #include <cstdint>
+#include <memory>
 
 /// The single owner of everything that a project holds. Lives on the GUI thread. Nothing throws; an index outside
 /// its range is logged and the call does nothing.
@@ -207,10 +208,21 @@ signals:
 
 private:
     friend class ChangeScope;
+    class Editor;
 
-    [[nodiscard]] static bool hasSensor(int sensor, const char *function);
-    [[nodiscard]] bool hasShot(int measurement, const char *function) const;
-    [[nodiscard]] bool hasMeasurement(int sensor, int measurement, const char *function) const;
+    [[nodiscard]] static bool hasSensor(int sensor, const char *function)
+    {
+        return isIndex(sensor, kNumSensors, function);
+    }
+    [[nodiscard]] bool hasShot(int measurement, const char *function) const
+    {
+        return isIndex(measurement, static_cast<std::size_t>(m_project.shots.shotCount()), function);
+    }
+    [[nodiscard]] bool hasMeasurement(int sensor, int measurement, const char *function) const
+    {
+        return hasSensor(sensor, function)
+               && isIndex(measurement, static_cast<std::size_t>(m_project.shots.count(sensor)), function);
+    }
     [[nodiscard]] static PhaseNames usualPhaseNames();
 
     Project m_project;
@@ -218,6 +230,7 @@ private:
     bool m_connected = false;
     FileWork m_work;
     ModelChanges m_changes{*this, m_project.shots};
-    ModelFiles m_files{*this, m_project, m_changes, m_work};
-    BlackBoxImport m_import{*this, m_project, m_changes, m_work};
+    std::unique_ptr<Editor> m_editor;
+    ModelFiles m_files;
+    BlackBoxImport m_import;
 };

@@ -1,14 +1,26 @@
 #include "model/modelchanges.h"
 
 #include "model/logging.h"
-#include "model/model.h"
 #include "model/shotstore.h"
 
 #include <QDebug>
 
 #include <utility>
 
-ModelChanges::ModelChanges(Model &model, ShotStore &shots)
+ModelChanges::Silence::Silence(ModelChanges &changes)
+    : m_changes(changes)
+    , m_before(changes.m_noted)
+{
+    m_changes.openScope();
+}
+
+ModelChanges::Silence::~Silence()
+{
+    m_changes.m_noted = m_before;
+    (void)m_changes.closeScope(); // nothing is left to announce
+}
+
+ModelChanges::ModelChanges(QObject &model, ShotStore &shots)
     : m_model(model)
     , m_shots(shots)
 {}
@@ -16,14 +28,14 @@ ModelChanges::ModelChanges(Model &model, ShotStore &shots)
 void ModelChanges::appState(const char *function)
 {
     qCDebug(lcModel) << function << "emit appStateChanged()";
-    if (!note(&Noted::appState))
-        emit m_model.appStateChanged();
+    noteOrEmit(&Noted::appState, &ModelChanges::appStateChanged);
 }
 
 void ModelChanges::project(const char *function)
 {
     qCDebug(lcModel) << function << "emit projectChanged()";
-    emitProject();
+    countOne();
+    noteOrEmit(&Noted::project, &ModelChanges::projectChanged);
 }
 
 void ModelChanges::projectIf(bool changed, const char *function)
@@ -35,45 +47,39 @@ void ModelChanges::projectIf(bool changed, const char *function)
 void ModelChanges::data(const char *function)
 {
     qCDebug(lcModel) << function << "emit dataChanged()";
-    emitData();
+    noteOrEmit(&Noted::data, &ModelChanges::dataChanged);
     discardRemoved();
+}
+
+void ModelChanges::viewData()
+{
+    noteOrEmit(&Noted::viewData, &ModelChanges::viewDataChanged);
 }
 
 void ModelChanges::fileState()
 {
-    if (!note(&Noted::fileState))
-        emit m_model.fileStateChanged();
+    noteOrEmit(&Noted::fileState, &ModelChanges::fileStateChanged);
 }
 
-void ModelChanges::all(const char *function)
+void ModelChanges::opened(const char *function)
 {
+    countOne();
     qCDebug(lcModel) << function << "emitting projectChanged()";
-    emitProject();
+    noteOrEmit(&Noted::project, &ModelChanges::projectChanged);
     qCDebug(lcModel) << function << "emitting dataChanged()";
-    emitData();
+    noteOrEmit(&Noted::data, &ModelChanges::dataChanged);
     qCDebug(lcModel) << function << "emitting viewDataChanged()";
-    emitViewData();
+    viewData();
     fileState();
     discardRemoved();
 }
 
-void ModelChanges::emitProject()
+void ModelChanges::noteOrEmit(bool Noted::*change, void (ModelChanges::*changed)())
 {
-    countOne();
-    if (!note(&Noted::project))
-        emit m_model.projectChanged();
-}
-
-void ModelChanges::emitData()
-{
-    if (!note(&Noted::data))
-        emit m_model.dataChanged();
-}
-
-void ModelChanges::emitViewData()
-{
-    if (!note(&Noted::viewData))
-        emit m_model.viewDataChanged();
+    if (m_scopes > 0)
+        m_noted.*change = true;
+    else
+        emit(this->*changed)();
 }
 
 // Every receiver has let go of the samples by now, unless it has not been told yet.
@@ -83,34 +89,10 @@ void ModelChanges::discardRemoved()
         m_shots.discardRemoved();
 }
 
-bool ModelChanges::note(bool Noted::*change)
-{
-    if (m_scopes == 0)
-        return false;
-    m_noted.*change = true;
-    return true;
-}
-
-void ModelChanges::forgetNoted()
-{
-    m_noted = {m_noted.appState, false, false, false, false};
-}
-
-// Receivers may open scopes themselves, so what was noted is taken out first.
-void ModelChanges::closeScope()
+ModelChanges::Noted ModelChanges::closeScope()
 {
     if (--m_scopes > 0)
-        return;
-    const Noted noted = std::exchange(m_noted, {});
-    m_model.blockSignals(false); // open from here on, whatever they were before
-    if (noted.appState)
-        m_model.emitAppStateChanged();
-    if (noted.project)
-        m_model.emitProjectChanged();
-    if (noted.data)
-        m_model.emitDataChanged();
-    if (noted.viewData)
-        emitViewData();
-    if (noted.fileState)
-        fileState();
+        return {};
+    m_model.blockSignals(false); // not what they were before: whoever blocked them may be gone
+    return std::exchange(m_noted, {});
 }

@@ -1,40 +1,17 @@
 #pragma once
 
-#include <QtGlobal>
+#include <QObject>
 
-class Model;
 class ShotStore;
 
-/// Announces the changes of a model: writes the log line and emits the signal, or notes the change while a ChangeScope
-/// is open. `function` is the one that the log line names.
-class ModelChanges
+/// Announces the changes of a model: writes the log line and emits the signal, or notes the change while a scope is
+/// open. `function` is the one that the log line names.
+class ModelChanges : public QObject
 {
+    Q_OBJECT
+
 public:
-    /// Removed samples are discarded in `shots` once every receiver of dataChanged() has let go of them.
-    ModelChanges(Model &model, ShotStore &shots);
-
-    void appState(const char *function);
-    void project(const char *function);
-    /// Does nothing unless there was a change.
-    void projectIf(bool changed, const char *function);
-    void data(const char *function);
-    /// Writes no log line.
-    void fileState();
-    /// Everything, as after a project was opened.
-    void all(const char *function);
-
-    /// Changes whenever something was announced, or counted, that makes a project file out of date. Samples that are
-    /// appended do not count here.
-    [[nodiscard]] quint64 count() const { return m_count; }
-    void countOne() { ++m_count; }
-
-    // For ChangeScope.
-    void openScope() { ++m_scopes; }
-    void closeScope();
-    /// Forgets what the open scope has noted, as all() follows; but not a change of the application's state.
-    void forgetNoted();
-
-private:
+    /// What changed.
     struct Noted
     {
         bool appState = false;
@@ -44,14 +21,56 @@ private:
         bool fileState = false;
     };
 
-    void emitProject();
-    void emitData();
-    void emitViewData();
-    void discardRemoved();
-    /// True, and noted, while a scope is open.
-    [[nodiscard]] bool note(bool Noted::*change);
+    /// While one exists, changes are logged, but neither emitted nor remembered.
+    class Silence
+    {
+    public:
+        explicit Silence(ModelChanges &changes);
+        ~Silence();
+        Q_DISABLE_COPY_MOVE(Silence)
 
-    Model &m_model;
+    private:
+        ModelChanges &m_changes;
+        Noted m_before;
+    };
+
+    /// `model` relays the signals and may block them. Removed samples are discarded in `shots` once every receiver of
+    /// dataChanged() has let go of them. Both must outlive this.
+    ModelChanges(QObject &model, ShotStore &shots);
+
+    void appState(const char *function);
+    void project(const char *function);
+    /// Does nothing unless there was a change.
+    void projectIf(bool changed, const char *function);
+    void data(const char *function);
+    void viewData();  ///< writes no log line
+    void fileState(); ///< writes no log line
+    /// Everything but the state of the application, as after a project was opened.
+    void opened(const char *function);
+
+    /// Changes whenever something was announced, or counted, that makes a project file out of date. Samples that are
+    /// appended do not count here.
+    [[nodiscard]] quint64 count() const { return m_count; }
+    void countOne() { ++m_count; }
+
+    /// Scopes may be nested.
+    void openScope() { ++m_scopes; }
+    /// What is to be announced now: nothing unless this was the outermost scope, whose end also opens the model's
+    /// signals, whatever they were before.
+    [[nodiscard]] Noted closeScope();
+
+signals:
+    void appStateChanged();
+    void projectChanged();
+    void dataChanged();
+    void viewDataChanged();
+    void fileStateChanged();
+
+private:
+    void noteOrEmit(bool Noted::*change, void (ModelChanges::*changed)());
+    void discardRemoved();
+
+    QObject &m_model;
     ShotStore &m_shots;
     Noted m_noted;
     int m_scopes = 0; // open ones

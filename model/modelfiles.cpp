@@ -1,15 +1,15 @@
 #include "model/modelfiles.h"
 
-#include "model/changescope.h"
 #include "model/logging.h"
-#include "model/model.h"
 #include "model/modelchanges.h"
 #include "model/project/atomicfile.h"
 #include "model/project/csvexport.h"
 #include "model/project/filework.h"
 #include "model/project/metafile.h"
 #include "model/project/pacer.h"
+#include "model/project/project.h"
 #include "model/project/projectdocument.h"
+#include "model/project/projecteditor.h"
 #include "model/project/projectreader.h"
 #include "model/project/projecttransfer.h"
 #include "model/project/projectwriter.h"
@@ -26,8 +26,8 @@ struct ModelFiles::Opened
     ImageStore images;
 };
 
-ModelFiles::ModelFiles(Model &model, Project &project, ModelChanges &changes, FileWork &work)
-    : m_model(model)
+ModelFiles::ModelFiles(ProjectEditor &editor, Project &project, ModelChanges &changes, FileWork &work)
+    : m_editor(editor)
     , m_project(project)
     , m_changes(changes)
     , m_work(work)
@@ -60,8 +60,8 @@ bool ModelFiles::open(const QString &fileName, const char *function)
         return false;
     }
     apply(*opened, QFileInfo(fileName).absoluteFilePath(), function);
-    m_changes.all(function);
-    m_model.setProjectModifiedFlag(false);
+    m_changes.opened(function);
+    m_editor.setProjectModifiedFlag(false);
     qCDebug(lcModel) << function << " END";
     return true;
 }
@@ -80,16 +80,15 @@ std::optional<ModelFiles::Opened> ModelFiles::read(QFile &file)
     return m_work.run(task, Q_FUNC_INFO);
 }
 
-// The scope keeps what clear() and the setters announce to itself, as open() announces everything afterwards.
+// What clear() and the setters announce is not passed on, as open() announces everything afterwards.
 void ModelFiles::apply(Opened &opened, const QString &absolutePath, const char *function)
 {
-    const ChangeScope scope(&m_model);
-    m_model.clear();
+    const ModelChanges::Silence silence(m_changes);
+    m_editor.clear();
     m_project.images = std::move(opened.images);
-    applyDocument(opened.document, absolutePath, m_model, m_project, function);
+    applyDocument(opened.document, absolutePath, m_editor, m_project, function);
     if (std::optional<ProjectMeta> meta = openMeta(absolutePath, m_project.shots, function))
         m_project.meta = *std::move(meta);
-    m_changes.forgetNoted();
 }
 
 bool ModelFiles::save(const QString &fileName, const char *function)
@@ -104,9 +103,9 @@ bool ModelFiles::save(const QString &fileName, const char *function)
         return false;
     m_metaSaved = saveMeta(fileName, meta, checks);
     const bool isUpToDate = countChanges() == changesBefore;
-    m_model.setCurrentFile(QFileInfo(fileName).absoluteFilePath());
+    m_editor.setCurrentFile(QFileInfo(fileName).absoluteFilePath());
     m_changes.project(function);
-    m_model.setProjectModifiedFlag(!isUpToDate);
+    m_editor.setProjectModifiedFlag(!isUpToDate);
     return true;
 }
 

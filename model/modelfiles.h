@@ -5,7 +5,7 @@
 #include <optional>
 
 class FileWork;
-class Model;
+class ProjectEditor;
 class ModelChanges;
 class QFile;
 struct Project;
@@ -16,7 +16,7 @@ class ModelFiles
 {
 public:
     /// All of them must outlive this.
-    ModelFiles(Model &model, Project &project, ModelChanges &changes, FileWork &work);
+    ModelFiles(ProjectEditor &editor, Project &project, ModelChanges &changes, FileWork &work);
 
     /// False, with the model as it was, if the file cannot be read or holds no project.
     [[nodiscard]] bool open(const QString &fileName, const char *function);
@@ -38,7 +38,7 @@ private:
     [[nodiscard]] bool writeCsv(const QString &fileName);
     [[nodiscard]] quint64 countChanges() const;
 
-    Model &m_model;
+    ProjectEditor &m_editor;
     Project &m_project;
     ModelChanges &m_changes;
     FileWork &m_work;

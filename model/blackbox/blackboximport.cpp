@@ -2,16 +2,17 @@
 
 #include "model/arrayindex.h"
 #include "model/logging.h"
-#include "model/model.h"
 #include "model/modelchanges.h"
 #include "model/project/filework.h"
 #include "model/project/pacer.h"
+#include "model/project/project.h"
+#include "model/project/projecteditor.h"
 
 #include <QFile>
 #include <QFileInfo>
 
-BlackBoxImport::BlackBoxImport(Model &model, Project &project, ModelChanges &changes, FileWork &work)
-    : m_model(model)
+BlackBoxImport::BlackBoxImport(ProjectEditor &editor, Project &project, ModelChanges &changes, FileWork &work)
+    : m_editor(editor)
     , m_project(project)
     , m_changes(changes)
     , m_work(work)
@@ -58,13 +59,13 @@ std::optional<BlackBoxDocument> BlackBoxImport::read(QFile &file)
 void BlackBoxImport::apply(BlackBoxDocument &document, const char *function)
 {
     m_losses = document.losses;
-    m_model.setSensorDescription(document.sensors);
+    m_editor.setSensorDescription(document.sensors);
     if (!document.hasMeasurement())
         return;
     for (int sensor = 0; sensor < kNumSensors; ++sensor)
         m_project.shots.append(sensor, std::move(document.samples[at(sensor)]));
     if (!document.timestamp)
         return;
-    m_model.setTimestamp(m_project.shots.count(0) - 1, *document.timestamp);
+    m_editor.setTimestamp(m_project.shots.count(0) - 1, *document.timestamp);
     m_changes.project(function);
 }

@@ -6,7 +6,7 @@
 #include <optional>
 
 class FileWork;
-class Model;
+class ProjectEditor;
 class ModelChanges;
 class QFile;
 struct Project;
@@ -16,7 +16,7 @@ class BlackBoxImport
 {
 public:
     /// All of them must outlive this.
-    BlackBoxImport(Model &model, Project &project, ModelChanges &changes, FileWork &work);
+    BlackBoxImport(ProjectEditor &editor, Project &project, ModelChanges &changes, FileWork &work);
 
     /// Appends the shot of a file, unless it tells of none, takes over what it says about the sensors and puts it on
     /// the list of files. False if it is no regular file or cannot be read. `function` is the one that log lines name.
@@ -30,7 +30,7 @@ private:
     [[nodiscard]] std::optional<BlackBoxDocument> read(QFile &file);
     void apply(BlackBoxDocument &document, const char *function);
 
-    Model &m_model;
+    ProjectEditor &m_editor;
     Project &m_project;
     ModelChanges &m_changes;
     FileWork &m_work;

@@ -2,9 +2,9 @@
 
 #include "model/arrayindex.h"
 #include "model/logging.h"
-#include "model/model.h"
 #include "model/project/project.h"
 #include "model/project/projectdocument.h"
+#include "model/project/projecteditor.h"
 
 #include <algorithm>
 
@@ -139,39 +139,40 @@ void applySamples(int sensor, std::optional<SampleRuns> &runs, ShotStore &shots)
     shots.setChannel(sensor, std::move(channel));
 }
 
-void applyLabels(const ProjectDocument &document, Model &model)
+void applyLabels(const ProjectDocument &document, ProjectEditor &editor)
 {
     forEachElement(document.markers, " jMarkers is no array!",
-                   [&model](int index, int position) { model.setVerticalMarkerAbsolute(index, position); });
+                   [&editor](int index, int position) { editor.setVerticalMarkerAbsolute(index, position); });
     forEachElement(document.phases, " jPhases is no array!",
-                   [&model](int index, const QString &name) { model.setPhaseName(index, name); });
+                   [&editor](int index, const QString &name) { editor.setPhaseName(index, name); });
 }
 
-void applySensorLimits(const ProjectDocument &document, Model &model, const SensorGroup &group)
+void applySensorLimits(const ProjectDocument &document, ProjectEditor &editor, const SensorGroup &group)
 {
     forEachElement(document.sensorMinimum, " jMinValues is no array!", [&](int sensor, double value) {
-        model.setSensorMinimum(0, sensor, value);
+        editor.setSensorMinimum(0, sensor, value);
         qCDebug(lcModel).noquote().nospace() << " sensor minimum(" << sensor << ")=" << group.sensorMinimum(sensor);
     });
     forEachElement(document.sensorMaximum, " jMaxValues is no array!", [&](int sensor, double value) {
-        model.setSensorMaximum(0, sensor, value);
+        editor.setSensorMaximum(0, sensor, value);
         qCDebug(lcModel).noquote().nospace() << " sensor maximum(" << sensor << ")=" << group.sensorMaximum(sensor);
     });
 }
 
-void applySensors(const ProjectDocument &document, Model &model, SensorDescription &sensors, const char *function)
+void applySensors(const ProjectDocument &document, ProjectEditor &editor, SensorDescription &sensors,
+                  const char *function)
 {
     const SensorGroup &group = *forceFiveSensors(sensors);
     qCDebug(lcModel).noquote().nospace() << function << " numSensorGroups=" << sensors.numSensorGroups()
                                          << " numSensors(0)=" << group.numSensors();
-    applySensorLimits(document, model, group);
+    applySensorLimits(document, editor, group);
     for (int sensor = 0; sensor < kNumSensors; ++sensor) {
         const QString usual = QStringLiteral("Sensor %1").arg(sensor + 1);
-        model.setSensorName(sensor, document.sensorNames[at(sensor)].value_or(usual));
+        editor.setSensorName(sensor, document.sensorNames[at(sensor)].value_or(usual));
     }
-    forEachElement(document.corrections, " jCorrections is no array!", [&model](int sensor, double value) {
-        model.setOffset(sensor, value);
-        qCDebug(lcModel).noquote().nospace() << " offset[" << sensor << "]=" << model.offset(sensor);
+    forEachElement(document.corrections, " jCorrections is no array!", [&editor](int sensor, double value) {
+        editor.setOffset(sensor, value);
+        qCDebug(lcModel).noquote().nospace() << " offset[" << sensor << "]=" << editor.offset(sensor);
     });
 }
 
@@ -240,7 +241,7 @@ ProjectDocument documentOf(const Project &project)
     return document;
 }
 
-void applyDocument(ProjectDocument &document, const QString &absolutePath, Model &model, Project &project,
+void applyDocument(ProjectDocument &document, const QString &absolutePath, ProjectEditor &editor, Project &project,
                    const char *function)
 {
     ProjectSettings &settings = project.settings;
@@ -249,12 +250,12 @@ void applyDocument(ProjectDocument &document, const QString &absolutePath, Model
         version = QStringLiteral("6.0");
     qCDebug(lcModel).noquote().nospace() << function << " file version=" << version;
     applyDescription(document, settings);
-    model.setCurrentFile(absolutePath);
+    editor.setCurrentFile(absolutePath);
     if (version.toInt() < kCurrentFileVersion) // 0 for what is no integer
         useDistanceSensors(settings.sensors);
     for (int sensor = 0; sensor < kNumSensors; ++sensor)
         applySamples(sensor, document.samples[at(sensor)], project.shots);
-    applyLabels(document, model);
-    applySensors(document, model, settings.sensors, function);
+    applyLabels(document, editor);
+    applySensors(document, editor, settings.sensors, function);
     applyViewData(document.viewData, settings);
 }

@@ -37,6 +37,43 @@ private:
     QString m_letters;
 };
 
+void changeNothing(Model &model)
+{
+    model.setProjectModifiedFlag(false);
+    model.setOffset(9, 1.0);
+}
+
+void changeTwice(Model &model)
+{
+    model.setComment("a"_s);
+    model.setClock(5);
+}
+
+void changeInReverse(Model &model)
+{
+    model.setCurrentFile("/x"_s);
+    model.emitDataChanged();
+    model.setOffset(0, 1.0);
+    model.emitAppStateChanged();
+}
+
+void changeNested(Model &model)
+{
+    const ChangeScope outer(&model);
+    model.clearData();
+    {
+        const ChangeScope inner(&model);
+        model.setComment("a"_s);
+    }
+    model.clearData();
+}
+
+void changeBlocked(Model &model)
+{
+    model.blockSignals(true);
+    model.setComment("a"_s);
+}
+
 } // namespace
 
 class TestChangeScope : public QObject
@@ -46,56 +83,15 @@ class TestChangeScope : public QObject
 private slots:
     void announcesOnce_data()
     {
+        // afterwards: what has arrived when the scope has ended
         columns<Steps, QString>("steps", "afterwards");
-        const auto row = [](const char *name, const Steps &steps, const char *afterwards) {
-            ::row(name, steps, QString::fromLatin1(afterwards));
-        };
-        row(
-            "nothing", [](Model &) {}, "");
-        row(
-            "one of a kind",
-            [](Model &m) {
-                m.setComment("a"_s);
-                m.setClock(5);
-            },
-            "P");
-        row(
-            "in the order of the model",
-            [](Model &m) {
-                m.setCurrentFile("/x"_s);
-                m.emitDataChanged();
-                m.setOffset(0, 1.0);
-                m.emitAppStateChanged();
-            },
-            "APDF");
-        row(
-            "nested",
-            [](Model &m) {
-                const ChangeScope outer(&m);
-                m.clearData();
-                {
-                    const ChangeScope inner(&m);
-                    m.setComment("a"_s);
-                }
-                m.clearData();
-            },
-            "PD");
-        row(
-            "blocked before",
-            [](Model &m) {
-                m.blockSignals(true);
-                m.setComment("a"_s);
-            },
-            "P");
-        row(
-            "a change that is none",
-            [](Model &m) {
-                m.setProjectModifiedFlag(false);
-                m.setOffset(9, 1.0);
-            },
-            "");
-        row(
-            "there and back", [](Model &m) { m.clear(); }, "PD");
+        row("nothing", Steps([](Model &) {}), QString());
+        row("no change", Steps(changeNothing), QString());
+        row("two of a kind", Steps(changeTwice), "P"_s);
+        row("in the order of the model", Steps(changeInReverse), "APDF"_s);
+        row("nested", Steps(changeNested), "PD"_s);
+        row("blocked before", Steps(changeBlocked), "P"_s);
+        row("announced more than once", Steps([](Model &m) { m.clear(); }), "PD"_s);
     }
 
     void announcesOnce()
