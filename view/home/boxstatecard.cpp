@@ -178,7 +178,7 @@ BoxStateCard::Texts BoxStateCard::factTexts(const Model &model, const BoxLink &l
                                               : QStringLiteral("Mesotra");
     texts[Name] = connected ? groupNames(model.deviceDescription()) : QString();
     texts[Hardware] = connected ? orUnknown(model.hardwareVersion()) : kUnknown;
-    // Without a hardware version the model's firmware version is only what it starts with.
+    // Without a hardware version no box was described yet: the firmware version is the model's initial value.
     texts[Firmware] = texts[Hardware] == kUnknown ? kUnknown : orUnknown(model.firmwareVersion());
     texts[Period] = tr("%1 ms").arg(QLocale().toString(model.clock()));
     texts[Sensors] = QLocale().toString(sensorCount(model.sensorDescription()));

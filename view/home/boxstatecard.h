@@ -28,7 +28,7 @@ public:
 
     /// Shows the state as it is now. Cheap enough for every update of the start page.
     void showState(const Model &model, const BoxLink &link);
-    /// Whether the values stand below their names instead of beside them.
+    /// Whether the values are below their names instead of beside them.
     void setStacked(bool stacked);
 
 private:
