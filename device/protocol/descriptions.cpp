@@ -147,7 +147,7 @@ std::optional<ReceivedProject> parseProjectDescription(const QString &line)
     project.data.injectionTime = attribute("injectionTime").number();
     project.data.pressTime = attribute("pressTime").number();
     project.data.pressure = attribute("pressure").integer();
-    for (int i = 0; i < kNumPhases; ++i)
+    for (int i = 0; i < kNumCyclePhases; ++i)
         project.phases.at(static_cast<size_t>(i)) = attributeText(line, QStringLiteral("phase%1").arg(i + 1));
     return project;
 }

@@ -3,6 +3,7 @@
 #include "model/devicedescription.h"
 #include "model/projectdata.h"
 #include "model/sensordescription.h"
+#include "model/verticalmarkers.h"
 
 #include <QString>
 #include <QStringList>
@@ -13,8 +14,6 @@
 
 /// The grammar of the lines that the box sends. Everything here is pure: text in, value out. Lines are what
 /// MesotraConnector delivers, one byte a character, the line feed still at the end. Nothing here trusts the text.
-
-constexpr int kNumPhases = 5;
 
 enum class MessageKind {
     Sample,            ///< begins with a decimal digit or "-"
@@ -59,7 +58,7 @@ struct SampleLine
 struct ReceivedProject
 {
     ProjectData data;
-    std::array<QString, kNumPhases> phases;
+    std::array<QString, kNumCyclePhases> phases;
 };
 
 /// Nothing if the line holds no "<projectDescription".
