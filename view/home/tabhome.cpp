@@ -59,7 +59,7 @@ struct TabHome::Private
 {
     Model *model = nullptr;
     QAction *connectAction = nullptr;
-    BoxLink link;
+    LinkState link;
     DemoState demo = DemoState::Unavailable;
     QStringList addresses;
 
