@@ -1,4 +1,4 @@
-#include "controller/recordingseries.h"
+#include "controller/recording/recordingseries.h"
 
 #include "model/model.h"
 
