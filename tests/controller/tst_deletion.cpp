@@ -60,9 +60,12 @@ private slots:
     {
         Bench bench;
         bench.recordShots(3);
+        bench.model.setProjectModifiedFlag(false);
         bench.prompts->answers = {QMessageBox::Yes};
+        QSignalSpy fileState(&bench.model, &Model::fileStateChanged);
         const LogCapture log;
         bench.controller.onTabOszi_deleteMeasurements("1,1-2-3,2"_s);
+        QCOMPARE(fileState.count(), 1); // the project is modified, and the window says so all the same
         QVERIFY(log.contains("numRemoved=1 (part=1"_s));
         QVERIFY(log.contains("syntax error in range!!  (range=1,2,3)"_s));
         QVERIFY(bench.model.signalsBlocked());
