@@ -1,6 +1,6 @@
 #pragma once
 
-#include "device/protocol/messages.h"
+#include "device/protocol/descriptions.h"
 #include "model/devicedescription.h"
 #include "model/sensordescription.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controller/desk.h"
-#include "device/protocol/messages.h"
+#include "device/protocol/descriptions.h"
 
 #include <QCoreApplication>
 

@@ -5,6 +5,7 @@
 #include "controller/recording/projectedits.h"
 #include "controller/recording/recorder.h"
 #include "device/mesotraconnector.h"
+#include "device/protocol/messages.h"
 #include "device/protocol/samplingperiod.h"
 #include "model/model.h"
 #include "view/oscilloscope/taboszilloscope.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controller/recording/recordingseries.h"
-#include "device/protocol/messages.h"
+#include "device/protocol/sampleline.h"
 
 #include <QElapsedTimer>
 

@@ -1,4 +1,4 @@
-#include "device/protocol/messages.h"
+#include "device/protocol/descriptions.h"
 
 #include <algorithm>
 #include <cmath>
@@ -100,7 +100,7 @@ void applyGroup(const ReceivedSensors::Group &received, SensorDescription &descr
         return;
     SensorGroup &group = *description.modifiableSensorGroup(received.position);
     group.setName(received.name);
-    // A shrink would lose the colours and limits of sensors that the program goes on recording.
+    // Shrinking would lose the colours and limits of sensors that the program goes on recording.
     group.setNumSensors(received.position == 0 ? std::max(received.numSensors, kNumSensors) : received.numSensors);
     applySensors(received, group);
 }

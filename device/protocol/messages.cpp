@@ -1,5 +1,6 @@
 #include "device/protocol/messages.h"
 
+#include <array>
 #include <utility>
 
 namespace {

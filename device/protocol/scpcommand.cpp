@@ -104,6 +104,6 @@ std::optional<ScpSource> scpSource(const QString &fileName)
         return std::nullopt;
     if (isFileWord(fileName) && !fileName.startsWith(QLatin1Char('-')))
         return ScpSource{fileName, {}};
-    // Led by its folder, a name that begins with "-" is no option.
+    // Behind its folder, a name that begins with "-" is not taken for an option.
     return ScpSource{QLatin1String("./") + file.fileName(), file.absolutePath()};
 }
