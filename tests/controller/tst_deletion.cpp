@@ -89,7 +89,7 @@ private slots:
         bench.say("0;4;4;4;4;4");
         QCOMPARE(bench.samples(0, 1), (QVector<double>{3, 4}));
         bench.controller.onTabOszi_deleteMeasurements("2"_s);
-        bench.say("0;5;5;5;5;5"); // the shot in progress is gone: the rest is a shot of its own
+        bench.say("0;5;5;5;5;5"); // the shot in progress is gone: the rest becomes a separate shot
         bench.say("0;6;6;6;6;6");
         QCOMPARE(bench.firstSamples(), (QVector<double>{2, 5}));
         QCOMPARE(bench.samples(0, 1), (QVector<double>{5, 6}));

@@ -83,8 +83,7 @@ private slots:
         QVERIFY(rig.bench.samples(0, 0).size() > 0);
     }
 
-    /// The user chooses the period of the project; a new one brings its own, which the box takes, and keeps the
-    /// sensors.
+    /// The user chooses the period of the project; the box follows that of a new project, which keeps the sensors.
     void boxAndProjectStayMatched()
     {
         Rig rig;
@@ -116,7 +115,7 @@ private slots:
         QVERIFY(!bench.model.hardwareVersion().isEmpty() && !bench.model.isProjectModified());
         bench.model.setProjectModifiedFlag(true);
         bench.prompts->answers = {QMessageBox::Discard};
-        emit bench.view.newProject(); // what is thrown away takes its box along
+        emit bench.view.newProject(); // with what is discarded, its box is left
         QVERIFY(!bench.model.isConnected());
     }
 
