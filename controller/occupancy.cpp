@@ -21,6 +21,7 @@ bool Occupancy::isOccupied() const
 
 bool Occupancy::mayInterrupt() const
 {
+    // Pages open dialogs that nobody counts here.
     return !isOccupied() && !QApplication::activeModalWidget();
 }
 

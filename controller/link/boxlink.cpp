@@ -82,7 +82,7 @@ void BoxLink::toggle()
 void BoxLink::disconnectBox()
 {
     m_connector.stopMeasurement();
-    m_recorder.stopped(); // the echo will not arrive any more
+    m_recorder.stopped(); // its echo will not arrive any more
     leave();
 }
 
@@ -182,7 +182,7 @@ void BoxLink::opened()
     if (std::exchange(m_measuredHost, host) != host)
         m_view.forgetLiveValues(); // of another box
     m_restart.end();
-    m_model.blockSignals(false);
+    m_model.blockSignals(false); // a deletion with a syntax error may have left them blocked
     m_model.setConnected(true);
     m_model.emitAppStateChanged();
     showOpened();
@@ -202,6 +202,7 @@ void BoxLink::showOpened()
 void BoxLink::closed()
 {
     emit closing();
+    // After the last line of the box, which may have stopped the recording or reported more samples.
     const bool wasConnected = m_model.isConnected();
     m_model.setConnected(false);
     const bool wasRecording = m_recorder.endWithLink();
@@ -215,7 +216,7 @@ void BoxLink::closed()
 
 void BoxLink::onError(QAbstractSocket::SocketError error)
 {
-    if (isDemo()) {
+    if (isDemo()) { // nobody wants to reconnect to a simulator under another address
         emit demoLost();
     } else if (m_wanted && m_view.isProgressShown() && m_restart.explains(error)) {
         m_view.showProgress(tr("Die Mesotra Box startet neu. Verbinden mit %1 ...").arg(m_connector.hostAddress()));
@@ -268,6 +269,7 @@ void BoxLink::offerReconnect()
         m_wanted = false;
         return;
     }
+    // The dialog lets no other one through; a script of a test could.
     if (!isValidHostAddress(*address)) {
         m_view.showStatus(tr("Keine gültige Adresse: %1").arg(*address));
         return;

@@ -56,7 +56,7 @@ void SamplingPeriod::choose(const QString &label)
     if (m_desk.model.numChannels(0) > 0
         && !m_desk.occupancy.ask([&] { return m_desk.view.askYesNo(tr("Abtastrate ändern"), question); }))
         return;
-    m_connector.setClock(label);
+    m_connector.setClock(label); // project and plots follow with the echo
 }
 
 void SamplingPeriod::takeEcho(const QString &message)

@@ -49,6 +49,7 @@ void LoggerFetch::fetchSelected()
     if (m_desk.occupancy.refuseWhileOccupied() || m_desk.occupancy.refuseWhileConnecting() || m_demo.refuseTransfer())
         return;
     const QStringList dates = m_desk.view.tabBlackBox()->selectedDates();
+    // All or none: a fetch of the others only would look complete.
     for (const QString &date : dates) {
         if (!blackBoxDirectory(date)) {
             m_connector.scp().refuseDate(date);
@@ -112,7 +113,7 @@ void LoggerFetch::cancel()
 {
     if (!m_desk.occupancy.isUnderWay(Task::Fetch))
         return;
-    m_cancelled = true;
+    m_cancelled = true; // or the loop would go on with the next day
     m_connector.scp().cancel();
 }
 

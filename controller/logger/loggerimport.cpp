@@ -34,7 +34,7 @@ void LoggerImport::run(const QStringList &files)
     const ImportSummary summary = readFiles(wanted);
     if (summary.numUnreadable() < wanted.size())
         finish(before);
-    m_edits.applyKept();
+    m_edits.applyKept(); // made while files were being read
     show(summary);
 }
 
@@ -72,7 +72,7 @@ ImportSummary LoggerImport::readFiles(const QStringList &files)
     ImportSummary summary;
     TabBlackBox *tab = m_desk.view.tabBlackBox();
     tab->setResult({});
-    m_desk.model.blockSignals(false);
+    m_desk.model.blockSignals(false); // the plots follow file by file
     const ProgressScope progress(m_progress, tr("Importieren..."), files.size());
     const LineHold hold(m_lines);
     const TaskScope task(m_desk.occupancy, Task::Import);

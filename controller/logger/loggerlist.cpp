@@ -31,7 +31,7 @@ void LoggerList::request()
 {
     if (!m_link.send(QStringLiteral("list\n")))
         return;
-    setButtonEnabled(false);
+    setButtonEnabled(false); // the blocks of two answers could not be told apart
     m_timer.start();
 }
 

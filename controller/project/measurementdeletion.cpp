@@ -109,6 +109,6 @@ void MeasurementDeletion::deleteAll()
     m_desk.model.blockSignals(false);
     m_desk.model.setFileList({}); // what was imported can be imported again
     m_desk.model.clearData();
-    m_recorder.forgetSeries();
+    m_recorder.forgetSeries(); // a recording that runs begins another measurement
     m_edits.markModified();
 }

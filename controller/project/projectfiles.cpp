@@ -102,6 +102,7 @@ void ProjectFiles::replaceWith(const QString &fileName)
         m_edits.dropKept(); // they were meant for the project that is gone
     else
         m_edits.applyKept();
+    // A failed attempt leaves them alone, and then a recording continues in its shot.
     if (m_model.structureRevision() != structure)
         emit measurementsReplaced();
     showOpened(fileName, opened);

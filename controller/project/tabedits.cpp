@@ -69,7 +69,7 @@ void TabEdits::setOffset(int position, double offset)
 void TabEdits::markRangeEdited()
 {
     qCDebug(lcController) << Q_FUNC_INFO;
-    m_edits.markModified();
+    m_edits.markModified(); // even during a save: that file does not contain the range
 }
 
 // --- Sensors ---

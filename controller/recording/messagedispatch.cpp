@@ -10,6 +10,6 @@ void MessageDispatch::setHandler(MessageKind kind, Handler handler)
 void MessageDispatch::dispatch(const QString &message) const
 {
     const Handler &handler = m_handlers[static_cast<std::size_t>(classify(message))];
-    if (handler)
+    if (handler) // a program without a window need not care about lists
         handler(message);
 }
