@@ -20,7 +20,10 @@ void FirmwareUpdate::run()
     if (m_desk.occupancy.refuseWhileOccupied() || m_desk.occupancy.refuseWhileConnecting() || m_demo.refuseTransfer())
         return;
     m_desk.occupancy.ask([this] {
-        UpdateDialog dialog(&m_desk.view, &m_connector, m_link.address(), m_restartWait);
+        const auto askFile = [this](const QString &title, const QString &filter) {
+            return m_desk.view.askOpenFile(title, filter);
+        };
+        UpdateDialog dialog(&m_desk.view, askFile, &m_connector, m_link.address(), m_restartWait);
         QObject::connect(&dialog, &UpdateDialog::restartSent, &m_link, &BoxLink::expectRestart);
         (void)dialog.exec(); // both buttons only close it
     });
