@@ -7,7 +7,7 @@
 class Model;
 
 /// Which measurement of each sensor position receives the samples that arrive. An index below 0 receives nothing.
-/// Stays valid after a stop, so that the answer to a single-value request lands in the newest shot.
+/// Stays valid after a stop, so that the answer to a single-value request lands in the newest shot. Needs no window.
 class RecordingSeries
 {
 public:

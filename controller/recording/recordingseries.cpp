@@ -1,4 +1,4 @@
-#include "controller/recordingseries.h"
+#include "controller/recording/recordingseries.h"
 
 #include "model/model.h"
 
@@ -48,8 +48,8 @@ bool RecordingSeries::append(const std::array<double, kNumSensors> &values, Mode
     bool taken = false;
     for (int position = 0; position < kNumSensors; ++position) {
         const auto i = static_cast<std::size_t>(position);
-        if (m_indices[i] >= 0 && m_indices[i] < model.numChannels(position))
-            taken = model.appendSample(position, m_indices[i], values[i]) || taken;
+        // A position without a measurement has an index that the model refuses without a word.
+        taken = model.appendSample(position, m_indices[i], values[i]) || taken;
     }
     return taken;
 }
