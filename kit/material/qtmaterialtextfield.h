@@ -1,9 +1,12 @@
 #pragma once
 
 #include "kit/material/qtmaterialmotion.h"
+#include "kit/material/qtmaterialtextfieldplaces.h"
 #include "kit/material/qtmaterialtextfieldstatemachine.h"
 
 #include <QLineEdit>
+
+class QHelpEvent;
 
 /// A line edit over an underline. Its label lies in the empty field and floats above it once the field is used; below
 /// the line there is room for a helper text, an error and a counter. Goes wherever a QLineEdit goes: validators, input
@@ -50,27 +53,18 @@ public:
 protected:
     bool event(QEvent *event) override;
     void changeEvent(QEvent *event) override;
-    void showEvent(QShowEvent *event) override;
-    void focusInEvent(QFocusEvent *event) override;
-    void focusOutEvent(QFocusEvent *event) override;
-    void enterEvent(QEvent *event) override;
-    void leaveEvent(QEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    [[nodiscard]] QFont smallFont() const;
-    [[nodiscard]] int labelRoom() const;
-    [[nodiscard]] int supportRoom() const;
-    [[nodiscard]] qreal lineY() const;
+    [[nodiscard]] QtMaterialTextFieldPlaces places() const;
     [[nodiscard]] QString counterText() const;
     [[nodiscard]] QString supportText() const;
-    [[nodiscard]] QRect supportRect() const;
-    [[nodiscard]] QRect supportTextRect() const;
     [[nodiscard]] QColor accentColor() const;
 
+    [[nodiscard]] bool showWholeSupport(const QHelpEvent &help);
     void fitRoom();
     void takeTheme();
     void showPlaceholder();
