@@ -1,9 +1,11 @@
 #pragma once
 
-#include <QTimer>
+#include "kit/small/holdrepeat.h"
+#include "kit/small/stepboxlook.h"
+
 #include <QWidget>
 
-class QLineEdit;
+class StepBoxEditor;
 
 /// A whole number between two big arrow buttons, for stepping through a list: "◀ 12 / 345 ▶". Steps by mouse (held down
 /// it goes on, later page by page), by wheel while it has the focus, and by keys: arrows, page up and down, Home, End.
@@ -29,7 +31,6 @@ public:
     [[nodiscard]] bool isEmpty() const { return m_maximum < m_minimum; }
 
     [[nodiscard]] int singleStep() const { return m_singleStep; }
-    [[nodiscard]] int pageStep() const { return m_pageStep; }
     /// Steps below 1 count as 1.
     void setSingleStep(int step);
     void setPageStep(int step);
@@ -57,53 +58,37 @@ signals:
     void valueChanged(int value);
 
 protected:
-    void changeEvent(QEvent *event) override;
     bool event(QEvent *event) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
-    void focusInEvent(QFocusEvent *event) override;
-    void focusOutEvent(QFocusEvent *event) override;
-    void hideEvent(QHideEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
 
 private:
-    enum class Part { None, Previous, Number, Next };
-
-    [[nodiscard]] QRect areaOf(Part part) const;
-    [[nodiscard]] Part partAt(const QPoint &position) const;
-    [[nodiscard]] bool canStep(Part part) const;
-    [[nodiscard]] QString textFor(int value) const;
-    [[nodiscard]] int widestText() const;
-    void stepByAmount(qint64 amount);
+    [[nodiscard]] StepBoxLook look() const;
+    [[nodiscard]] StepBoxLook::Arrow arrowLook(StepBoxPart part) const;
+    [[nodiscard]] QSize textSize() const;
+    [[nodiscard]] bool canStep(StepBoxPart part) const;
+    void goTo(qint64 value);
     [[nodiscard]] bool stepByKey(int key);
     void stepPressed(int amount);
-    void repeat();
     void release();
-    void setHovered(Part part);
+    void setHovered(StepBoxPart part);
     void startEditing(const QString &text);
-    void finishEditing();
-    void closeEditor();
+    void placeEditor();
     void contentsChanged();
-    void drawArrow(QPainter &painter, Part part) const;
-    void drawNumber(QPainter &painter) const;
 
     int m_value = 0;
     int m_minimum = 0;
     int m_maximum = 99;
     int m_singleStep = 1;
     int m_pageStep = 10;
-    bool m_totalShown = false;
-    QString m_prefix;
-    QString m_suffix;
-    QLineEdit *m_editor;
-    QTimer m_repeat;
-    int m_repetitions = 0;
+    StepBoxText m_text;
+    StepBoxEditor *m_editor;
+    HoldRepeat m_repeat;
     int m_wheelRest = 0; ///< eighths of a degree that do not make a step yet
-    Part m_pressed = Part::None;
-    Part m_hovered = Part::None;
+    StepBoxPart m_pressed = StepBoxPart::None;
+    StepBoxPart m_hovered = StepBoxPart::None;
 };

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QObject>
+#include <QTimer>
+
+/// Repeats a step while a button is held down: after a pause, then quickly, and after many steps in larger ones.
+class HoldRepeat : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit HoldRepeat(QObject *parent = nullptr);
+
+    /// The button is pressed; the first step is up to the caller.
+    void start();
+    void stop() { m_timer.stop(); }
+    /// Counts a step that was asked for by due(). True from the one on that is to be a large one.
+    [[nodiscard]] bool countStep();
+
+signals:
+    /// Another step is due.
+    void due();
+
+private:
+    QTimer m_timer;
+    int m_steps = 0;
+};
