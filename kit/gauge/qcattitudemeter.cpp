@@ -1,9 +1,11 @@
 #include "kit/gauge/qcattitudemeter.h"
 
-#include "kit/gauge/qcaccessible.h"
+#include "kit/gauge/qcannouncer.h"
 #include "kit/gauge/qccanvas.h"
 #include "kit/material/qtmaterialstyle.h"
+#include "kit/small/accessiblefactory.h"
 
+#include <QAccessibleWidget>
 #include <QEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -160,6 +162,24 @@ void paintLevelSymbol(QPainter &painter, const QcCanvas &canvas)
     }
 }
 
+/// To screen readers it is an indicator with a text.
+class AttitudeInterface : public QAccessibleWidget
+{
+public:
+    explicit AttitudeInterface(QcAttitudeMeter *meter)
+        : QAccessibleWidget(meter, QAccessible::Indicator)
+        , m_meter(meter)
+    {}
+
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Value ? m_meter->spokenValue() : QAccessibleWidget::text(kind);
+    }
+
+private:
+    QcAttitudeMeter *m_meter;
+};
+
 } // namespace
 
 struct QcAttitudeMeter::Private
@@ -179,7 +199,7 @@ QcAttitudeMeter::QcAttitudeMeter(QWidget *parent)
     : QWidget(parent)
     , d(std::make_unique<Private>(this))
 {
-    installQcAccessibility();
+    installAccessible<QcAttitudeMeter, AttitudeInterface>();
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
@@ -232,7 +252,7 @@ void QcAttitudeMeter::paintEvent(QPaintEvent *)
 {
     if (d->still.isNull() || !d->canvas.fits(*this)) {
         d->canvas.adopt(*this, !isEnabled());
-        d->still = qcgauge::emptyPicture(*this);
+        d->still = qcgauge::emptyPicture(d->canvas);
         QPainter still(&d->still);
         still.setRenderHint(QPainter::Antialiasing);
         paintBezel(still, d->canvas);

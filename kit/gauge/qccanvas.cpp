@@ -114,11 +114,10 @@ void drawRing(QPainter &painter, const QcCanvas &canvas, const Ring &ring, const
                     qRound((ring.from - ring.to) * kSixteenths));
 }
 
-QPixmap emptyPicture(const QWidget &widget)
+QPixmap emptyPicture(const QcCanvas &canvas)
 {
-    const qreal ratio = widget.devicePixelRatioF();
-    QPixmap picture((QSizeF(widget.size()) * ratio).toSize());
-    picture.setDevicePixelRatio(ratio);
+    QPixmap picture((QSizeF(canvas.size) * canvas.ratio).toSize());
+    picture.setDevicePixelRatio(canvas.ratio);
     picture.fill(Qt::transparent);
     return picture;
 }

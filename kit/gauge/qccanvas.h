@@ -96,8 +96,8 @@ struct Ring
     double to = 0.0;
 };
 void drawRing(QPainter &painter, const QcCanvas &canvas, const Ring &ring, const QColor &color);
-/// A transparent picture of the widget's size.
-[[nodiscard]] QPixmap emptyPicture(const QWidget &widget);
+/// A transparent picture of the canvas's size and resolution.
+[[nodiscard]] QPixmap emptyPicture(const QcCanvas &canvas);
 /// Text around a point, centred by the height of its capitals, in the painter's font and pen.
 void drawCentred(QPainter &painter, const QPointF &point, const QString &text);
 

@@ -10,6 +10,7 @@
 #include "kit/gauge/qclabelitem.h"
 #include "kit/gauge/qcneedleitem.h"
 #include "kit/gauge/qcscaleitem.h"
+#include "kit/gauge/qcsensorgauge.h"
 #include "kit/gauge/qcvaluesitem.h"
 #include "tools/kit-gallery/gallery.h"
 
@@ -32,7 +33,7 @@ QcGaugeWidget *prepared(QcGaugeWidget *gauge, int size)
 
 QcGaugeWidget *createGauge(int size = kSize)
 {
-    return prepared(QcGaugeWidget::createSensorGauge(), size);
+    return prepared(qcgauge::createSensorGauge(), size);
 }
 
 QcGaugeWidget *createGauge(double value, int size = kSize)
