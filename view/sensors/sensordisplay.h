@@ -1,12 +1,9 @@
 #pragma once
 
-#include "view/sensors/sensorchoices.h"
 #include "view/sensors/sensorreading.h"
 
 #include <QPixmap>
 #include <QWidget>
-
-#include <memory>
 
 /// Shows the reading of one sensor: a figure of its kind, digits with the unit, and below the held values and what is
 /// wrong, if something is. What stays the same is painted once for each size; a new reading repaints the rest.
@@ -30,8 +27,6 @@ public:
     };
 
     explicit SensorDisplay(QWidget *parent = nullptr);
-
-    [[nodiscard]] static std::unique_ptr<SensorDisplay> create(DisplayKind kind);
 
     void setFace(const Face &face);
     [[nodiscard]] const Face &face() const { return m_face; }

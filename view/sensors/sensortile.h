@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kit/small/shadowframe.h"
+#include "view/sensors/sensorchoices.h"
 #include "view/sensors/sensordisplay.h"
 #include "view/sensors/sensorlist.h"
 

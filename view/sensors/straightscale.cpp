@@ -24,6 +24,11 @@ QColor outsideColor()
     return {0xEF, 0x53, 0x50};
 }
 
+QColor troughColor()
+{
+    return {0xE4, 0xE7, 0xEB};
+}
+
 StraightScale::StraightScale(const SensorScale &scale, const QRectF &line, bool isUpright)
     : m_scale(scale)
     , m_line(line)

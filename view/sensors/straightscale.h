@@ -37,6 +37,7 @@ private:
     bool m_isUpright;
 };
 
-/// The colours of the ranges inside and outside of limits.
+/// The colours of the ranges inside and outside of limits, and of a scale below them.
 [[nodiscard]] QColor insideColor();
 [[nodiscard]] QColor outsideColor();
+[[nodiscard]] QColor troughColor();

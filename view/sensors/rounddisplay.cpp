@@ -1,4 +1,4 @@
-#include "view/sensors/sensordisplay_kinds.h"
+#include "view/sensors/rounddisplay.h"
 
 #include "kit/gauge/qcbackgrounditem.h"
 #include "kit/gauge/qccolorbanditem.h"
@@ -7,6 +7,7 @@
 #include "kit/gauge/qcneedleitem.h"
 #include "kit/gauge/qcscaleitem.h"
 #include "kit/gauge/qcvaluesitem.h"
+#include "view/sensors/straightscale.h"
 
 #include <algorithm>
 
@@ -106,19 +107,4 @@ void RoundDisplay::followReading()
         m_gauge->setHeld(shown.held->minimum, shown.held->maximum);
     else
         m_gauge->clearHeld();
-}
-
-std::unique_ptr<SensorDisplay> SensorDisplay::create(DisplayKind kind)
-{
-    switch (kind) {
-    case DisplayKind::Linear:
-        return std::make_unique<LinearDisplay>();
-    case DisplayKind::Bar:
-        return std::make_unique<BarDisplay>();
-    case DisplayKind::Digital:
-        return std::make_unique<DigitalDisplay>();
-    case DisplayKind::Round:
-        break;
-    }
-    return std::make_unique<RoundDisplay>();
 }
