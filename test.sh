@@ -6,6 +6,7 @@ source "$(dirname "${BASH_SOURCE[0]}")/tools/steps.sh"
 
 tools/install_packages.sh test
 step "layers" python3 tools/check_layers.py
+step "classes" python3 tools/check_classes.py
 step "format" tools/check_format.sh
 step "translations" python3 tools/check_translations.py
 step "release build" build release
@@ -13,4 +14,5 @@ step "build with sanitizers" build dev
 
 export QT_QPA_PLATFORM=offscreen
 export UBSAN_OPTIONS=print_stacktrace=1
+export VENTARO_PROGRAMS=$PWD/build/release/bin # driven in a real window
 exec ctest --preset dev --parallel "$(nproc)" --no-tests=error

@@ -13,7 +13,11 @@ packages=(cmake ninja-build g++ python3 qtbase5-dev qttools5-dev qttools5-dev-to
 packages+=(qt5-image-formats-plugins) # to save pictures as TIFF
 case ${1:-test} in
 run) [ -z "${WAYLAND_DISPLAY:-}" ] || [ -n "${DISPLAY:-}" ] || packages+=(qtwayland5) ;;
-test) packages+=(clang-format libnss-wrapper openssh-server appstream desktop-file-utils libxml2-utils shared-mime-info) ;;
+test)
+    packages+=(clang-format universal-ctags)
+    packages+=(xvfb openbox xdotool x11-utils imagemagick)
+    packages+=(libnss-wrapper openssh-server appstream desktop-file-utils libxml2-utils shared-mime-info)
+    ;;
 package) packages+=(dpkg-dev file) ;;
 package-test) packages+=(dpkg-dev file lintian mmdebstrap x11-apps x11-utils xvfb imagemagick) ;;
 lint) packages+=(clang-format clang-tidy clazy) ;;
