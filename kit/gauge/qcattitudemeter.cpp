@@ -19,11 +19,11 @@ namespace {
 constexpr int kUsualSize = 240;
 constexpr int kSmallestSize = 96;
 constexpr double kMostPitch = 90.0;     // degrees
-constexpr double kDegree = 2.2;         // percent of the radius that the horizon moves for a degree of pitch
+constexpr double kDegree = 2.2;         // percent of the radius that the horizon moves per degree of pitch
 constexpr double kView = 84.0;          // radius of the part that moves, in percent
-constexpr double kLadderEnd = 42.0;     // how far from the middle its lines are seen
+constexpr double kLadderEnd = 42.0;     // percent: how far from the middle its lines are visible
 constexpr int kLadderStep = 10;         // degrees
-constexpr double kRoomForHalves = 22.0; // pixels between rungs that let one stand between
+constexpr double kRoomForHalves = 22.0; // pixels between rungs that leave room for half steps
 constexpr double kRollLength = 5.0;     // of the marks around the view
 constexpr double kBarWidth = 2.6;
 
@@ -48,7 +48,7 @@ void paintHalf(QPainter &painter, const QcCanvas &canvas, double way, const QCol
     painter.fillRect(QRectF(QPointF(-wide, 0.0), QPointF(wide, end)).normalized(), gradient);
 }
 
-/// One pair of numbers and the line between them, at a pitch that may be seen.
+/// A line of the ladder; with a number at either end if it is a long one.
 void paintRung(QPainter &painter, const QcCanvas &canvas, int degrees)
 {
     const bool isLong = degrees % kLadderStep == 0;
@@ -123,7 +123,7 @@ void paintRollMarks(QPainter &painter, const QcCanvas &canvas)
     paintTriangle(painter, canvas, 0.0, kView + 1.5, kView + 9.0);
 }
 
-/// The ring around the view; it leaves the view free.
+/// The ring around the view.
 void paintBezel(QPainter &painter, const QcCanvas &canvas)
 {
     QPainterPath ring;

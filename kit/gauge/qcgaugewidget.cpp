@@ -51,7 +51,7 @@ public:
     QVariant maximumValue() const override { return m_gauge->maximum(); }
     QVariant minimumValue() const override { return m_gauge->minimum(); }
     QVariant minimumStepSize() const override { return {}; }
-    void setCurrentValue(const QVariant &) override {} // it only shows
+    void setCurrentValue(const QVariant &) override {} // read-only
 
 private:
     QcGaugeWidget *m_gauge;

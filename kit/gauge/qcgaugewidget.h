@@ -11,7 +11,7 @@
 /// and its parts know how. Parts that do not move are painted once and kept as pictures until the size, the screen, the
 /// theme, the font, the language or the parts change; a new value repaints only the area of what it moves.
 ///
-/// To a screen reader it is a dial that tells its value. Without damping it has no timer.
+/// Screen readers see a dial with its value. Without damping no timer runs.
 class QcGaugeWidget : public QWidget
 {
     Q_OBJECT
@@ -35,7 +35,7 @@ public:
     void setRange(double from, double to);
     [[nodiscard]] double minimum() const; ///< the smaller end of the range
     [[nodiscard]] double maximum() const;
-    /// Bands with ends that are not finite or with an invalid colour are left out.
+    /// Bands with an invalid colour or with ends that are not finite are left out.
     void setBands(const QVector<QcBand> &bands);
     void setTitle(const QString &title);
     [[nodiscard]] QString title() const;
@@ -44,8 +44,7 @@ public:
     void setNeedleColor(const QColor &color);
     /// Of the value as a number; clamped to 0 to 15.
     void setDecimals(int decimals);
-    /// The true value also outside the range, where the needle stays just beyond the end. What is not finite is no
-    /// value.
+    /// May be outside the range: the needle then stays just beyond the end. A value that is not finite clears it.
     void setValue(double value);
     void clearValue();
     [[nodiscard]] bool hasValue() const;

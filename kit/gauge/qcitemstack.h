@@ -53,8 +53,8 @@ public:
     }
 
     // --- For the gauge that shows them ---
-    /// What every part sees, with the gauge's range as the range of the scale. Drops the pictures of the parts that get
-    /// another scale or step by it; other differences make dropPictures() necessary.
+    /// What the parts see; the range of its scale is that of the gauge. Drops the pictures of parts whose scale or step
+    /// changes; any other difference requires dropPictures().
     void setCanvas(const QcCanvas &canvas);
     /// What the part at this index sees when it is painted.
     [[nodiscard]] QcCanvas canvas(int index) const;

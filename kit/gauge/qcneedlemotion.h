@@ -18,11 +18,11 @@ public:
     /// the next frame is the last one.
     void setDamping(int milliseconds);
     [[nodiscard]] bool isRunning() const { return m_timer.isActive(); }
-    /// Begins with a frame; one that is under way goes on.
+    /// Starts the frames unless they are running.
     void start();
     void stop();
-    /// Where the needle is to be shown in this frame, on its way from where it is shown to the value. Neither counts
-    /// more than a little outside the range, so that the needle has no endless way there. Returns the value itself and
+    /// Where the needle is to be shown in this frame, on its way from where it is shown to the value. Both are
+    /// taken as at most a little outside the range, so that the way there is not endless. Returns the value itself and
     /// stops once the needle has arrived.
     [[nodiscard]] double advance(double shown, double value, double minimum, double maximum);
 

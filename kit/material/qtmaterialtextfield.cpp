@@ -22,7 +22,7 @@ enum Track { kLabelTrack, kLineTrack, kTrackCount };
 
 constexpr int kInset = QtMaterialTextFieldPlaces::kInset;
 constexpr int kStateTime = 180;       // ms
-constexpr int kDefaultLength = 32767; // what QLineEdit takes unless told otherwise
+constexpr int kDefaultLength = 32767; // the default of QLineEdit
 
 } // namespace
 
@@ -80,7 +80,7 @@ void QtMaterialTextField::setErrorText(const QString &text)
 
 void QtMaterialTextField::describe()
 {
-    if (accessibleDescription() == m_description) // else someone else describes the field
+    if (accessibleDescription() == m_description) // otherwise the program set another one
         setAccessibleDescription(supportText());
     m_description = supportText();
     update();
@@ -137,7 +137,7 @@ void QtMaterialTextField::fitRoom()
 {
     const QtMaterialTextFieldPlaces fitting = places();
     setTextMargins(fitting.textMargins());
-    // Layouts prefer the smallest height of a style sheet to what the field says it needs.
+    // Layouts prefer the minimum height of a style sheet to the field's size hint.
     if (minimumHeight() < fitting.height() || minimumHeight() == m_ownMinimumHeight) {
         m_ownMinimumHeight = fitting.height();
         setMinimumHeight(m_ownMinimumHeight);
@@ -155,7 +155,7 @@ QRect QtMaterialTextField::clearRect() const
 
 void QtMaterialTextField::takeTheme()
 {
-    // Only a sheet of its own gets the field past the colours that the application's sheet has for line edits.
+    // Only the widget's own sheet overrides the colours that the application's sheet has for line edits.
     const auto name = [](const char *key) { return themeColor(QLatin1String(key)).name(QColor::HexArgb); };
     setStyleSheet(QStringLiteral("QtMaterialTextField{background:transparent;color:%1;selection-background-color:%2;"
                                  "selection-color:%3;}QtMaterialTextField:disabled{color:%4;}")
@@ -198,7 +198,7 @@ bool QtMaterialTextField::event(QEvent *event)
         fitRoom();
         showPlaceholder();
         break;
-    case QEvent::Show: // an input mask comes without a signal
+    case QEvent::Show: // an input mask may have been set, which emits no signal
     case QEvent::FocusIn:
     case QEvent::FocusOut:
         showState();
@@ -213,7 +213,7 @@ bool QtMaterialTextField::event(QEvent *event)
     return handled;
 }
 
-/// A tip with the support text where it is cut. False if there is nothing to be shown.
+/// Shows a support text that is cut off in a tool tip. False if there is nothing to show.
 bool QtMaterialTextField::showWholeSupport(const QHelpEvent &help)
 {
     const QtMaterialTextFieldPlaces shown = places();
@@ -257,7 +257,7 @@ void QtMaterialTextField::mouseMoveEvent(QMouseEvent *event)
     const Qt::CursorShape shape = overText ? Qt::IBeamCursor : Qt::ArrowCursor;
     if (cursor().shape() != shape) {
         setCursor(shape);
-        update(); // the cross shows that it is pointed at
+        update(); // the cross is highlighted under the mouse
     }
     if (!m_clearPressed)
         QLineEdit::mouseMoveEvent(event);

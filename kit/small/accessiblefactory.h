@@ -3,13 +3,14 @@
 #include <QAccessible>
 #include <QObject>
 
-/// Has screen readers see every `Widget`, and what derives from it, through an `Interface`, a QAccessibleInterface that
-/// is made from a pointer to the widget. Widgets call it in their constructors; once is enough, and more does nothing.
+/// Lets screen readers access every `Widget`, and what derives from it, through an `Interface`: a QAccessibleInterface
+/// that is constructed from a pointer to the widget. Widgets call it in their constructors; only the first call has an
+/// effect.
 template <typename Widget, typename Interface>
 void installAccessible()
 {
-    // Asked for every class from the most derived one upwards, with the name of the one in turn. The function is the
-    // same at every call, and a factory that is known already is not added again.
+    // Qt asks for every class from the most derived one upwards, each time with the name of that class. The function is
+    // the same at every call, and Qt does not add a factory twice.
     QAccessible::installFactory([](const QString &className, QObject *object) -> QAccessibleInterface * {
         if (className != QLatin1String(Widget::staticMetaObject.className()))
             return nullptr;

@@ -23,7 +23,7 @@ QColor primary()
     return QtMaterialPaint::themeColor(QLatin1String("primary1"));
 }
 
-/// The name somebody gave the widget, else its text without mark-up.
+/// The accessible name if one was set, otherwise the text without mark-up.
 QString nameOf(const QLabel &label)
 {
     if (!label.accessibleName().isEmpty())
@@ -77,7 +77,8 @@ ClickableLabel::ClickableLabel(const QString &text, QWidget *parent)
     : QLabel(parent)
 {
     installAccessible<ClickableLabel, AccessibleClickableLabel>();
-    setText(text); // not by QLabel's constructor: screen readers would be told of a QLabel, and remember it
+    // Not in QLabel's constructor: screen readers would be told of a plain QLabel and remember it.
+    setText(text);
     setMargin(kMargin);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
@@ -131,10 +132,10 @@ void ClickableLabel::mousePressEvent(QMouseEvent *event)
 {
     m_pressed = event->button() == Qt::LeftButton;
     update();
-    event->setAccepted(m_pressed); // other buttons are for whoever lies below
+    event->setAccepted(m_pressed); // other buttons are for the widget below
 }
 
-// The second press of a quick pair is a press like any other.
+// The second press of a double click counts like any other.
 void ClickableLabel::mouseDoubleClickEvent(QMouseEvent *event)
 {
     mousePressEvent(event);

@@ -3,7 +3,8 @@
 #include <QObject>
 #include <QTimer>
 
-/// Repeats a step while a button is held down: after a pause, then quickly, and after many steps in larger ones.
+/// Repeats a step while a button is held down: first after a pause, then quickly, and after many
+/// steps in larger ones.
 class HoldRepeat : public QObject
 {
     Q_OBJECT
@@ -14,7 +15,7 @@ public:
     /// The button is pressed; the first step is up to the caller.
     void start();
     void stop() { m_timer.stop(); }
-    /// Counts a step that was asked for by due(). True from the one on that is to be a large one.
+    /// Counts a step that due() asked for; true once the steps should be large ones.
     [[nodiscard]] bool countStep();
 
 signals:

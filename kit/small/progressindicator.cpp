@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kInterval = 40;   // ms between two steps
 constexpr int kStep = 12;       // degrees
-constexpr int kArc = 90;        // degrees of the ring that turns
+constexpr int kArc = 90;        // degrees: length of the turning arc
 constexpr int kSixteenths = 16; // QPainter counts in sixteenths of a degree
 constexpr QSize kUsualSize(48, 48);
 constexpr QSize kSmallestSize(16, 16);
@@ -75,7 +75,7 @@ public:
     QVariant minimumValue() const override { return 0; }
     QVariant maximumValue() const override { return 100; }
     QVariant minimumStepSize() const override { return 1; }
-    void setCurrentValue(const QVariant &) override {} // it only shows
+    void setCurrentValue(const QVariant &) override {} // read-only
 
 private:
     [[nodiscard]] bool isKnown() const

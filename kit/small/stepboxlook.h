@@ -9,7 +9,7 @@ class QPainter;
 /// The parts of a step box that can be pressed.
 enum class StepBoxPart { None, Previous, Number, Next };
 
-/// What a step box writes for its numbers.
+/// The text that a step box shows for a number.
 struct StepBoxText
 {
     QString prefix;
@@ -17,12 +17,12 @@ struct StepBoxText
     bool totalShown = false; ///< the maximum behind the number: "12 / 345"
 
     [[nodiscard]] QString of(int value, int maximum) const;
-    /// Pixels that the texts of both ends of a range need.
+    /// Width in pixels of the wider of the texts for both ends of a range.
     [[nodiscard]] int widest(const QFontMetrics &metrics, int minimum, int maximum) const;
 };
 
-/// Where the parts of a step box are, and how they look. Two arrows enclose the number; with the reading direction from
-/// right to left all of it is mirrored.
+/// Where the parts of a step box are, and how they look. Two arrows enclose the number; in a
+/// right-to-left layout everything is mirrored.
 struct StepBoxLook
 {
     /// How an arrow shows what the mouse does and whether a step that way is possible.
@@ -32,7 +32,7 @@ struct StepBoxLook
     Qt::LayoutDirection direction = Qt::LeftToRight;
     int textWidth = 0; ///< pixels of the widest text
 
-    /// Sizes of a box around a text.
+    /// Sizes of a box for the widest text.
     [[nodiscard]] static QSize usualSize(const QSize &text);
     [[nodiscard]] static QSize smallestSize(const QSize &text);
 

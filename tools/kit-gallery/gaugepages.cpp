@@ -18,7 +18,7 @@ namespace {
 
 constexpr int kSize = 210; // pixels
 
-/// What a part needs to have something to show.
+/// Gives a gauge the values that its parts need to have something to show.
 QcGaugeWidget *prepared(QcGaugeWidget *gauge, int size)
 {
     gauge->setFixedSize(size, size);
@@ -50,7 +50,7 @@ QcGaugeWidget *createGauge(double value, double from, double to, int size)
     return gauge;
 }
 
-/// On a face with a scale, which the others refer to.
+/// A gauge with one part on a face with a scale, which all parts refer to.
 template <typename Item, typename... Arguments>
 void addPart(GalleryPage &page, const char *name, Arguments... arguments)
 {

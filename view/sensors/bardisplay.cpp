@@ -20,7 +20,7 @@ void BarDisplay::paintPointer(QPainter &painter, const QRectF &area) const
     const double unit = unitOf(area);
     const double zero = std::clamp(0.0, face().scale.low, face().scale.high);
     painter.fillRect(scale.stripe(zero, reading().value, -2.3 * unit, -0.5 * unit), pointerColor());
-    painter.setPen(QPen(pointerColor().darker(140), 3)); // seen at zero too
+    painter.setPen(QPen(pointerColor().darker(140), 3)); // visible at zero too
     painter.drawLine(scale.point(reading().value, -2.4 * unit), scale.point(reading().value, -0.4 * unit));
     paintHeld(painter, scale, -2.3 * unit, -0.5 * unit);
 }

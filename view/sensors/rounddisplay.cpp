@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr double kDigitsBeside = 1.35; // width against height from which the digits stand beside the gauge
+constexpr double kDigitsBeside = 1.35; // width to height ratio from which the digits are beside the gauge
 constexpr double kDigitsBelow = 0.22;  // of the height otherwise
 
 QVector<QcBand> bandsOf(const SensorScale &scale, const SensorLimits &limits)
@@ -37,7 +37,7 @@ RoundDisplay::RoundDisplay(QWidget *parent)
     : SensorDisplay(parent)
     , m_gauge(new QcGaugeWidget(this))
 {
-    // The digits stand outside, where they can be larger.
+    // Without a value label: the digits are outside, where they can be larger.
     m_gauge->append<QcBackgroundItem>();
     m_gauge->append<QcScaleItem>();
     m_gauge->append<QcColorBandItem>();
@@ -55,7 +55,7 @@ SensorDisplay::Places RoundDisplay::places() const
     const double height = area.height() - footer;
     Places parts;
     parts.footer = QRectF(area.left(), area.bottom() - footer, area.width(), footer);
-    if (!face().scale.isKnown()) { // no gauge yet
+    if (!face().scale.isKnown()) { // the gauge is hidden
         parts.value = QRectF(area.left(), area.top() + 0.25 * height, area.width(), 0.5 * height);
     } else if (area.width() > kDigitsBeside * height) {
         const double side = std::min(height, 0.6 * area.width());

@@ -5,8 +5,8 @@
 #include <QPixmap>
 #include <QWidget>
 
-/// Shows the reading of one sensor: a figure of its kind, digits with the unit, and below the held values and what is
-/// wrong, if something is. What stays the same is painted once for each size; a new reading repaints the rest.
+/// Shows the reading of one sensor: a figure of its kind, digits with the unit, and below them the held values and a
+/// warning if there is one. What stays the same is painted once per size; a new reading repaints the rest.
 class SensorDisplay : public QWidget
 {
     Q_OBJECT
@@ -36,7 +36,7 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:
-    /// The places of the three parts, from the top or beside each other; any may be empty.
+    /// The places of the three parts, above or beside each other; any of them may be empty.
     struct Places
     {
         QRectF value;
@@ -47,9 +47,9 @@ protected:
     [[nodiscard]] virtual Places places() const = 0;
     /// The figure without a reading. Nothing is painted while the scale is not known.
     virtual void paintFigure(QPainter &painter, const QRectF &area) const = 0;
-    /// Only with a value.
+    /// Only called with a value.
     virtual void paintPointer(QPainter &painter, const QRectF &area) const = 0;
-    /// After either changed; the face or the places, if `isFace`, otherwise the reading.
+    /// Called after a change: of the face or the places if `isFace`, otherwise of the reading.
     virtual void follow(bool isFace);
 
     [[nodiscard]] double footerHeight() const;

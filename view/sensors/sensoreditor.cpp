@@ -43,7 +43,7 @@ void SensorEditor::applyEdit(const SensorInfo &before, const SensorInfo &after)
         emit limitsEdited(before.group, before.sensor, after.limits.minimum(), after.limits.maximum());
 }
 
-/// The new name may be that of other sensors, too: the sensor's key depends on how many of them come before it.
+/// Other sensors may already have the new name: the key depends on how many of them come first.
 void SensorEditor::keepChoices(const SensorInfo &before, const QString &name)
 {
     const QVector<SensorInfo> &all = m_sensors.sensors().sensors;

@@ -8,8 +8,8 @@ class SensorChoices;
 class SensorTreeModel;
 struct SensorInfo;
 
-/// Lets the user change name, colour and limits of a sensor. What was changed goes out as a signal; it shows when it
-/// has come back through the model.
+/// Lets the user change name, colour and limits of a sensor. Changes are emitted as signals; they become
+/// visible once the model has them.
 class SensorEditor : public QObject
 {
     Q_OBJECT

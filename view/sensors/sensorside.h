@@ -10,7 +10,7 @@ class QTreeView;
 class SensorTreeModel;
 
 /// The side of the tab "Sensoren": the tree of all sensors with its keys and context menu, and the buttons below it. It
-/// changes nothing but which sensors are checked; what else the user wants goes out as a signal.
+/// only changes which sensors are checked; everything else is emitted as a signal.
 class SensorSide : public QWidget
 {
     Q_OBJECT

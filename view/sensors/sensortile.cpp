@@ -173,7 +173,7 @@ void SensorTile::showKind()
 
 void SensorTile::setReading(const SensorReading &reading)
 {
-    // Judged by the scale in force: an end without a limit follows what is held.
+    // The scale may change with every reading: an end without a limit follows the held values.
     m_display->setFace({sensorScale(m_sensor.limits, reading.held), m_sensor.limits, m_sensor.color, m_sensor.unit});
     m_display->setReading(reading);
 }

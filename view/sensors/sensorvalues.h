@@ -10,8 +10,8 @@
 #include <functional>
 #include <optional>
 
-/// The latest value of each channel: what the box sends, or as long as it has sent nothing the last recorded value.
-/// Also what digits show of them, which change less often.
+/// The latest value of each channel: the one that the box sent, or the last recorded one until it sends something. Also
+/// the values that digits show, which change less often.
 class SensorValues
 {
 public:
@@ -29,12 +29,12 @@ public:
     void forgetLive();
     /// The box sends nothing any more: its values stay, but are no longer fresh.
     void expire() { m_live.expire(); }
-    /// The last recorded values. False if they are the same as before.
+    /// Takes the last recorded values. False if they are the same as before.
     bool setRecorded(const PerChannel &values);
-    /// Of one channel, if it is one; its next value begins a new range.
+    /// The next value of the channel begins a new held range. Ignores a channel that does not exist.
     void resetHeld(int channel) { m_live.resetHeld(channel); }
     void resetAllHeld();
-    /// Makes the latest values those that the digits show.
+    /// The digits show the latest values from now on.
     void updateReadOut();
 
     /// True if the box has sent something.

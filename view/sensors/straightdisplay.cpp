@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr double kUprightFrom = 1.25; // height against width
+constexpr double kUprightFrom = 1.25; // height to width ratio
 
 const QColor kHeldColor(0x61, 0x61, 0x61);
 
@@ -64,7 +64,7 @@ void StraightDisplay::paintHeld(QPainter &painter, const StraightScale &scale, d
 {
     if (!reading().held)
         return;
-    for (const QPen &pen : {QPen(theme::qColorBackground, 4), QPen(kHeldColor, 2)}) { // seen on every colour
+    for (const QPen &pen : {QPen(theme::qColorBackground, 4), QPen(kHeldColor, 2)}) { // visible on every colour
         painter.setPen(pen);
         for (double value : {reading().held->minimum, reading().held->maximum})
             painter.drawLine(scale.point(value, begin), scale.point(value, end));

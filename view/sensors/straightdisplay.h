@@ -15,7 +15,7 @@ protected:
     [[nodiscard]] Places places() const override;
     [[nodiscard]] bool isUpright() const;
     [[nodiscard]] QFont labelFont(const QRectF &area) const;
-    /// The length that all parts across the scale are made from.
+    /// The length in pixels that all lengths across the scale are multiples of.
     [[nodiscard]] double unitOf(const QRectF &area) const;
     [[nodiscard]] StraightScale scaleIn(const QRectF &area) const;
     void paintHeld(QPainter &painter, const StraightScale &scale, double begin, double end) const;

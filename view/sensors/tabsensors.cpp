@@ -61,7 +61,7 @@ void TabSensors::layOut()
     m_splitter->setStretchFactor(0, 0);
     m_splitter->setStretchFactor(1, 1);
     auto *layout = new QHBoxLayout(this);
-    // The cards bring their shadows.
+    // Less where the cards have their shadows.
     layout->setContentsMargins(kEdge, kEdge - ShadowFrame::kShadow, kEdge - ShadowFrame::kShadow,
                                kEdge - ShadowFrame::kShadow);
     layout->addWidget(m_splitter);
@@ -84,7 +84,7 @@ void TabSensors::connectParts()
     });
     connect(m_sensors, &SensorTreeModel::renamed, m_editor, &SensorEditor::rename);
     connect(m_side, &SensorSide::editRequested, this, [this](int sensor) {
-        if (m_model && !m_model->isBusy()) // the sensors may be others when the dialog is closed
+        if (m_model && !m_model->isBusy()) // the sensors may have changed by the time the dialog is closed
             m_editor->openDialog(sensor);
     });
     connect(m_side, &SensorSide::resetRequested, this, &TabSensors::resetHeld);
@@ -213,8 +213,7 @@ void TabSensors::followLink()
     showHint();
 }
 
-// A minimised window is brought up to date when the values are no longer fresh, or when it is shown again and samples
-// go on.
+// A minimised window is not repainted with every sample; it is brought up to date once the values are no longer fresh.
 void TabSensors::scheduleTiles()
 {
     if (!window()->isMinimized())

@@ -45,7 +45,7 @@ void TilePage::setTiles(const QVector<Content> &contents)
     m_grid->setTiles(shown);
     removeTilesBut(contents);
     orderTabs();
-    enlarge(enlarged()); // none, if the grid does not show it any more
+    enlarge(enlarged()); // null if its tile is gone
 }
 
 void TilePage::removeTilesBut(const QVector<Content> &contents)
@@ -54,7 +54,7 @@ void TilePage::removeTilesBut(const QVector<Content> &contents)
     for (const int index : indices) {
         const auto isIt = [index](const Content &content) { return content.index == index; };
         if (std::none_of(contents.cbegin(), contents.cend(), isIt))
-            m_tiles.take(index)->deleteLater(); // a button in it may be at work
+            m_tiles.take(index)->deleteLater(); // the call may come from one of its buttons
     }
 }
 

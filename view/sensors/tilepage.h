@@ -29,14 +29,15 @@ public:
 
     explicit TilePage(QWidget *parent = nullptr);
 
-    /// Exactly these, in their order; tiles that stay keep what the user did with them.
+    /// Shows exactly these, in their order. A tile that is already there is updated, so that it stays enlarged or
+    /// focused.
     void setTiles(const QVector<Content> &contents);
     [[nodiscard]] bool hasTiles() const { return !m_tiles.isEmpty(); }
     /// Shows a text instead of the tiles; the tiles for an empty text.
     void setHint(const QString &text);
-    /// Of a sensor without a tile: nothing happens. The same holds for the others.
+    /// Does nothing for a sensor without a tile, like the next two.
     void setReading(int index, const SensorReading &reading);
-    /// What screen readers say about a tile; not with every reading.
+    /// Updates the text for screen readers, which is not necessary with every reading.
     void describeReading(int index);
     void setKind(int index, DisplayKind kind);
     /// Shows all tiles again; false if none was enlarged.

@@ -44,7 +44,7 @@ void useTheme(const QColor &needle)
     QtMaterialStyle::instance().setTheme(std::move(theme));
 }
 
-/// Notes when it is painted.
+/// Records when it is painted.
 class NotingItem : public QcItem
 {
 public:
@@ -116,7 +116,8 @@ void TestQcGaugeWidget::stillPartsAreKept_data()
         gauge.setBands({{0.0, nan, Qt::red}, {0.0, 9.0, QColor()}});
     });
     row("needle", QString(), [](ScaledGauge &gauge) { gauge.parts().find<QcNeedleItem>()->setColor(Qt::red); });
-    row("part below", QStringLiteral("b"), [](ScaledGauge &gauge) { gauge.parts().find<QcDegreesItem>()->setLength(9.0); });
+    row("part below", QStringLiteral("b"),
+        [](ScaledGauge &gauge) { gauge.parts().find<QcDegreesItem>()->setLength(9.0); });
     row("another step", all, [](ScaledGauge &gauge) { gauge.parts().find<QcScaleItem>()->setStep(25.0); });
     row("range", all, [](ScaledGauge &gauge) { gauge.setRange(0.0, 99.0); });
     row("bands", all, [](ScaledGauge &gauge) { gauge.setBands({{50.0, 60.0, Qt::red}}); });
@@ -168,7 +169,7 @@ void TestQcGaugeWidget::partsArePaintedInOrder()
     gauge.parts().move(4, 0); // no such part
     QCOMPARE(order(), QStringLiteral("dbca"));
     std::unique_ptr<QcItem> taken = gauge.parts().take(1);
-    taken->setVisible(false); // reaches no gauge
+    taken->setVisible(false); // no longer affects the gauge
     QVERIFY(!gauge.parts().take(3) && !gauge.parts().at(-1));
     gauge.parts().insert(99, std::move(taken));
     QCOMPARE(order(), QStringLiteral("dca"));
@@ -195,10 +196,10 @@ void TestQcGaugeWidget::valueRepaintsLittle()
     QVERIFY(!painted.region.contains(QPoint(60, 150)));  // numerals on the left
     QVERIFY(!painted.region.contains(QPoint(240, 150))); // and right
     painted.region = QRegion();
-    gauge->setValue(53.001); // nobody could tell the difference
+    gauge->setValue(53.001); // too small a difference to be visible
     QCoreApplication::processEvents();
     QVERIFY(painted.region.isEmpty());
-    for (int i = 1; i < 200; ++i) // but all together
+    for (int i = 1; i < 200; ++i) // but all of them together make one
         gauge->setValue(53.001 + i * 0.001);
     QTRY_VERIFY(painted.region.contains(QPoint(150, 60)));
 }
@@ -291,7 +292,7 @@ void TestQcGaugeWidget::needleMovesOnlyInSight()
     gauge.setValue(90.0);
     QVERIFY(!gauge.isOnTheWay()); // no damping
     gauge.setDamping(40);
-    gauge.setValue(1e300); // off the scale, but the needle has only that much way
+    gauge.setValue(1e300); // far off the scale, but the needle moves only to the end
     QVERIFY(gauge.isOnTheWay() && gauge.reading().shown == 90.0);
     QTRY_VERIFY(!gauge.isOnTheWay());
     QCOMPARE(gauge.reading().shown, 1e300);
@@ -354,7 +355,7 @@ void TestQcGaugeWidget::announcesSparingly()
         announcer.changed();
     }
     QCOMPARE(told, QStringList(QStringLiteral("1,0")));
-    QTRY_COMPARE(told.size(), 2); // the last one, when the pause is over
+    QTRY_COMPARE(told.size(), 2); // the last value, when the pause is over
     announcer.changed();
     QCOMPARE(told.last(), QStringLiteral("50,0"));
 }
