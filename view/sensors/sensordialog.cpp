@@ -130,7 +130,7 @@ QString SensorDialog::complaint() const
         return tr("Bitte einen Namen eingeben.");
     if (limits.lower && limits.upper && *limits.lower >= *limits.upper)
         return tr("Die untere Grenze muss kleiner als die obere sein.");
-    // These numbers mean "no limit" and would not come back as entered.
+    // To the model such numbers mean "no limit": they would not come back as entered.
     if (!(sensorLimits(limits.minimum(), limits.maximum()) == limits))
         return tr("Grenzen liegen zwischen -100000 und 100000.");
     return {};
