@@ -31,6 +31,7 @@ QcColors QcColors::fromTheme(bool muted)
     QcColors colors;
     colors.muted = muted;
     colors.face = themeColor(QLatin1String("canvas"));
+    // The theme's text colour alone may be too pale for small numerals.
     const QColor ink = between(themeColor(QLatin1String("text")), colorcontrast::readableOn(colors.face), 0.55);
     colors.ink = colors.shaded(ink);
     colors.soft = colors.shaded(between(ink, colors.face, muted ? 0.15 : 0.35));
@@ -44,6 +45,7 @@ QColor QcColors::shaded(const QColor &color) const
 {
     if (!muted)
         return color;
+    // Less saturated first, so that a pale red is not taken for a bright pink.
     const int grey = qGray(color.rgb());
     const QColor dull = between(color, QColor(grey, grey, grey, color.alpha()), 0.75);
     return between(dull, face, 0.45);

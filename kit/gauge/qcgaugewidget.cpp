@@ -114,7 +114,7 @@ void QcGaugeWidget::prepare() const
         return;
     d->prepared = true;
     d->canvas.adopt(*this, d->stale || !isEnabled());
-    if (!fits)
+    if (!fits) // pictures have the size and the resolution of the widget they were painted for
         d->parts.dropPictures();
     d->parts.setCanvas(d->canvas);
 }
@@ -287,6 +287,7 @@ void QcGaugeWidget::moveNeedle()
 void QcGaugeWidget::hideEvent(QHideEvent *event)
 {
     QWidget::hideEvent(event);
+    // Nobody sees the rest of the way, and a hidden gauge should not keep a timer running.
     d->motion.stop();
     d->reading.shown = d->reading.value;
 }

@@ -186,7 +186,7 @@ void LeftRightStepBox::mousePressEvent(QMouseEvent *event)
         event->ignore();
         return;
     }
-    m_editor->finish();
+    m_editor->finish(); // a number that was typed counts before the step
     m_pressed = look().partAt(event->pos());
     setHovered(m_pressed);
     update();
@@ -270,6 +270,7 @@ void LeftRightStepBox::wheelEvent(QWheelEvent *event)
         return;
     }
     m_editor->finish();
+    // Fine wheels and touch pads report a step in several events.
     m_wheelRest += event->angleDelta().y();
     stepBy(m_wheelRest / kWheelStep);
     m_wheelRest %= kWheelStep;

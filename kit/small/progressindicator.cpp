@@ -147,6 +147,7 @@ void ProgressIndicator::setPercent(int percent)
 
 void ProgressIndicator::updateTimer()
 {
+    // A timer that turns what nobody sees would wake the computer 25 times per second.
     const bool wanted = m_animated && m_percent == kTurning && isVisible() && !window()->isMinimized();
     if (wanted && !m_timer.isActive())
         m_timer.start();

@@ -65,6 +65,7 @@ QSize StepBoxLook::smallestSize(const QSize &text)
 
 QRect StepBoxLook::areaOf(StepBoxPart part) const
 {
+    // Arrows shrink before the text is cut.
     const int room = (area.width() - textWidth) / 2 - kPadding;
     const int arrow = std::clamp(room, kSmallestArrowWidth, kArrowWidth);
     QRect result;

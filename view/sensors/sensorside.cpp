@@ -52,6 +52,7 @@ void SensorSide::createTree()
     m_tree->setModel(m_sensors);
     m_tree->setIconSize(SensorTreeModel::iconSize());
     m_tree->setUniformRowHeights(true);
+    // F2 is handled by handleTreeKey(), which renames from any column.
     m_tree->setEditTriggers(QAbstractItemView::DoubleClicked);
     m_tree->setExpandsOnDoubleClick(false);
     m_tree->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -56,13 +56,14 @@ std::optional<double> SensorValues::latest(int channel) const
 SensorReading SensorValues::reading(const SensorInfo &sensor) const
 {
     SensorReading reading;
-    if (sensor.channel < 0)
+    if (sensor.channel < 0) // described by the box, but no value of it is sent
         return reading;
     std::optional<double> value = latest(sensor.channel);
     if (value)
         value = *value + sensor.offset;
     reading.status = sensorStatus(value, isFresh(), sensor.limits);
     reading.value = value.value_or(0.0);
+    // Until the digits were updated for the first time they show the value itself.
     const std::optional<double> &readOut = m_readOut.at(static_cast<std::size_t>(sensor.channel));
     reading.readOut = readOut ? *readOut + sensor.offset : reading.value;
     reading.held = m_live.held(sensor.channel);

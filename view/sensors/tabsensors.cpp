@@ -181,7 +181,7 @@ void TabSensors::addSample(const std::array<double, kNumSensors> &values, int pe
     if (isFirst)
         showHint();
     scheduleTiles();
-    if (!m_statusTimer.isActive()) {
+    if (!m_statusTimer.isActive()) { // the first value for some time is shown at once
         m_statusTimer.start();
         m_values.updateReadOut();
     }

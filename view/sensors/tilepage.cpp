@@ -16,7 +16,7 @@ TilePage::TilePage(QWidget *parent)
     auto *scroll = new QScrollArea;
     scroll->setWidget(m_grid);
     scroll->setWidgetResizable(true);
-    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setFocusPolicy(Qt::NoFocus); // the Tab key goes from the tree to the first tile
     m_grid->setAutoFillBackground(false);
     scroll->viewport()->setAutoFillBackground(false);
     m_tilePage = scroll;
@@ -134,6 +134,7 @@ void TilePage::enlarge(SensorTile *tile)
     emit enlargedChanged(tile != nullptr);
     if (tile)
         tile->setEnlarged(true);
+    // The buttons that had the focus may be hidden now, and Escape has to reach the tab.
     if (tile && before != tile)
         tile->setFocus(Qt::OtherFocusReason);
 }
