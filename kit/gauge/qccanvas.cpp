@@ -45,7 +45,6 @@ QColor QcColors::shaded(const QColor &color) const
 {
     if (!muted)
         return color;
-    // Less saturated first, so that a pale red is not taken for a bright pink.
     const int grey = qGray(color.rgb());
     const QColor dull = between(color, QColor(grey, grey, grey, color.alpha()), 0.75);
     return between(dull, face, 0.45);

@@ -16,7 +16,7 @@ TilePage::TilePage(QWidget *parent)
     auto *scroll = new QScrollArea;
     scroll->setWidget(m_grid);
     scroll->setWidgetResizable(true);
-    scroll->setFocusPolicy(Qt::NoFocus); // the Tab key goes from the tree to the first tile
+    scroll->setFocusPolicy(Qt::NoFocus); // the Tab key skips the area itself
     m_grid->setAutoFillBackground(false);
     scroll->viewport()->setAutoFillBackground(false);
     m_tilePage = scroll;
