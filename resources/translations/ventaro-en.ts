@@ -1587,6 +1587,41 @@ double-click fits the value range.</translation>
     </message>
 </context>
 <context>
+    <name>SensorSide</name>
+    <message>
+        <source>Sensoren</source>
+        <translation>Sensors</translation>
+    </message>
+    <message>
+        <source>&amp;Bearbeiten...</source>
+        <translation>&amp;Edit...</translation>
+    </message>
+    <message>
+        <source>Name, Farbe und Grenzen des gewählten Sensors (Eingabetaste)</source>
+        <translation>Name, colour and limits of the selected sensor (Enter)</translation>
+    </message>
+    <message>
+        <source>&amp;Min/Max neu</source>
+        <translation>Reset &amp;min/max</translation>
+    </message>
+    <message>
+        <source>Minimum und Maximum aller Sensoren neu beginnen</source>
+        <translation>Reset minimum and maximum of all sensors</translation>
+    </message>
+    <message>
+        <source>Umbenennen (F2)</source>
+        <translation>Rename (F2)</translation>
+    </message>
+    <message>
+        <source>Bearbeiten...</source>
+        <translation>Edit...</translation>
+    </message>
+    <message>
+        <source>Minimum und Maximum neu beginnen</source>
+        <translation>Reset minimum and maximum</translation>
+    </message>
+</context>
+<context>
     <name>SensorTile</name>
     <message>
         <source>Linear</source>
@@ -2321,38 +2356,6 @@ Esc cancels.</translation>
 Links die Sensoren ankreuzen, die gezeigt werden sollen.</source>
         <translation>No sensor selected.
 Tick the sensors to be shown on the left.</translation>
-    </message>
-    <message>
-        <source>Sensoren</source>
-        <translation>Sensors</translation>
-    </message>
-    <message>
-        <source>&amp;Bearbeiten...</source>
-        <translation>&amp;Edit...</translation>
-    </message>
-    <message>
-        <source>Name, Farbe und Grenzen des gewählten Sensors (Eingabetaste)</source>
-        <translation>Name, colour and limits of the selected sensor (Enter)</translation>
-    </message>
-    <message>
-        <source>&amp;Min/Max neu</source>
-        <translation>Reset &amp;min/max</translation>
-    </message>
-    <message>
-        <source>Minimum und Maximum aller Sensoren neu beginnen</source>
-        <translation>Reset minimum and maximum of all sensors</translation>
-    </message>
-    <message>
-        <source>Umbenennen (F2)</source>
-        <translation>Rename (F2)</translation>
-    </message>
-    <message>
-        <source>Bearbeiten...</source>
-        <translation>Edit...</translation>
-    </message>
-    <message>
-        <source>Minimum und Maximum neu beginnen</source>
-        <translation>Reset minimum and maximum</translation>
     </message>
 </context>
 <context>

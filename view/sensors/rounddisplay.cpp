@@ -1,4 +1,4 @@
-#include "view/sensors/sensordisplay_kinds.h"
+#include "view/sensors/rounddisplay.h"
 
 #include "kit/gauge/qcbackgrounditem.h"
 #include "kit/gauge/qccolorbanditem.h"
@@ -7,12 +7,13 @@
 #include "kit/gauge/qcneedleitem.h"
 #include "kit/gauge/qcscaleitem.h"
 #include "kit/gauge/qcvaluesitem.h"
+#include "view/sensors/straightscale.h"
 
 #include <algorithm>
 
 namespace {
 
-constexpr double kDigitsBeside = 1.35; // width against height from which the digits stand beside the gauge
+constexpr double kDigitsBeside = 1.35; // width to height ratio from which the digits are beside the gauge
 constexpr double kDigitsBelow = 0.22;  // of the height otherwise
 
 QVector<QcBand> bandsOf(const SensorScale &scale, const SensorLimits &limits)
@@ -36,7 +37,7 @@ RoundDisplay::RoundDisplay(QWidget *parent)
     : SensorDisplay(parent)
     , m_gauge(new QcGaugeWidget(this))
 {
-    // The digits stand outside, where they can be larger.
+    // Without a value label: the digits are outside, where they can be larger.
     m_gauge->append<QcBackgroundItem>();
     m_gauge->append<QcScaleItem>();
     m_gauge->append<QcColorBandItem>();
@@ -54,7 +55,7 @@ SensorDisplay::Places RoundDisplay::places() const
     const double height = area.height() - footer;
     Places parts;
     parts.footer = QRectF(area.left(), area.bottom() - footer, area.width(), footer);
-    if (!face().scale.isKnown()) { // no gauge yet
+    if (!face().scale.isKnown()) { // the gauge is hidden
         parts.value = QRectF(area.left(), area.top() + 0.25 * height, area.width(), 0.5 * height);
     } else if (area.width() > kDigitsBeside * height) {
         const double side = std::min(height, 0.6 * area.width());
@@ -106,19 +107,4 @@ void RoundDisplay::followReading()
         m_gauge->setHeld(shown.held->minimum, shown.held->maximum);
     else
         m_gauge->clearHeld();
-}
-
-std::unique_ptr<SensorDisplay> SensorDisplay::create(DisplayKind kind)
-{
-    switch (kind) {
-    case DisplayKind::Linear:
-        return std::make_unique<LinearDisplay>();
-    case DisplayKind::Bar:
-        return std::make_unique<BarDisplay>();
-    case DisplayKind::Digital:
-        return std::make_unique<DigitalDisplay>();
-    case DisplayKind::Round:
-        break;
-    }
-    return std::make_unique<RoundDisplay>();
 }

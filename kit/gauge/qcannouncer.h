@@ -1,26 +1,24 @@
 #pragma once
 
+#include "kit/small/throttle.h"
+
 #include <QString>
-#include <QTimer>
 
 #include <functional>
 
 class QWidget;
 
-/// What screen readers learn about gauges: a dial with its value and range; the attitude meter is an indicator with a
-/// text. Called by their constructors; more than once does nothing.
-void installQcAccessibility();
-
 /// Tells screen readers that what a widget shows has changed, at most once a second and only when the words differ.
-/// Without a screen reader it costs next to nothing and has no timer.
+/// Without a screen reader it costs next to nothing and starts no timer.
 class QcAnnouncer
 {
 public:
     using Tell = std::function<void(const QString &text)>;
 
-    /// Without `tell` it tells whoever listens to QAccessible.
+    /// Speaks for the widget, which must outlive it. Without `tell` it tells whoever listens to QAccessible.
     explicit QcAnnouncer(QWidget *widget, Tell tell = {});
 
+    /// The widget shows something else; to be called as often as that happens.
     void changed();
 
 private:
@@ -29,5 +27,5 @@ private:
     QWidget *m_widget;
     Tell m_tell;
     QString m_told;
-    QTimer m_pause;
+    Throttle m_pause; ///< runs for a while after each announcement
 };
