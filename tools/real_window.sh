@@ -119,11 +119,10 @@ manages_windows() {
     xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'
 }
 
-# The program knows one port only, so each run takes an address of its own.
+# The program knows one port only, so runs at the same time need different addresses.
 start_simulator() {
-    local attempt
-    for attempt in {1..20}; do
-        address=127.$((RANDOM % 250 + 1)).$((RANDOM % 250 + 1)).$((RANDOM % 250 + 1))
+    for address in 127.26.4.{1..50}; do
+        : >"$work/simulator.txt"
         background "$work/simulator.txt" "$programs/ventaro-box-simulator" --address "$address" --port 2222 --seed 1
         wait_for grep -q 'listen' "$work/simulator.txt"
         ! grep -q 'cannot listen' "$work/simulator.txt" || continue
