@@ -8,6 +8,25 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+namespace {
+
+constexpr QSize kPictureSize(20, 10);
+
+/// One edit of each kind that a project file has to keep.
+void editProject(Bench &bench)
+{
+    emit bench.view.tabOszi()->markerChangedAbsolute(2, 17);
+    emit bench.view.tabProject()->phaseEditChanged(1, "Füllen <ß>"_s);
+    QPixmap picture(kPictureSize);
+    picture.fill(Qt::darkCyan);
+    bench.model.setImage(2, picture);
+    bench.model.setComment("Größe \"7\"\n\tZeile 2"_s);
+    bench.prompts->whileOpen = [] { QTest::qWait(30); };
+    emit bench.view.calibrate();
+}
+
+} // namespace
+
 class TestSession : public QObject
 {
     Q_OBJECT
@@ -44,19 +63,11 @@ private slots:
         for (int shot = 0; shot < 3; ++shot)
             QVERIFY(rig.recordShot(40));
         QCOMPARE(bench.shots(), 3);
-
         bench.prompts->answers = {QMessageBox::Yes};
         emit bench.view.tabOszi()->deleteMeasurements("2"_s);
         QCOMPARE(bench.shots(), 2);
         QVERIFY(rig.allArrived()); // in what is now shot 2
-        emit bench.view.tabOszi()->markerChangedAbsolute(2, 17);
-        emit bench.view.tabProject()->phaseEditChanged(1, "Füllen <ß>"_s);
-        QPixmap picture(20, 10);
-        picture.fill(Qt::darkCyan);
-        bench.model.setImage(2, picture);
-        bench.model.setComment("Größe \"7\"\n\tZeile 2"_s);
-        bench.prompts->whileOpen = [&] { QTest::qWait(30); };
-        emit bench.view.calibrate();
+        editProject(bench);
 
         bench.prompts->saveNames = {file};
         emit bench.view.saveProject();
@@ -69,7 +80,7 @@ private slots:
         QVERIFY(rig.allArrived()); // bit for bit
         QCOMPARE(bench.model.clock(), 1);
         QCOMPARE(bench.model.phaseName(1), "Füllen <ß>"_s);
-        QCOMPARE(bench.model.image(2).size(), picture.size());
+        QCOMPARE(bench.model.image(2).size(), kPictureSize);
         const QString again = m_folder.filePath("again.vnt"_s);
         QVERIFY(bench.model.save(again));
         QVERIFY(contentOf(again) == contentOf(file));

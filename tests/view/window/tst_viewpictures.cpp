@@ -159,6 +159,61 @@ QString clippedText(const QWidget *page)
     return {};
 }
 
+/// A window in the middle of a recording.
+void work(View &view, Model &model, const QDir &folder, bool withDemo)
+{
+    fill(model);
+    fill(*view.tabBlackBox(), model, folder);
+    model.setConnected(true);
+    model.emitAppStateChanged();
+    view.setDeviceAddress("192.168.4.1"_s);
+    view.setRecordingRunning(true);
+    view.setDemoState(withDemo ? DemoState::Running : DemoState::Off);
+    rememberMuch(view);
+    model.setDeviceDescription({"2.1"_s, "8.0.3"_s, 1, {{"Werkzeug, Düsenseite"_s, 5, {}}}});
+    view.findChild<QCheckBox *>("loggerCheckBoxA1"_s)->setChecked(true);
+    for (int i = 0; i < 40; ++i) {
+        view.logSample(i * 0.1, {1.5 * i, 2.25, 3.0, 4.0, 5.0});
+        view.showLiveValues({1.5 * i, 2.25, 3.0 + i, 4.0, 5.0}, 100);
+        view.terminalReceived("%1;12.5;230.1;80;181.5;42\n"_s.arg(i));
+    }
+    view.terminalSent("run=1\n"_s);
+    view.showStatus("Die CSV-Datei konnte nicht gespeichert werden!"_s);
+}
+
+void lookAtTabs(View &view, const QString &picture)
+{
+    for (int tab = 0; tab < view.tabs()->count(); ++tab) {
+        view.tabs()->setCurrentIndex(tab);
+        QTest::qWait(150);
+        keep(view, picture.arg(tab));
+        QCOMPARE(clippedText(view.tabs()->widget(tab)), QString());
+    }
+}
+
+void lookAtEvaluation(View &view, const QString &picture)
+{
+    view.tabs()->setCurrentWidget(view.tabEvaluation());
+    for (int page = 1; page < TabEvaluation::kNumPages; ++page) {
+        view.tabEvaluation()->showPage(TabEvaluation::Page(page));
+        QTest::qWait(150);
+        keep(view, picture.arg("evaluation%1"_s.arg(page)));
+        QCOMPARE(clippedText(view.tabEvaluation()), QString());
+    }
+}
+
+void lookAtAbout(View &view, const QString &picture)
+{
+    view.showAbout();
+    auto *about = view.findChild<QDialog *>("AboutDialog"_s);
+    for (int tab = 0; tab < 2; ++tab) {
+        about->findChild<QTabWidget *>()->setCurrentIndex(tab);
+        QTest::qWait(50);
+        keep(*about, picture.arg("about%1"_s.arg(tab)));
+        QCOMPARE(clippedText(about), QString());
+    }
+}
+
 } // namespace
 
 class TestViewPictures : public QObject
@@ -190,54 +245,19 @@ private slots:
         View view(&model, std::make_unique<ScriptedPrompts>());
         const char *language = english ? "actionLanguageEnglish" : "actionLanguageGerman";
         view.findChild<QAction *>(QLatin1String(language))->trigger();
-        if (connected) {
-            fill(model);
-            fill(*view.tabBlackBox(), model, QDir(folder.path()));
-            model.setConnected(true);
-            model.emitAppStateChanged();
-            view.setDeviceAddress("192.168.4.1"_s);
-            view.setRecordingRunning(true);
-            view.setDemoState(english ? DemoState::Running : DemoState::Off);
-            rememberMuch(view);
-            model.setDeviceDescription({"2.1"_s, "8.0.3"_s, 1, {{"Werkzeug, Düsenseite"_s, 5, {}}}});
-            view.findChild<QCheckBox *>("loggerCheckBoxA1"_s)->setChecked(true);
-            for (int i = 0; i < 40; ++i) {
-                view.logSample(i * 0.1, {1.5 * i, 2.25, 3.0, 4.0, 5.0});
-                view.showLiveValues({1.5 * i, 2.25, 3.0 + i, 4.0, 5.0}, 100);
-                view.terminalReceived("%1;12.5;230.1;80;181.5;42\n"_s.arg(i));
-            }
-            view.terminalSent("run=1\n"_s);
-            view.showStatus("Die CSV-Datei konnte nicht gespeichert werden!"_s);
-        }
+        if (connected)
+            work(view, model, QDir(folder.path()), english);
         view.resize(size);
         view.show();
         QVERIFY(QTest::qWaitForWindowExposed(&view));
         const QString picture = QString::fromLatin1(QTest::currentDataTag()).remove(QLatin1Char(' ')) + "-%1"_s;
-        for (int tab = 0; tab < view.tabs()->count(); ++tab) {
-            view.tabs()->setCurrentIndex(tab);
-            QTest::qWait(150);
-            QCOMPARE(view.size(), size);
-            keep(view, picture.arg(tab));
-            QCOMPARE(clippedText(view.tabs()->widget(tab)), QString());
-        }
-        view.tabs()->setCurrentWidget(view.tabEvaluation());
-        for (int page = 1; page < TabEvaluation::kNumPages; ++page) {
-            view.tabEvaluation()->showPage(TabEvaluation::Page(page));
-            QTest::qWait(150);
-            keep(view, picture.arg("evaluation%1"_s.arg(page)));
-            QCOMPARE(clippedText(view.tabEvaluation()), QString());
-        }
+        lookAtTabs(view, picture);
+        QCOMPARE(view.size(), size); // no page has made the window larger
+        lookAtEvaluation(view, picture);
         QCOMPARE(clippedText(view.findChild<QToolBar *>("toolBar"_s)), QString());
         view.showProgress("Verbinden mit 192.168.4.1 ..."_s);
         keep(view, picture.arg("progress"_s));
-        view.showAbout();
-        auto *about = view.findChild<QDialog *>("AboutDialog"_s);
-        for (int tab = 0; tab < 2; ++tab) {
-            about->findChild<QTabWidget *>()->setCurrentIndex(tab);
-            QTest::qWait(50);
-            keep(*about, picture.arg("about%1"_s.arg(tab)));
-            QCOMPARE(clippedText(about), QString());
-        }
+        lookAtAbout(view, picture);
         auto *menu = view.findChild<QMenu *>("menu"_s);
         menu->resize(menu->sizeHint());
         keep(*menu, picture.arg("menu"_s));
