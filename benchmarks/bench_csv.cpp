@@ -5,6 +5,7 @@
 #include "model/project/csvexport.h"
 #include "model/project/germannumber.h"
 #include "model/project/pacer.h"
+#include "model/project/projectdocument.h"
 
 #include <benchmark/benchmark.h>
 
@@ -68,7 +69,7 @@ void exportToMemory(benchmark::State &state)
 {
     const SampleList values = measuredValues(kNumbers);
     ProjectDocument document;
-    document.samples[0] = {{&values, values.size()}};
+    document.samples[0].emplace().emplace_back(&values, values.size());
     for (auto _ : state) {
         QBuffer buffer;
         (void)buffer.open(QIODevice::WriteOnly); // never fails

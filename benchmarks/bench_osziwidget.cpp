@@ -44,7 +44,7 @@ SampleList shot(std::mt19937 &random, int look)
     return samples;
 }
 
-/// As many different shots as asked for, made once.
+/// `count` different shots, made once.
 const std::vector<SampleList> &shots(int look, size_t count)
 {
     static std::vector<SampleList> made[4];

@@ -3,7 +3,6 @@
 #include "benchmarks/pagebench.h"
 #include "plots/evaluation/overlay/tabevaluationoverlay.h"
 
-#include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
@@ -19,7 +18,7 @@ double cycle(int shot, int sample, int samplesPerShot)
     return 100.0 - 90.0 * std::cos(phase) + (sample * 31 + shot * 17) % 7;
 }
 
-// With everything switched on: aligned by a threshold, a reference, mean and band.
+// With everything switched on: alignment by a threshold, a reference, mean and band.
 struct Bench : ModelPageBench<TabEvaluationOverlay>
 {
     explicit Bench(const benchmark::State &state)
@@ -30,7 +29,7 @@ struct Bench : ModelPageBench<TabEvaluationOverlay>
         find<QCheckBox>("checkMean")->setChecked(true);
         find<QCheckBox>("checkBand")->setChecked(true);
         auto *alignment = find<QComboBox>("comboAlignment");
-        alignment->setCurrentIndex(alignment->count() - 2); // the threshold, coming from below
+        alignment->setCurrentIndex(alignment->count() - 2); // the rising threshold
         threshold->setValue(100.0);
         QApplication::processEvents();
     }
@@ -47,25 +46,25 @@ void thresholdChanged(benchmark::State &state)
     }
 }
 
-// The caches are of one sensor: everything is found out anew.
+// Only one sensor is cached: everything is computed again.
 void sensorSwitched(benchmark::State &state)
 {
     Bench bench(state);
     int sensor = 0;
     for (auto _ : state) {
         sensor = 1 - sensor;
-        bench.page.findChild<QAbstractButton *>(QStringLiteral("sensorButton%1").arg(sensor))->setChecked(true);
+        bench.chooseSensor(sensor);
         bench.page.repaint();
     }
 }
 
-// A measurement was removed meanwhile, so that the page kept nothing.
+// While the page was hidden the measurements changed, so that it kept nothing.
 void pageShown(benchmark::State &state)
 {
     Bench bench(state);
     for (auto _ : state) {
         bench.page.hide();
-        (void)bench.model->appendMeasurement(0); // only the change counts
+        (void)bench.model->appendMeasurement(0); // any change of the structure will do
         bench.model->emitDataChanged();
         bench.page.show();
         bench.page.repaint();
@@ -90,8 +89,3 @@ BENCHMARK(rowChosen)->Apply(manyShots);
 BENCHMARK_TEMPLATE(sampleArrived, Bench)->Apply(manyShots);
 
 } // namespace
-
-int main(int argc, char **argv)
-{
-    return runPageBenchmarks(argc, argv);
-}

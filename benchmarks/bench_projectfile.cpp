@@ -2,7 +2,9 @@
 // the streaming writer and reader. Peak memory over the samples is measured by counting what malloc hands out.
 
 #include "model/project/pacer.h"
-#include "model/project/projectfile.h"
+#include "model/project/projectdocument.h"
+#include "model/project/projectreader.h"
+#include "model/project/projectwriter.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -106,8 +108,10 @@ ProjectDocument documentOf(Values values)
 {
     ProjectDocument document;
     const std::vector<SampleList> &lists = samplesOf(values);
+    for (std::optional<SampleRuns> &runs : document.samples)
+        runs.emplace();
     for (std::size_t i = 0; i < lists.size(); ++i)
-        document.samples[i % kNumSensors].push_back({&lists[i], lists[i].size()});
+        document.samples[i % kNumSensors]->emplace_back(&lists[i], lists[i].size());
     return document;
 }
 
@@ -140,10 +144,10 @@ QJsonObject toJson(const ProjectDocument &document)
     QJsonObject json;
     for (std::size_t sensor = 0; sensor < document.samples.size(); ++sensor) {
         QJsonArray measurements;
-        for (const SampleRun &run : document.samples[sensor]) {
+        for (const SampleRun &run : *document.samples[sensor]) {
             QJsonArray samples;
-            for (double sample : *run.samples)
-                samples.append(sample);
+            for (int i = 0; i < run.count(); ++i)
+                samples.append(run.data()[i]);
             measurements.append(samples);
         }
         json[QStringLiteral("sensor %1").arg(sensor + 1)] = measurements;
@@ -175,7 +179,7 @@ void writeStreaming(benchmark::State &state)
         const MemoryOver memory;
         QFile file(fileOf(static_cast<Values>(state.range(0))));
         Pacer pacer([](int) {}, document.sampleCount());
-        if (!file.open(QIODevice::WriteOnly) || !writeProject(file, document, pacer))
+        if (!file.open(QIODevice::WriteOnly) || !projectfile::write(file, document, pacer))
             state.SkipWithError("cannot write");
         state.counters["MB_over"] = memory.peakMegabytes();
         state.counters["MB_file"] = static_cast<double>(file.size()) / 1e6;
@@ -186,7 +190,8 @@ void makeFile(benchmark::State &state)
 {
     QFile file(fileOf(static_cast<Values>(state.range(0))));
     Pacer pacer([](int) {}, 1);
-    if (!file.open(QIODevice::WriteOnly) || !writeProject(file, documentOf(static_cast<Values>(state.range(0))), pacer))
+    if (!file.open(QIODevice::WriteOnly)
+        || !projectfile::write(file, documentOf(static_cast<Values>(state.range(0))), pacer))
         state.SkipWithError("cannot write");
 }
 
@@ -226,11 +231,11 @@ void readStreaming(benchmark::State &state)
         if (!file.open(QIODevice::ReadOnly))
             state.SkipWithError("cannot read");
         Pacer pacer([](int) {}, file.size());
-        const auto content = readProject(file, pacer);
-        if (!content)
+        const auto document = projectfile::read(file, pacer);
+        if (!document)
             state.SkipWithError("not valid");
         state.counters["MB_over"] = memory.peakMegabytes() - memory.keptMegabytes();
-        state.counters["lists"] = static_cast<double>(content->measurements[0]->size() * kNumSensors);
+        state.counters["lists"] = static_cast<double>(document->samples[0]->size() * kNumSensors);
     }
 }
 

@@ -3,14 +3,13 @@
 #include "benchmarks/pagebench.h"
 #include "plots/evaluation/runtime/tabevaluationruntime.h"
 
-#include <QAbstractButton>
 #include <QDoubleSpinBox>
 
 namespace {
 
 using Bench = ModelPageBench<TabEvaluationRuntime>;
 
-// No sample lies below either threshold: every shot is searched to its end, from both sides.
+// No sample is below either threshold: every shot is searched completely, from both sides.
 void thresholdChanged(benchmark::State &state)
 {
     Bench bench(state);
@@ -31,7 +30,7 @@ void sensorSwitched(benchmark::State &state)
     for (auto _ : state) {
         sensor = 1 - sensor;
         bench.model->setOffset(sensor, offset += 0.01);
-        bench.page.findChild<QAbstractButton *>(QStringLiteral("sensorButton%1").arg(sensor))->setChecked(true);
+        bench.chooseSensor(sensor);
         bench.page.repaint();
     }
 }
@@ -41,8 +40,3 @@ BENCHMARK(sensorSwitched)->Apply(manyShots);
 BENCHMARK_TEMPLATE(sampleArrived, Bench)->Apply(manyShots);
 
 } // namespace
-
-int main(int argc, char **argv)
-{
-    return runPageBenchmarks(argc, argv);
-}

@@ -1,16 +1,16 @@
 #pragma once
 
-#include "app/startup.h"
 #include "model/model.h"
+#include "plots/evaluation/common/evaluationdata.h"
 
 #include <benchmark/benchmark.h>
 
+#include <QAbstractButton>
 #include <QApplication>
-#include <QLoggingCategory>
 
 #include <memory>
 
-// What the benchmarks of the evaluation's pages share.
+// What the benchmarks of the evaluation's pages share; pagebench.cpp has their main function.
 
 /// The value of a sample of a shot.
 using SampleAt = double (*)(int shot, int sample, int samplesPerShot);
@@ -20,41 +20,37 @@ inline double sawTooth(int shot, int sample, int)
     return 100.0 + sample % 97 + shot % 13;
 }
 
-/// As many shots as the benchmark's first argument says, of as many samples as its second.
-inline std::unique_ptr<Model> modelFor(const benchmark::State &state, SampleAt sampleAt = sawTooth)
-{
-    const auto shots = static_cast<int>(state.range(0));
-    const auto samplesPerShot = static_cast<int>(state.range(1));
-    auto model = std::make_unique<Model>(QString());
-    const QDateTime timestamp(QDate(2026, 3, 9), QTime(6, 0));
-    for (int shot = 0; shot < shots; ++shot) {
-        for (int sensor = 0; sensor < kNumSensors; ++sensor) {
-            (void)model->appendMeasurement(sensor); // its index is the shot
-            for (int i = 0; i < samplesPerShot; ++i)
-                (void)model->appendSample(sensor, shot, sampleAt(shot, i, samplesPerShot)); // both indices are right
-        }
-        model->setTimestamp(shot, timestamp.addSecs(30LL * shot));
-    }
-    return model;
-}
+/// The number of shots is the benchmark's first argument, the number of samples in each is its second.
+[[nodiscard]] std::unique_ptr<Model> modelFor(const benchmark::State &state, SampleAt sampleAt = sawTooth);
 
-/// A page of the size that it has in a window of 1280x800.
+/// Many shots, and very many.
+void manyShots(benchmark::internal::Benchmark *benchmark);
+
+/// A page and its model.
 template <typename PageType>
-struct ModelPageBench
+struct PageBench
 {
-    explicit ModelPageBench(const benchmark::State &state, SampleAt sampleAt = sawTooth)
+    explicit PageBench(const benchmark::State &state, SampleAt sampleAt = sawTooth)
         : model(modelFor(state, sampleAt))
         , newestShot(static_cast<int>(state.range(0)) - 1)
-    {
-        page.setModel(model.get());
-        page.resize(1080, 640);
-        page.show();
-        QApplication::processEvents();
-    }
+    {}
     template <typename Widget>
     [[nodiscard]] Widget *find(const char *name) const
     {
         return page.template findChild<Widget *>(QLatin1String(name));
+    }
+    void chooseSensor(int sensor) const
+    {
+        page.template findChild<QAbstractButton *>(QStringLiteral("sensorButton%1").arg(sensor))->setChecked(true);
+    }
+    /// Appends to the shot that is being recorded.
+    void appendSample() { (void)model->appendSample(0, newestShot, 120.0); } // both indices are right
+    /// Until it is painted.
+    void show(QSize size)
+    {
+        page.resize(size);
+        page.show();
+        QApplication::processEvents();
     }
 
     std::unique_ptr<Model> model;
@@ -62,32 +58,49 @@ struct ModelPageBench
     PageType page;
 };
 
-/// A sample comes in while the page is shown.
+/// A visible page that follows the model directly, in the size that it has in a window of 1280x800.
+template <typename PageType>
+struct ModelPageBench : PageBench<PageType>
+{
+    explicit ModelPageBench(const benchmark::State &state, SampleAt sampleAt = sawTooth)
+        : PageBench<PageType>(state, sampleAt)
+    {
+        this->page.setModel(this->model.get());
+        this->show({1080, 640});
+    }
+};
+
+/// A page of figures, in the size that it has in a window of 1280x800, but not visible yet.
+template <typename PageType>
+struct FigurePageBench : PageBench<PageType>
+{
+    explicit FigurePageBench(const benchmark::State &state)
+        : PageBench<PageType>(state)
+    {
+        for (int marker = 0; marker < Model::kNumMarkers; ++marker)
+            this->model->setVerticalMarkerAbsolute(marker, static_cast<int>(state.range(1)) * (marker + 1) / 6);
+        data.setModel(this->model.get());
+        this->page.setData(&data);
+        this->page.resize(1080, 590);
+    }
+    void hideAndShow()
+    {
+        this->page.hide();
+        this->page.show(); // brings the page up to date
+        this->page.repaint();
+    }
+
+    EvaluationData data;
+};
+
+/// A sample is recorded while the page is visible.
 template <typename Bench>
 void sampleArrived(benchmark::State &state)
 {
     Bench bench(state);
     for (auto _ : state) {
-        (void)bench.model->appendSample(0, bench.newestShot, 120.0); // both indices are right
+        bench.appendSample();
         bench.page.update();
         bench.page.repaint();
     }
-}
-
-/// Many shots, and very many.
-inline void manyShots(benchmark::internal::Benchmark *benchmark)
-{
-    benchmark->Args({1000, 2000})->Args({10000, 200})->Unit(benchmark::kMillisecond);
-}
-
-/// The main function.
-inline int runPageBenchmarks(int argc, char **argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
-    QApplication application(argc, argv);
-    prepareApplication(application);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
 }

@@ -232,7 +232,10 @@ void Controller::onFirmwareUpdate()
     if (refuseWhileOccupied() || refuseWhileConnecting() || refuseInDemo())
         return;
     d->prompt([this] {
-        UpdateDialog dialog(d->view, &d->connector, d->address, d->restartWait);
+        const auto askFile = [this](const QString &title, const QString &filter) {
+            return d->view->askOpenFile(title, filter);
+        };
+        UpdateDialog dialog(d->view, askFile, &d->connector, d->address, d->restartWait);
         QObject::connect(&dialog, &UpdateDialog::restartSent, this, [this] { d->sinceRestart.start(); });
         (void)dialog.exec(); // both buttons only close it
     });

@@ -1,20 +1,18 @@
 #pragma once
 
-#include "model/model.h"
+#include <QtGlobal>
 
-/// Bundles what a model announces: while one is open, change signals are noted instead of emitted (with their log
-/// lines); the end of the outermost emits each noted one once, in the order in which the model declares them. That end
-/// also opens signals that were blocked before. viewDataChanged() and fileStateChanged() are not bundled.
+class Model;
+
+/// Bundles what a model announces: while a scope is open, change signals are noted instead of emitted (their log lines
+/// are written). The end of the outermost one opens signals that were blocked before, and emits each noted one once, in
+/// the order in which the model declares them. A scope ends with its block, so also where that is left early.
 class ChangeScope
 {
 public:
     /// The model must outlive the scope.
-    explicit ChangeScope(Model *model)
-        : m_model(model)
-    {
-        ++m_model->m_pending.scopes;
-    }
-    ~ChangeScope() { m_model->endChanges(); }
+    explicit ChangeScope(Model *model);
+    ~ChangeScope();
     Q_DISABLE_COPY_MOVE(ChangeScope)
 
 private:

@@ -1,21 +1,24 @@
 #pragma once
 
-#include "model/logging.h"
-
-#include <QDebug>
-
 #include <cstddef>
 
 /// True for 0 <= index < count; otherwise logs the error under the name of the caller.
-[[nodiscard]] inline bool isIndex(int index, std::size_t count, const char *function)
+[[nodiscard]] bool isIndex(int index, std::size_t count, const char *function);
+
+/// The element of an array; for an index outside it `otherwise`, and a log line under the name of the caller.
+template <typename Row>
+[[nodiscard]] typename Row::value_type valueAt(const Row &row, int index, const char *function,
+                                               const typename Row::value_type &otherwise = {})
 {
-    if (index >= 0 && static_cast<std::size_t>(index) < count)
-        return true;
-    qCDebug(lcModel).noquote().nospace() << function << " ERROR: index out of range! (" << index << ")";
-    return false;
+    return isIndex(index, row.size(), function) ? row[static_cast<std::size_t>(index)] : otherwise;
 }
 
-[[nodiscard]] constexpr std::size_t at(int index)
+/// Replaces an element of an array. False, and a log line under the name of the caller, for an index outside it.
+template <typename Row>
+bool setAt(Row &row, int index, const typename Row::value_type &value, const char *function)
 {
-    return static_cast<std::size_t>(index);
+    if (!isIndex(index, row.size(), function))
+        return false;
+    row[static_cast<std::size_t>(index)] = value;
+    return true;
 }

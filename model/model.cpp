@@ -1,27 +1,58 @@
 #include "model/model.h"
 
+#include "model/arrayindex.h"
 #include "model/logging.h"
+#include "model/project/projecteditor.h"
 
-#include <QCoreApplication>
-#include <QDebug>
-
-#include <utility>
+#include <cmath>
 
 namespace {
 
-// What a fresh plot shows as well.
-constexpr double kDefaultOsziMinimum = 0.0;
-constexpr double kDefaultOsziMaximum = 255.0;
+double finiteOrZero(double value)
+{
+    return std::isfinite(value) ? value : 0.0;
+}
 
 } // namespace
 
+/// What the parts that read files may call of the model. Not the model itself: the log names functions by their
+/// signatures, which would begin with "virtual" then.
+class Model::Editor final : public ProjectEditor
+{
+public:
+    explicit Editor(Model &model)
+        : m_model(model)
+    {}
+    void clear() override { m_model.clear(); }
+    void setCurrentFile(const QString &absolutePath) override { m_model.setCurrentFile(absolutePath); }
+    void setProjectModifiedFlag(bool modified) override { m_model.setProjectModifiedFlag(modified); }
+    [[nodiscard]] double offset(int sensor) const override { return m_model.offset(sensor); }
+    void setOffset(int sensor, double offset) override { m_model.setOffset(sensor, offset); }
+    void setPhaseName(int phase, const QString &name) override { m_model.setPhaseName(phase, name); }
+    void setVerticalMarkerAbsolute(int index, int pos) override { m_model.setVerticalMarkerAbsolute(index, pos); }
+    void setSensorDescription(const SensorDescription &all) override { m_model.setSensorDescription(all); }
+    void setSensorName(int sensor, const QString &name) override { m_model.setSensorName(sensor, name); }
+    void setSensorMinimum(int group, int sensor, double to) override { m_model.setSensorMinimum(group, sensor, to); }
+    void setSensorMaximum(int group, int sensor, double to) override { m_model.setSensorMaximum(group, sensor, to); }
+    void setTimestamp(int shot, const QDateTime &time) override { m_model.setTimestamp(shot, time); }
+
+private:
+    Model &m_model;
+};
+
 Model::Model(const QString &fileToOpen, QObject *parent)
     : QObject(parent)
+    , m_editor(std::make_unique<Editor>(*this))
+    , m_files(*m_editor, m_project, m_changes, m_work)
+    , m_import(*m_editor, m_project, m_changes, m_work)
 {
     qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " fileToOpen=" << fileToOpen;
-    setYield({});
-    m_osziMinimum.fill(kDefaultOsziMinimum);
-    m_osziMaximum.fill(kDefaultOsziMaximum);
+    // The parts know nothing of blocked signals: a model whose signals are blocked stops them here.
+    connect(&m_changes, &ModelChanges::appStateChanged, this, &Model::appStateChanged);
+    connect(&m_changes, &ModelChanges::projectChanged, this, &Model::projectChanged);
+    connect(&m_changes, &ModelChanges::dataChanged, this, &Model::dataChanged);
+    connect(&m_changes, &ModelChanges::viewDataChanged, this, &Model::viewDataChanged);
+    connect(&m_changes, &ModelChanges::fileStateChanged, this, &Model::fileStateChanged);
     clear();
     if (!fileToOpen.isEmpty() && !open(fileToOpen))
         qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " could not open " << fileToOpen;
@@ -29,61 +60,221 @@ Model::Model(const QString &fileToOpen, QObject *parent)
 
 Model::~Model() = default;
 
-void Model::clear()
+// --- Measurements ----------------------------------------------------------------------------------------------
+
+bool Model::deleteChannel(int measurement)
+{
+    qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " measurement=" << measurement;
+    return !m_work.refuses(Q_FUNC_INFO) && hasShot(measurement, Q_FUNC_INFO) && m_project.removeShot(measurement);
+}
+
+void Model::clearData()
 {
     qCDebug(lcModel) << Q_FUNC_INFO;
-    if (refusesWhileBusy(Q_FUNC_INFO))
+    if (m_work.refuses(Q_FUNC_INFO))
         return;
-    m_projectData = ProjectData();
-    m_hardwareVersion.clear();
-    m_firmwareVersion = QStringLiteral("8.0");
-    m_comment.clear();
-    setCurrentFile(QString());
-    setFileList({});
-    setModified(false);
-    m_clock = 100;
-    m_meta = ProjectMeta();
-    resetColors();
-    resetOffsets();
-    resetPhaseNames();
-    resetSensorDescription();
-    clearImages();
-    clearData();
-    announceProjectChanged(Q_FUNC_INFO);
-    qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " END";
+    m_project.clearShots();
+    m_changes.data(Q_FUNC_INFO);
 }
 
-void Model::resetColors()
+void Model::endRecording()
 {
-    for (int sensor = 0; sensor < kNumSensors; ++sensor)
-        m_colors[static_cast<std::size_t>(sensor)] = defaultSensorColor(sensor);
+    qCDebug(lcModel) << Q_FUNC_INFO;
+    m_project.shots.squeezeNewest();
 }
 
-void Model::resetPhaseNames()
+double Model::latestValue(int group, int sensor) const
 {
-    m_defaultPhaseNames = {tr("WZ schließen"), tr("Einspritzzeit"), tr("Nachdruckzeit"), tr("Kühlzeit"),
-                           tr("WZ öffnen")};
-    m_phaseNames = m_defaultPhaseNames;
+    if (group != 0)
+        qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " ERROR: group out of range! (" << group << ")";
+    else if (sensor < 0 || sensor >= kNumSensors)
+        qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " ERROR: sensor out of range! (" << sensor << ")";
+    return group == 0 ? m_project.shots.latest(sensor) : 0.0;
 }
 
-void Model::resetSensorDescription()
+void Model::setTimestamp(int measurement, const QDateTime &timestamp)
 {
-    m_sensorDescription = SensorDescription();
-    m_sensorDescription.setNumSensorGroups(1);
-    SensorGroup *group = m_sensorDescription.modifiableSensorGroup(0);
-    group->setNumSensors(kNumSensors);
-    for (int sensor = 0; sensor < kNumSensors; ++sensor) {
-        group->setSensorName(sensor, QString());
-        qCDebug(lcModel).noquote().nospace()
-            << Q_FUNC_INFO << " min=" << group->sensorMinimum(sensor) << " max=" << group->sensorMaximum(sensor);
-    }
+    qCDebug(lcModel) << Q_FUNC_INFO << measurement << timestamp;
+    if (hasShot(measurement, Q_FUNC_INFO))
+        m_project.meta.setTimestamp(measurement, timestamp);
 }
 
-void Model::clearImages()
+void Model::setShotLabel(int measurement, const QString &label)
 {
-    qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " clearing images";
-    m_images.fill(QPixmap());
+    qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " measurement=" << measurement << " label=" << label;
+    if (!hasShot(measurement, Q_FUNC_INFO))
+        return;
+    m_project.meta.setLabel(measurement, label);
+    m_changes.project(Q_FUNC_INFO);
 }
+
+void Model::setProjectMeta(const ProjectMeta &meta)
+{
+    qCDebug(lcModel) << Q_FUNC_INFO;
+    m_project.meta = meta;
+    m_project.meta.keepShots(m_project.shots.shotCount());
+    m_changes.project(Q_FUNC_INFO);
+}
+
+// --- Display settings that belong to the project ---------------------------------------------------------------
+
+void Model::setOffset(int sensor, double offset)
+{
+    qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " sensor=" << sensor << " offset=" << offset;
+    const bool isSet = setAt(m_project.settings.offsets, sensor, finiteOrZero(offset), Q_FUNC_INFO);
+    m_changes.projectIf(isSet, Q_FUNC_INFO);
+}
+
+void Model::resetOffsets()
+{
+    qCDebug(lcModel) << Q_FUNC_INFO;
+    m_project.settings.offsets.fill(0.0);
+    m_changes.project(Q_FUNC_INFO);
+}
+
+void Model::setColor(uint8_t sensor, const QColor &color)
+{
+    qCDebug(lcModel) << Q_FUNC_INFO << sensor << color;
+    m_changes.projectIf(setAt(m_project.colors, sensor, color, Q_FUNC_INFO), Q_FUNC_INFO);
+}
+
+QString Model::phaseName(int phase) const
+{
+    if (phase >= 0 && phase < kNumPhases)
+        return m_project.settings.phaseNames[at(phase)];
+    qCDebug(lcModel) << Q_FUNC_INFO << "ERROR: index>=size !";
+    return {};
+}
+
+void Model::setPhaseName(int phase, const QString &name)
+{
+    qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " phase=" << phase << " name=" << name;
+    m_changes.projectIf(setAt(m_project.settings.phaseNames, phase, name, Q_FUNC_INFO), Q_FUNC_INFO);
+}
+
+PhaseNames Model::usualPhaseNames()
+{
+    return {tr("WZ schließen"), tr("Einspritzzeit"), tr("Nachdruckzeit"), tr("Kühlzeit"), tr("WZ öffnen")};
+}
+
+void Model::retranslatePhaseNames()
+{
+    qCDebug(lcModel) << Q_FUNC_INFO;
+    m_changes.projectIf(m_project.retranslatePhaseNames(usualPhaseNames()), Q_FUNC_INFO);
+}
+
+void Model::setVerticalMarkerAbsolute(int index, int pos)
+{
+    qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " index=" << index << " pos=" << pos;
+    VerticalMarkers &markers = m_project.settings.markers;
+    markers = withMarkerAt(markers, index, pos);
+    m_changes.projectIf(isIndex(index, markers.size(), Q_FUNC_INFO), Q_FUNC_INFO);
+}
+
+void Model::setVerticalMarkerRelative(int index, int pos)
+{
+    qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " index=" << index << " pos=" << pos;
+    VerticalMarkers &markers = m_project.settings.markers;
+    markers = withMarkerDistance(markers, index, pos);
+    m_changes.projectIf(isIndex(index, markers.size(), Q_FUNC_INFO), Q_FUNC_INFO);
+}
+
+void Model::setMarkersAbsolute(bool absolute)
+{
+    qCDebug(lcModel) << Q_FUNC_INFO << absolute;
+    m_project.settings.markersAbsolute = absolute;
+    m_changes.project(Q_FUNC_INFO);
+}
+
+void Model::setOsziMinimum(int sensor, double value)
+{
+    setAt(m_project.settings.osziMinimum, sensor, finiteOrZero(value), Q_FUNC_INFO);
+}
+
+void Model::setOsziMaximum(int sensor, double value)
+{
+    setAt(m_project.settings.osziMaximum, sensor, finiteOrZero(value), Q_FUNC_INFO);
+}
+
+// --- Description of project and device -------------------------------------------------------------------------
+
+void Model::setProjectData(const ProjectData &data)
+{
+    qCDebug(lcModel) << Q_FUNC_INFO << data;
+    m_project.settings.data = data;
+    m_changes.project(Q_FUNC_INFO);
+}
+
+void Model::setComment(const QString &comment)
+{
+    qCDebug(lcModel) << Q_FUNC_INFO;
+    m_project.settings.comment = comment;
+    m_changes.project(Q_FUNC_INFO);
+}
+
+void Model::setImage(int index, const QPixmap &image)
+{
+    qCDebug(lcModel) << Q_FUNC_INFO << index << image.size();
+    m_changes.projectIf(setAt(m_project.images.pixmaps(), index, image, Q_FUNC_INFO), Q_FUNC_INFO);
+}
+
+void Model::setSensorDescription(const SensorDescription &description)
+{
+    qCDebug(lcModel) << Q_FUNC_INFO << description.numSensorGroups();
+    m_project.settings.sensors = description;
+    m_changes.countOne();
+}
+
+void Model::setDeviceDescription(const DeviceDescription &description)
+{
+    qCDebug(lcModel) << Q_FUNC_INFO << description.hardwareVersion << description.firmwareVersion;
+    m_deviceDescription = description;
+    m_project.settings.hardwareVersion = description.hardwareVersion;
+    m_project.settings.firmwareVersion = description.firmwareVersion;
+    m_changes.countOne();
+}
+
+void Model::setSensorName(int sensor, const QString &name)
+{
+    qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " sensor=" << sensor << " name=" << name;
+    SensorGroup *group = m_project.groupWith(0, sensor, Q_FUNC_INFO);
+    if (group)
+        group->setSensorName(sensor, name);
+    m_changes.projectIf(group, Q_FUNC_INFO);
+}
+
+void Model::setSensorMinimum(int group, int sensor, double minimum)
+{
+    qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " val=" << minimum;
+    SensorGroup *sensors = m_project.groupWith(group, sensor, Q_FUNC_INFO);
+    if (sensors)
+        sensors->setSensorMinimum(sensor, finiteOrZero(minimum));
+    m_changes.projectIf(sensors, Q_FUNC_INFO);
+}
+
+void Model::setSensorMaximum(int group, int sensor, double maximum)
+{
+    qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " val=" << maximum;
+    SensorGroup *sensors = m_project.groupWith(group, sensor, Q_FUNC_INFO);
+    if (sensors)
+        sensors->setSensorMaximum(sensor, finiteOrZero(maximum));
+    m_changes.projectIf(sensors, Q_FUNC_INFO);
+}
+
+void Model::setClock(int milliseconds)
+{
+    qCDebug(lcModel) << Q_FUNC_INFO << milliseconds;
+    m_project.settings.clock = qBound(1, milliseconds, kMaxClock);
+    m_changes.project(Q_FUNC_INFO);
+}
+
+void Model::setFileList(const QStringList &files)
+{
+    qCDebug(lcModel) << Q_FUNC_INFO << files;
+    m_import.files().setFiles(files);
+}
+
+// --- State -----------------------------------------------------------------------------------------------------
 
 void Model::setConnected(bool connected)
 {
@@ -96,91 +287,57 @@ void Model::setProjectModifiedFlag(bool modified)
     qCDebug(lcModel) << Q_FUNC_INFO;
     if (modified) {
         qCDebug(lcModel) << "***** MODEL CHANGED TRUE ***";
-        ++m_changes;
+        m_changes.countOne();
     }
-    setModified(modified);
-}
-
-void Model::setModified(bool modified)
-{
-    if (std::exchange(m_projectModified, modified) != modified)
-        emit fileStateChanged();
+    m_files.setModified(modified);
 }
 
 void Model::setCurrentFile(const QString &absolutePath)
 {
     qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " file=" << absolutePath;
-    if (std::exchange(m_currentFile, absolutePath) != absolutePath)
-        emit fileStateChanged();
+    m_files.setCurrentFile(absolutePath);
 }
 
-bool Model::refusesWhileBusy(const char *function) const
+void Model::clear()
 {
-    if (m_busy)
-        qCDebug(lcModel).noquote().nospace() << function << " ERROR: refused while a file is read or written!";
-    return m_busy;
-}
-
-void Model::setYield(const Yield &yield)
-{
-    if (yield)
-        m_yield = yield;
-    else
-        m_yield = [](int) { QCoreApplication::processEvents(); };
-}
-
-// Receivers may open scopes of their own, so what is pending is taken first.
-void Model::endChanges()
-{
-    if (--m_pending.scopes > 0)
+    qCDebug(lcModel) << Q_FUNC_INFO;
+    if (m_work.refuses(Q_FUNC_INFO))
         return;
-    const PendingChanges pending = std::exchange(m_pending, {});
-    blockSignals(false); // open from here on, whatever they were before
-    if (pending.appState)
-        emitAppStateChanged();
-    if (pending.project)
-        emitProjectChanged();
-    if (pending.data)
-        emitDataChanged();
+    m_project.clearDescription();
+    setCurrentFile(QString());
+    setFileList({});
+    m_files.setModified(false);
+    resetOffsets();
+    m_project.resetPhaseNames(usualPhaseNames());
+    m_project.clearSensors(Q_FUNC_INFO);
+    m_project.clearImages(Q_FUNC_INFO);
+    clearData();
+    m_changes.project(Q_FUNC_INFO);
+    qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " END";
 }
 
-void Model::emitAppStateChanged()
+// --- Files -----------------------------------------------------------------------------------------------------
+
+bool Model::open(const QString &fileName)
 {
-    qCDebug(lcModel) << Q_FUNC_INFO << "emit appStateChanged()";
-    if (m_pending.scopes > 0)
-        m_pending.appState = true;
-    else
-        emit appStateChanged();
+    qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " filename=" << fileName;
+    return m_files.open(fileName, Q_FUNC_INFO);
 }
 
-void Model::emitProjectChanged()
+bool Model::save(const QString &fileName)
 {
-    announceProjectChanged(Q_FUNC_INFO);
+    qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " filename=" << fileName;
+    return m_files.save(fileName, Q_FUNC_INFO);
 }
 
-void Model::emitDataChanged()
+bool Model::saveCsv(const QString &fileName)
 {
-    announceDataChanged(Q_FUNC_INFO);
+    qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " filename=" << fileName;
+    return m_files.saveCsv(fileName, Q_FUNC_INFO);
 }
 
-void Model::announceProjectChanged(const char *function)
+bool Model::addBlackBoxFile(const QString &fileName)
 {
-    qCDebug(lcModel) << function << "emit projectChanged()";
-    ++m_changes;
-    if (m_pending.scopes > 0)
-        m_pending.project = true;
-    else
-        emit projectChanged();
-}
-
-void Model::announceDataChanged(const char *function)
-{
-    qCDebug(lcModel) << function << "emit dataChanged()";
-    if (m_pending.scopes > 0) {
-        m_pending.data = true;
-        return;
-    }
-    emit dataChanged();
-    if (!signalsBlocked())
-        discardRemoved(); // every receiver has let go of them by now
+    qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " file=" << fileName;
+    return m_import.add(fileName, Q_FUNC_INFO);
 }

@@ -13,9 +13,9 @@ namespace {
 
 constexpr int kMaxCommand = 4096; // bytes without a line feed
 constexpr int kMaxCommandsKept = 10000;
-constexpr qint64 kMaxUnsent = qint64{8} * 1024 * 1024; // bytes; a client that leaves more unread is gone
-constexpr qint64 kBurstWindow = qint64(256) * 1024;    // bytes of a burst handed to the socket at a time
-constexpr int kFarewell = 5000;                        // ms for the rest of a link that was ended
+constexpr qint64 kMaxUnsent = qint64{8} * 1024 * 1024; // bytes; a client that leaves more unread is dropped
+constexpr qint64 kBurstWindow = qint64(256) * 1024;    // bytes of a burst that are handed to the socket at once
+constexpr int kFarewell = 5000;                        // ms for the remaining bytes of a link that was closed
 constexpr int kReadBuffer = 64 * 1024;                 // bytes
 constexpr int kLongestTick = 10;                       // ms between looks at the clock
 constexpr int kLongLineEvery = 10;                     // sample lines
@@ -35,7 +35,7 @@ BoxSimulator::BoxSimulator(const BoxOptions &options, QObject *parent)
 BoxSimulator::~BoxSimulator()
 {
     if (m_client)
-        m_client->disconnect(this);
+        m_client->disconnect(this); // the server deletes it after the timer that its slots use
 }
 
 bool BoxSimulator::listen(const QHostAddress &address, quint16 port)
@@ -59,7 +59,7 @@ void BoxSimulator::takeClient()
     while (QTcpSocket *client = m_server.nextPendingConnection()) {
         dropLink(true);
         m_client = client;
-        m_client->setReadBufferSize(kReadBuffer);
+        m_client->setReadBufferSize(kReadBuffer); // or a client that floods the box would fill the memory
         m_client->setSocketOption(QAbstractSocket::LowDelayOption, 1);
         m_received.clear();
         m_bytesSent = 0;
@@ -75,6 +75,7 @@ void BoxSimulator::forgetClient()
 {
     if (!m_client)
         return;
+    // First, as stopRun() answers and would write to a link that is closed.
     QTcpSocket *client = std::exchange(m_client, nullptr);
     client->disconnect(this);
     connect(client, &QTcpSocket::disconnected, client, &QObject::deleteLater);
@@ -97,7 +98,7 @@ void BoxSimulator::dropLink(bool hard)
         client->abort();
         return;
     }
-    client->disconnectFromHost(); // still sends what was written
+    client->disconnectFromHost(); // still sends what was written; a client that never reads would keep it open
     QTimer::singleShot(kFarewell, client, [client] { client->abort(); });
 }
 
@@ -122,7 +123,7 @@ void BoxSimulator::readCommands()
         if (!command.isEmpty())
             handleCommand(command.left(kMaxCommand));
         if (m_client != client)
-            return; // the command or a slot ended the link
+            return; // the command or a slot closed the link
     }
     if (m_received.size() > kMaxCommand) {
         qCWarning(lcSimulator) << "no line feed within" << m_received.size() << "bytes: ignored";
@@ -175,7 +176,7 @@ void BoxSimulator::startRun()
     emit runningChanged(true);
     answer("run=1\n");
     if (!m_running)
-        return; // that was the last byte of the link
+        return; // the link was dropped after these bytes
     restartClock();
     m_timer.start(std::min(m_period, kLongestTick));
     sendDueSamples();
@@ -208,8 +209,7 @@ void BoxSimulator::setPeriod(const QByteArray &text)
     }
 }
 
-// The samples of a period are counted against one clock, so that a late timer delays a sample but never shifts the
-// rest.
+// All samples of a period are timed by one clock, so that a late timer delays one sample but does not shift the others.
 void BoxSimulator::restartClock()
 {
     m_clock.start();
@@ -221,7 +221,7 @@ void BoxSimulator::sendDueSamples()
     sendBurstSamples();
     if (m_burstLeft > 0)
         return;
-    const qint64 due = m_clock.elapsed() / m_period + 1;
+    const qint64 due = m_clock.elapsed() / m_period + 1; // the first sample is due at once
     while (m_running && m_sentInPeriod < due) {
         ++m_sentInPeriod;
         sendNextSample();
@@ -240,7 +240,7 @@ void BoxSimulator::sendBurstSamples()
         m_burstLeft = 0;
     if (m_burstLeft <= 0 || m_sendingBurst)
         return;
-    m_sendingBurst = true; // writing may report written bytes at once
+    m_sendingBurst = true; // write() may emit bytesWritten() at once, which would send more
     while (m_client && m_burstLeft > 0 && m_client->bytesToWrite() < kBurstWindow) {
         --m_burstLeft;
         sendNextSample();
@@ -270,15 +270,17 @@ void BoxSimulator::sendSample(double time)
         emit sampleSent(line);
 }
 
-// Every cycle of a long run is a shot of its own. Without a run the machine stands open and cold.
+// In a long run every cycle counts as one shot. Without a run the mould is open and cold.
 SampleValues BoxSimulator::valuesAt(double time) const
 {
     const double length = m_options.cycleSeconds;
+    // Without a run long after the end of a cycle; the counter changes the time a little, and so the noise.
     if (!m_running)
         return MouldCycle(m_options.seed, length)
             .valuesAt(m_shot, 5.0 * length + static_cast<double>(m_counter) / 1000.0);
     if (!m_options.repeatCycles)
         return MouldCycle(m_options.seed, length).valuesAt(m_shot, time);
+    // Another seed for each cycle, as all of them have the same shot number.
     const double cycles = std::floor(time / length);
     return MouldCycle(m_options.seed + static_cast<quint32>(cycles), length).valuesAt(m_shot, time - cycles * length);
 }
@@ -306,6 +308,7 @@ bool BoxSimulator::sendRaw(const QByteArray &bytes)
         dropLink(true);
         return false;
     }
+    // A link that breaks does so anywhere in a line: the limit counts bytes, not lines.
     const bool limited = m_options.dropAfter >= 0;
     const qint64 allowed = limited ? std::max<qint64>(0, m_options.dropAfter - m_bytesSent) : bytes.size();
     const QByteArray part = bytes.left(static_cast<int>(std::min<qint64>(allowed, bytes.size())));

@@ -13,7 +13,7 @@
 
 class QTcpSocket;
 
-/// How the simulated box behaves; the defaults are a box that works.
+/// How the simulated box behaves; by default like a box that works.
 struct BoxOptions
 {
     quint32 seed = 1;
@@ -21,17 +21,17 @@ struct BoxOptions
     bool repeatCycles = false;    ///< false: a run holds one cycle and then the idle level
     bool describesSensors = true; ///< false: no answer to "sensorDescription", and values in thousandths
     bool sendsProjectDescription = false;
-    bool silent = false;    ///< takes commands and says nothing
+    bool silent = false;    ///< accepts commands and sends nothing
     bool garbage = false;   ///< a meaningless line before every sample line
     bool longLines = false; ///< a line of more than 1023 bytes before every tenth sample line
-    qint64 dropAfter = -1;  ///< bytes sent over one link after which it is dropped; negative: never
+    qint64 dropAfter = -1;  ///< number of bytes after which a link is dropped; negative: never
     int burst = 0;          ///< sample lines sent at the start of a run as fast as the socket takes them
     int rebootPause = 2000; ///< ms without a listening port after "reboot"
     QString dataFolder;     ///< lists its days and logs every run there; empty: three days that hold nothing
 };
 
-/// A measuring box without hardware. Serves one client, the newest: a link that the program lost without noticing
-/// must not keep it out. What it does not understand is logged. A client that does not read is dropped.
+/// A measuring box without hardware. Serves one client, the newest: a link that broke without notice must not keep the
+/// program out. Commands that it does not understand are logged. A client that does not read is dropped.
 class BoxSimulator : public QObject
 {
     Q_OBJECT
@@ -40,7 +40,7 @@ public:
     explicit BoxSimulator(const BoxOptions &options = {}, QObject *parent = nullptr);
     ~BoxSimulator() override;
 
-    /// Port 0 takes any free port. False, and errorString(), if the port cannot be had.
+    /// Port 0 takes any free port. Returns false and sets errorString() if the port is not available.
     [[nodiscard]] bool listen(const QHostAddress &address = QHostAddress::LocalHost, quint16 port = 0);
     [[nodiscard]] QString errorString() const { return m_server.errorString(); }
     /// The port it listens on, also while it reboots; 0 before listen().
@@ -57,15 +57,15 @@ public:
     void clearReceivedCommands() { m_commands.clear(); }
 
     [[nodiscard]] const BoxOptions &options() const { return m_options; }
-    /// May be called at any time; what is under way goes on with the new behaviour.
+    /// May be called at any time; a run in progress continues with the new behaviour.
     void setOptions(const BoxOptions &options);
 
-    /// Sends any bytes to the client, if there is one, as they are. Counts for BoxOptions::dropAfter.
-    /// False if not all of them went out.
+    /// Sends any bytes to the client, if there is one, unchanged. They count for BoxOptions::dropAfter.
+    /// Returns false if not all of them were sent.
     bool sendRaw(const QByteArray &bytes);
-    /// Sends that many sample lines as fast as the socket takes them, running or not.
+    /// Sends this number of sample lines as fast as the socket takes them, whether a run is in progress or not.
     void burst(int lines);
-    /// Ends the link; `hard`: without waiting for what is still to be sent.
+    /// Closes the link; `hard`: without waiting for bytes that are still to be sent.
     void dropLink(bool hard = false);
     /// What the command "reboot" does.
     void reboot();
@@ -108,7 +108,7 @@ private:
     qint64 m_sentInPeriod = 0;
     qint64 m_bytesSent = 0; ///< over this link
     quint64 m_counter = 0;
-    double m_nextTime = 0.0; ///< seconds in the run at which the next sample is taken
+    double m_nextTime = 0.0; ///< seconds since the start of the run at which the next sample is taken
     int m_burstLeft = 0;
     int m_period = 100;
     int m_shot = 0;

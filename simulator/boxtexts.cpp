@@ -83,5 +83,6 @@ QByteArray garbageLine(quint64 number)
 
 QByteArray overlongLine(quint64 number)
 {
+    // A prime step spreads the lengths over the whole range.
     return QByteArray(1100 + static_cast<int>(number * 379 % 1900), 'x') + '\n';
 }

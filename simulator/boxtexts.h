@@ -5,9 +5,9 @@
 #include <QByteArray>
 
 /// What the simulated box says, as the bytes that go over the wire: each text is one line (the list: several), line
-/// feed included, below 1024 bytes a line.
+/// feed included, each line below 1024 bytes.
 
-/// `withProject`: the same line goes on with a project description.
+/// `withProject`: a project description follows in the same line.
 [[nodiscard]] QByteArray deviceDescriptionLine(bool withProject);
 [[nodiscard]] QByteArray sensorDescriptionLine();
 [[nodiscard]] QByteArray listBlock();
@@ -15,7 +15,7 @@
 /// "counter;v1;…;v5", with three decimals; in thousandths, whole numbers.
 [[nodiscard]] QByteArray sampleLine(quint64 counter, const SampleValues &values, bool inThousandths);
 
-/// A line that is no message: broken grammar, control characters, bytes that are no text. Never a sample line.
+/// A line that is no valid message: broken grammar, control characters, bytes that are no text. Never a sample line.
 [[nodiscard]] QByteArray garbageLine(quint64 number);
-/// A line of 1100 to 3000 bytes that means nothing, wherever it is cut.
+/// A line of 1100 to 3000 bytes without meaning, also when it is cut anywhere.
 [[nodiscard]] QByteArray overlongLine(quint64 number);

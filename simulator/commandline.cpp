@@ -32,7 +32,7 @@ void addOptions(QCommandLineParser &parser)
     });
 }
 
-/// Reads the numbers among the options and remembers the first that is none.
+/// Reads the options that are numbers and remembers the first one that is not.
 class Numbers
 {
 public:
@@ -49,7 +49,7 @@ public:
         const auto converted = ok && number >= static_cast<double>(lowest) && number <= static_cast<double>(highest)
                                    ? static_cast<Number>(number)
                                    : lowest;
-        // Compared the long way round, as a fraction is no number of lines, and "nan" is no number of seconds.
+        // Compared in this way so that a fraction is no number of lines, and "nan" is no number of seconds.
         const bool exact = static_cast<double>(converted) >= number && static_cast<double>(converted) <= number;
         if (!(ok && exact) && m_error.isEmpty())
             m_error = QStringLiteral("--%1: \"%2\" is not a number that fits").arg(QLatin1String(name), text);

@@ -5,7 +5,7 @@
 #include <QHostAddress>
 #include <QStringList>
 
-/// What the simulator's program was started with.
+/// The options that the simulator was started with.
 struct CommandLine
 {
     BoxOptions box;

@@ -23,7 +23,7 @@ QByteArray header()
     return text;
 }
 
-/// Two runs may begin within one second; their names sort as they began.
+/// Two runs may begin within one second; their names sort in the order in which they began.
 QString freeName(const QDir &day, const QDateTime &time)
 {
     const QString name = time.toString(QStringLiteral("yyyyMMdd-hhmmss"));
@@ -73,7 +73,7 @@ void DataLogger::write(const QByteArray &text)
     if (m_file.write(text) == text.size())
         return;
     qCWarning(lcSimulator).noquote() << "cannot write" << m_file.fileName() << m_file.errorString();
-    m_file.close();
+    m_file.close(); // so that the error is not logged for every further sample
 }
 
 void DataLogger::end()
@@ -83,7 +83,7 @@ void DataLogger::end()
 
 QByteArray DataLogger::listBlock() const
 {
-    QByteArray block = "list {\n.\n..\n";
+    QByteArray block = "list {\n.\n..\n"; // the box lists its folder with these two
     const QStringList entries = QDir(m_folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name);
     for (const QString &entry : entries)
         block += entry.toUtf8() + '\n';

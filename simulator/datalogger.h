@@ -7,12 +7,12 @@
 #include <QFile>
 #include <QString>
 
-/// The box's own storage: a folder with one folder a day, "dir-yyyymmdd", and in it one text file a run, "*.bb".
-/// Without a folder it stores nothing. What cannot be written is logged once a run.
+/// The box's own storage: a folder with one folder per day, "dir-yyyymmdd", and in it one text file per run, "*.bb".
+/// Without a folder it stores nothing. A write error is logged once per run.
 class DataLogger
 {
 public:
-    /// Created when it is missing, as soon as something is written. Ends a run in progress.
+    /// Created if it is missing, as soon as something is written. Ends a run in progress.
     void setFolder(const QString &folder);
     [[nodiscard]] bool isActive() const { return !m_folder.isEmpty(); }
 

@@ -4,8 +4,8 @@
 
 class QThread;
 
-/// Quits the application once the standard input has ended. Reads on a thread of its own, as the event loop cannot
-/// watch a pipe on every platform. Destroy it only after the event loop, which it has ended then.
+/// Quits the application once the standard input has ended. Reads on a separate thread, as the event loop cannot
+/// watch a pipe on every platform. Must be destroyed after the event loop has ended: it waits for that thread.
 class InputWatch
 {
 public:

@@ -28,7 +28,7 @@ int main(int argc, char *argv[])
     std::optional<InputWatch> watch;
     if (line.untilInputCloses)
         watch.emplace();
-    // The port is printed where a script can read it when it asked for any free one.
+    // A script that asked for any free port can read it here.
     QTextStream(stdout) << "listening on " << box.address().toString() << ':' << box.port() << Qt::endl;
     return QCoreApplication::exec();
 }

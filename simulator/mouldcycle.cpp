@@ -19,9 +19,10 @@ constexpr double kMeltArrival = 0.4;       // share of the injection after which
 
 enum Quantity { PressureVariation, TemperatureVariation, InjectionVariation };
 
-/// A well mixed number for any input, so that noise needs no state.
+/// A hash of the input, so that noise needs no state.
 quint64 mixed(quint64 x)
 {
+    // The constants and shifts of the SplitMix64 generator.
     x += 0x9E3779B97F4A7C15u;
     x = (x ^ (x >> 30)) * 0xBF58476D1CE4E5B9u;
     x = (x ^ (x >> 27)) * 0x94D049BB133111EBu;
@@ -65,6 +66,7 @@ double injectionPressure(const PhaseEnds &ends, double time)
     }
     if (time < ends.holding)
         return holding(time);
+    // After the holding phase the pressure is released; then the screw takes up material against the back pressure.
     const double x = share(time, ends.holding, ends.cooling);
     const double back = kBackPressure * (smoothStep(8.0 * (x - 0.1)) - smoothStep(8.0 * (x - 0.7)));
     return holding(ends.holding) * decay(time - ends.holding, fast) + back;
@@ -88,6 +90,7 @@ double cavityPressure(const PhaseEnds &ends, double time)
         return kCavityPeak * std::pow(share(time, meltArrival(ends), ends.injection), 2.5);
     if (time < ends.holding)
         return holding(time);
+    // The part shrinks away from the wall; before the mould opens nothing is left.
     const double x = share(time, ends.holding, ends.cooling);
     return holding(ends.holding) * std::exp(-5.0 * x) * (1.0 - smoothStep((x - 0.8) / 0.2));
 }
@@ -130,17 +133,18 @@ MouldCycle::MouldCycle(quint32 seed, double seconds)
     , m_seconds(seconds > 0.0 ? seconds : 1.0)
 {}
 
-// -1 to 1, the same for a whole shot.
+// -1 to 1, constant within a shot.
 double MouldCycle::variation(int shot, int quantity) const
 {
     const quint64 key = (static_cast<quint64>(m_seed) << 32) ^ static_cast<quint64>(static_cast<quint32>(shot));
     return 2.0 * uniform(mixed(mixed(key) + static_cast<quint64>(quantity))) - 1.0;
 }
 
-// The sum of twelve uniform numbers is close enough to a normal distribution, and never far out.
+// The sum of twelve uniform numbers is close enough to a normal distribution and has no outliers.
 double MouldCycle::noise(int shot, int sensor, double time) const
 {
     const quint64 key = (static_cast<quint64>(m_seed) << 32) ^ static_cast<quint64>(static_cast<quint32>(shot));
+    // In microseconds, so that equal times that were computed in different ways give the same noise.
     const auto moment = static_cast<quint64>(std::llround(time * 1e6));
     quint64 state = mixed(mixed(key) ^ mixed(moment) ^ (static_cast<quint64>(sensor) << 56));
     double sum = -6.0;
@@ -163,6 +167,7 @@ SampleValues MouldCycle::idealValuesAt(int shot, double time) const
     const double t = std::max(0.0, time);
     const double pressure = 1.0 + 0.04 * variation(shot, PressureVariation);
     const double warmth = 2.5 * variation(shot, TemperatureVariation);
+    // Pressures end with the cycle, while temperatures go on falling.
     return {pressure * cavityPressure(ends, std::min(t, ends.opening)),
             pressure * injectionPressure(ends, std::min(t, ends.opening)),
             kWallTemperature + warmth + kMeltRise * heatPulse(ends, t, 0.012 * m_seconds, 0.24 * m_seconds),

@@ -8,13 +8,13 @@
 
 using SampleValues = std::array<double, kNumSensors>;
 
-/// A sensor of the simulated box: what it says about it, and how much noise its signal carries.
+/// A sensor of the simulated box: its description, and the noise of its signal.
 struct SimulatedSensor
 {
     QByteArray name;
     QByteArray type;
     QByteArray unit; ///< UTF-8
-    double minimum;  ///< in the unit; no simulated value lies below
+    double minimum;  ///< in the unit; no simulated value is below it
     double maximum;
     double noise; ///< standard deviation, in the unit
 };
@@ -43,7 +43,7 @@ public:
     [[nodiscard]] double seconds() const { return m_seconds; }
     /// The phases of a shot; the injection takes a little longer or shorter every time.
     [[nodiscard]] PhaseEnds phaseEnds(int shot) const;
-    /// Behind the end of the cycle the machine stands open and cools down. A time below 0 counts as 0.
+    /// After the end of the cycle the mould stays open and cools down. A time below 0 counts as 0.
     [[nodiscard]] SampleValues valuesAt(int shot, double time) const;
     /// Without the noise.
     [[nodiscard]] SampleValues idealValuesAt(int shot, double time) const;

@@ -2,7 +2,8 @@
 """Checks that every file includes only what its layer may use.
 
 Layers and their files are read from the ventaro_layer() calls in the CMakeLists.txt files; what a layer may include is
-the table below. Reports every include, link or file that breaks a rule and exits with 1 if there is one.
+the table below. In some layers every folder is a feature, and features do not include each other. Reports every
+include, link or file that breaks a rule and exits with 1 if there is one.
 
     check_layers.py [ROOT]
 """
@@ -35,6 +36,11 @@ RULES = {
 }
 # Single files that may include more layers than the rest of theirs.
 EXCEPTIONS = {"view/box/updatedialog.cpp": ["device"]}
+# Folders of features: (folders that every feature may include, folders that may include every feature)
+FEATURES = {
+    "view": ({"common"}, {"window"}),
+    "plots/evaluation": ({"common"}, set()),
+}
 # Folders whose programs are not layers: they may include everything, but no layer may include them.
 PROGRAM_FOLDERS = {"tests", "benchmarks", "tools"}
 SOURCE_SUFFIXES = {".h", ".cpp"}
@@ -96,6 +102,22 @@ def allowed(layer, path):
     return {layer} | {f"ventaro_{name}" for name in names}
 
 
+def feature_of(path):
+    """The folder of features that a file is in, and its feature; None for any other file."""
+    for root in FEATURES:
+        if path.startswith(root + "/") and path.count("/") > root.count("/") + 1:
+            return root, path[len(root) + 1:].split("/")[0]
+    return None
+
+
+def crosses_features(path, quoted):
+    own, other = feature_of(path), feature_of(quoted)
+    if not own or not other or own[0] != other[0] or own[1] == other[1]:
+        return False
+    free, may_include_all = FEATURES[own[0]]
+    return other[1] not in free and own[1] not in may_include_all
+
+
 def check_include(path, layer, quoted, system, layer_of, headers):
     """What is wrong with one include of a layer's file, or nothing."""
     if quoted:
@@ -108,6 +130,8 @@ def check_include(path, layer, quoted, system, layer_of, headers):
             return f"includes {quoted}, which no layer lists"
         if target not in allowed(layer, path):
             return f"({layer}) includes {quoted} ({target})"
+        if crosses_features(path, quoted):
+            return f"includes {quoted} of another feature"
         return None
     module = headers.get(system.split("/")[-1])
     if module and system.startswith(("Q", "q")) and module not in RULES[layer][1]:

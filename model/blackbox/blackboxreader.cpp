@@ -1,5 +1,5 @@
+#include "model/arrayindex.h"
 #include "model/blackbox/blackboxfile.h"
-#include "model/indexcheck.h"
 #include "model/logging.h"
 #include "model/project/samplecollector.h"
 

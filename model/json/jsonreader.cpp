@@ -1,5 +1,7 @@
 #include "model/json/jsonreader.h"
 
+#include "model/json/jsonstring.h"
+
 #include <QIODevice>
 
 #include <array>

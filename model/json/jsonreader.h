@@ -79,6 +79,3 @@ private:
     bool m_skipStrings = false;
     bool m_failed = false;
 };
-
-/// The text that a JSON string stands for; `escaped` is what stands between its quotation marks.
-[[nodiscard]] QString unescapedJson(const QByteArray &escaped);

@@ -1,4 +1,4 @@
-#include "model/json/jsonreader.h"
+#include "model/json/jsonstring.h"
 
 namespace {
 

@@ -1,8 +1,9 @@
 #include "model/project/csvexport.h"
 
-#include "model/indexcheck.h"
+#include "model/arrayindex.h"
 #include "model/project/germannumber.h"
 #include "model/project/pacer.h"
+#include "model/project/projectdocument.h"
 
 #include <QIODevice>
 
@@ -28,10 +29,10 @@ public:
     void measurement(int number, const SampleRun &run)
     {
         put("data " + QByteArray::number(number) + ';');
-        for (int i = 0; i < run.count && !m_failed; ++i) {
+        for (int i = 0; i < run.count() && !m_failed; ++i) {
             if (i > 0)
                 m_buffer[m_used++] = ';';
-            char *end = writeGermanNumber(m_buffer.data() + m_used, run.samples->at(i));
+            char *end = writeGermanNumber(m_buffer.data() + m_used, run.data()[i]);
             m_used = static_cast<std::size_t>(end - m_buffer.data());
             flushIfFull();
             m_pacer.advance(1);
@@ -87,12 +88,21 @@ private:
 void writeHead(CsvWriter &csv, const QString &projectFileName, const ProjectDocument &document)
 {
     csv.line(QStringLiteral("Dateiname: ") + projectFileName);
-    csv.line(QStringLiteral("Projekt: ") + document.data.name);
-    csv.line(QStringLiteral("Proj.Nr.: ") + document.data.number);
-    csv.line(QStringLiteral("Bearbeiter: ") + document.data.user);
-    csv.line(QStringLiteral("Datum: ") + document.data.date);
+    csv.line(QStringLiteral("Projekt: ") + document.name.value_or(QString()));
+    csv.line(QStringLiteral("Proj.Nr.: ") + document.number.value_or(QString()));
+    csv.line(QStringLiteral("Bearbeiter: ") + document.user.value_or(QString()));
+    csv.line(QStringLiteral("Datum: ") + document.date.value_or(QString()));
     csv.line(QString());
-    csv.line(QStringLiteral("Abtastrate: ") + QString::number(document.clock) + QStringLiteral("ms"));
+    csv.line(QStringLiteral("Abtastrate: ") + QString::number(document.clock.value_or(0)) + QStringLiteral("ms"));
+}
+
+void writeMeasurements(CsvWriter &csv, const std::optional<SampleRuns> &runs)
+{
+    if (!runs)
+        return;
+    int number = 0;
+    for (const SampleRun &run : *runs)
+        csv.measurement(number++, run);
 }
 
 } // namespace
@@ -103,10 +113,8 @@ bool writeCsv(QIODevice &target, const QString &projectFileName, const ProjectDo
     writeHead(csv, projectFileName, document);
     for (int sensor = 0; sensor < kNumSensors; ++sensor) {
         csv.line(QStringLiteral("Sensor ") + QString::number(sensor + 1) + QStringLiteral(": ")
-                 + document.sensorNames[at(sensor)]);
-        int number = 0;
-        for (const SampleRun &run : document.samples[at(sensor)])
-            csv.measurement(number++, run);
+                 + document.sensorNames[at(sensor)].value_or(QString()));
+        writeMeasurements(csv, document.samples[at(sensor)]);
     }
     return csv.finish();
 }

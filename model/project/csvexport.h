@@ -1,9 +1,12 @@
 #pragma once
 
-#include "model/project/projectfile.h"
+class Pacer;
+class QIODevice;
+class QString;
+struct ProjectDocument;
 
 /// Writes the measurements as text for a spreadsheet: fields separated by ";", numbers in German notation with six
-/// significant digits. `projectFileName` is what stands behind "Dateiname: ". The pacer counts samples. False as soon
+/// significant digits. `projectFileName` follows "Dateiname: ". The pacer counts samples. False as soon
 /// as the device takes less than it is given.
 [[nodiscard]] bool writeCsv(QIODevice &target, const QString &projectFileName, const ProjectDocument &document,
                             Pacer &pacer);

@@ -70,6 +70,14 @@ Value elementOf(const std::vector<Value> &values, std::size_t index)
     return index < values.size() ? values[index] : Value();
 }
 
+template <typename Value>
+void setElement(std::vector<Value> &values, std::size_t index, const Value &value)
+{
+    if (index >= values.size())
+        values.resize(index + 1);
+    values[index] = value;
+}
+
 SensorMeta toSensor(const QJsonObject &object)
 {
     SensorMeta sensor;
@@ -129,6 +137,33 @@ bool ProjectMeta::isBlank() const
            && std::all_of(labels.begin(), labels.end(), [](const QString &label) { return label.isEmpty(); })
            && std::none_of(timestamps.begin(), timestamps.end(),
                            [](const QDateTime &timestamp) { return timestamp.isValid(); });
+}
+
+QString ProjectMeta::label(int shot) const
+{
+    return elementOf(labels, static_cast<std::size_t>(shot));
+}
+
+void ProjectMeta::setLabel(int shot, const QString &label)
+{
+    setElement(labels, static_cast<std::size_t>(shot), label.left(kLongestLabel));
+}
+
+QDateTime ProjectMeta::timestamp(int shot) const
+{
+    return elementOf(timestamps, static_cast<std::size_t>(shot));
+}
+
+void ProjectMeta::setTimestamp(int shot, const QDateTime &timestamp)
+{
+    setElement(timestamps, static_cast<std::size_t>(shot), timestamp);
+}
+
+void ProjectMeta::keepShots(int count)
+{
+    const auto most = static_cast<std::size_t>(count);
+    labels.resize(std::min(most, labels.size()));
+    timestamps.resize(std::min(most, timestamps.size()));
 }
 
 void ProjectMeta::removeShot(int shot)

@@ -46,8 +46,18 @@ struct ProjectMeta
 
     /// True if there is nothing that a file would have to keep.
     [[nodiscard]] bool isBlank() const;
+    /// Empty for a shot without a label. `shot` is not negative, here and below.
+    [[nodiscard]] QString label(int shot) const;
+    /// Cuts the label after kLongestLabel characters.
+    void setLabel(int shot, const QString &label);
+    /// A null date-time for a shot without one.
+    [[nodiscard]] QDateTime timestamp(int shot) const;
+    void setTimestamp(int shot, const QDateTime &timestamp);
     /// Labels and time stamps of the shots behind move down by one.
     void removeShot(int shot);
+    /// Drops labels and time stamps behind the first `count` shots.
+    void keepShots(int count);
+    void clearShots() { keepShots(0); }
 };
 
 [[nodiscard]] bool operator==(const QuantityMeta &a, const QuantityMeta &b);

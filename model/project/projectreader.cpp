@@ -1,218 +1,295 @@
-#include "model/indexcheck.h"
+#include "model/project/projectreader.h"
+
+#include "model/arrayindex.h"
 #include "model/json/jsonreader.h"
 #include "model/project/pacer.h"
-#include "model/project/projectfile.h"
+#include "model/project/projectdocument.h"
+#include "model/project/projectkeys.h"
 #include "model/project/samplecollector.h"
 
-#include <QSet>
+#include <QHash>
 
+#include <algorithm>
+#include <cmath>
 #include <functional>
+#include <limits>
 #include <new>
 
 namespace {
 
+using namespace projectkeys;
 using Token = JsonReader::Token;
 
-constexpr int kMostItems = 64; // of a list or map that does not hold samples
+constexpr int kMostItems = 64; // of a list that does not hold samples
 constexpr std::size_t kMostMeasurements = 10000000;
 
-QSet<QString> knownFields()
+int toInteger(double number)
 {
-    QSet<QString> keys;
-    for (const char *key : {"ViewData",
-                            "clock",
-                            "comment",
-                            "corrections",
-                            "fileVersion",
-                            "hwVersion",
-                            "markers",
-                            "mesotraType",
-                            "paramClosingForce",
-                            "paramInjectionTime",
-                            "paramPressure",
-                            "paramPressureTime",
-                            "phases",
-                            "projectCustomer",
-                            "projectDate",
-                            "projectName",
-                            "projectNumber",
-                            "projectUser",
-                            "sensor maxValues",
-                            "sensor minValues",
-                            "swVersion"})
-        keys.insert(QLatin1String(key));
-    for (int sensor = 0; sensor < kNumSensors; ++sensor)
-        keys.insert(sensorNameKey(sensor));
-    for (int image = 0; image < kNumProjectImages; ++image)
-        keys.insert(imageKey(image));
-    return keys;
+    constexpr double kLeast = std::numeric_limits<int>::min();
+    constexpr double kMost = std::numeric_limits<int>::max();
+    return static_cast<int>(std::clamp(std::round(number), kLeast, kMost));
 }
 
-// The sensor of a key "sensor 1" to "sensor 5", -1 for another key.
-int sensorOfKey(const QString &key)
-{
-    for (int sensor = 0; sensor < kNumSensors; ++sensor) {
-        if (key == QStringLiteral("sensor %1").arg(sensor + 1))
-            return sensor;
-    }
-    return -1;
-}
-
+/// Reads one document. A value of another type than its field has is skipped and leaves the field empty.
 class ProjectReader
 {
 public:
-    ProjectReader(JsonReader &json, const std::function<void()> &pause)
-        : m_json(json)
-        , m_pause(pause)
-    {}
+    ProjectReader(JsonReader &json, const std::function<void()> &pause);
 
-    [[nodiscard]] std::optional<ProjectContent> read()
-    {
-        if (m_json.next() != Token::BeginObject)
-            return {};
-        Token token = m_json.next();
-        for (; token == Token::Key; token = m_json.next()) {
-            if (!readMember(m_json.text()))
-                return {};
-        }
-        if (token != Token::EndObject || m_json.next() != Token::End)
-            return {};
-        return std::move(m_content);
-    }
+    [[nodiscard]] std::optional<ProjectDocument> read();
 
 private:
-    [[nodiscard]] bool readMember(const QString &key)
+    /// What reads the value of a key; false if that is not valid JSON.
+    using Fields = QHash<QString, std::function<bool()>>;
+
+    void expectTexts();
+    void expectNumbers();
+    void expectNumberedKeys();
+    void expectViewData();
+    template <typename Value>
+    void expect(const char *key, Value &value)
     {
-        const int sensor = sensorOfKey(key);
-        if (sensor >= 0)
-            return readMeasurements(m_content.measurements[at(sensor)]);
-        const Token token = m_json.next();
-        return m_known.contains(key) ? readValue(token, m_content.fields[key]) : m_json.skipValue(token);
+        m_fields.insert(QLatin1String(key), [this, &value] { return readValue(value); });
+    }
+    template <typename Value>
+    void expectInView(const char *key, Value &value)
+    {
+        m_viewFields.insert(QLatin1String(key), [this, &value] { return readValue(value); });
     }
 
-    [[nodiscard]] bool readMeasurements(std::optional<ProjectContent::Measurements> &measurements)
-    {
-        measurements.reset();
-        Token token = m_json.next();
-        if (token != Token::BeginArray)
-            return m_json.skipValue(token);
-        measurements.emplace();
-        for (token = m_json.next(); token != Token::EndArray; token = m_json.next()) {
-            if (measurements->size() == kMostMeasurements)
-                throw std::bad_alloc();
-            // What is no list of samples still takes its place among the shots.
-            const bool valid = token == Token::BeginArray ? readSamples() : m_json.skipValue(token);
-            if (!valid)
-                return false;
-            measurements->push_back(m_samples.take(m_pause));
-        }
-        return true;
-    }
-
-    [[nodiscard]] bool readSamples()
-    {
-        for (;;) {
-            double *room = m_samples.room();
-            const int capacity = m_samples.roomSize();
-            const int count = m_json.readNumbers(room, capacity);
-            m_samples.commit(count);
-            if (count == capacity)
-                continue;
-            const Token token = m_json.next();
-            if (token == Token::EndArray)
-                return true;
-            if (!m_json.skipValue(token))
-                return false;
-            room[count] = token == Token::Number ? m_json.number() : 0.0;
-            m_samples.commit(1);
-        }
-    }
-
-    [[nodiscard]] bool readValue(Token token, QVariant &value)
-    {
-        value.clear();
-        switch (token) {
-        case Token::String:
-            value = m_json.text();
-            return true;
-        case Token::Number:
-            value = m_json.number();
-            return true;
-        case Token::True:
-        case Token::False:
-            value = token == Token::True;
-            return true;
-        case Token::BeginArray:
-            return readList(value);
-        case Token::BeginObject:
-            return readMap(value);
-        default:
-            return m_json.skipValue(token);
-        }
-    }
-
-    [[nodiscard]] bool readList(QVariant &value)
-    {
-        QVariantList list;
-        for (Token token = m_json.next(); token != Token::EndArray; token = m_json.next()) {
-            QVariant item;
-            if (!(list.size() < kMostItems ? readInner(token, item) : m_json.skipValue(token)))
-                return false;
-            if (list.size() < kMostItems)
-                list.append(item);
-        }
-        value = list;
-        return true;
-    }
-
-    [[nodiscard]] bool readMap(QVariant &value)
-    {
-        QVariantMap map;
-        Token token = m_json.next();
-        for (; token == Token::Key; token = m_json.next()) {
-            const QString key = m_json.text();
-            QVariant item;
-            if (!readInner(m_json.next(), item))
-                return false;
-            if (map.size() < kMostItems || map.contains(key))
-                map.insert(key, item);
-        }
-        value = map;
-        return token == Token::EndObject;
-    }
-
-    [[nodiscard]] bool readInner(Token token, QVariant &value)
-    {
-        constexpr int kDeepest = 2; // the lists in "ViewData"
-        if (m_depth == kDeepest)
-            return m_json.skipValue(token);
-        ++m_depth;
-        const bool valid = readValue(token, value);
-        --m_depth;
-        return valid;
-    }
+    [[nodiscard]] bool readMember(const Fields &fields, const QString &key);
+    [[nodiscard]] bool readValue(std::optional<QString> &text);
+    [[nodiscard]] bool readValue(std::optional<double> &number);
+    [[nodiscard]] bool readValue(std::optional<int> &number);
+    [[nodiscard]] bool readValue(std::optional<bool> &truth);
+    [[nodiscard]] bool readValue(std::optional<QVector<double>> &numbers);
+    [[nodiscard]] bool readValue(std::optional<QVector<int>> &numbers);
+    [[nodiscard]] bool readValue(std::optional<QStringList> &texts);
+    [[nodiscard]] bool readValue(QByteArray &image);
+    [[nodiscard]] bool readValue(ProjectViewData &viewData);
+    [[nodiscard]] bool readValue(std::optional<SampleRuns> &runs);
+    [[nodiscard]] bool readSamples();
+    template <typename Items, typename ToItem>
+    [[nodiscard]] bool readItems(std::optional<Items> &items, const ToItem &toItem);
 
     JsonReader &m_json;
     std::function<void()> m_pause;
-    const QSet<QString> m_known = knownFields();
+    Fields m_fields;
+    Fields m_viewFields;
     SampleCollector m_samples;
-    ProjectContent m_content;
-    int m_depth = 0;
+    ProjectDocument m_document;
 };
+
+ProjectReader::ProjectReader(JsonReader &json, const std::function<void()> &pause)
+    : m_json(json)
+    , m_pause(pause)
+{
+    expectTexts();
+    expectNumbers();
+    expectNumberedKeys();
+    expectViewData();
+}
+
+void ProjectReader::expectTexts()
+{
+    expect(kFileVersion, m_document.fileVersion);
+    expect(kName, m_document.name);
+    expect(kNumber, m_document.number);
+    expect(kUser, m_document.user);
+    expect(kDate, m_document.date);
+    expect(kCustomer, m_document.customer);
+    expect(kComment, m_document.comment);
+    expect(kHardwareVersion, m_document.hardwareVersion);
+    expect(kFirmwareVersion, m_document.firmwareVersion);
+    expect(kPhases, m_document.phases);
+}
+
+void ProjectReader::expectNumbers()
+{
+    expect(kClosingForce, m_document.closingForce);
+    expect(kInjectionTime, m_document.injectionTime);
+    expect(kPressTime, m_document.pressTime);
+    expect(kPressure, m_document.pressure);
+    expect(kClock, m_document.clock);
+    expect(kMesotraType, m_document.mesotraType);
+    expect(kMarkers, m_document.markers);
+    expect(kCorrections, m_document.corrections);
+    expect(kSensorMinimum, m_document.sensorMinimum);
+    expect(kSensorMaximum, m_document.sensorMaximum);
+}
+
+void ProjectReader::expectNumberedKeys()
+{
+    for (int sensor = 0; sensor < kNumSensors; ++sensor) {
+        expect(samples(sensor).toLatin1().constData(), m_document.samples[at(sensor)]);
+        expect(sensorName(sensor).toLatin1().constData(), m_document.sensorNames[at(sensor)]);
+    }
+    for (int i = 0; i < kNumProjectImages; ++i)
+        expect(image(i).toLatin1().constData(), m_document.images[at(i)]);
+}
+
+void ProjectReader::expectViewData()
+{
+    expect(kViewData, m_document.viewData);
+    expectInView(kMarkersAbsolute, m_document.viewData.markersAbsolute);
+    expectInView(kOsziMinimum, m_document.viewData.osziMinimum);
+    expectInView(kOsziMaximum, m_document.viewData.osziMaximum);
+}
+
+std::optional<ProjectDocument> ProjectReader::read()
+{
+    if (m_json.next() != Token::BeginObject)
+        return {};
+    Token token = m_json.next();
+    for (; token == Token::Key; token = m_json.next()) {
+        if (!readMember(m_fields, m_json.text()))
+            return {};
+    }
+    if (token != Token::EndObject || m_json.next() != Token::End)
+        return {};
+    return std::move(m_document);
+}
+
+bool ProjectReader::readMember(const Fields &fields, const QString &key)
+{
+    const auto field = fields.constFind(key);
+    return field == fields.constEnd() ? m_json.skipValue(m_json.next()) : (*field)();
+}
+
+// Each of these empties the field first: an earlier value of the same key does not count.
+bool ProjectReader::readValue(std::optional<QString> &text)
+{
+    text.reset();
+    const Token token = m_json.next();
+    if (token == Token::String)
+        text = m_json.text();
+    return m_json.skipValue(token);
+}
+
+bool ProjectReader::readValue(std::optional<double> &number)
+{
+    number.reset();
+    const Token token = m_json.next();
+    if (token == Token::Number)
+        number = m_json.number();
+    return m_json.skipValue(token);
+}
+
+bool ProjectReader::readValue(std::optional<int> &number)
+{
+    std::optional<double> value;
+    const bool valid = readValue(value);
+    number = value ? std::optional(toInteger(*value)) : std::nullopt;
+    return valid;
+}
+
+bool ProjectReader::readValue(std::optional<bool> &truth)
+{
+    truth.reset();
+    const Token token = m_json.next();
+    if (token == Token::True || token == Token::False)
+        truth = token == Token::True;
+    return m_json.skipValue(token);
+}
+
+bool ProjectReader::readValue(std::optional<QVector<double>> &numbers)
+{
+    return readItems(numbers, [this](Token token) { return token == Token::Number ? m_json.number() : 0.0; });
+}
+
+bool ProjectReader::readValue(std::optional<QVector<int>> &numbers)
+{
+    return readItems(numbers, [this](Token token) { return token == Token::Number ? toInteger(m_json.number()) : 0; });
+}
+
+bool ProjectReader::readValue(std::optional<QStringList> &texts)
+{
+    return readItems(texts, [this](Token token) { return token == Token::String ? m_json.text() : QString(); });
+}
+
+bool ProjectReader::readValue(QByteArray &image)
+{
+    image.clear();
+    const Token token = m_json.next();
+    if (token == Token::String)
+        image = QByteArray::fromBase64(m_json.text().toLatin1());
+    return m_json.skipValue(token);
+}
+
+bool ProjectReader::readValue(ProjectViewData &viewData)
+{
+    viewData = {};
+    viewData.kind = ProjectViewData::Kind::NoObject;
+    Token token = m_json.next();
+    if (token != Token::BeginObject)
+        return m_json.skipValue(token);
+    viewData.kind = ProjectViewData::Kind::Empty;
+    for (token = m_json.next(); token == Token::Key; token = m_json.next()) {
+        viewData.kind = ProjectViewData::Kind::Given;
+        if (!readMember(m_viewFields, m_json.text()))
+            return false;
+    }
+    return token == Token::EndObject;
+}
+
+bool ProjectReader::readValue(std::optional<SampleRuns> &runs)
+{
+    runs.reset();
+    Token token = m_json.next();
+    if (token != Token::BeginArray)
+        return m_json.skipValue(token);
+    runs.emplace();
+    for (token = m_json.next(); token != Token::EndArray; token = m_json.next()) {
+        if (runs->size() == kMostMeasurements)
+            throw std::bad_alloc();
+        // What is no list of samples still takes its place among the shots.
+        const bool valid = token == Token::BeginArray ? readSamples() : m_json.skipValue(token);
+        if (!valid)
+            return false;
+        runs->emplace_back(m_samples.take(m_pause));
+    }
+    return true;
+}
+
+bool ProjectReader::readSamples()
+{
+    for (;;) {
+        double *room = m_samples.room();
+        const int capacity = m_samples.roomSize();
+        const int count = m_json.readNumbers(room, capacity);
+        m_samples.commit(count);
+        if (count == capacity)
+            continue;
+        const Token token = m_json.next();
+        if (token == Token::EndArray)
+            return true;
+        if (!m_json.skipValue(token))
+            return false;
+        room[count] = token == Token::Number ? m_json.number() : 0.0;
+        m_samples.commit(1);
+    }
+}
+
+template <typename Items, typename ToItem>
+bool ProjectReader::readItems(std::optional<Items> &items, const ToItem &toItem)
+{
+    items.reset();
+    Token token = m_json.next();
+    if (token != Token::BeginArray)
+        return m_json.skipValue(token);
+    items.emplace();
+    for (token = m_json.next(); token != Token::EndArray; token = m_json.next()) {
+        if (items->size() < kMostItems)
+            items->append(toItem(token));
+        if (!m_json.skipValue(token))
+            return false;
+    }
+    return true;
+}
 
 } // namespace
 
-QString sensorNameKey(int sensor)
-{
-    return QStringLiteral("sensorName %1").arg(sensor + 1);
-}
-
-QString imageKey(int image)
-{
-    return image == 0 ? QStringLiteral("projectImage") : QStringLiteral("projectImage%1").arg(image);
-}
-
-std::optional<ProjectContent> readProject(QIODevice &source, Pacer &pacer)
+std::optional<ProjectDocument> projectfile::read(QIODevice &source, Pacer &pacer)
 {
     JsonReader json(source, [&pacer](qint64 bytes) { pacer.moveTo(bytes); });
     return ProjectReader(json, [&pacer] { pacer.look(); }).read();

@@ -1,11 +1,16 @@
-#include "model/indexcheck.h"
+#include "model/project/projectwriter.h"
+
+#include "model/arrayindex.h"
 #include "model/json/jsonwriter.h"
 #include "model/project/pacer.h"
-#include "model/project/projectfile.h"
+#include "model/project/projectdocument.h"
+#include "model/project/projectkeys.h"
 
 namespace {
 
-// Between two of them a single measurement looks at the clock.
+using namespace projectkeys;
+
+// After each of these a single measurement looks at the clock.
 constexpr int kSamplesAtOnce = 512;
 
 void writeValue(JsonWriter &json, int number)
@@ -20,38 +25,49 @@ void writeValue(JsonWriter &json, const Value &value)
 }
 
 template <typename Items>
-void writeItems(JsonWriter &json, const char *key, const Items &items)
+void writeItems(JsonWriter &json, const char *key, const std::optional<Items> &items)
 {
+    if (!items)
+        return;
     json.key(key);
     json.beginArray();
-    for (const auto &item : items)
+    for (const auto &item : *items)
         writeValue(json, item);
     json.endArray();
 }
 
 template <typename Value>
-void writeField(JsonWriter &json, const char *key, const Value &value)
+void writeField(JsonWriter &json, const char *key, const std::optional<Value> &value)
 {
+    if (!value)
+        return;
     json.key(key);
-    writeValue(json, value);
+    writeValue(json, *value);
 }
 
-void writeViewData(JsonWriter &json, const ProjectDocument &document)
+void writeField(JsonWriter &json, const QString &key, const std::optional<QString> &text)
 {
-    json.key("ViewData");
+    writeField(json, key.toLatin1().constData(), text);
+}
+
+void writeViewData(JsonWriter &json, const ProjectViewData &viewData)
+{
+    if (viewData.kind != ProjectViewData::Kind::Given)
+        return;
+    json.key(kViewData);
     json.beginObject();
-    writeField(json, "checkBoxMarkerAbsolute", document.markersAbsolute);
-    writeItems(json, "osziMaxValues", document.osziMaximum);
-    writeItems(json, "osziMinValues", document.osziMinimum);
+    writeField(json, kMarkersAbsolute, viewData.markersAbsolute);
+    writeItems(json, kOsziMaximum, viewData.osziMaximum);
+    writeItems(json, kOsziMinimum, viewData.osziMinimum);
     json.endObject();
 }
 
 void writeMeasurement(JsonWriter &json, const SampleRun &run, Pacer &pacer)
 {
     json.beginArray();
-    for (int done = 0; done < run.count && !json.hasFailed();) {
-        const int part = qMin(kSamplesAtOnce, run.count - done);
-        json.values(run.samples->constData() + done, part);
+    for (int done = 0; done < run.count() && !json.hasFailed();) {
+        const int part = qMin(kSamplesAtOnce, run.count() - done);
+        json.values(run.data() + done, part);
         done += part;
         pacer.advance(part); // events may append samples and so move those of this list
     }
@@ -61,9 +77,12 @@ void writeMeasurement(JsonWriter &json, const SampleRun &run, Pacer &pacer)
 void writeSamples(JsonWriter &json, const ProjectDocument &document, Pacer &pacer)
 {
     for (int sensor = 0; sensor < kNumSensors; ++sensor) {
-        json.key(QByteArray("sensor ").append(QByteArray::number(sensor + 1)).constData());
+        const std::optional<SampleRuns> &runs = document.samples[at(sensor)];
+        if (!runs)
+            continue;
+        json.key(samples(sensor).toLatin1().constData());
         json.beginArray();
-        for (const SampleRun &run : document.samples[at(sensor)]) {
+        for (const SampleRun &run : *runs) {
             writeMeasurement(json, run, pacer);
             pacer.advance(1);
         }
@@ -71,55 +90,49 @@ void writeSamples(JsonWriter &json, const ProjectDocument &document, Pacer &pace
     }
 }
 
+void writeHead(JsonWriter &json, const ProjectDocument &document)
+{
+    writeViewData(json, document.viewData);
+    writeField(json, kClock, document.clock);
+    writeField(json, kComment, document.comment);
+    writeItems(json, kCorrections, document.corrections);
+    writeField(json, kFileVersion, std::optional(QStringLiteral("7")));
+    writeField(json, kHardwareVersion, document.hardwareVersion);
+    writeItems(json, kMarkers, document.markers);
+    writeField(json, kMesotraType, document.mesotraType);
+}
+
 void writeDescription(JsonWriter &json, const ProjectDocument &document)
 {
-    const ProjectData &data = document.data;
-    writeField(json, "paramClosingForce", data.closingForce);
-    writeField(json, "paramInjectionTime", data.injectionTime);
-    writeField(json, "paramPressure", data.pressure);
-    writeField(json, "paramPressureTime", data.pressTime);
-    writeItems(json, "phases", document.phases);
-    writeField(json, "projectCustomer", data.customer);
-    writeField(json, "projectDate", data.date);
-    for (int image = 0; image < kNumProjectImages; ++image)
-        writeField(json, imageKey(image).toLatin1().constData(),
-                   QString::fromLatin1(document.images[at(image)].toBase64()));
-    writeField(json, "projectName", data.name);
-    writeField(json, "projectNumber", data.number);
-    writeField(json, "projectUser", data.user);
+    writeField(json, kClosingForce, document.closingForce);
+    writeField(json, kInjectionTime, document.injectionTime);
+    writeField(json, kPressure, document.pressure);
+    writeField(json, kPressTime, document.pressTime);
+    writeItems(json, kPhases, document.phases);
+    writeField(json, kCustomer, document.customer);
+    writeField(json, kDate, document.date);
+    for (int i = 0; i < kNumProjectImages; ++i)
+        writeField(json, image(i), QString::fromLatin1(document.images[at(i)].toBase64()));
+    writeField(json, kName, document.name);
+    writeField(json, kNumber, document.number);
+    writeField(json, kUser, document.user);
 }
 
 } // namespace
 
-qint64 ProjectDocument::sampleCount() const
-{
-    qint64 count = 0;
-    for (const std::vector<SampleRun> &runs : samples) {
-        for (const SampleRun &run : runs)
-            count += run.count + 1; // an empty measurement is work as well
-    }
-    return count;
-}
-
-bool writeProject(QIODevice &target, const ProjectDocument &document, Pacer &pacer)
+bool projectfile::write(QIODevice &target, const ProjectDocument &document, Pacer &pacer)
 {
     JsonWriter json(target);
     json.beginObject();
-    writeViewData(json, document);
-    writeField(json, "clock", document.clock);
-    writeField(json, "comment", document.comment);
-    writeItems(json, "corrections", document.corrections);
-    writeField(json, "fileVersion", QStringLiteral("7"));
-    writeField(json, "hwVersion", document.hardwareVersion);
-    writeItems(json, "markers", document.markers);
-    writeField(json, "mesotraType", document.mesotraType);
+    // The keys in sorted order, as QJsonObject keeps them.
+    writeHead(json, document);
     writeDescription(json, document);
     writeSamples(json, document, pacer);
-    writeItems(json, "sensor maxValues", document.sensorMaximum);
-    writeItems(json, "sensor minValues", document.sensorMinimum);
+    writeItems(json, kSensorMaximum, document.sensorMaximum);
+    writeItems(json, kSensorMinimum, document.sensorMinimum);
     for (int sensor = 0; sensor < kNumSensors; ++sensor)
-        writeField(json, sensorNameKey(sensor).toLatin1().constData(), document.sensorNames[at(sensor)]);
-    writeField(json, "swVersion", document.softwareVersion);
+        writeField(json, sensorName(sensor), document.sensorNames[at(sensor)]);
+    writeField(json, kFirmwareVersion, document.firmwareVersion);
     json.endObject();
     return json.finish();
 }

@@ -11,7 +11,7 @@
 /// a horizontal plot has its axis from left to right, a vertical one is turned by a quarter: upwards.
 struct BoxPlotGeometry
 {
-    static constexpr int kFarAway = 1 << 24; ///< pixels; stands for everything farther outside
+    static constexpr int kFarAway = 1 << 24; ///< pixels; what lies farther outside is put here
 
     QSize size; ///< of the widget
     QMargins margins;

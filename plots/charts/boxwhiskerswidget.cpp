@@ -2,7 +2,6 @@
 
 #include "app/theme.h"
 #include "plots/common/labelfont.h"
-#include "plots/common/localnumber.h"
 #include "plots/common/logging.h"
 
 #include <QPainter>
@@ -67,7 +66,7 @@ void drawLabel(QPainter &painter, const BoxPlotGeometry &geometry, int along, co
 
 QStaticText labelText(double value, const QFont &font)
 {
-    QStaticText text(localNumber(value, 'g', 6));
+    QStaticText text(QString::number(value, 'g', 6));
     text.setTextFormat(Qt::PlainText);
     text.prepare(QTransform(), font);
     return text;
@@ -140,6 +139,7 @@ void BoxWhiskersWidget::setVertical(bool vertical)
     if (m_vertical == vertical)
         return;
     m_vertical = vertical;
+    // The plot stretches along its value axis only.
     setSizePolicy(sizePolicy().transposed());
     updateGeometry();
     update();
@@ -171,6 +171,6 @@ void BoxWhiskersWidget::paintEvent(QPaintEvent *event)
     drawWhiskers(painter, geometry, m_numbers);
     drawBox(painter, geometry, m_numbers, m_fillColor);
     drawMedian(painter, geometry, m_numbers.median);
-    painter.setClipping(false);
+    painter.setClipping(false); // labels lie in the margins
     drawLabels(painter, geometry, m_numbers);
 }

@@ -13,13 +13,13 @@ class BoxWhiskersWidget : public QWidget
 public:
     explicit BoxWhiskersWidget(QWidget *parent = nullptr);
 
-    /// Copies and sorts the list; numbers that are not finite count nowhere. An empty list is drawn as a box
+    /// Copies and sorts the list; numbers that are not finite are ignored. An empty list is drawn as a box
     /// collapsed at 0.
     void set(QList<double> values);
-    /// Ends that are not finite are ignored; an inverted range is turned round.
+    /// Ends that are not finite are ignored; reversed ends are swapped.
     void setAxisRange(double minimum, double maximum);
-    /// Pixels around the plot area, in the order of QMargins. Labels stand in the bottom margin, those of a vertical
-    /// plot in the right one. Negative ones count as 0.
+    /// Pixels around the plot area, in the order of QMargins. Labels are drawn in the bottom margin, those
+    /// of a vertical plot in the right one. Negative ones count as 0.
     void setMargins(int left, int top, int right, int bottom);
     void setFillColor(const QColor &color);
     /// False: the value axis runs left to right; true: it runs bottom to top.

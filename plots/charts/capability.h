@@ -18,7 +18,7 @@ struct ToleranceLimits
 
 [[nodiscard]] bool operator==(const ToleranceLimits &a, const ToleranceLimits &b);
 
-/// How well a process keeps its limits.
+/// How well a process stays within its limits.
 struct Capability
 {
     static constexpr double kGood = 1.33;
@@ -30,9 +30,9 @@ struct Capability
 
 enum class CapabilityGrade { Unknown, Poor, Fair, Good };
 
-/// From the sigma of the population, that is divided by n. Nothing for fewer than two values and for limits that are
-/// inverted. Where all values are equal both are infinite, a Cpk with the sign of the mean's distance from the limit
-/// (0 on the limit).
+/// Based on the sigma of the population, whose squares are divided by n. Nothing for fewer than two values and for
+/// limits that are inverted. Where all values are equal both are infinite, a Cpk with the sign of the mean's distance
+/// from the limit (0 on the limit).
 [[nodiscard]] Capability capability(const QVector<double> &values, const ToleranceLimits &limits);
 [[nodiscard]] CapabilityGrade gradeOf(const Capability &capability);
 

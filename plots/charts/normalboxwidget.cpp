@@ -93,6 +93,7 @@ void NormalBoxWidget::fitAxis()
         return;
     const statistics::FiveNumbers &numbers = m_boxPlot->numbers();
     const double span = numbers.maximum - numbers.minimum;
+    // Without any span there is nothing to take a share of: equal values get an axis around them.
     const double room = span > 0.0 ? span / 20.0 : std::max(1.0, std::abs(numbers.median) / 20.0);
     m_boxPlot->setAxisRange(numbers.minimum - room, numbers.maximum + room);
 }

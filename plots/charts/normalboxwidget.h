@@ -19,7 +19,7 @@ public:
 
     explicit NormalBoxWidget(QWidget *parent = nullptr);
 
-    /// Numbers that are not finite count nowhere. Without any, all figures but n stay blank.
+    /// Numbers that are not finite are ignored. Without any, all figures but n stay blank.
     void set(QList<double> values);
     /// Fixes the value axis; see BoxWhiskersWidget::setAxisRange().
     void setAxisRange(double minimum, double maximum);

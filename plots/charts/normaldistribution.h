@@ -6,7 +6,7 @@
 class NormalDistribution
 {
 public:
-    /// Numbers that are not finite count nowhere; an empty list gives 0 for both.
+    /// Numbers that are not finite are ignored; an empty list gives 0 for both.
     void set(QList<double> values);
 
     [[nodiscard]] double mean() const { return m_moments.mean; }

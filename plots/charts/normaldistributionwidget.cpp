@@ -2,7 +2,6 @@
 
 #include "app/theme.h"
 #include "plots/common/labelfont.h"
-#include "plots/common/localnumber.h"
 #include "plots/common/logging.h"
 
 #include <QPainter>
@@ -35,7 +34,7 @@ BellArea areaOf(const QSize &size, const QMargins &margins)
 
 QStaticText figure(double value, const QFont &font)
 {
-    QStaticText text(localNumber(value, 'g', 6));
+    QStaticText text(QString::number(value, 'g', 6));
     text.setTextFormat(Qt::PlainText);
     text.prepare(QTransform(), font);
     return text;

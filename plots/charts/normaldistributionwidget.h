@@ -14,7 +14,7 @@ class NormalDistributionWidget : public QWidget
 public:
     explicit NormalDistributionWidget(QWidget *parent = nullptr);
 
-    /// Numbers that are not finite count nowhere. Where all are equal the curve is a single upright line.
+    /// Numbers that are not finite are ignored. Where all are equal the curve is a single upright line.
     void set(QList<double> values);
     /// Pixels around the plot, in the order of QMargins; negative ones count as 0.
     void setMargins(int left, int top, int right, int bottom);

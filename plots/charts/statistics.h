@@ -3,8 +3,8 @@
 #include <QList>
 #include <QVector>
 
-/// Figures of a list of numbers. Nothing here fails: an empty list has all figures 0. Lists of other than finite
-/// numbers give figures that are not finite; finiteValues() and sortedFiniteValues() take such numbers out.
+/// Figures of a list of numbers. Nothing here fails: all figures of an empty list are 0. A list with numbers that are
+/// not finite gives figures that are not finite; finiteValues() and sortedFiniteValues() leave such numbers out.
 namespace statistics {
 
 struct Moments

@@ -2,7 +2,7 @@
 
 QValidator::State DecimalSpinBox::validate(QString &input, int &position) const
 {
-    input = withDecimalPoint(input);
+    input = withDecimalPoint(input); // the user sees the replacement while typing
     return QDoubleSpinBox::validate(input, position);
 }
 

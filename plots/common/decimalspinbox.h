@@ -2,7 +2,7 @@
 
 #include <QDoubleSpinBox>
 
-/// A number field that takes comma and point alike as the decimal point. The usual one takes the point of a German
+/// A number field that takes both comma and point as the decimal point. QDoubleSpinBox takes the point of a German
 /// "12.5" for a group separator and reads 125.
 class DecimalSpinBox : public QDoubleSpinBox
 {

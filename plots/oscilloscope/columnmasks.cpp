@@ -18,7 +18,7 @@ quint64 bits(unsigned from, unsigned to)
     return (~quint64(0) << from) & (~quint64(0) >> (kBits - 1 - to));
 }
 
-/// Takes the fresh pixels that are free and leaves only those; false when there are none.
+/// Takes the fresh pixels that are free and drops the others; false when none was free.
 VENTARO_VECTOR_CLONES
 bool takeFree(quint64 *fresh, quint64 *taken, int words)
 {
@@ -140,7 +140,7 @@ void ColumnMasks::paintBlock(QImage &picture, int left, QRgb color, int block)
     const int words = kBlock * m_words;
     if (!takeFree(fresh, &m_taken64[firstWord], words))
         return;
-    // Listed without a branch: which words hold something cannot be foretold.
+    // Listed without a branch: which words are empty cannot be predicted.
     int used = 0;
     for (int i = 0; i < words; ++i) {
         m_usedWords[size_t(used)] = i;

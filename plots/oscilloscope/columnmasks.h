@@ -14,8 +14,8 @@ struct RowInterval
     int bottom = -1;
 };
 
-/// Which pixels are taken: a bit a row for every column of the plot area. Curves come from the top-most down and mark
-/// their pixels as fresh; paint() gives a colour to the fresh pixels that no curve above has taken.
+/// Which pixels are taken: one bit per row for every column of the plot area. Curves are added from the top-most down
+/// and mark their pixels as fresh; paint() colours the fresh pixels that no curve above has taken.
 class ColumnMasks
 {
 public:
@@ -33,18 +33,18 @@ public:
     /// The longest known run of taken rows in a column; grows only in settle().
     [[nodiscard]] RowInterval taken(int column) const { return m_taken[size_t(column)]; }
 
-    /// Marks rows top to bottom of a column, all inside.
+    /// Marks rows `top` to `bottom` of a column; all of them have to exist.
     void mark(int column, int top, int bottom);
-    /// For kernels that mark whole blocks: `words()` words a column.
+    /// For kernels that mark whole blocks: `words()` words per column.
     [[nodiscard]] quint64 *freshWords() { return m_fresh.data(); }
-    /// One byte a block: whether it holds fresh pixels.
+    /// One byte per block: whether it has fresh pixels.
     [[nodiscard]] quint8 *freshBlocks() { return m_freshBlocks.data(); }
     /// rows() + 1 entries of words() words: the bits of all rows below the entry's index. Empty beyond kFastWords.
     [[nodiscard]] const quint64 *rowsBelow() const { return m_rowsBelow.data(); }
 
     /// Writes the fresh pixels that are free into the picture, whose column `left` is column 0 here, and takes them.
     void paint(QImage &picture, int left, QRgb color);
-    /// Looks again for the longest taken run of the columns painted since the last time; adds them to `changed`.
+    /// Finds the longest taken run again in the columns painted since the last call, and adds them to `changed`.
     void settle(std::vector<int> &changed);
 
 private:
@@ -58,7 +58,7 @@ private:
     std::vector<quint64> m_taken64;
     std::vector<quint64> m_fresh;
     std::vector<quint8> m_freshBlocks;
-    std::vector<quint8> m_stale; ///< a byte a column: painted since settle()
+    std::vector<quint8> m_stale; ///< one byte per column: painted since settle()
     std::vector<RowInterval> m_taken;
     std::vector<quint64> m_rowsBelow;
     std::vector<int> m_columnOfWord; ///< of each word of a block

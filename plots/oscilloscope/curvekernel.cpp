@@ -28,8 +28,8 @@ VENTARO_INLINE bool isOnTakenPixels(const Job &job, int first)
     return open == 0;
 }
 
-/// Turns kBlock + 1 samples into rows; these are good unless the block lies outside or leaves the widget. The loops
-/// keep to one width of number each, or they would not become vectors.
+/// Turns kBlock + 1 samples into rows; these are good unless the block lies outside or leaves the widget. Each
+/// loop uses numbers of one width only, or the compiler would not vectorise it.
 VENTARO_INLINE BlockRows rowsOfBlock(const Job &job, const Rows &rows, int first, int *y)
 {
     constexpr double kAlmostHalf = 0.49999999999999994; // rounds halves up and what lies just below them down
@@ -55,7 +55,7 @@ VENTARO_INLINE BlockRows rowsOfBlock(const Job &job, const Rows &rows, int first
     return BlockRows::Simple;
 }
 
-/// The runs from each row to the next without the last; false when a step is too steep for that.
+/// The runs from each row to the next, without the last row; false when a step is too steep for that.
 VENTARO_INLINE bool runsOfRows(const int *y, int *top, int *end)
 {
     int tooSteep = 0;
@@ -71,7 +71,7 @@ VENTARO_INLINE bool runsOfRows(const int *y, int *top, int *end)
 template <int Words>
 VENTARO_INLINE void markRuns(const Rows &rows, int first, const int *top, const int *end)
 {
-    quint64 runs[kBlock * Words]; // apart, so that nothing has to be assumed about what the pointers share
+    quint64 runs[kBlock * Words]; // separate, so that the compiler knows that nothing overlaps
     for (int i = 0; i < kBlock; ++i) {
         const quint64 *above = rows.rowsBelow + qptrdiff(top[i]) * Words;
         const quint64 *through = rows.rowsBelow + qptrdiff(end[i]) * Words;

@@ -2,7 +2,7 @@
 
 #include <QtGlobal>
 
-/// The loops over a curve's samples that are worth wide vectors.
+/// The inner loops over a curve's samples, written so that the compiler can vectorise them.
 namespace curvekernel {
 
 constexpr int kBlock = 16;       ///< segments looked at together
@@ -21,7 +21,7 @@ struct Job
     int *openBlocks = nullptr; ///< out: the blocks that are not done, room for all
 };
 
-/// What it takes to mark simple segments at zoom 1: row = bottom - height * (value - minValue) / span, rounded.
+/// What is needed to mark simple segments at zoom 1: row = bottom - height * (value - minValue) / span, rounded.
 struct Rows
 {
     double bottom = 0.0;
@@ -35,7 +35,7 @@ struct Rows
     quint8 *freshBlocks = nullptr;
 };
 
-/// Lists the blocks that are not wholly on taken pixels; returns their number.
+/// Lists the blocks that are not entirely on taken pixels; returns their number.
 int findOpenBlocks(const Job &job);
 
 /// For zoom 1: marks the blocks that are not on taken pixels, column c getting the rows from sample c to sample c + 1

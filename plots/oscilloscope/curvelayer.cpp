@@ -8,8 +8,8 @@ namespace {
 
 constexpr int kLeft = PlotGeometry::kLeftMargin;
 constexpr size_t kAhead = 12;          // curves whose samples are fetched while others are drawn
-constexpr qint64 kMostFetched = 64;    // samples; the processor follows longer reads by itself
-constexpr qint64 kSamplesPerFetch = 8; // what comes with one fetch
+constexpr qint64 kMostFetched = 64;    // samples; the processor prefetches the rest of a longer read
+constexpr qint64 kSamplesPerFetch = 8; // one cache line
 // Up to this zoom a segment's last pixel is always the first of the next one, so that a moved picture needs no repair
 // where segments were cut.
 constexpr int kLargestZoomMoved = 128;
@@ -125,8 +125,8 @@ void CurveLayer::clearColumns(int firstColumn, int lastColumn)
         std::memset(reinterpret_cast<QRgb *>(m_picture.scanLine(y)) + kLeft + firstColumn, 0, bytes);
 }
 
-/// Draws columns anew from the top-most curve down. The curves' samples lie all over the memory: where only a few of
-/// each are needed, waiting for them would cost the most.
+/// Redraws columns, from the top-most curve down. The curves' samples are scattered over memory: where only a few of
+/// each are needed, waiting for them would take most of the time, so they are fetched ahead.
 void CurveLayer::draw(const OsziScene &scene, int firstColumn, int lastColumn)
 {
     clearColumns(firstColumn, lastColumn);
@@ -159,7 +159,7 @@ void CurveLayer::addToRaster(const OsziScene &scene, Drawn &drawn)
         m_raster.add({drawn.samples, curve.shift, span, scene.offset, curve.channelOffset, curve.color.rgba()});
 }
 
-/// Whether a curve has its last sample there, so that nothing of it is drawn any more from there on.
+/// Whether a curve has its last sample there, so that it is no longer drawn at all.
 bool CurveLayer::anyEndsAt(int sample) const
 {
     return std::any_of(m_curves.begin(), m_curves.end(),

@@ -18,7 +18,7 @@ public:
     /// when this was last said, or when its slot was set. Cheaper than invalidate().
     void extend(const OsziCurve &curve, int oldCount);
 
-    /// Brings the picture up to date. False when it cannot show the scene, which then has to be painted the plain way.
+    /// Brings the picture up to date. False when it cannot show the scene, which then has to be painted by oszipainter.
     [[nodiscard]] bool update(const OsziScene &scene);
     [[nodiscard]] const QImage &picture() const { return m_picture; }
 

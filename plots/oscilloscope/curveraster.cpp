@@ -15,7 +15,8 @@ constexpr int kLeft = PlotGeometry::kLeftMargin;
 constexpr int kTallest = 8192; // rows
 constexpr int kWidest = 32768; // columns
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
-// How many curves are added before the taken pixels are looked at again: often at first, when every curve takes many.
+// How many curves are added before the taken pixels are looked at again: often at first, while every curve still takes
+// many.
 constexpr int kFirstPatience = 8;
 constexpr int kLastPatience = 1024;
 
@@ -43,7 +44,7 @@ void CurveRaster::setGeometry(const PlotGeometry &geometry)
 }
 
 /// Finds a value near each row's edges and lets the formula itself confirm it: since every operation in it is monotone,
-/// all values beyond are then on the right side too.
+/// all values beyond are then on the correct side too.
 void CurveRaster::makeRowLimits()
 {
     const PlotGeometry &g = m_geometry;
@@ -162,7 +163,7 @@ void CurveRaster::addBlocks(const RasterCurve &curve, int first, int last)
     constexpr int kBlock = curvekernel::kBlock;
     const bool marking = m_geometry.zoom == 1 && m_masks.words() <= ColumnMasks::kFastWords;
     curvekernel::Job job;
-    // The kernel marks whole blocks: the columns of these have to be wanted.
+    // The kernel marks whole blocks: none may reach beyond the columns that were begun.
     job.firstBlock = (std::max(first, marking ? m_firstColumn : 0) + kBlock - 1) / kBlock;
     job.endBlock = std::min(last, marking ? m_lastColumn + 1 : last) / kBlock;
     if (job.firstBlock >= job.endBlock) {

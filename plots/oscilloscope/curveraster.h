@@ -12,20 +12,20 @@ namespace curvekernel {
 struct Job;
 }
 
-/// A curve as the rasteriser takes it.
+/// What the rasteriser needs of a curve.
 struct RasterCurve
 {
     const double *samples = nullptr; ///< sample 0
-    int shift = 0;                   ///< index at which it stands
+    int shift = 0;                   ///< index of sample 0
     SampleSpan span;                 ///< indices whose joining segments are drawn; at least two
     double offset = 0.0;             ///< added to every sample first
     double channelOffset = 0.0;      ///< added second
     QRgb color = 0;                  ///< opaque
 };
 
-/// Draws opaque curves of width 1 without antialiasing into a picture: the pixels that a raster painter sets with
-/// drawLine() for every segment. Curves are added from the top-most down, so that every pixel is written once and what
-/// is hidden under others is hardly looked at.
+/// Draws opaque curves of width 1 without antialiasing into a picture: exactly the pixels that a raster painter sets
+/// with one drawLine() per segment. Curves are added from the top-most down, so that every pixel is written once and
+/// what is hidden under other curves costs next to nothing.
 class CurveRaster
 {
 public:

@@ -4,7 +4,7 @@
 
 const QStaticText &LabelCache::label(const QString &text, const QFont &font)
 {
-    constexpr int kMost = 1000; // scrolling through a long recording makes ever new labels
+    constexpr int kMost = 1000; // scrolling through a long recording keeps adding labels
     if (font != m_font || m_labels.size() >= kMost) {
         m_labels.clear();
         m_font = font;

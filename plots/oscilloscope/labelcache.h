@@ -8,7 +8,7 @@
 class LabelCache
 {
 public:
-    /// The text laid out in a font. The reference is good until the next call.
+    /// The text laid out in a font. The reference is valid until the next call.
     const QStaticText &label(const QString &text, const QFont &font);
 
 private:

@@ -18,8 +18,8 @@ struct End
     double y = 0.0;
 };
 
-/// Cuts a line to the rows lowest to highest; false when nothing is left. Columns are the caller's business: lines
-/// have to lie within the picture's width.
+/// Cuts a line to the rows lowest to highest; false when nothing is left. Columns are not cut: lines have
+/// to lie within the picture's width.
 inline bool clipRows(End &a, End &b, double lowest, double highest)
 {
     const auto cut = [](End &end, const End &other, double row) {
@@ -43,7 +43,7 @@ inline bool clipRows(End &a, End &b, double lowest, double highest)
 }
 
 /// A line in fixed point: `count` pixels from `first` on along the longer direction, the other coordinate being
-/// `across` in 16.16, growing by `slope` a pixel.
+/// `across` in 16.16, growing by `slope` per pixel.
 struct Walk
 {
     int first = 0;
@@ -102,7 +102,7 @@ void columnsOfLine(int x1, int y1, int x2, int y2, int height, Run &&run)
     const int dx = std::abs(bx - ax);
     const int dy = std::abs(by - ay);
     const bool steep = dx < dy;
-    if (steep ? ay > by : ax > bx) { // clipping can leave the ends the wrong way round
+    if (steep ? ay > by : ax > bx) { // clipping may have swapped the ends
         std::swap(ax, bx);
         std::swap(ay, by);
     }

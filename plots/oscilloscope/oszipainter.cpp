@@ -1,6 +1,5 @@
 #include "plots/oscilloscope/oszipainter.h"
 
-#include "plots/common/localnumber.h"
 #include "plots/oscilloscope/labelcache.h"
 #include "plots/oscilloscope/osziscene.h"
 #include "plots/oscilloscope/plotgrid.h"
@@ -25,7 +24,7 @@ constexpr int kWidestTimeLabel = 200;
 constexpr int kThickPen = 3;
 constexpr int kDashPeriod = kThickPen * (4 + 2); // a dash of 4 and a gap of 2 pen widths
 constexpr int kLastPhaseWidth = 100;
-constexpr int kMostPhaseWidth = 100000; // pixels; longer ones need no care for their names
+constexpr int kMostPhaseWidth = 100000; // pixels; wider phases never cut a name off
 constexpr int kEndValueGap = 4;         // pixels between the end of the curve and its value
 constexpr int kEndValueRaise = 6;       // pixels between a line through the end and its value
 constexpr int kValueLabelLeft = 2;
@@ -41,8 +40,8 @@ QSize roundedUp(const QSizeF &size)
     return {qCeil(size.width()), qCeil(size.height())};
 }
 
-/// A label too long for its place goes on to the right, and is drawn smaller before it would reach the axis: a sign or
-/// a digit cut off would make it another number.
+/// A label that is too long extends to the right, and is scaled down before it would reach the axis: with a sign or a
+/// digit cut off it would read as another number.
 void paintValueLabel(QPainter &painter, const QStaticText &label, int y)
 {
     const QSize size = roundedUp(label.size());
@@ -101,17 +100,12 @@ void paintValueGrid(QPainter &painter, const OsziScene &scene, const QRect &regi
     }
 }
 
-/// With the decimal point of the language in use.
-QString shownTimeLabel(qint64 time)
-{
-    return timeLabel(time).replace(QLatin1Char('.'), QLocale().decimalPoint());
-}
-
 void paintClockGrid(QPainter &painter, const OsziScene &scene, const QRect &region, LabelCache &labels)
 {
     const PlotGeometry &geometry = scene.geometry;
     painter.setPen(Qt::black);
     painter.drawLine(kLeft, geometry.margin, kLeft, geometry.bottom());
+    // Labels follow no language, unlike those of the value axis: "1.5s" is an agreed format.
     const GridLines lines = clockGridLines(geometry, scene.clockGrid);
     for (qint64 i = lines.first; i <= lines.last; i += lines.stride) {
         const qint64 time = i * scene.clockGrid;
@@ -121,8 +115,7 @@ void paintClockGrid(QPainter &painter, const OsziScene &scene, const QRect &regi
         painter.setPen(Qt::gray);
         painter.drawLine(x, geometry.margin, x, geometry.bottom());
         painter.setPen(Qt::black);
-        painter.drawStaticText(x - kTimeLabelShift, geometry.bottom(),
-                               labels.label(shownTimeLabel(time), painter.font()));
+        painter.drawStaticText(x - kTimeLabelShift, geometry.bottom(), labels.label(timeLabel(time), painter.font()));
     }
 }
 
@@ -170,7 +163,7 @@ QString endValueText(const OsziScene &scene)
     const qint64 last = curve->end() - 1;
     if (last > scene.geometry.lastVisibleIndex())
         return {};
-    return localNumber(scene.drawnValue(*curve, last), 'f', labelDecimals(scene.geometry.span()) + 1);
+    return QString::number(scene.drawnValue(*curve, last), 'f', labelDecimals(scene.geometry.span()) + 1);
 }
 
 QRect endValueRect(const OsziScene &scene, const QFont &font, LabelCache &labels)
@@ -182,7 +175,7 @@ QRect endValueRect(const OsziScene &scene, const QFont &font, LabelCache &labels
     const QPoint end = scene.pointOf(curve, curve.end() - 1);
     QRect rect(QPoint(end.x() + kEndValueGap, 0), roundedUp(labels.label(text, font).size()));
     int top = end.y() - rect.height() / 2;
-    if (rect.right() >= scene.geometry.widgetWidth) { // left of the end, where the curve would strike it through
+    if (rect.right() >= scene.geometry.widgetWidth) { // left of the end, and off the curve, which would cross it out
         rect.moveRight(std::min(end.x() - kEndValueGap, scene.geometry.widgetWidth - 1));
         top = end.y() - kEndValueRaise - rect.height();
         top = top < 0 ? end.y() + kEndValueRaise : top;
@@ -204,7 +197,7 @@ QRect paintEndValue(QPainter &painter, const OsziScene &scene, LabelCache &label
 
 void paintHorizontalLines(QPainter &painter, const OsziScene &scene, const QRect &region)
 {
-    // The dashes in sight, in step with those of the whole line.
+    // Only the visible dashes, in line with those of the whole line.
     const int left = kLeft + std::max(region.left() - kLeft - kDashPeriod, 0) / kDashPeriod * kDashPeriod;
     const int right = std::min(scene.geometry.width, region.right() + kDashPeriod);
     if (left >= right)

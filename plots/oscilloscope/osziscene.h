@@ -1,27 +1,12 @@
 #pragma once
 
-#include "model/samplelist.h"
+#include "plots/oscilloscope/curveslots.h"
 #include "plots/oscilloscope/plotgeometry.h"
 
 #include <QColor>
 #include <QPoint>
 #include <QString>
 #include <QVector>
-
-#include <vector>
-
-/// A curve slot: what is drawn of a sample list that somebody else owns.
-struct OsziCurve
-{
-    const SampleList *samples = nullptr; ///< null: the slot is empty
-    QColor color = Qt::black;
-    bool shown = false;
-    double channelOffset = 0.0; ///< added to this curve's samples only
-    int shift = 0;              ///< index at which sample 0 stands
-
-    /// Where the curve ends: one behind the index of the last sample.
-    [[nodiscard]] qint64 end() const { return qint64(samples->size()) + shift; }
-};
 
 /// A dashed horizontal reference line.
 struct OsziLine
@@ -38,7 +23,8 @@ struct OsziMarker
     QString phase;
 };
 
-/// All that a plot shows.
+/// Everything that a plot shows, and the rules for what it can be set to: the setters refuse values that make no sense
+/// and indices that do not exist. They return whether something may look different now.
 struct OsziScene
 {
     PlotGeometry geometry;
@@ -49,16 +35,12 @@ struct OsziScene
     double offset = 0.0;  ///< added to every sample
     int highlighted = -1; ///< slot; -1: none
     QColor highlightColor = Qt::red;
-    std::vector<OsziCurve> curves;
+    CurveSlots curves;
     QVector<OsziLine> lines;
     QVector<OsziMarker> markers;
 
-    [[nodiscard]] bool isSlot(qint64 slot) const { return slot >= 0 && slot < qint64(curves.size()); }
     /// The highlighted slot, or null when none is highlighted.
-    [[nodiscard]] const OsziCurve *highlightedCurve() const
-    {
-        return isSlot(highlighted) ? &curves[size_t(highlighted)] : nullptr;
-    }
+    [[nodiscard]] const OsziCurve *highlightedCurve() const { return curves.find(highlighted); }
     /// The value drawn at an index where the curve has a sample.
     [[nodiscard]] double drawnValue(const OsziCurve &curve, qint64 index) const
     {
@@ -68,9 +50,28 @@ struct OsziScene
     {
         return {geometry.xOfSample(index), geometry.yOfValue(drawnValue(curve, index))};
     }
+
+    /// The ends of the value axis keep a distance of more than 0.0001.
+    bool setMinValue(double value);
+    bool setMaxValue(double value);
+    bool setZoom(int zoom);
+    /// The nearest zoom in whole pixels, at most the largest int; for a zoom of at least 1.
+    [[nodiscard]] static int wholeZoom(double zoom);
+    bool setClock(int clock);
+    bool setValueGrid(double grid);
+    void setValueGridAuto(bool automatic);
+    bool setClockGrid(int grid); ///< at least one clock
+    bool setOffset(double value);
+
+    void setMarkerCount(int n);
+    bool setMarker(int index, int position, const QColor &color); ///< logs nothing
+    bool setMarkerPosition(int index, int position);
+    bool setPhaseName(int index, const QString &name);
+    void setLineCount(int n);
+    bool setLine(int index, const OsziLine &line);
 };
 
-/// The segments to draw of a slot, by index: none when it is hidden or empty.
+/// The segments of a slot to draw, by index: none when it is hidden or empty.
 [[nodiscard]] inline SampleSpan drawnSpan(const OsziScene &scene, const OsziCurve &curve)
 {
     return curve.shown && curve.samples ? visibleSpan(scene.geometry, curve.samples->size(), curve.shift)

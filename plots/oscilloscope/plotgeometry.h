@@ -2,12 +2,14 @@
 
 #include <QtGlobal>
 
+#include <algorithm>
+
 /// Where values, samples and times lie in the picture. All pixel results are saturated to +-kFarAway, so that no
 /// sample, zoom or start index overflows.
 struct PlotGeometry
 {
     static constexpr int kLeftMargin = 70;   ///< pixels left of the plot area, for the value labels
-    static constexpr int kFarAway = 1 << 30; ///< pixels; stands for everything farther outside
+    static constexpr int kFarAway = 1 << 30; ///< pixels; what lies farther outside is put here
 
     int width = 0;         ///< of the contents rectangle, pixels
     int widgetWidth = 0;   ///< with the frame, pixels
@@ -31,8 +33,8 @@ struct PlotGeometry
     /// Pixels from the left edge of the plot area to a time, not saturated.
     [[nodiscard]] qint64 distanceOfTime(qint64 milliseconds) const;
 
-    /// The samples that fit between the left edge and the end of the contents rectangle.
-    [[nodiscard]] int visibleSamples() const { return (width - kLeftMargin) / zoom; }
+    /// The samples that fit between the left edge and the end of the contents rectangle; never negative.
+    [[nodiscard]] int visibleSamples() const { return std::max(0, width - kLeftMargin) / zoom; }
     [[nodiscard]] qint64 lastVisibleIndex() const { return qint64(startIndex) + visibleSamples(); }
     /// The sample under a column; columns left of the plot area count towards the start index.
     [[nodiscard]] qint64 sampleAt(int x) const { return (qint64(x) - kLeftMargin) / zoom + startIndex; }
@@ -64,6 +66,6 @@ struct SampleSpan
     [[nodiscard]] bool isEmpty() const { return last <= first; } ///< fewer than two samples make no segment
 };
 
-/// What is drawn of a curve of `count` samples, the first of which stands at index `shift`: nothing unless it reaches
+/// What is drawn of a curve of `count` samples, the first of which lies at index `shift`: nothing unless it reaches
 /// beyond the start index. Indices, not samples.
 [[nodiscard]] SampleSpan visibleSpan(const PlotGeometry &geometry, int count, int shift = 0);

@@ -38,8 +38,9 @@ qint64 finerClockGrid(qint64 grid)
 double autoValueGrid(double span, int plotHeight)
 {
     if (plotHeight <= 0 || !(span > 0.0) || !std::isfinite(span))
-        return kGridLadder.front(); // no step fits
+        return kGridLadder.front(); // no step fits, and the search below would not end
     const auto pixels = [&](double grid) { return std::round(grid / span * plotHeight); };
+    // From a table: steps reached by repeated division would no longer equal 0.1, 0.01 and so on.
     const auto finest = std::prev(kGridLadder.end());
     auto step = kGridLadder.begin();
     while (step != finest && pixels(*step) > kWidestStep)

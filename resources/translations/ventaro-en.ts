@@ -158,6 +158,37 @@
     </message>
 </context>
 <context>
+    <name>BoxCard</name>
+    <message>
+        <source>&amp;Demo beenden</source>
+        <translation>&amp;End demo</translation>
+    </message>
+    <message>
+        <source>&amp;Demo starten</source>
+        <translation>Start de&amp;mo</translation>
+    </message>
+    <message>
+        <source>Keine Box zur Hand? Die Demo zeigt Ventaro mit einer simulierten Box.</source>
+        <translation>No box at hand? The demo shows Ventaro with a simulated box.</translation>
+    </message>
+    <message>
+        <source>Die Demo ist nicht verfügbar: Das Programm &quot;ventaro-box-simulator&quot; liegt nicht neben Ventaro.</source>
+        <translation>The demo is not available: the program &quot;ventaro-box-simulator&quot; is not next to Ventaro.</translation>
+    </message>
+    <message>
+        <source>Noch keine. Jede Box, mit der die Verbindung gelungen ist, steht hier bereit.</source>
+        <translation>None yet. Every box that Ventaro has connected to is listed here.</translation>
+    </message>
+    <message>
+        <source>Mit %1 verbinden</source>
+        <translation>Connect to %1</translation>
+    </message>
+    <message>
+        <source>Zuletzt verbunden</source>
+        <translation>Recent boxes</translation>
+    </message>
+</context>
+<context>
     <name>BoxStateCard</name>
     <message>
         <source>Nicht verbunden</source>
@@ -763,6 +794,53 @@ Continue?</translation>
     </message>
 </context>
 <context>
+    <name>Exports</name>
+    <message>
+        <source>Bitte warten, bis der laufende Vorgang beendet ist.</source>
+        <translation>Please wait until the current operation has finished.</translation>
+    </message>
+    <message>
+        <source>Save terminal</source>
+        <translation>Save terminal</translation>
+    </message>
+    <message>
+        <source>ASCII File (*.txt)</source>
+        <translation>ASCII file (*.txt)</translation>
+    </message>
+    <message>
+        <source>Datei überschreiben</source>
+        <translation>Overwrite file</translation>
+    </message>
+    <message>
+        <source>Der Inhalt des Terminals konnte nicht gespeichert werden!</source>
+        <translation>The contents of the terminal could not be saved!</translation>
+    </message>
+    <message>
+        <source>Save oscilloscope</source>
+        <translation>Save oscilloscope</translation>
+    </message>
+    <message>
+        <source>BMP (*.bmp);;JPG (*.jpg);;PNG (*.png);;TIFF (*.tif)</source>
+        <translation>BMP (*.bmp);;JPG (*.jpg);;PNG (*.png);;TIFF (*.tif)</translation>
+    </message>
+    <message>
+        <source>Das Oszilloskop konnte nicht als Bild gespeichert werden!</source>
+        <translation>The oscilloscope could not be saved as a picture!</translation>
+    </message>
+    <message>
+        <source>Save data logger file</source>
+        <translation>Save data logger file</translation>
+    </message>
+    <message>
+        <source>CSV - Comma separated values (*.csv)</source>
+        <translation>CSV - Comma separated values (*.csv)</translation>
+    </message>
+    <message>
+        <source>Die CSV-Datei konnte nicht gespeichert werden!</source>
+        <translation>The CSV file could not be saved!</translation>
+    </message>
+</context>
+<context>
     <name>IPAddressDialog</name>
     <message>
         <source>&lt;b&gt;Verbindung abgebrochen&lt;/b&gt;</source>
@@ -869,6 +947,20 @@ Continue?</translation>
     <message>
         <source>&amp;Speichern unter...</source>
         <translation>&amp;Save as...</translation>
+    </message>
+</context>
+<context>
+    <name>MainToolBar</name>
+    <message>
+        <source>Werkzeugleiste</source>
+        <translation>Tool bar</translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Der Browser konnte nicht geöffnet werden.</source>
+        <translation>The browser could not be opened.</translation>
     </message>
 </context>
 <context>
@@ -1067,6 +1159,45 @@ double-click fits the value range.</translation>
     </message>
 </context>
 <context>
+    <name>PageTable</name>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>Projekt</source>
+        <translation>Project</translation>
+    </message>
+    <message>
+        <source>Sensoren</source>
+        <translation>Sensors</translation>
+    </message>
+    <message>
+        <source>Oszilloskop</source>
+        <translation>Oscilloscope</translation>
+    </message>
+    <message>
+        <source>Auswertung</source>
+        <translation>Evaluation</translation>
+    </message>
+    <message>
+        <source>Web Configuration</source>
+        <translation>Web configuration</translation>
+    </message>
+    <message>
+        <source>Datenlogger</source>
+        <translation>Data logger</translation>
+    </message>
+    <message>
+        <source>Terminal</source>
+        <translation>Terminal</translation>
+    </message>
+    <message>
+        <source>BlackBox</source>
+        <translation>BlackBox</translation>
+    </message>
+</context>
+<context>
     <name>PhaseStrip</name>
     <message>
         <source>&amp;%1</source>
@@ -1091,6 +1222,25 @@ double-click fits the value range.</translation>
     <message>
         <source>Phase %1</source>
         <translation>Phase %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectCard</name>
+    <message>
+        <source>So geht es los</source>
+        <translation>Getting started</translation>
+    </message>
+    <message>
+        <source>Zuletzt geöffnet</source>
+        <translation>Recent projects</translation>
+    </message>
+    <message>
+        <source>&amp;Neues Projekt</source>
+        <translation>&amp;New project</translation>
+    </message>
+    <message>
+        <source>Projekt &amp;öffnen...</source>
+        <translation>&amp;Open project...</translation>
     </message>
 </context>
 <context>
@@ -1241,6 +1391,29 @@ double-click fits the value range.</translation>
     <message>
         <source>Schuss</source>
         <translation>Shot</translation>
+    </message>
+</context>
+<context>
+    <name>Questions</name>
+    <message>
+        <source>Projekt speichern?</source>
+        <translation>Save project?</translation>
+    </message>
+    <message>
+        <source>Ventaro beenden?</source>
+        <translation>Quit Ventaro?</translation>
+    </message>
+    <message>
+        <source>Vor dem Beenden Ventaro Projekt speichern?</source>
+        <translation>Save the Ventaro project before quitting?</translation>
+    </message>
+    <message>
+        <source>Achtung: Alle Messdaten werden gelöscht!</source>
+        <translation>Attention: all measured data will be deleted!</translation>
+    </message>
+    <message>
+        <source>Die Datei &quot;%1&quot; ist schon vorhanden. Überschreiben?</source>
+        <translation>The file &quot;%1&quot; already exists. Overwrite it?</translation>
     </message>
 </context>
 <context>
@@ -1533,6 +1706,25 @@ Kennung dieses Rechners:
 
 Identification of this computer:
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>StatusDisplay</name>
+    <message>
+        <source>Demonstration</source>
+        <translation>Demonstration</translation>
+    </message>
+    <message>
+        <source>Neues Projekt</source>
+        <translation>New project</translation>
+    </message>
+    <message>
+        <source>geändert</source>
+        <translation>changed</translation>
+    </message>
+    <message>
+        <source>gespeichert</source>
+        <translation>saved</translation>
     </message>
 </context>
 <context>
@@ -1886,50 +2078,6 @@ Identification of this computer:
     <message>
         <source>Prozessüberwachung für Spritzgießwerkzeuge</source>
         <translation>Process monitoring for injection moulds</translation>
-    </message>
-    <message>
-        <source>&amp;Neues Projekt</source>
-        <translation>&amp;New project</translation>
-    </message>
-    <message>
-        <source>Projekt &amp;öffnen...</source>
-        <translation>&amp;Open project...</translation>
-    </message>
-    <message>
-        <source>So geht es los</source>
-        <translation>Getting started</translation>
-    </message>
-    <message>
-        <source>Zuletzt geöffnet</source>
-        <translation>Recent projects</translation>
-    </message>
-    <message>
-        <source>&amp;Demo beenden</source>
-        <translation>&amp;End demo</translation>
-    </message>
-    <message>
-        <source>&amp;Demo starten</source>
-        <translation>Start de&amp;mo</translation>
-    </message>
-    <message>
-        <source>Keine Box zur Hand? Die Demo zeigt Ventaro mit einer simulierten Box.</source>
-        <translation>No box at hand? The demo shows Ventaro with a simulated box.</translation>
-    </message>
-    <message>
-        <source>Die Demo ist nicht verfügbar: Das Programm &quot;ventaro-box-simulator&quot; liegt nicht neben Ventaro.</source>
-        <translation>The demo is not available: the program &quot;ventaro-box-simulator&quot; is not next to Ventaro.</translation>
-    </message>
-    <message>
-        <source>Noch keine. Jede Box, mit der die Verbindung gelungen ist, steht hier bereit.</source>
-        <translation>None yet. Every box that Ventaro has connected to is listed here.</translation>
-    </message>
-    <message>
-        <source>Mit %1 verbinden</source>
-        <translation>Connect to %1</translation>
-    </message>
-    <message>
-        <source>Zuletzt verbunden</source>
-        <translation>Recent boxes</translation>
     </message>
 </context>
 <context>
@@ -2346,151 +2494,7 @@ Arrow up and down: earlier lines</translation>
     </message>
 </context>
 <context>
-    <name>View</name>
-    <message>
-        <source>Der Browser konnte nicht geöffnet werden.</source>
-        <translation>The browser could not be opened.</translation>
-    </message>
-    <message>
-        <source>Home</source>
-        <translation>Home</translation>
-    </message>
-    <message>
-        <source>Projekt</source>
-        <translation>Project</translation>
-    </message>
-    <message>
-        <source>Sensoren</source>
-        <translation>Sensors</translation>
-    </message>
-    <message>
-        <source>Oszilloskop</source>
-        <translation>Oscilloscope</translation>
-    </message>
-    <message>
-        <source>Auswertung</source>
-        <translation>Evaluation</translation>
-    </message>
-    <message>
-        <source>Web Configuration</source>
-        <translation>Web configuration</translation>
-    </message>
-    <message>
-        <source>Datenlogger</source>
-        <translation>Data logger</translation>
-    </message>
-    <message>
-        <source>Terminal</source>
-        <translation>Terminal</translation>
-    </message>
-    <message>
-        <source>BlackBox</source>
-        <translation>BlackBox</translation>
-    </message>
-    <message>
-        <source>Werkzeugleiste</source>
-        <translation>Tool bar</translation>
-    </message>
-    <message>
-        <source>Bitte warten, bis der laufende Vorgang beendet ist.</source>
-        <translation>Please wait until the current operation has finished.</translation>
-    </message>
-    <message>
-        <source>Datei überschreiben</source>
-        <translation>Overwrite file</translation>
-    </message>
-    <message>
-        <source>Die Datei &quot;%1&quot; ist schon vorhanden. Überschreiben?</source>
-        <translation>The file &quot;%1&quot; already exists. Overwrite it?</translation>
-    </message>
-    <message>
-        <source>Save terminal</source>
-        <translation>Save terminal</translation>
-    </message>
-    <message>
-        <source>ASCII File (*.txt)</source>
-        <translation>ASCII file (*.txt)</translation>
-    </message>
-    <message>
-        <source>Der Inhalt des Terminals konnte nicht gespeichert werden!</source>
-        <translation>The contents of the terminal could not be saved!</translation>
-    </message>
-    <message>
-        <source>Save oscilloscope</source>
-        <translation>Save oscilloscope</translation>
-    </message>
-    <message>
-        <source>BMP (*.bmp);;JPG (*.jpg);;PNG (*.png);;TIFF (*.tif)</source>
-        <translation>BMP (*.bmp);;JPG (*.jpg);;PNG (*.png);;TIFF (*.tif)</translation>
-    </message>
-    <message>
-        <source>Das Oszilloskop konnte nicht als Bild gespeichert werden!</source>
-        <translation>The oscilloscope could not be saved as a picture!</translation>
-    </message>
-    <message>
-        <source>Save data logger file</source>
-        <translation>Save data logger file</translation>
-    </message>
-    <message>
-        <source>CSV - Comma separated values (*.csv)</source>
-        <translation>CSV - Comma separated values (*.csv)</translation>
-    </message>
-    <message>
-        <source>Die CSV-Datei konnte nicht gespeichert werden!</source>
-        <translation>The CSV file could not be saved!</translation>
-    </message>
-    <message>
-        <source>Projekt speichern?</source>
-        <translation>Save project?</translation>
-    </message>
-    <message>
-        <source>Ventaro beenden?</source>
-        <translation>Quit Ventaro?</translation>
-    </message>
-    <message>
-        <source>Vor dem Beenden Ventaro Projekt speichern?</source>
-        <translation>Save the Ventaro project before quitting?</translation>
-    </message>
-    <message>
-        <source>Achtung: Alle Messdaten werden gelöscht!</source>
-        <translation>Attention: all measured data will be deleted!</translation>
-    </message>
-    <message>
-        <source>&amp;Trennen</source>
-        <translation>&amp;Disconnect</translation>
-    </message>
-    <message>
-        <source>&amp;Verbinden</source>
-        <translation>&amp;Connect</translation>
-    </message>
-    <message>
-        <source>Mesotra Verbindung trennen.</source>
-        <translation>Disconnect from Mesotra.</translation>
-    </message>
-    <message>
-        <source>Mit Mesotra verbinden.</source>
-        <translation>Connect to Mesotra.</translation>
-    </message>
-    <message>
-        <source>&amp;Stop</source>
-        <translation>&amp;Stop</translation>
-    </message>
-    <message>
-        <source>&amp;Start</source>
-        <translation>&amp;Start</translation>
-    </message>
-    <message>
-        <source>Aufzeichnung beenden</source>
-        <translation>Stop recording</translation>
-    </message>
-    <message>
-        <source>Aufzeichnung starten</source>
-        <translation>Start recording</translation>
-    </message>
-    <message>
-        <source>Neues Projekt</source>
-        <translation>New project</translation>
-    </message>
+    <name>ViewActions</name>
     <message>
         <source>&amp;Neues Projekt</source>
         <translation>&amp;New project</translation>
@@ -2572,12 +2576,20 @@ Arrow up and down: earlier lines</translation>
         <translation>Connect</translation>
     </message>
     <message>
+        <source>Mit Mesotra verbinden.</source>
+        <translation>Connect to Mesotra.</translation>
+    </message>
+    <message>
         <source>Verbindet mit der Mesotra Box</source>
         <translation>Connects to the Mesotra box</translation>
     </message>
     <message>
         <source>Trennen</source>
         <translation>Disconnect</translation>
+    </message>
+    <message>
+        <source>Mesotra Verbindung trennen.</source>
+        <translation>Disconnect from Mesotra.</translation>
     </message>
     <message>
         <source>Trennt die Verbindung zur Box</source>
@@ -2648,16 +2660,28 @@ Arrow up and down: earlier lines</translation>
         <translation>Shows the texts in English</translation>
     </message>
     <message>
-        <source>Demonstration</source>
-        <translation>Demonstration</translation>
+        <source>&amp;Trennen</source>
+        <translation>&amp;Disconnect</translation>
     </message>
     <message>
-        <source>geändert</source>
-        <translation>changed</translation>
+        <source>&amp;Verbinden</source>
+        <translation>&amp;Connect</translation>
     </message>
     <message>
-        <source>gespeichert</source>
-        <translation>saved</translation>
+        <source>&amp;Stop</source>
+        <translation>&amp;Stop</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Start</translation>
+    </message>
+    <message>
+        <source>Aufzeichnung beenden</source>
+        <translation>Stop recording</translation>
+    </message>
+    <message>
+        <source>Aufzeichnung starten</source>
+        <translation>Start recording</translation>
     </message>
 </context>
 </TS>

@@ -22,7 +22,7 @@ BoxOptions quick()
     return options;
 }
 
-// A simulator and a plain client of it.
+// A simulator and a plain TCP client.
 class Setup
 {
 public:
@@ -43,7 +43,7 @@ public:
         client.write(commands);
         client.flush();
     }
-    // All that arrived up to a text, or up to a time-out without it.
+    // Everything received up to and including a text, or until the time-out.
     [[nodiscard]] QByteArray receiveUntil(const QByteArray &text)
     {
         (void)QTest::qWaitFor([&] {
@@ -134,7 +134,7 @@ private slots:
         QCOMPARE(setup.sent.size(), settled);
     }
 
-    // Work that holds up the event loop delays samples, but the next look at the clock makes up for all of them.
+    // Work that blocks the event loop delays samples, but the next tick sends all that are due.
     void neverDrifts()
     {
         Setup setup;
@@ -146,7 +146,7 @@ private slots:
             QTest::qSleep(15);
             const qint64 before = elapsed.elapsed();
             QVERIFY(QTest::qWaitFor([&] { return setup.sent.size() >= before; }, 100));
-            QVERIFY(setup.sent.size() <= elapsed.elapsed() + 20); // 20: what was due before the stop-watch here ran
+            QVERIFY(setup.sent.size() <= elapsed.elapsed() + 20); // 20: what was due before this timer started
         }
     }
 

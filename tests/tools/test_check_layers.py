@@ -18,9 +18,11 @@ ventaro_layer(ventaro_model SOURCES model.h LINK ventaro_types Qt5::Gui)
     "model/value.h": "#pragma once\n#include <QColor>\n",
     "model/value.cpp": '#include "model/value.h"\n#include <vector>\n',
     "model/model.h": '#include "model/value.h"\n#include <QObject>\n',
-    "view/CMakeLists.txt": "ventaro_layer(ventaro_view SOURCES window/view.h box/updatedialog.cpp LINK ventaro_model ventaro_device)",
-    "view/window/view.h": '#include "model/model.h"\n#include <QWidget>\n',
-    "view/box/updatedialog.cpp": '#include "device/link.h"\n',
+    "view/CMakeLists.txt": "ventaro_layer(ventaro_view SOURCES window/view.h box/updatedialog.cpp box/updatedialog.h common/look.h LINK ventaro_model ventaro_device)",
+    "view/window/view.h": '#include "model/model.h"\n#include "view/box/updatedialog.h"\n#include <QWidget>\n',
+    "view/common/look.h": "",
+    "view/box/updatedialog.h": "",
+    "view/box/updatedialog.cpp": '#include "device/link.h"\n#include "view/common/look.h"\n',
     "device/CMakeLists.txt": "ventaro_layer(ventaro_device SOURCES link.h LINK Qt5::Network)",
     "device/link.h": "#include <QTcpSocket>\n",
 }
@@ -29,6 +31,8 @@ ventaro_layer(ventaro_model SOURCES model.h LINK ventaro_types Qt5::Gui)
 FAULTS = {
     "upwards": ("model/value.cpp", '#include "model/model.h"\n', "model/value.cpp: (ventaro_types) includes model/model.h"),
     "sideways": ("view/window/view.h", '#  include "device/link.h"\n', "view/window/view.h: (ventaro_view) includes device/link.h"),
+    "another feature": ("view/box/updatedialog.cpp", '#include "view/window/view.h"\n', "view/window/view.h of another feature"),
+    "from the common folder": ("view/common/look.h", '#include "view/window/view.h"\n', "view/window/view.h of another feature"),
     "widget in the model": ("model/model.h", "#include <QWidget>\n", "includes <QWidget> of Qt Widgets"),
     "widget by module": ("model/model.h", "#include <QtWidgets/QLabel>\n", "of Qt Widgets"),
     "socket in the view": ("view/window/view.h", "#include <QTcpSocket>\n", "of Qt Network"),

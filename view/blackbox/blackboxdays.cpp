@@ -134,7 +134,7 @@ int BlackBoxDays::setFiles(const QDate &date, const QStringList &absoluteFiles)
         const QByteArray fingerprint = blackBoxFingerprint(path);
         const BlackBoxFile *known = findFile(before, path);
         const bool imported = m_imported.contains(fingerprint);
-        const bool same = known && known->fingerprint == fingerprint;
+        const bool same = known && known->fingerprint == fingerprint; // another content is a new file
         const BlackBoxFile file{path, fingerprint, QFileInfo(path).size(), same ? known->ticked : !imported, imported};
         files.erase(std::remove_if(files.begin(), files.end(),
                                    [&path](const BlackBoxFile &other) { return other.path == path; }),
@@ -156,6 +156,7 @@ void BlackBoxDays::setImported(const QSet<QByteArray> &fingerprints)
     for (BlackBoxDay &day : m_days) {
         for (BlackBoxFile &file : day.files) {
             const bool isImported = m_imported.contains(file.fingerprint);
+            // A file that was imported before and is ticked again keeps its tick: the user wants it twice.
             file.ticked = file.ticked && (file.imported || !isImported);
             file.imported = isImported;
         }
@@ -196,6 +197,7 @@ QStringList BlackBoxDays::selectedDates() const
 QStringList BlackBoxDays::selectedFiles() const
 {
     QStringList files;
+    // The rows are newest first, but measurements are to be in the order of their recording.
     for (auto day = m_days.rbegin(); day != m_days.rend(); ++day) {
         for (const BlackBoxFile &file : day->files) {
             if (file.ticked)

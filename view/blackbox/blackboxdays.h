@@ -6,7 +6,7 @@
 #include <QStringList>
 #include <QVector>
 
-/// How far the data of a day, or a file, have come.
+/// How far a day or a file has been processed.
 enum class BlackBoxState { New, Fetched, Imported };
 
 /// A logger file on this computer.
@@ -31,11 +31,11 @@ struct BlackBoxDay
     /// Checked if everything is ticked that is not imported yet.
     [[nodiscard]] Qt::CheckState checkState() const;
     [[nodiscard]] bool holdsUnimported() const;
-    /// Ticks the files that are not imported yet, or all if there are none of these; or takes every tick away.
+    /// Ticks the files that are not imported yet, or all if there are none of these; or removes all ticks.
     void tick(bool on);
 };
 
-/// The days of a list of the box, newest first. An entry "dir-yyyymmdd" stands for a day; other entries, dates that do
+/// The days of a list of the box, newest first. An entry "dir-yyyymmdd" is a day; other entries, dates that do
 /// not exist and repetitions are left out.
 [[nodiscard]] QVector<QDate> loggedDays(const QStringList &entries);
 
@@ -49,7 +49,7 @@ public:
 
     using QAbstractTableModel::QAbstractTableModel;
 
-    /// Takes over the box's list. Days of which files are here stay, listed or not; so do the ticks.
+    /// Takes over the box's list. Days whose files are on this computer stay, listed or not, and so do all ticks.
     void setEntries(const QStringList &entries);
     /// Replaces the files of a day; adds the day if the list did not have it. Files keep their ticks; new ones are
     /// ticked unless they are imported. An invalid date means local files: these are added to those known.
@@ -62,15 +62,15 @@ public:
     enum class Selection { None, All, New };
     /// Ticks all days, none, or those of which nothing has been fetched.
     void select(Selection selection);
-    /// Ticks a single file or takes its tick away. Rows or files out of range are ignored.
+    /// Ticks a single file or removes its tick. Rows or files out of range are ignored.
     void tickFile(int row, int file, bool on);
 
     [[nodiscard]] const QVector<BlackBoxDay> &days() const { return m_days; }
-    /// Wanted days, as rows stand: dd.mm.yyyy. Local files are on no day.
+    /// Ticked days in the order of the rows: dd.mm.yyyy. Local files belong to no day.
     [[nodiscard]] QStringList selectedDates() const;
-    /// Wanted files in the order in which they were recorded: oldest day first; local files last.
+    /// Ticked files in the order in which they were recorded: oldest day first; local files last.
     [[nodiscard]] QStringList selectedFiles() const;
-    /// Announces that all texts are in another language.
+    /// Announces that all texts have changed with the language.
     void retranslate();
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;

@@ -32,7 +32,7 @@ QString BlackBoxFiles::path(int row) const
 void BlackBoxFiles::refresh()
 {
     if (files().size() != m_count)
-        setDay(m_row);
+        setDay(m_row); // resets the model, as rows may have come anywhere
     else if (m_count > 0)
         emit dataChanged(index(0, 0), index(m_count - 1, NumColumns - 1));
 }
@@ -61,7 +61,7 @@ QVariant BlackBoxFiles::data(const QModelIndex &index, int role) const
     if (role == Qt::DisplayRole)
         return text(file, index.column());
     if (role == Qt::ToolTipRole)
-        return Qt::convertFromPlainText(QFileInfo(file.path).fileName()); // which may hold what looks like a tag
+        return Qt::convertFromPlainText(QFileInfo(file.path).fileName()); // the name may look like a tag
     if (role == Qt::CheckStateRole && index.column() == NameColumn)
         return file.ticked ? Qt::Checked : Qt::Unchecked;
     if (role == Qt::TextAlignmentRole && index.column() == SizeColumn)

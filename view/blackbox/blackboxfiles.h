@@ -18,9 +18,9 @@ public:
     /// Shows the files of a row of the days; -1: none.
     void setDay(int row);
     [[nodiscard]] int day() const { return m_row; }
-    /// Empty for a row that there is not.
+    /// Empty for a row that does not exist.
     [[nodiscard]] QString path(int row) const;
-    /// Announces that all texts are in another language.
+    /// Announces that all texts have changed with the language.
     void retranslate();
 
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;

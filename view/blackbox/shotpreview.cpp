@@ -19,11 +19,11 @@ constexpr int kBorder = 6;
 constexpr QSize kUsualSize(400, 190);
 constexpr QSize kSmallestSize(200, 120);
 
-/// One point a sample, or, where there are more samples than columns, the ends of what lies in each column.
+/// One point per sample; where there are more samples than columns of pixels, the smallest and largest of each column.
 QPolygonF curveOf(const SampleList &samples, const QRectF &area)
 {
     const auto [low, high] = std::minmax_element(samples.begin(), samples.end());
-    // Halved, as the distance of two numbers need not be a number itself.
+    // Halved, as the difference of two large numbers can overflow.
     const double span = *high / 2 - *low / 2;
     const double bottom = *low;
     const auto y = [&](double value) {
@@ -80,6 +80,7 @@ void ShotPreview::read()
 {
     QFile file(m_fileName);
     m_content = Content::Unreadable;
+    // Opening something else, such as a FIFO, could block.
     if (!QFileInfo(m_fileName).isFile() || !file.open(QIODevice::ReadOnly))
         return;
     SensorDescription usual;
@@ -126,7 +127,7 @@ void ShotPreview::paintEvent(QPaintEvent *event)
     for (int sensor = 0; sensor < kNumSensors && m_document.sampleCount() > 0; ++sensor) {
         painter.setPen(QPen(defaultSensorColor(sensor), 1.5));
         const QPolygonF curve = curveOf(m_document.samples[static_cast<std::size_t>(sensor)], area);
-        if (curve.size() == 1)
+        if (curve.size() == 1) // a line of one point would be invisible
             painter.drawPoint(curve.first());
         else
             painter.drawPolyline(curve);

@@ -15,7 +15,7 @@ public:
 
     /// Shows a logger file; an empty name shows nothing. Reads the file again even if it is the same.
     void setFile(const QString &fileName);
-    /// Numbers of samples, time of recording, and what is wrong with the file, in the language in force.
+    /// Numbers of samples, time of recording, and what is wrong with the file, in the current language.
     [[nodiscard]] QString caption() const;
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
@@ -31,5 +31,5 @@ private:
     QString m_fileName;
     BlackBoxDocument m_document;
     Content m_content = Content::Nothing;
-    bool m_isCut = false; ///< the file goes on behind what was read
+    bool m_isCut = false; ///< the file is longer than what was read
 };

@@ -1,42 +1,43 @@
 #pragma once
 
-#include <QSet>
-#include <QStringList>
+#include "view/blackbox/blackboxdays.h"
+
 #include <QWidget>
 
-#include <memory>
+class DaysPanel;
+class FilesPanel;
+class TransferBar;
 
-/// The tab "BlackBox": left the days that the box has logged, right the files of the chosen day. Only asks for what
-/// the user wants; whoever listens does it and reports back.
+/// The tab "BlackBox": left the days that the box has logged, right the files of the chosen day. Owns the days and
+/// their ticks. Only emits what the user wants; the listener does it and reports back.
 class TabBlackBox : public QWidget
 {
     Q_OBJECT
 
 public:
     explicit TabBlackBox(QWidget *parent = nullptr);
-    ~TabBlackBox() override;
 
     /// The entries of the box's list block, as received. Entries that are no day "dir-yyyymmdd" are not shown.
     void setList(const QStringList &entries);
     [[nodiscard]] QStringList list() const;
     void setListButtonEnabled(bool enabled);
 
-    /// The ticked days, dd.mm.yyyy, as they stand in the tab: newest first.
+    /// The ticked days, dd.mm.yyyy, in the order of the tab: newest first.
     [[nodiscard]] QStringList selectedDates() const;
     /// The ticked files, absolute, in the order in which they were recorded.
     [[nodiscard]] QStringList selectedFiles() const;
 
-    /// "3 von 7" and a ring that fills up; what would start something is disabled meanwhile. 0 of 0: nothing is under
-    /// way.
+    /// "3 von 7" and a ring that fills up; whatever would start another transfer is disabled meanwhile. 0 of 0:
+    /// nothing is being transferred.
     void setTransferProgress(int done, int total);
-    /// The logger files of a day (dd.mm.yyyy) are on this computer now: all of them, also those of before. A text that
-    /// is no date is logged and ignored.
+    /// The logger files of a day (dd.mm.yyyy) that are on this computer now, including those that were known before. A
+    /// text that is no date is logged and ignored.
     void addFetchedFiles(const QString &date, const QStringList &absoluteFiles);
     /// Logger files of a local folder, absolute. Shown above the days.
     void addLocalFiles(const QStringList &files);
     /// The fingerprints of the files whose measurements the project holds.
     void setImportedFiles(const QSet<QByteArray> &fingerprints);
-    /// How the last import went; stays until the next.
+    /// How the last import went; shown until the next one.
     void setResult(const QString &text);
 
 signals:
@@ -48,12 +49,10 @@ signals:
     /// The user wants these files, at least one, absolute, in this order.
     void importClicked(const QStringList &files);
 
-protected:
-    void changeEvent(QEvent *event) override;
-
 private:
-    void retranslateUi();
-
-    struct Private;
-    std::unique_ptr<Private> d;
+    BlackBoxDays m_days;
+    QStringList m_entries;
+    DaysPanel *m_daysPanel = nullptr;
+    FilesPanel *m_filesPanel = nullptr;
+    TransferBar *m_transferBar = nullptr;
 };

@@ -6,7 +6,6 @@
 #include "kit/material/qtmaterialflatbutton.h"
 #include "kit/material/qtmaterialraisedbutton.h"
 #include "view/common/logging.h"
-#include "view/window/view.h"
 
 #include <QElapsedTimer>
 #include <QEvent>
@@ -55,9 +54,10 @@ void colourResult(QLabel *label, bool isFailure)
 
 } // namespace
 
-UpdateDialog::UpdateDialog(View *view, MesotraConnector *connector, const QString &address, int restartWait)
-    : QDialog(view, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint)
-    , m_view(view)
+UpdateDialog::UpdateDialog(QWidget *parent, AskFile askFile, MesotraConnector *connector, const QString &address,
+                           int restartWait)
+    : QDialog(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint)
+    , m_askFile(std::move(askFile))
     , m_connector(connector)
     , m_address(address)
     , m_restartWait(restartWait)
@@ -159,7 +159,7 @@ void UpdateDialog::connectButtons()
 void UpdateDialog::onSelectFile()
 {
     qCDebug(lcView) << Q_FUNC_INFO;
-    const QString fileName = m_view->askOpenFile(tr("Firmware auswählen"), tr("Mesotra Firmware (*.tgz)"));
+    const QString fileName = m_askFile(tr("Firmware auswählen"), tr("Mesotra Firmware (*.tgz)"));
     if (fileName.isEmpty()) {
         qCDebug(lcView) << " filename is empty!";
         return;

@@ -2,12 +2,13 @@
 
 #include <QDialog>
 
+#include <functional>
+
 class MesotraConnector;
 class QFrame;
 class QLabel;
 class QLayout;
 class QPushButton;
-class View;
 
 /// Picks a firmware archive, puts it onto the box and restarts the box. Modal; closed by the user only. What goes wrong
 /// stands in the two result labels: the upper one is for the upload, the lower one for the restart. Each step enables
@@ -18,9 +19,13 @@ class UpdateDialog : public QDialog
     Q_OBJECT
 
 public:
-    /// Neither the view, which asks for the file and is the parent, nor the connector may be null; both must outlive
-    /// the dialog. `address` is where a box that is not connected is looked for, for `restartWait` ms.
-    UpdateDialog(View *view, MesotraConnector *connector, const QString &address, int restartWait = 3000);
+    /// Asks the user for a file to open, given a title and a name filter; empty: cancelled.
+    using AskFile = std::function<QString(const QString &title, const QString &filter)>;
+
+    /// The connector must outlive the dialog. `address` is where a box that is not connected is looked for, for
+    /// `restartWait` ms.
+    UpdateDialog(QWidget *parent, AskFile askFile, MesotraConnector *connector, const QString &address,
+                 int restartWait = 3000);
 
     /// Empty until one is chosen.
     [[nodiscard]] QString fileName() const { return m_fileName; }
@@ -57,7 +62,7 @@ private:
     [[nodiscard]] bool waitForConnection();
     void retranslateUi();
 
-    View *m_view;
+    AskFile m_askFile;
     MesotraConnector *m_connector;
     QString m_address;
     QString m_fileName;

@@ -10,6 +10,15 @@
 
 namespace tabstyle {
 
+QString windowSheet()
+{
+    // A check box asks for too little room while its indicator has a minimum size only.
+    // The sheet for menus gives entries that are disabled the colour of the others.
+    return QStringLiteral("QCheckBox::indicator {width: 22px; height: 22px;}"
+                          "QMenu::item:disabled {color: %1;}")
+        .arg(theme::colorMedium);
+}
+
 QString fixedPitchSheet()
 {
     return QStringLiteral("QPlainTextEdit {font-family: \"Courier New\"; font-size: 16px; color: %1;"

@@ -9,6 +9,8 @@ class QWidget;
 /// The looks that the tabs share, on top of the application's sheet.
 namespace tabstyle {
 
+/// What the main window adds to the application's sheet.
+[[nodiscard]] QString windowSheet();
 /// A framed text field in "Courier New".
 [[nodiscard]] QString fixedPitchSheet();
 /// Makes a label a heading: bold, primary colour, of so many pixels.

@@ -1,13 +1,17 @@
 #pragma once
 
 #include "view/common/demostate.h"
+#include "view/home/boxstatecard.h"
 
 #include <QWidget>
 
-#include <memory>
-
+class BoxCard;
+class HomeCard;
 class Model;
+class ProjectCard;
 class QAction;
+class QBoxLayout;
+class QLabel;
 
 /// The start page: large buttons for the first steps, what was used last, and the state of the box.
 class TabHome : public QWidget
@@ -16,11 +20,11 @@ class TabHome : public QWidget
 
 public:
     explicit TabHome(QWidget *parent = nullptr);
-    ~TabHome() override;
 
     /// The buttons trigger these actions and are enabled as they are. The actions must outlive the tab.
     void setActions(QAction *connectBox, QAction *newProject, QAction *openProject);
-    void setModel(Model *model);
+    /// Not owned; must outlive the tab.
+    void setModel(const Model *model);
     /// Of the box that is or would be connected.
     void setAddress(const QString &address);
     void setConnecting(bool connecting);
@@ -42,16 +46,26 @@ signals:
 
 protected:
     void changeEvent(QEvent *event) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    void updateConnectText();
-    void updateDemo();
-    void updateAddresses();
-    void updateProjectHeading();
+    [[nodiscard]] QBoxLayout *createHead(QWidget *page);
+    void layOut(QWidget *page);
+    void arrange(int width);
+    void setTiny(bool isTiny);
     void retranslateUi();
 
-    struct Private;
-    std::unique_ptr<Private> d;
+    const Model *m_model = nullptr;
+    BoxLink m_link;
+    QLabel *m_logo = nullptr;
+    QLabel *m_subtitle = nullptr;
+    BoxCard *m_boxCard = nullptr;
+    HomeCard *m_stateCard = nullptr;
+    ProjectCard *m_projectCard = nullptr;
+    BoxStateCard *m_state = nullptr; ///< in m_stateCard
+    // One beside the other, or one below the other in a narrow window.
+    QBoxLayout *m_head = nullptr;
+    QBoxLayout *m_topRow = nullptr;
+    QBoxLayout *m_pageColumn = nullptr;
+    bool m_isTiny = false;
 };

@@ -35,6 +35,7 @@ QVector<int> shownMeasurements(const QString &text, int count)
     for (const RangePart &part : parts) {
         if (!part.isSingle() && !part.isSpan())
             continue;
+        // Clamped before the loop, which a span up to the largest int would never leave.
         const int first = std::max(part.numbers.first(), 1);
         const int last = std::min(part.numbers.last(), count);
         for (int number = first; number <= last; ++number)

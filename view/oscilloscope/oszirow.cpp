@@ -2,7 +2,9 @@
 
 #include "model/sensordescription.h"
 #include "plots/oscilloscope/osziwidget.h"
-#include "view/oscilloscope/oszirowcontrols.h"
+#include "view/common/elidedlabel.h"
+#include "view/oscilloscope/oszicontrols.h"
+#include "view/oscilloscope/oszidoublespinbox.h"
 
 #include <QCheckBox>
 #include <QEvent>
@@ -70,7 +72,7 @@ void OsziRow::createBoxes(QWidget *params)
 {
     const QString number = QString::number(m_position + 1);
     m_title = new ElidedLabel(6, 14, params);
-    m_title->setElideMode(Qt::ElideMiddle); // the unit stands at the end
+    m_title->setElideMode(Qt::ElideMiddle); // the unit is at the end
     m_title->setObjectName(QStringLiteral("osziTitle"));
     m_rangeCaption = new QLabel(params);
     m_autoCaption = new QLabel(params);
@@ -80,10 +82,7 @@ void OsziRow::createBoxes(QWidget *params)
         createBox(QStringLiteral("maxSpinBox") + number, kValueDecimals, -kLargestValue, m_plot->maxValue(), params);
     m_min =
         createBox(QStringLiteral("minSpinBox") + number, kValueDecimals, -kLargestValue, m_plot->minValue(), params);
-    m_gridAuto = new QCheckBox(params);
-    m_gridAuto->setObjectName(QStringLiteral("checkBoxValueGridAuto") + number);
-    m_gridAuto->setChecked(true);
-    m_gridAuto->setMaximumWidth(kCheckBoxWidth);
+    m_gridAuto = oszicontrols::createBareCheckBox(QStringLiteral("checkBoxValueGridAuto") + number, true, params);
     m_grid = createBox(QStringLiteral("valueGridSpinBox") + number, kGridDecimals, 0.001, kDefaultGrid, params);
     m_offset = createBox(QStringLiteral("offsetSpinBox") + number, kValueDecimals, -kLargestValue, 0.0, params);
 }
@@ -106,7 +105,7 @@ void OsziRow::layOut(QWidget *params)
     grid->addWidget(m_offset, 3, 2);
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(2, 1);
-    // The boxes take what height there is, up to a comfortable one; what is left stays below.
+    // The boxes grow with the row up to a comfortable height; the rest stays empty below them.
     for (int line : {1, 3})
         grid->setRowStretch(line, 100);
     grid->setRowStretch(4, 1);
@@ -121,7 +120,7 @@ void OsziRow::connectBoxes()
     connect(m_grid, changed, m_plot, &OsziWidget::setValueGrid);
     connect(m_gridAuto, &QCheckBox::toggled, m_plot, &OsziWidget::setValueGridAuto);
     connect(m_gridAuto, &QCheckBox::toggled, this, &OsziRow::updateEnabled);
-    // Silently: the box rounds, and a rounded grid going back to the plot would be found changed at each paint.
+    // Silently: the box rounds, and the plot would find a rounded grid changed at every paint.
     connect(m_plot, &OsziWidget::valueGridChanged, m_grid, &OsziDoubleSpinBox::showValue);
 }
 
@@ -143,21 +142,22 @@ void OsziRow::showSpan()
     m_min->showValue(m_plot->minValue());
 }
 
-osziaxes::ValueSpan OsziRow::span() const
+ValueSpan OsziRow::span() const
 {
     return {m_plot->minValue(), m_plot->maxValue()};
 }
 
-bool OsziRow::setSpan(osziaxes::ValueSpan span)
+bool OsziRow::setSpan(ValueSpan span)
 {
-    if (!std::isfinite(span.minimum) || !std::isfinite(span.maximum) || !osziaxes::isShowable(span))
+    if (!std::isfinite(span.minimum) || !std::isfinite(span.maximum) || !valueaxis::isShowable(span))
         return false;
     const QSignalBlocker blockMax(m_max);
     const QSignalBlocker blockMin(m_min);
+    // A project may have been saved with other limits than those in force: its range counts.
     for (OsziDoubleSpinBox *box : {m_max, m_min})
         box->setRange(std::min(box->minimum(), span.minimum), std::max(box->maximum(), span.maximum));
-    // The end that moves away from the other one goes first, so that the plot refuses neither.
-    if (osziaxes::isShowable({m_plot->minValue(), span.maximum})) {
+    // The end that moves away from the other one is set first, so that the plot refuses neither.
+    if (valueaxis::isShowable({m_plot->minValue(), span.maximum})) {
         m_plot->setMaxValue(span.maximum);
         m_plot->setMinValue(span.minimum);
     } else {
@@ -168,22 +168,22 @@ bool OsziRow::setSpan(osziaxes::ValueSpan span)
     return true;
 }
 
-osziaxes::ValueSpan OsziRow::limits() const
+ValueSpan OsziRow::limits() const
 {
     return {m_max->minimum(), m_max->maximum()};
 }
 
-bool OsziRow::setLimits(osziaxes::ValueSpan limits)
+bool OsziRow::setLimits(ValueSpan limits)
 {
-    if (!std::isfinite(limits.minimum) || !std::isfinite(limits.maximum) || !osziaxes::isShowable(limits))
+    if (!std::isfinite(limits.minimum) || !std::isfinite(limits.maximum) || !valueaxis::isShowable(limits))
         return false;
     for (OsziDoubleSpinBox *box : {m_max, m_min}) {
         const QSignalBlocker blocker(box);
         box->setRange(limits.minimum, limits.maximum);
     }
-    const osziaxes::ValueSpan shown{std::clamp(span().minimum, limits.minimum, limits.maximum),
-                                    std::clamp(span().maximum, limits.minimum, limits.maximum)};
-    return setSpan(osziaxes::isShowable(shown) ? shown : limits);
+    const ValueSpan shown{std::clamp(span().minimum, limits.minimum, limits.maximum),
+                          std::clamp(span().maximum, limits.minimum, limits.maximum)};
+    return setSpan(valueaxis::isShowable(shown) ? shown : limits);
 }
 
 void OsziRow::showOffset(double offset)
@@ -234,10 +234,18 @@ void OsziRow::updateEnabled()
 
 bool OsziRow::eventFilter(QObject *watched, QEvent *event)
 {
-    // The title shows which plot the keys act on.
+    // The title shows on which plot the keys act.
+    // Queued, because the focus also leaves while the tab is being destroyed.
     if (watched == m_plot && (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut))
         QMetaObject::invokeMethod(this, &OsziRow::updateTitle, Qt::QueuedConnection);
     return QWidget::eventFilter(watched, event);
+}
+
+void OsziRow::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        retranslateUi();
 }
 
 void OsziRow::retranslateUi()

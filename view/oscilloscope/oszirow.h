@@ -1,6 +1,6 @@
 #pragma once
 
-#include "view/oscilloscope/taboszilloscope_axes.h"
+#include "view/oscilloscope/valueaxis.h"
 
 #include <QColor>
 #include <QWidget>
@@ -11,15 +11,13 @@ class OsziWidget;
 class QCheckBox;
 class QLabel;
 
-/// One row of the oscilloscope tab: the plot of a sensor position and the parameters beside it. Plot and parameters
-/// never disagree: what the plot refuses is taken back in the boxes.
+/// One row of the oscilloscope tab: the plot of a sensor position and the parameters beside it. The boxes always show
+/// what the plot has: a value that the plot refuses is taken back.
 class OsziRow : public QWidget
 {
     Q_OBJECT
 
 public:
-    static constexpr int kCheckBoxWidth = 30; ///< pixels, of one without text
-
     /// Position 0 to 4; the object names count from 1.
     explicit OsziRow(int position, QWidget *parent = nullptr);
 
@@ -28,25 +26,26 @@ public:
     [[nodiscard]] OsziDoubleSpinBox *minBox() const { return m_min; }
     [[nodiscard]] OsziDoubleSpinBox *offsetBox() const { return m_offset; }
 
-    /// The value range shown. setSpan() emits nothing, widens the limits of the boxes if it must, and ignores ends
-    /// that are not finite, not in order or too close for the plot; false then.
-    [[nodiscard]] osziaxes::ValueSpan span() const;
-    bool setSpan(osziaxes::ValueSpan span);
-    [[nodiscard]] osziaxes::ValueSpan limits() const;
-    /// Limits of the range boxes; what is shown is held within them. Emits nothing; false for limits that are not
-    /// finite, not in order or too close.
-    bool setLimits(osziaxes::ValueSpan limits);
-    /// The y correction; emits nothing.
+    /// The value range shown. setSpan() emits nothing and widens the limits of the boxes if necessary; it returns false
+    /// and changes nothing if the ends are not finite, not in order or too close for the plot.
+    [[nodiscard]] ValueSpan span() const;
+    bool setSpan(ValueSpan span);
+    [[nodiscard]] ValueSpan limits() const;
+    /// Limits of the range boxes; the range shown is clamped to them. Emits nothing; returns false and changes nothing
+    /// if the limits are not finite, not in order or too close.
+    bool setLimits(ValueSpan limits);
+    /// The value added to all curves of the row; emits nothing.
     void showOffset(double offset);
-    /// Name and unit as the row's title, in the colour given. An empty name stands for the position.
+    /// Name and unit as the row's title, in the colour given. "Sensor N" is shown for an empty name.
     void setTitle(const QString &name, const QString &unit, const QColor &color);
+    /// "Sensor N" in the language in use.
     [[nodiscard]] QString defaultName() const;
     /// Open: the parameters can be changed.
     void setEditable(bool editable);
     [[nodiscard]] bool isEditable() const { return m_editable; }
-    void retranslateUi();
 
 protected:
+    void changeEvent(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -58,6 +57,7 @@ private:
     void showSpan();
     void updateEnabled();
     void updateTitle();
+    void retranslateUi();
 
     int m_position;
     bool m_editable = true;

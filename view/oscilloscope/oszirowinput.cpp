@@ -42,7 +42,7 @@ bool OsziRowInput::eventFilter(QObject *watched, QEvent *event)
         if (static_cast<QKeyEvent *>(event)->key() == Qt::Key_Control)
             emit readOutEnded();
         break;
-    case QEvent::FocusOut: // also when the tab is being destroyed; then nobody must hear of it
+    case QEvent::FocusOut: // queued, because it also comes while the tab is being destroyed
         QMetaObject::invokeMethod(this, &OsziRowInput::readOutEnded, Qt::QueuedConnection);
         break;
     case QEvent::Resize:
@@ -71,6 +71,7 @@ bool OsziRowInput::wheel(const QWheelEvent &event)
 bool OsziRowInput::press(const QMouseEvent &event)
 {
     const bool shifted = event.button() == Qt::LeftButton && event.modifiers().testFlag(Qt::ShiftModifier);
+    // Other buttons pressed during a drag neither end it nor reach the plot.
     if (m_drag != Drag::None || (event.button() != Qt::MiddleButton && !shifted))
         return m_drag != Drag::None;
     m_drag = Drag::Undecided;
@@ -85,7 +86,7 @@ bool OsziRowInput::move(const QMouseEvent &event)
     if (m_drag == Drag::None)
         return false;
     const QPoint distance = event.pos() - m_dragOrigin;
-    // One axis a drag: who moves along the time does not want a crooked value range.
+    // One axis per drag: moving along the time axis must not shift the value range by a few pixels.
     if (m_drag == Drag::Undecided && distance.manhattanLength() >= QGuiApplication::styleHints()->startDragDistance())
         m_drag = qAbs(distance.x()) >= qAbs(distance.y()) ? Drag::Time : Drag::Value;
     if (m_drag == Drag::Time)
@@ -153,7 +154,7 @@ bool OsziRowInput::zoomKey(const QKeyEvent &event)
     const bool nearer = event.key() == Qt::Key_Plus || event.key() == Qt::Key_Equal;
     if (!nearer && event.key() != Qt::Key_Minus)
         return false;
-    const QPoint centre = m_plot->contentsRect().center();
+    const QPoint centre = m_plot->contentsRect().center(); // of the widget; the plot area begins at its left margin
     if (event.modifiers().testFlag(Qt::ControlModifier))
         emit valueZoomed(centre.y(), nearer ? 1 : -1);
     else

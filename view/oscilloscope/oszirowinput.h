@@ -8,20 +8,21 @@ class QKeyEvent;
 class QMouseEvent;
 class QWheelEvent;
 
-/// Turns wheel, drags, double clicks and keys over a plot into what they mean. A plain press and drag stays with the
-/// plot, which shows its read-out.
+/// Turns wheel, drags, double clicks and keys over a plot into signals that say what they mean. A drag without a
+/// modifier key is left to the plot, which shows its read-out.
 class OsziRowInput : public QObject
 {
     Q_OBJECT
 
 public:
+    /// Belongs to the plot.
     explicit OsziRowInput(OsziWidget *plot);
 
 signals:
-    /// Steps of the wheel at a column / at a line of the plot; positive is nearer.
+    /// Steps of the wheel at a column / at a line of the plot; positive zooms in.
     void timeZoomed(int x, int steps);
     void valueZoomed(int y, int steps);
-    /// A drag begins; then its distance from there in pixels, along one of the axes only.
+    /// A drag begins; then the distance from its origin in pixels, along one of the axes only.
     void dragStarted();
     void timeDragged(int pixels);
     void valueDragged(int pixels);
@@ -32,7 +33,8 @@ signals:
     void jumpedToEnd();
     void fitRequested();
     void cancelled();
-    /// Ctrl and an arrow key: samples by which the read-out moves; positive is later. It ends with the key Ctrl.
+    /// Ctrl and an arrow key: samples by which the read-out moves; positive is later. It ends when
+    /// Ctrl is released or the plot loses the focus.
     void readOutStepped(int samples);
     void readOutEnded();
     void plotResized();

@@ -1,34 +1,124 @@
 #include "view/oscilloscope/taboszilloscope.h"
 
+#include "app/theme.h"
+#include "model/model.h"
 #include "plots/oscilloscope/osziwidget.h"
 #include "view/common/logging.h"
-#include "view/oscilloscope/oszirowcontrols.h"
-#include "view/oscilloscope/taboszilloscope_p.h"
+#include "view/common/tabstyle.h"
+#include "view/oscilloscope/markerbar.h"
+#include "view/oscilloscope/oszidoublespinbox.h"
+#include "view/oscilloscope/oszihead.h"
+#include "view/oscilloscope/oszipage.h"
+#include "view/oscilloscope/oszirow.h"
+#include "view/oscilloscope/oszirows.h"
+#include "view/oscilloscope/samplingbox.h"
+#include "view/oscilloscope/shotbar.h"
+#include "view/oscilloscope/ycorrectionbox.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QEvent>
-#include <QLabel>
-#include <QScrollBar>
+#include <QPointer>
 #include <QSignalBlocker>
+#include <QVBoxLayout>
 
-#include <algorithm>
+namespace {
+
+constexpr int kDefaultClock = 100;  // milliseconds
+constexpr int kGridsPerClock = 100; // the largest clock grid in sampling periods
+
+/// What makes five rows and all controls fit a small laptop: the application's sheet, but tighter.
+QString compactSheet()
+{
+    return QStringLiteral("QLabel, QCheckBox, QLineEdit, QSpinBox, QDoubleSpinBox {font-size: 16px;}"
+                          "QSpinBox, QDoubleSpinBox {min-height: 32px; padding: 0px;}"
+                          "QPushButton {min-height: 34px; min-width: 44px;}"
+                          "QPushButton#lockButton {min-width: 56px;}"
+                          "QPushButton#lockButton:checked {background-color: #B3261E;}"
+                          "QComboBox {font-size: 16px; min-height: 28px; padding: 0px 2px;}"
+                          "QComboBox QAbstractItemView::item {min-height: 34px;}"
+                          "QCheckBox {spacing: 4px; padding: 1px;}"
+                          "QCheckBox::indicator {width: 24px; height: 24px;}"
+                          "QCheckBox#checkBoxAllMeasurings {min-width: 34px;}"
+                          "QWidget#osziRows {background-color: white;}"
+                          "*[osziParams=true] QLabel {font-size: 13px; min-height: 15px; max-height: 18px;}"
+                          "*[osziParams=true] QLabel#osziTitle {font-size: 14px; font-weight: bold;}"
+                          "*[osziParams=true] QDoubleSpinBox {font-size: 15px; min-height: 25px; min-width: 110px;}"
+                          "*[osziParams=true] QDoubleSpinBox::up-button, *[osziParams=true] QDoubleSpinBox::down-button"
+                          " {width: 24px; height: 25px;}"
+                          "QScrollBar:horizontal {min-height: 34px;}"
+                          "QSlider {min-height: 32px;}"
+                          "QSlider::groove:horizontal {height: 8px; border-radius: 4px; background-color: #D5D5D5;}"
+                          "QSlider::handle:horizontal {width: 28px; margin: -10px 0px; border-radius: 14px;"
+                          " background-color: %1;}"
+                          "QSlider::handle:horizontal:focus {border: 3px solid black;}")
+        .arg(theme::colorPrimary);
+}
+
+} // namespace
+
+struct TabOszilloscope::Private
+{
+    OsziPage *page = nullptr;
+    QPointer<Model> model;
+};
 
 TabOszilloscope::TabOszilloscope(QWidget *parent)
     : QWidget(parent)
-    , d(std::make_unique<Private>(this))
+    , d(std::make_unique<Private>())
 {
-    d->build();
-    d->retranslateUi();
-    setClock(100, 10000);
-    d->showSensorNames();
-    d->showMarkers();
-    d->showPhaseNames();
-    d->showLock();
+    setStyleSheet(compactSheet());
+    QWidget *scrolled = tabstyle::addScrolledPage(this); // for windows that are too low
+    d->page = new OsziPage(scrolled);
+    auto *layout = new QVBoxLayout(scrolled);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(d->page);
+    connectRows();
+    connectMarkers();
+    connectMeasurements();
+    setClock(kDefaultClock, kGridsPerClock * kDefaultClock);
     updateOsziSlider();
 }
 
 TabOszilloscope::~TabOszilloscope() = default;
+
+// --- Connections ---
+
+void TabOszilloscope::connectRows()
+{
+    const auto changed = qOverload<double>(&QDoubleSpinBox::valueChanged);
+    const OsziRows *rows = d->page->rows();
+    for (int position = 0; position < kNumSensors; ++position) {
+        connect(rows->row(position)->maxBox(), changed, this, &TabOszilloscope::onSpinBoxMaxValueChanged);
+        connect(rows->row(position)->minBox(), changed, this, &TabOszilloscope::onSpinBoxMinValueChanged);
+    }
+    connect(rows, &OsziRows::offsetEdited, this, &TabOszilloscope::offsetEdited);
+    connect(d->page, &OsziPage::extentWanted, this, &TabOszilloscope::updateOsziSlider);
+    connect(d->page->sampling(), &SamplingBox::periodChosen, this, &TabOszilloscope::samplingPeriodChosen);
+}
+
+void TabOszilloscope::connectMarkers()
+{
+    const auto changed = qOverload<double>(&QDoubleSpinBox::valueChanged);
+    const MarkerBar *markers = d->page->markers();
+    for (int index = 0; index < kNumVerticalMarkers; ++index)
+        connect(markers->secondsBox(index), changed, this, &TabOszilloscope::onMarkerChanged);
+    connect(markers, &MarkerBar::markerChangedAbsolute, this, &TabOszilloscope::markerChangedAbsolute);
+    connect(markers, &MarkerBar::markerChangedRelative, this, &TabOszilloscope::markerChangedRelative);
+    connect(markers, &MarkerBar::absoluteClicked, this, &TabOszilloscope::onCheckBoxMarkerAbsClicked);
+}
+
+void TabOszilloscope::connectMeasurements()
+{
+    const YCorrectionBox *yCorrection = d->page->head()->yCorrection();
+    connect(yCorrection, &YCorrectionBox::toggled, this, &TabOszilloscope::autoYCorrectionClicked);
+    connect(yCorrection, &YCorrectionBox::timeEdited, this, &TabOszilloscope::autoYCorrectionSpinBoxChanged);
+    const ShotBar *shots = d->page->shots();
+    connect(shots, &ShotBar::allDisplayedToggled, this, &TabOszilloscope::displayAllMeas);
+    connect(shots, &ShotBar::displayedEdited, this, &TabOszilloscope::displayedMeasChanged);
+    connect(shots, &ShotBar::highlightEdited, this, &TabOszilloscope::highlightBoxChanged);
+    connect(shots, &ShotBar::deletionTriggered, this, &TabOszilloscope::onDeleteMeasurementClicked);
+    connect(shots, &ShotBar::deletionRequested, this, &TabOszilloscope::deleteMeasurements);
+}
+
+// --- The model ---
 
 void TabOszilloscope::setModel(Model *model)
 {
@@ -36,13 +126,13 @@ void TabOszilloscope::setModel(Model *model)
     if (d->model)
         disconnect(d->model, nullptr, this, nullptr);
     d->model = model;
-    d->pointed = false;
+    d->page->setModel(model);
     if (!model) {
         qCDebug(lcView) << "model is NULL !!!";
         clearSlots();
         return;
     }
-    connect(model, &Model::appStateChanged, this, [this] { d->updateEnabled(); });
+    connect(model, &Model::appStateChanged, this, [this] { d->page->updateEnabled(); });
     connect(model, &Model::projectChanged, this, &TabOszilloscope::onModel_projectChanged);
     connect(model, &Model::dataChanged, this, &TabOszilloscope::onModel_dataChanged);
     connect(model, &Model::viewDataChanged, this, &TabOszilloscope::onModel_viewDataChanged);
@@ -50,26 +140,6 @@ void TabOszilloscope::setModel(Model *model)
     onModel_viewDataChanged();
     onModel_projectChanged();
     onModel_dataChanged();
-}
-
-OsziWidget *TabOszilloscope::row(int position) const
-{
-    return position >= 0 && position < kNumSensors ? d->rows.at(static_cast<size_t>(position))->plot() : nullptr;
-}
-
-void TabOszilloscope::update()
-{
-    qCDebug(lcView) << Q_FUNC_INFO;
-    const QSignalBlocker blocker(this);
-    for (const OsziRow *row : d->rows)
-        row->plot()->update();
-    if (!d->model) {
-        qCDebug(lcView) << " ERROR: model==nullptr!";
-        return;
-    }
-    d->showSensorNames();
-    updateOsziSlider();
-    QWidget::update();
 }
 
 void TabOszilloscope::onModel_projectChanged()
@@ -80,13 +150,20 @@ void TabOszilloscope::onModel_projectChanged()
         return;
     }
     const QSignalBlocker blocker(this);
-    if (d->model->clock() != d->clock)
-        setClock(d->model->clock(), 100 * d->model->clock());
-    for (int position = 0; position < kNumSensors; ++position)
-        d->rows.at(static_cast<size_t>(position))->showOffset(d->model->offset(position));
-    d->showSensorNames();
-    d->showMarkers();
-    d->showPhaseNames();
+    if (d->model->clock() != d->page->rows()->clock())
+        setClock(d->model->clock(), kGridsPerClock * d->model->clock());
+    d->page->showProject();
+}
+
+void TabOszilloscope::onModel_dataChanged()
+{
+    qCDebug(lcView) << Q_FUNC_INFO;
+    if (!d->model) {
+        qCDebug(lcView) << "model is NULL !!!";
+        return;
+    }
+    const QSignalBlocker blocker(this);
+    d->page->pointer().takeChange();
 }
 
 void TabOszilloscope::onModel_viewDataChanged()
@@ -96,78 +173,53 @@ void TabOszilloscope::onModel_viewDataChanged()
         qCDebug(lcView) << "model is NULL !!!";
         return;
     }
-    d->applyViewData();
+    d->page->ranges().showModel();
     setCheckBoxMarkerAbsolute(d->model->markersAbsolute());
 }
 
-void TabOszilloscope::Private::applyViewData()
+void TabOszilloscope::pointSlotsAtModel()
 {
-    for (int position = 0; position < kNumSensors; ++position) {
-        OsziRow *row = rows.at(static_cast<size_t>(position));
-        // A range that cannot be shown is replaced by what is shown, so that the next save writes what the user saw.
-        if (!row->setSpan({model->osziMinimum(position), model->osziMaximum(position)}))
-            storeSpan(row);
+    qCDebug(lcView) << Q_FUNC_INFO;
+    if (!d->model) {
+        qCDebug(lcView) << "model is NULL !!!";
+        return;
     }
+    const QSignalBlocker blocker(this);
+    d->page->pointer().pointAtModel();
 }
 
-void TabOszilloscope::Private::storeSpan(const OsziRow *row)
+void TabOszilloscope::clearSlots()
 {
-    const auto found = std::find(rows.begin(), rows.end(), row);
-    if (!model || found == rows.end())
+    qCDebug(lcView) << Q_FUNC_INFO;
+    d->page->pointer().clear();
+}
+
+void TabOszilloscope::update()
+{
+    qCDebug(lcView) << Q_FUNC_INFO;
+    const QSignalBlocker blocker(this);
+    for (OsziWidget *plot : d->page->rows()->plots())
+        plot->update();
+    if (!d->model) {
+        qCDebug(lcView) << " ERROR: model==nullptr!";
         return;
-    const int position = static_cast<int>(found - rows.begin());
-    model->setOsziMinimum(position, row->span().minimum);
-    model->setOsziMaximum(position, row->span().maximum);
-}
-
-int TabOszilloscope::Private::rowOf(const QObject *sender, OsziDoubleSpinBox *(OsziRow::*box)() const) const
-{
-    for (int position = 0; position < kNumSensors; ++position) {
-        if (sender && (rows.at(static_cast<size_t>(position))->*box)() == sender)
-            return position;
     }
-    qCDebug(lcView) << " wrong sensor index!";
-    return -1;
+    d->page->showSensorNames();
+    updateOsziSlider();
+    QWidget::update();
 }
 
-void TabOszilloscope::onSpinBoxMaxValueChanged(double maxValue)
+// --- Rows and time axis ---
+
+OsziWidget *TabOszilloscope::row(int position) const
 {
-    qCDebug(lcView).nospace() << Q_FUNC_INFO << " maxValue=" << maxValue;
-    const int position = d->rowOf(sender(), &OsziRow::maxBox);
-    if (position < 0 || !d->model)
-        return;
-    d->model->setOsziMaximum(position, row(position)->maxValue());
-    emit rangeEdited();
+    return d->page->rows()->plot(position);
 }
 
-void TabOszilloscope::onSpinBoxMinValueChanged(double minValue)
+void TabOszilloscope::updateOsziSlider()
 {
-    qCDebug(lcView).nospace() << Q_FUNC_INFO << " maxValue=" << minValue;
-    const int position = d->rowOf(sender(), &OsziRow::minBox);
-    if (position < 0 || !d->model)
-        return;
-    d->model->setOsziMinimum(position, row(position)->minValue());
-    emit rangeEdited();
-}
-
-void TabOszilloscope::setMaximumSensorRange(int group, int sensor, double min, double max)
-{
-    qCDebug(lcView) << Q_FUNC_INFO << "group=" << group << "sensor=" << sensor << "min=" << min << "max=" << max;
-    if (group != 0 || !row(sensor))
-        return;
-    OsziRow *limited = d->rows.at(static_cast<size_t>(sensor));
-    if (limited->setLimits({min, max}))
-        d->storeSpan(limited);
-}
-
-void TabOszilloscope::setCurrentSensorRange(int group, int sensor, double min, double max)
-{
-    qCDebug(lcView) << Q_FUNC_INFO << "group=" << group << "sensor=" << sensor << "min=" << min << "max=" << max;
-    if (group != 0 || !row(sensor))
-        return;
-    OsziRow *shown = d->rows.at(static_cast<size_t>(sensor));
-    if (shown->setSpan({min, max}))
-        d->storeSpan(shown);
+    qCDebug(lcView) << Q_FUNC_INFO;
+    d->page->showExtent();
 }
 
 void TabOszilloscope::setClock(int clock, int clockGrid)
@@ -175,65 +227,105 @@ void TabOszilloscope::setClock(int clock, int clockGrid)
     qCDebug(lcView) << Q_FUNC_INFO << "clock=" << clock << "clockGrid=" << clockGrid;
     if (clock <= 0)
         return;
-    d->clock = clock;
-    for (const OsziRow *row : d->rows)
-        row->plot()->setClock(clock);
-    d->clockGrid->setRange(clock, std::max(clock, clockGrid));
-    d->clockGrid->setSingleStep(clock);
-    for (const OsziRow *row : d->rows)
-        row->plot()->setClockGrid(d->clockGrid->value());
-    d->showSampleRate();
-    d->showMarkers();
-    if (d->yCorrection->isChecked())
-        d->applyYCorrection();
+    d->page->setClock(clock, clockGrid);
 }
 
 void TabOszilloscope::setSamplingPeriods(const QStringList &labels)
 {
     qCDebug(lcView) << Q_FUNC_INFO << labels;
-    const QSignalBlocker blocker(d->sampleRate);
-    d->sampleRate->clear();
-    for (const QString &label : labels)
-        d->sampleRate->addItem(QString(label).replace(QLatin1String("ms"), QLatin1String(" ms")), label);
-    d->showSampleRate();
+    d->page->sampling()->setPeriods(labels);
 }
 
-void TabOszilloscope::Private::chooseSampleRate(int index)
+void TabOszilloscope::setMaximumSensorRange(int group, int sensor, double min, double max)
 {
-    const QString label = sampleRate->itemData(index).toString();
-    showSampleRate();
-    qCDebug(lcView) << "emit samplingPeriodChosen(QString)" << label;
-    emit q->samplingPeriodChosen(label);
+    qCDebug(lcView) << Q_FUNC_INFO << "group=" << group << "sensor=" << sensor << "min=" << min << "max=" << max;
+    if (group == 0)
+        d->page->ranges().setLimits(sensor, {min, max});
 }
 
-void TabOszilloscope::Private::showSampleRate()
+void TabOszilloscope::setCurrentSensorRange(int group, int sensor, double min, double max)
 {
-    const QString text = TabOszilloscope::tr("%1 ms").arg(clock);
-    sampleRate->setCurrentIndex(sampleRate->findText(text));
-    sampleRate->setPlaceholderText(text); // seen where it is none of those on offer
+    qCDebug(lcView) << Q_FUNC_INFO << "group=" << group << "sensor=" << sensor << "min=" << min << "max=" << max;
+    if (group == 0)
+        d->page->ranges().setSpan(sensor, {min, max});
 }
 
-void TabOszilloscope::Private::showSensorNames()
+void TabOszilloscope::onSpinBoxMaxValueChanged(double maxValue)
 {
-    const bool described = model && model->sensorDescription().numSensorGroups() > 0;
-    for (int position = 0; position < kNumSensors; ++position) {
-        OsziRow *row = rows.at(static_cast<size_t>(position));
-        QString name;
-        QString unit;
-        if (described && position < model->sensorDescription().sensorGroup(0).numSensors()) {
-            name = model->sensorDescription().sensorGroup(0).sensorName(position);
-            unit = model->sensorDescription().sensorGroup(0).sensorUnit(position);
-        }
-        row->setTitle(name, unit, model ? model->color(position) : defaultSensorColor(position));
-        const SensorSwitch &shown = sensors.at(static_cast<size_t>(position));
-        shown.label->setText(name.isEmpty() ? row->defaultName() : name);
-        shown.box->setAccessibleName(shown.label->text());
-    }
+    qCDebug(lcView).nospace() << Q_FUNC_INFO << " maxValue=" << maxValue;
+    if (d->page->ranges().takeMaximum(sender()))
+        emit rangeEdited();
 }
 
-void TabOszilloscope::changeEvent(QEvent *event)
+void TabOszilloscope::onSpinBoxMinValueChanged(double minValue)
 {
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::LanguageChange)
-        d->retranslateUi();
+    qCDebug(lcView).nospace() << Q_FUNC_INFO << " maxValue=" << minValue;
+    if (d->page->ranges().takeMinimum(sender()))
+        emit rangeEdited();
+}
+
+// --- Markers ---
+
+void TabOszilloscope::onMarkerChanged(double seconds)
+{
+    qCDebug(lcView) << Q_FUNC_INFO;
+    d->page->markers()->reportEntry(sender(), seconds);
+}
+
+void TabOszilloscope::onCheckBoxMarkerAbsClicked(bool absolute)
+{
+    qCDebug(lcView) << Q_FUNC_INFO << "absolute=" << absolute;
+    setCheckBoxMarkerAbsolute(absolute);
+    qCDebug(lcView) << "emit checkBoxMarkerAbsClicked(bool)";
+    emit checkBoxMarkerAbsClicked(absolute);
+}
+
+void TabOszilloscope::setCheckBoxMarkerAbsolute(bool absolute)
+{
+    qCDebug(lcView) << Q_FUNC_INFO << "absolute=" << absolute;
+    d->page->markers()->setAbsolute(absolute);
+    d->page->showMarkers();
+}
+
+// --- Measurements ---
+
+void TabOszilloscope::displayAllMeas(bool state)
+{
+    qCDebug(lcView) << Q_FUNC_INFO << "state=" << state;
+    d->page->filter().setAll(state);
+}
+
+void TabOszilloscope::displayedMeasChanged()
+{
+    qCDebug(lcView) << Q_FUNC_INFO;
+    d->page->filter().takeTyped(sender() == d->page->shots());
+}
+
+void TabOszilloscope::highlightBoxChanged(int measurement)
+{
+    qCDebug(lcView) << Q_FUNC_INFO << "measurement=" << measurement;
+    d->page->filter().highlight(measurement);
+}
+
+void TabOszilloscope::autoYCorrectionClicked()
+{
+    qCDebug(lcView) << Q_FUNC_INFO;
+    d->page->yCorrection().apply();
+}
+
+void TabOszilloscope::autoYCorrectionSpinBoxChanged(int milliseconds)
+{
+    qCDebug(lcView) << Q_FUNC_INFO << "milliseconds=" << milliseconds;
+    d->page->yCorrection().setTime(milliseconds);
+}
+
+void TabOszilloscope::onDeleteMeasurementClicked()
+{
+    qCDebug(lcView) << Q_FUNC_INFO;
+    d->page->shots()->requestDeletion();
+}
+
+void TabOszilloscope::clearDeletionField()
+{
+    d->page->shots()->clearDeletion();
 }

@@ -7,12 +7,12 @@
 class Model;
 class OsziWidget;
 
-/// The tab "Oszilloskop": five stacked rows, one a sensor position, all measurements as curves, the newest highlighted.
+/// The tab "Oszilloskop": five rows, one per sensor position, all measurements as curves, the newest highlighted. A
+/// face: its parts do the work, see the widgets and helpers beside it.
 ///
 /// setModel() connects the model's signals; nobody else need forward them. onModel_dataChanged() may be called for
-/// every sample line: when measurements were added or removed it points all slots anew before it returns; when
-/// samples only grew, the first few calls of a turn of the event loop act at once and the others at its end.
-/// Nothing that the model reports makes the tab emit a signal.
+/// every sample line: see SlotPointer for what it does then. Nothing that the model reports makes the tab emit a
+/// signal.
 class TabOszilloscope : public QWidget
 {
     Q_OBJECT
@@ -26,21 +26,17 @@ public:
     /// Row 0 to 4; nullptr for any other.
     [[nodiscard]] OsziWidget *row(int position) const;
     /// Points curve slot i of every row at measurement i of its sensor, for i from 0 to the newest, marks the slots
-    /// shown, makes the newest the highlighted curve and repaints. Works while signals are blocked.
+    /// shown, makes the newest the highlighted curve and repaints. For callers that keep the model's signals blocked.
     void pointSlotsAtModel();
     /// Empties every slot of every row.
     void clearSlots();
     /// The sampling period, and the largest clock grid offered (100 times the period).
     /// A clock below 1 is ignored.
     void setClock(int clock, int clockGrid);
-    /// The sampling periods on offer while a box is connected, as labels: "100ms" stands for 100 milliseconds.
+    /// The sampling periods on offer while a box is connected, as labels: "100ms" means 100 milliseconds.
     void setSamplingPeriods(const QStringList &labels);
-    /// Colour of a marker's line and button; invalid for an index outside 0 to 3.
-    [[nodiscard]] static QColor markerColor(int index);
-    /// The marker that ends a phase, 0 to 4; for the last one, which has no end, the marker at which it begins.
-    [[nodiscard]] static int markerOfPhase(int phase);
-    /// Limits of a row's range boxes / the range shown, kept in the model as well. Only group 0 exists; ends that are
-    /// not in order are ignored.
+    /// Limits of a row's range boxes / the range shown, which the model keeps as well. Only group 0 exists; ends that
+    /// are not in order are ignored. Nothing in the program sets limits yet.
     void setMaximumSensorRange(int group, int sensor, double min, double max);
     void setCurrentSensorRange(int group, int sensor, double min, double max);
     void setCheckBoxMarkerAbsolute(bool absolute);
@@ -54,13 +50,14 @@ signals:
     void deleteMeasurements(const QString &range);
     /// The user moved the curves of a row, 0 to 4, in its box.
     void offsetEdited(int position, double offset);
-    /// The user gave a row another range in its boxes, which is in the model by now. Wheel, pointer and keys in the
-    /// plot only look around: they are silent.
+    /// The user gave a row another range in its boxes; the model has it already. Wheel, pointer and keys in the plot
+    /// only look around: they are silent.
     void rangeEdited();
-    /// The user wants this sampling period; the tab goes on showing the one in force until setClock().
+    /// The user wants this sampling period; the tab keeps showing the one in force until setClock().
     void samplingPeriodChosen(const QString &label);
 
 public slots:
+    /// Repaints the rows and shows the names of the sensors. Nothing in the program calls it yet.
     void update();
     void updateOsziSlider();
     void displayAllMeas(bool state);
@@ -77,10 +74,11 @@ public slots:
     void onModel_dataChanged();
     void onModel_viewDataChanged();
 
-protected:
-    void changeEvent(QEvent *event) override;
-
 private:
+    void connectRows();
+    void connectMarkers();
+    void connectMeasurements();
+
     struct Private;
     std::unique_ptr<Private> d;
 };

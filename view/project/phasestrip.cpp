@@ -2,8 +2,8 @@
 
 #include "model/model.h"
 #include "plots/common/localnumber.h"
+#include "view/common/cyclemarkers.h"
 #include "view/common/tabstyle.h"
-#include "view/oscilloscope/taboszilloscope.h"
 #include "view/project/textfield.h"
 
 #include <QEvent>
@@ -22,7 +22,7 @@ constexpr int kTint = 24;        // of 255
 
 QColor phaseColor(int phase)
 {
-    return TabOszilloscope::markerColor(TabOszilloscope::markerOfPhase(phase));
+    return cyclemarkers::color(cyclemarkers::markerOfPhase(phase));
 }
 
 } // namespace
@@ -73,7 +73,7 @@ void PhaseStrip::showFrom(const Model &model)
     for (int phase = 0; phase < kNumPhases; ++phase) {
         const auto i = static_cast<std::size_t>(phase);
         textfield::show(m_names[i], model.phaseName(phase), kLongestName);
-        ends[i] = model.verticalMarker(TabOszilloscope::markerOfPhase(phase)) * (model.clock() / 1000.0);
+        ends[i] = model.verticalMarker(cyclemarkers::markerOfPhase(phase)) * (model.clock() / 1000.0);
     }
     if (ends == m_ends)
         return;

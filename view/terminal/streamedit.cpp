@@ -32,20 +32,19 @@ StreamEdit::StreamEdit(int maximumLines, QWidget *parent)
     setUndoRedoEnabled(false);
     setMaximumBlockCount(maximumLines);
     setLineWrapMode(QPlainTextEdit::NoWrap);
-    m_timer.setSingleShot(true);
-    connect(&m_timer, &QTimer::timeout, this, &StreamEdit::flush);
+    connect(&m_throttle, &Throttle::due, this, &StreamEdit::flush);
 }
 
 void StreamEdit::startFlush()
 {
     m_pending = true; // stays so while hidden: showEvent() fetches
     if (isVisible())
-        m_timer.start(m_interval);
+        m_throttle.request();
 }
 
 void StreamEdit::flush()
 {
-    m_timer.stop();
+    m_throttle.cancel();
     m_pending = false;
     const QString text = m_source ? m_source() : QString();
     if (text.isEmpty())
@@ -57,7 +56,8 @@ void StreamEdit::flush()
         appendPlainText(text);
     else
         fillAnew(text, lines);
-    m_interval = std::clamp(static_cast<int>(cost.elapsed()) * kIntervalPerCost, kShortestInterval, kLongestInterval);
+    const int interval = static_cast<int>(cost.elapsed()) * kIntervalPerCost;
+    m_throttle.setInterval(std::clamp(interval, kShortestInterval, kLongestInterval));
 }
 
 void StreamEdit::fillAnew(const QString &text, int lines)
@@ -74,6 +74,12 @@ void StreamEdit::fillAnew(const QString &text, int lines)
 void StreamEdit::showEvent(QShowEvent *event)
 {
     QPlainTextEdit::showEvent(event);
-    if (m_pending)
-        m_timer.start(0);
+    if (!m_pending)
+        return;
+    // In the next turn, not after the interval: the page would be seen without its newest lines first.
+    const int interval = m_throttle.interval();
+    m_throttle.cancel();
+    m_throttle.setInterval(0);
+    m_throttle.request();
+    m_throttle.setInterval(interval);
 }

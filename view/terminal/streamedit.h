@@ -1,7 +1,8 @@
 #pragma once
 
+#include "kit/small/throttle.h"
+
 #include <QPlainTextEdit>
-#include <QTimer>
 
 #include <functional>
 
@@ -38,7 +39,6 @@ private:
     void fillAnew(const QString &text, int lines);
 
     Source m_source;
-    QTimer m_timer;
-    int m_interval = kShortestInterval;
-    bool m_pending = false;
+    Throttle m_throttle{kShortestInterval};
+    bool m_pending = false; ///< something was collected; also while hidden, when the throttle rests
 };

@@ -1,33 +1,31 @@
 #include "view/window/view.h"
 
-#include "app/theme.h"
 #include "model/model.h"
-#include "view/box/connectionprogress.h"
+#include "view/common/inputcommit.h"
 #include "view/common/logging.h"
-#include "view/home/tabhome.h"
+#include "view/oscilloscope/taboszilloscope.h"
 #include "view/sensors/tabsensors.h"
 #include "view/terminal/tabdatalogger.h"
 #include "view/terminal/tabterminal.h"
-#include "view/window/sidetabs.h"
-#include "view/window/viewprivate.h"
+#include "view/window/windowparts.h"
 
+#include <QAbstractButton>
+#include <QAction>
 #include <QCloseEvent>
-#include <QMenu>
-#include <QStatusBar>
-#include <QToolBar>
-#include <QToolButton>
+#include <QTabWidget>
 
 View::View(Model *model, std::unique_ptr<UserPrompts> prompts)
-    : d(std::make_unique<Private>(this, model, std::move(prompts)))
+    : m_model(model)
 {
     qCDebug(lcView) << Q_FUNC_INFO;
-    setWindowTitle(theme::applicationName);
-    d->createWindow();
-    d->connectActions();
-    d->connectExports();
-    d->connectTabs();
-    d->connectLanguages();
-    d->connectModel();
+    d = std::make_unique<WindowParts>(this, model, std::move(prompts));
+    m_pages = d->pages.pages();
+    connect(d->actions.menu, &QAction::triggered, this, &View::menu);
+    connect(m_pages.tabs, &QTabWidget::currentChanged, this, &View::onTabSelected);
+    connect(model, &Model::appStateChanged, this, &View::onModel_appStateChanged);
+    connect(model, &Model::projectChanged, this, &View::onModel_ProjectChanged);
+    connect(model, &Model::dataChanged, this, &View::onModel_DataChanged);
+    connect(model, &Model::viewDataChanged, this, &View::onModel_ViewDataChanged);
     d->readSettings();
     for (Actions action : {Actions::Connect, Actions::Calibrate, Actions::Recording})
         setActionState(action, ActionState::Normal);
@@ -38,141 +36,296 @@ View::View(Model *model, std::unique_ptr<UserPrompts> prompts)
 View::~View()
 {
     qCDebug(lcView) << Q_FUNC_INFO;
-    // The widgets go after the private part: what they report on their way out must not reach it.
-    const QList<QWidget *> widgets = findChildren<QWidget *>();
-    for (QWidget *widget : widgets)
-        widget->disconnect(this);
 }
 
-TabHome *View::tabHome() const
+// --- Questions and messages --------------------------------------------------------------------------------------
+
+bool View::isAsking() const
 {
-    return d->tabHome;
+    return d->questions.isAsking();
 }
 
-TabProject *View::tabProject() const
+bool View::askToSave()
 {
-    return d->tabProject;
+    qCDebug(lcView) << Q_FUNC_INFO;
+    return d->questions.toSave();
 }
 
-TabSensors *View::tabSensors() const
+bool View::askToQuit()
 {
-    return d->tabSensors;
+    qCDebug(lcView) << Q_FUNC_INFO;
+    return d->questions.toQuit();
 }
 
-TabOszilloscope *View::tabOszi() const
+QMessageBox::StandardButton View::askToSaveAndQuit()
 {
-    return d->tabOszi;
+    qCDebug(lcView) << Q_FUNC_INFO;
+    return d->questions.toSaveAndQuit();
 }
 
-TabEvaluation *View::tabEvaluation() const
+bool View::askYesNo(const QString &title, const QString &text)
 {
-    return d->tabEvaluation;
+    qCDebug(lcView) << Q_FUNC_INFO << title;
+    return d->questions.yesNo(title, text);
 }
 
-TabWebConfig *View::tabWebConfig() const
+bool View::askToClearData()
 {
-    return d->tabWebConfig;
+    qCDebug(lcView) << Q_FUNC_INFO;
+    return d->questions.toClearData();
 }
 
-TabDataLogger *View::tabLogger() const
+void View::showMessage(const QString &text, const QString &title)
 {
-    return d->tabLogger;
+    qCDebug(lcView) << Q_FUNC_INFO << title << text;
+    d->questions.inform(title, text);
 }
 
-TabTerminal *View::tabTerminal() const
+void View::showWarning(const QString &text, const QString &title)
 {
-    return d->tabTerminal;
+    qCDebug(lcView) << Q_FUNC_INFO << title << text;
+    d->questions.warn(title, text);
 }
 
-TabBlackBox *View::tabBlackBox() const
+QString View::askOpenFile(const QString &title, const QString &filter)
 {
-    return d->tabBlackBox;
+    qCDebug(lcView) << Q_FUNC_INFO << title;
+    return d->questions.openFile(title, filter);
 }
 
-QTabWidget *View::tabs() const
+QString View::askSaveFile(const QString &title, const QString &filter)
 {
-    return d->tabs;
+    qCDebug(lcView) << Q_FUNC_INFO << title;
+    return d->questions.saveFile(title, filter);
 }
 
-void View::terminalReceived(const QString &line)
+QString View::askSaveFileWithSuffix(const QString &title, const QString &filter, const QString &suffix,
+                                    Qt::CaseSensitivity sensitivity, const QString &overwriteTitle)
 {
-    d->tabTerminal->addReceived(line);
+    qCDebug(lcView) << Q_FUNC_INFO << title;
+    return d->questions.saveFileWithSuffix(title, filter, suffix, sensitivity, overwriteTitle);
 }
 
-void View::terminalSent(const QString &line)
+QString View::askFolder(const QString &title)
 {
-    d->tabTerminal->addSent(line);
+    qCDebug(lcView) << Q_FUNC_INFO << title;
+    return d->questions.folder(title);
 }
 
-void View::logSample(double seconds, const std::array<double, kNumSensors> &values)
+std::optional<QString> View::askAddress(const QString &current)
 {
-    d->tabLogger->addSample(seconds, values);
+    qCDebug(lcView) << Q_FUNC_INFO << current;
+    return d->questions.address(current);
 }
 
-void View::showLiveValues(const std::array<double, kNumSensors> &values, int period)
+void View::setAddressValidator(std::function<bool(const QString &)> isValid)
 {
-    d->tabSensors->addSample(values, period);
+    d->recent.setAddressValidator(isValid);
+    d->questions.setAddressValidator(std::move(isValid));
 }
 
-void View::forgetLiveValues()
+// --- State shown -------------------------------------------------------------------------------------------------
+
+void View::setActionState(Actions action, ActionState state)
 {
-    d->tabSensors->forgetLiveValues();
+    qCDebug(lcView).nospace() << Q_FUNC_INFO << " action=" << static_cast<int>(action)
+                              << " state=" << static_cast<int>(state);
+    d->actions.setState(action, state);
+}
+
+void View::setTabEnabled(int tab, bool enabled)
+{
+    qCDebug(lcView) << Q_FUNC_INFO << tab << enabled;
+    d->pages.setEnabled(tab, enabled);
+}
+
+void View::setConnected(bool connected)
+{
+    qCDebug(lcView) << Q_FUNC_INFO << connected;
+    d->link.showConnected(connected);
+}
+
+void View::setRecordingRunning(bool running)
+{
+    qCDebug(lcView) << Q_FUNC_INFO << running;
+    d->link.showRecording(running);
+}
+
+void View::reset()
+{
+    qCDebug(lcView) << Q_FUNC_INFO;
+    d->showEmptyProject();
 }
 
 void View::showProgress(const QString &text)
 {
     qCDebug(lcView) << Q_FUNC_INFO << text;
-    d->progress->showText(text);
-    d->tabHome->setConnecting(true);
+    d->link.showProgress(text);
 }
 
 void View::hideProgress()
 {
     qCDebug(lcView) << Q_FUNC_INFO;
-    d->progress->hide();
-    d->tabHome->setConnecting(false);
+    d->link.hideProgress();
 }
 
 bool View::isProgressShown() const
 {
-    return !d->progress->isHidden();
+    return d->link.isProgressShown();
 }
 
 void View::showStatus(const QString &text, int milliseconds)
 {
     qCDebug(lcView) << Q_FUNC_INFO << text;
-    statusBar()->showMessage(text, milliseconds);
-    d->statusTimer.start(milliseconds > 0 ? milliseconds : 10000);
+    d->status.showMessage(text, milliseconds);
 }
 
 void View::addStatusWidget(QWidget *widget)
 {
-    statusBar()->insertPermanentWidget(0, widget);
+    d->status.addWidget(widget);
+}
+
+void View::setDeviceAddress(const QString &address)
+{
+    qCDebug(lcView) << Q_FUNC_INFO << address;
+    d->link.showAddress(address);
+}
+
+void View::setDemoState(DemoState state)
+{
+    qCDebug(lcView) << Q_FUNC_INFO << static_cast<int>(state);
+    d->link.showDemo(state);
+}
+
+void View::rememberProject(const QString &file)
+{
+    qCDebug(lcView) << Q_FUNC_INFO << file;
+    d->recent.rememberProject(file);
+}
+
+void View::rememberAddress(const QString &address)
+{
+    qCDebug(lcView) << Q_FUNC_INFO << address;
+    d->recent.rememberAddress(address);
+}
+
+void View::showAbout()
+{
+    qCDebug(lcView) << Q_FUNC_INFO;
+    d->showAbout();
+}
+
+void View::writeSettings()
+{
+    qCDebug(lcView) << Q_FUNC_INFO;
+    d->memory.write();
+}
+
+void View::commitInput()
+{
+    qCDebug(lcView) << Q_FUNC_INFO;
+    commitInputOf(this);
+}
+
+// --- For every line; not logged ----------------------------------------------------------------------------------
+
+void View::showLiveValues(const std::array<double, kNumSensors> &values, int period)
+{
+    m_pages.sensors->addSample(values, period);
+}
+
+void View::forgetLiveValues()
+{
+    m_pages.sensors->forgetLiveValues();
+}
+
+void View::terminalReceived(const QString &line)
+{
+    m_pages.terminal->addReceived(line);
+}
+
+void View::terminalSent(const QString &line)
+{
+    m_pages.terminal->addSent(line);
+}
+
+void View::logSample(double seconds, const std::array<double, kNumSensors> &values)
+{
+    m_pages.logger->addSample(seconds, values);
+}
+
+// --- Slots -------------------------------------------------------------------------------------------------------
+
+void View::updateView()
+{
+    qCDebug(lcView) << Q_FUNC_INFO;
+    d->display.refreshAll();
+}
+
+void View::onModel_appStateChanged()
+{
+    qCDebug(lcView) << Q_FUNC_INFO;
+    setConnected(m_model->isConnected());
+}
+
+void View::onModel_ProjectChanged()
+{
+    qCDebug(lcView) << Q_FUNC_INFO;
+    d->display.noteProjectChange();
+}
+
+void View::onModel_DataChanged()
+{
+    qCDebug(lcView) << Q_FUNC_INFO;
+    d->display.noteDataChange();
+}
+
+void View::onModel_ViewDataChanged()
+{
+    qCDebug(lcView) << Q_FUNC_INFO;
+    d->status.refreshFile(); // a file was opened; the oscilloscope tab follows by itself
+}
+
+void View::onTabSelected(int index)
+{
+    qCDebug(lcView) << Q_FUNC_INFO << index;
+    d->display.refreshData();
+}
+
+void View::resetCorrection()
+{
+    qCDebug(lcView) << Q_FUNC_INFO;
+    m_model->resetOffsets();
+    m_model->setProjectModifiedFlag(true);
 }
 
 void View::menu()
 {
     qCDebug(lcView) << Q_FUNC_INFO;
-    const QWidget *button = d->toolBar->widgetForAction(d->actions.menu);
-    const QPoint corner = button->isVisible() ? button->mapToGlobal(QPoint(button->width(), button->height()))
-                                              : mapToGlobal(d->toolBar->geometry().bottomRight());
-    d->menu->popup(corner - QPoint(d->menu->sizeHint().width(), 0));
+    d->toolBar.popUpMenu();
+}
+
+void View::buttonLockPressed()
+{
+    qCDebug(lcView) << Q_FUNC_INFO;
+    if (auto *lock = m_pages.oszi->findChild<QAbstractButton *>(QStringLiteral("lockButton")))
+        lock->click();
 }
 
 void View::languageChanged()
 {
     qCDebug(lcView) << Q_FUNC_INFO;
     d->retranslate();
-    d->refreshProject();
 }
 
-bool View::event(QEvent *event)
+void View::deleteImage(int index, const char *function)
 {
-    // A tip under the moving pointer would wipe out what the program has to say.
-    if (event->type() == QEvent::StatusTip && d->statusTimer.isActive())
-        return true;
-    return QMainWindow::event(event);
+    qCDebug(lcView) << function;
+    m_model->setImage(index, QPixmap());
+    m_model->setProjectModifiedFlag(true);
 }
+
+// --- Events ------------------------------------------------------------------------------------------------------
 
 void View::closeEvent(QCloseEvent *event)
 {
@@ -181,18 +334,9 @@ void View::closeEvent(QCloseEvent *event)
     emit quit();
 }
 
-void View::resizeEvent(QResizeEvent *event)
-{
-    constexpr int kNarrow = 900; // pixels; all buttons with their texts need a little less
-    d->actions.setCompact(d->toolBar, event->size().width() < kNarrow);
-    QMainWindow::resizeEvent(event);
-}
-
 void View::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange)
         languageChanged();
-    else if (event->type() == QEvent::WindowStateChange)
-        d->noteNormalPlacement(static_cast<QWindowStateChangeEvent *>(event)->oldState());
     QMainWindow::changeEvent(event);
 }

@@ -3,8 +3,8 @@
 #include "model/sensordescription.h"
 #include "view/common/demostate.h"
 #include "view/common/userprompts.h"
-
-#include <QMainWindow>
+#include "view/window/mainwindow.h"
+#include "view/window/pages.h"
 
 #include <array>
 #include <functional>
@@ -12,26 +12,12 @@
 #include <optional>
 
 class Model;
-class QTabWidget;
-class QToolBar;
-class TabBlackBox;
-class TabDataLogger;
-class TabEvaluation;
-class TabHome;
-class TabOszilloscope;
-class TabProject;
-class TabSensors;
-class TabTerminal;
-class TabWebConfig;
-
-/// Actions whose state the controller sets.
-enum class Actions { Connect = 0, Disconnect = 1, Calibrate = 2, Recording = 3 };
-/// Look of an action; Disabled is the only state that cannot be triggered.
-enum class ActionState { Disabled = 0, Normal = 1, Active = 2, Alert = 3 };
+struct WindowParts;
 
 /// The main window: tool bar, tabs, and every question to the user. Turns user actions into signals that the
-/// controller handles, and redraws itself when the model reports changes.
-class View : public QMainWindow
+/// controller handles, and redraws itself when the model reports changes. A face: every member is carried out by one of
+/// the parts that WindowParts lists.
+class View : public MainWindow
 {
     Q_OBJECT
 
@@ -40,16 +26,16 @@ public:
     explicit View(Model *model, std::unique_ptr<UserPrompts> prompts = nullptr);
     ~View() override;
 
-    [[nodiscard]] TabHome *tabHome() const;
-    [[nodiscard]] TabProject *tabProject() const;
-    [[nodiscard]] TabSensors *tabSensors() const;
-    [[nodiscard]] TabOszilloscope *tabOszi() const;
-    [[nodiscard]] TabEvaluation *tabEvaluation() const;
-    [[nodiscard]] TabWebConfig *tabWebConfig() const;
-    [[nodiscard]] TabDataLogger *tabLogger() const;
-    [[nodiscard]] TabTerminal *tabTerminal() const;
-    [[nodiscard]] TabBlackBox *tabBlackBox() const;
-    [[nodiscard]] QTabWidget *tabs() const;
+    [[nodiscard]] TabHome *tabHome() const { return m_pages.home; }
+    [[nodiscard]] TabProject *tabProject() const { return m_pages.project; }
+    [[nodiscard]] TabSensors *tabSensors() const { return m_pages.sensors; }
+    [[nodiscard]] TabOszilloscope *tabOszi() const { return m_pages.oszi; }
+    [[nodiscard]] TabEvaluation *tabEvaluation() const { return m_pages.evaluation; }
+    [[nodiscard]] TabWebConfig *tabWebConfig() const { return m_pages.webConfig; }
+    [[nodiscard]] TabDataLogger *tabLogger() const { return m_pages.logger; }
+    [[nodiscard]] TabTerminal *tabTerminal() const { return m_pages.terminal; }
+    [[nodiscard]] TabBlackBox *tabBlackBox() const { return m_pages.blackBox; }
+    [[nodiscard]] QTabWidget *tabs() const { return m_pages.tabs; }
 
     // --- Questions and messages: one at a time ---
     /// While a question or message is open, a further message waits for its turn, and a further question is answered
@@ -65,7 +51,10 @@ public:
     void showWarning(const QString &text, const QString &title);
     /// File dialogs start in the last folder and remember the one chosen. Empty: cancelled.
     [[nodiscard]] QString askOpenFile(const QString &title, const QString &filter);
-    [[nodiscard]] QString askSaveFile(const QString &title, const QString &filter);
+    [[nodiscard]] QString askSaveFile(const QString &title, const QString &filter) override;
+    [[nodiscard]] QString askSaveFileWithSuffix(const QString &title, const QString &filter, const QString &suffix,
+                                                Qt::CaseSensitivity sensitivity = Qt::CaseInsensitive,
+                                                const QString &overwriteTitle = {}) override;
     [[nodiscard]] QString askFolder(const QString &title);
     [[nodiscard]] std::optional<QString> askAddress(const QString &current);
     /// Which texts askAddress() lets through, and which of the addresses remembered are offered; until it is called
@@ -73,20 +62,19 @@ public:
     void setAddressValidator(std::function<bool(const QString &)> isValid);
 
     // --- State shown ---
-    void setActionState(Actions action, ActionState state);
-    void setTabEnabled(int tab, bool enabled);
-    void setConnected(bool connected);
-    void setRecordingRunning(bool running);
+    void setActionState(Actions action, ActionState state) override;
+    void setTabEnabled(int tab, bool enabled) override;
+    void setConnected(bool connected) override;
+    void setRecordingRunning(bool running) override;
     /// Tabs and actions as for an empty project.
     void reset();
     /// The connection's progress dialog: centred on the window, 100 pixels high, half the window's width. Not modal
     /// to the event loop; while it is shown the connect action, its button and the escape key hide it and emit
     /// progressCancelled().
     void showProgress(const QString &text);
-    void hideProgress();
+    void hideProgress() override;
     [[nodiscard]] bool isProgressShown() const;
-    /// Shown in the status bar for the time given, 0: until replaced.
-    void showStatus(const QString &text, int milliseconds = 10000);
+    void showStatus(const QString &text, int milliseconds = 10000) override;
     /// Adds a widget at the right of the status bar (the controller's progress bar); not owned afterwards by the view.
     void addStatusWidget(QWidget *widget);
     void setDeviceAddress(const QString &address);
@@ -112,65 +100,33 @@ public:
     /// One sample line for the data-logger tab.
     void logSample(double seconds, const std::array<double, kNumSensors> &values);
 
-signals:
-    void newProject();
-    void openProject();
-    void saveProject();
-    void saveProjectAs();
-    void importBlackBox();
-    void firmwareUpdate();
-    void connectDisconnect();
-    void calibrate();
-    void startStopRecording();
-    void quit();
-    void connectToAddress(const QString &address);
-    void startStopDemo();
-    void openImportBlackBoxData();
-    void saveOszi();
-    void saveCSV();
-    void saveTerminal();
-    void clearLogger();
-    void loggerHeadline();
-    /// The line as typed, without a line feed.
-    void terminalSend(const QString &line);
-    void terminalClear();
-    void about();
-    void clearMarkers();
-    void commentChanged();
-    void imageButtonClicked();
-    void imageLabelClicked();
-    void offsetChanged(double offset);
-    /// The user named a project file to open otherwise than in a dialog: on the start page, or dropped onto the window.
-    void openProjectFile(const QString &fileName);
-    /// The user gave up an attempt to connect.
-    void progressCancelled();
-    /// The user chose a language in the menu (two-letter code); it is in use.
-    void languageSelected(const QString &code);
-
 public slots:
-    void updateView();
+    void updateView() override;
     void onModel_appStateChanged();
     void onModel_ProjectChanged();
     void onModel_DataChanged();
     void onModel_ViewDataChanged();
-    void resetCorrection();
+    void resetCorrection(); ///< nothing uses it yet
     void menu();
-    void buttonLockPressed();
+    void buttonLockPressed(); ///< nothing uses it yet
     void languageChanged();
     void onTabSelected(int index);
-    void deleteImage0Confimed();
-    void deleteImage1Confimed();
-    void deleteImage2Confimed();
-    void deleteImage3Confimed();
-    void deleteImage4Confimed();
+    // The user agreed to the deletion of a picture.
+    void deleteImage0Confimed() { deleteImage(0, Q_FUNC_INFO); }
+    void deleteImage1Confimed() { deleteImage(1, Q_FUNC_INFO); }
+    void deleteImage2Confimed() { deleteImage(2, Q_FUNC_INFO); }
+    void deleteImage3Confimed() { deleteImage(3, Q_FUNC_INFO); }
+    void deleteImage4Confimed() { deleteImage(4, Q_FUNC_INFO); }
 
 protected:
-    bool event(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void changeEvent(QEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
 
 private:
-    struct Private;
-    std::unique_ptr<Private> d;
+    /// Logs the caller.
+    void deleteImage(int index, const char *function);
+
+    Model *m_model;
+    Pages m_pages;
+    std::unique_ptr<WindowParts> d;
 };

@@ -2,31 +2,16 @@
 
 #include "app/theme.h"
 #include "view/common/actionicon.h"
-#include "view/window/actiontips.h"
 
 #include <QAction>
-#include <QMenu>
-#include <QProxyStyle>
-#include <QToolBar>
-#include <QToolButton>
+#include <QColor>
+#include <QIcon>
+#include <QKeySequence>
+#include <QWidget>
 
-#include <algorithm>
+#include <array>
 
 namespace {
-
-/// Icons in a menu as high as its large text; a style sheet cannot say so.
-class MenuStyle : public QProxyStyle
-{
-public:
-    MenuStyle()
-        : QProxyStyle(QStringLiteral("Fusion"))
-    {}
-    int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override
-    {
-        constexpr int kIconSize = 26;
-        return metric == PM_SmallIconSize ? kIconSize : QProxyStyle::pixelMetric(metric, option, widget);
-    }
-};
 
 QAction *newAction(QWidget *owner, const char *name, const QString &icon = {}, const QKeySequence &shortcut = {})
 {
@@ -47,25 +32,27 @@ void setTexts(QAction *action, const QString &text, const QString &toolTip, cons
     action->setStatusTip(statusTip);
 }
 
-void addSpacer(QToolBar *bar)
+QColor stateColor(ActionState state)
 {
-    auto *spacer = new QWidget(bar);
-    spacer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    bar->addWidget(spacer);
+    // On the tool bar's dark grey: grey, white, green, red.
+    static const std::array<QColor, 4> colors{theme::qColorMedium, theme::qColorBackground, QColor(0x7E, 0xE0, 0x81),
+                                              QColor(0xFF, 0x8A, 0x80)};
+    const auto index = static_cast<std::size_t>(state);
+    return index < colors.size() ? colors[index] : theme::qColorMedium;
 }
 
-void holdWidth(QWidget *button, const QStringList &texts, bool compact)
+QString iconFile(Actions action)
 {
-    button->ensurePolished();
-    button->setMinimumWidth(0);
-    const QFontMetrics metrics = button->fontMetrics();
-    const auto width = [&metrics](const QString &text) { return metrics.size(Qt::TextShowMnemonic, text).width(); };
-    int widest = 0;
-    for (const QString &text : texts)
-        widest = std::max(widest, width(text));
-    const int shown = width(static_cast<QToolButton *>(button)->text());
-    if (!compact)
-        button->setMinimumWidth(button->sizeHint().width() + widest - shown);
+    switch (action) {
+    case Actions::Connect:
+    case Actions::Disconnect:
+        return QStringLiteral("wifi.png");
+    case Actions::Calibrate:
+        return QStringLiteral("adjust.png");
+    case Actions::Recording:
+        return QStringLiteral("play.png");
+    }
+    return {};
 }
 
 } // namespace
@@ -122,6 +109,9 @@ void ViewActions::retranslate() const
     retranslateProject();
     retranslateBox();
     retranslateOther();
+    retranslateRecording();
+    if (m_link != Link::NotShownYet)
+        retranslateLink();
 }
 
 void ViewActions::retranslateProject() const
@@ -156,69 +146,65 @@ void ViewActions::retranslateOther() const
     setTexts(english, tr("English"), {}, tr("Zeigt die Texte auf Englisch"));
 }
 
-void ViewActions::addIconButton(QToolBar *bar, QAction *action, const QString &icon)
-{
-    // The bar is dark and the menu is white, so the action's own icon cannot serve both.
-    auto *button = new QToolButton(bar);
-    button->setIcon(actionIcon(icon, theme::qColorBackground));
-    button->setIconSize(bar->iconSize());
-    button->setFocusPolicy(Qt::NoFocus);
-    QObject::connect(button, &QToolButton::clicked, action, &QAction::trigger);
-    m_dispensable.append(bar->addWidget(button));
-    m_iconButtons.append({button, action});
-}
+// --- State -------------------------------------------------------------------------------------------------------
 
-void ViewActions::fillToolBar(QToolBar *bar)
+QAction *ViewActions::action(Actions which) const
 {
-    bar->addAction(connectBox);
-    bar->addAction(calibrate);
-    bar->addAction(startRecording);
-    addSpacer(bar);
-    addIconButton(bar, newProject, QStringLiteral("file-plus.png"));
-    addIconButton(bar, openProject, QStringLiteral("folder-open.png"));
-    addIconButton(bar, saveProject, QStringLiteral("content-save.png"));
-    m_dispensable.append(bar->addSeparator());
-    bar->addAction(menu);
-    new ActionTips(bar);
-}
-
-void ViewActions::setCompact(QToolBar *bar, bool compact) const
-{
-    bar->setToolButtonStyle(compact ? Qt::ToolButtonIconOnly : Qt::ToolButtonTextBesideIcon);
-    for (QAction *action : m_dispensable)
-        action->setVisible(!compact);
-    holdWidths(bar);
-}
-
-void ViewActions::holdWidths(const QToolBar *bar) const
-{
-    const bool compact = bar->toolButtonStyle() == Qt::ToolButtonIconOnly;
-    holdWidth(bar->widgetForAction(connectBox), {tr("&Trennen"), tr("&Verbinden")}, compact);
-    holdWidth(bar->widgetForAction(startRecording), {tr("&Stop"), tr("&Start")}, compact);
-}
-
-void ViewActions::nameToolButtons() const
-{
-    for (const auto &[button, action] : m_iconButtons) {
-        button->setAccessibleName(action->iconText());
-        button->setToolTip(tipWithKey(*action));
-        button->setStatusTip(action->statusTip());
+    switch (which) {
+    case Actions::Connect:
+    case Actions::Disconnect:
+        return connectBox;
+    case Actions::Calibrate:
+        return calibrate;
+    case Actions::Recording:
+        return startRecording;
     }
+    return nullptr;
 }
 
-void ViewActions::fillMenu(QMenu *target, QMenu *languages)
+void ViewActions::setState(Actions which, ActionState state) const
 {
-    auto *style = new MenuStyle;
-    style->setParent(target);
-    for (QMenu *styled : {target, languages})
-        styled->setStyle(style);
-    target->addActions({newProject, openProject, saveProject, saveAs, openBlackBox});
-    target->addSeparator();
-    target->addActions({saveCsv, saveOszi, saveTerminal});
-    target->addSeparator();
-    target->addActions({disconnectBox, firmwareUpdate});
-    target->addSeparator();
-    languages->setIcon(actionIcon(QStringLiteral("translate.png"), theme::qColorPrimary));
-    target->addMenu(languages);
-    target->addActions({about, quit});
+    QAction *target = action(which);
+    if (!target)
+        return;
+    target->setEnabled(state != ActionState::Disabled);
+    target->setIcon(actionIcon(iconFile(which), stateColor(state)));
+}
+
+void ViewActions::showLink(bool connected)
+{
+    m_link = connected ? Link::Connected : Link::NotConnected;
+    retranslateLink();
+    disconnectBox->setEnabled(connected);
+}
+
+void ViewActions::showRecording(bool running)
+{
+    m_isRecording = running;
+    if (running)
+        startRecording->setIcon(actionIcon(QStringLiteral("stop.png"), stateColor(ActionState::Active)));
+    retranslateRecording();
+}
+
+void ViewActions::retranslateLink() const
+{
+    const bool connected = m_link == Link::Connected;
+    connectBox->setText(connected ? tr("&Trennen") : tr("&Verbinden"));
+    connectBox->setToolTip(connected ? tr("Mesotra Verbindung trennen.") : tr("Mit Mesotra verbinden."));
+    connectBox->setStatusTip(connected ? tr("Trennt die Verbindung zur Box") : tr("Verbindet mit der Mesotra Box"));
+}
+
+void ViewActions::retranslateRecording() const
+{
+    startRecording->setText(m_isRecording ? tr("&Stop") : tr("&Start"));
+    startRecording->setToolTip(m_isRecording ? tr("Aufzeichnung beenden") : tr("Aufzeichnung starten"));
+}
+
+QStringList ViewActions::changingTexts(const QAction *action) const
+{
+    if (action == connectBox)
+        return {tr("&Trennen"), tr("&Verbinden")};
+    if (action == startRecording)
+        return {tr("&Stop"), tr("&Start")};
+    return {};
 }

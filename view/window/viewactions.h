@@ -1,37 +1,32 @@
 #pragma once
 
+#include "view/window/actionstate.h"
+
 #include <QCoreApplication>
-#include <QPair>
-#include <QVector>
+#include <QStringList>
 
 class QAction;
-class QMenu;
-class QObject;
-class QToolBar;
-class QToolButton;
 class QWidget;
 
-/// All actions of the main window. They belong to the owner and are told apart by their object names.
+/// All actions of the main window with their texts, keys and states. They belong to the owner and are told apart by
+/// their object names.
 struct ViewActions
 {
-    Q_DECLARE_TR_FUNCTIONS(View)
+    Q_DECLARE_TR_FUNCTIONS(ViewActions)
 
 public:
     explicit ViewActions(QWidget *owner);
 
-    /// Texts in the current language. The texts of connection and recording are those for "not connected" and "not
-    /// recording"; the window sets them anew.
+    /// Texts in the current language, those of connection and recording as they were shown last.
     void retranslate() const;
-    /// The actions used most, the first three with their text; the menu at the right.
-    void fillToolBar(QToolBar *bar);
-    /// In a narrow window the bar keeps what the box and the menu need, as icons; the rest is in the menu.
-    void setCompact(QToolBar *bar, bool compact) const;
-    /// The buttons whose text changes keep the room of the longest, so that none moves away under the pointer.
-    void holdWidths(const QToolBar *bar) const;
-    /// What a tool button shows as an icon alone gets its text as accessible name.
-    void nameToolButtons() const;
-    /// With the language menu, which is not owned, among the others.
-    void fillMenu(QMenu *menu, QMenu *languages);
+    /// Enables the action and tints its icon; nothing happens for other numbers.
+    void setState(Actions which, ActionState state) const;
+    /// The texts of the connect action; disconnecting is possible while connected only.
+    void showLink(bool connected);
+    /// The texts of the recording action, and its icon while recording.
+    void showRecording(bool running);
+    /// All texts that an action can have; empty for an action whose text never changes.
+    [[nodiscard]] QStringList changingTexts(const QAction *action) const;
 
     QAction *connectBox = nullptr;
     QAction *disconnectBox = nullptr;
@@ -53,14 +48,18 @@ public:
     QAction *firmwareUpdate = nullptr;
 
 private:
-    void addIconButton(QToolBar *bar, QAction *action, const QString &icon);
+    enum class Link { NotShownYet, NotConnected, Connected };
+
     void createProjectActions(QWidget *owner);
     void createBoxActions(QWidget *owner);
     void createOtherActions(QWidget *owner);
+    [[nodiscard]] QAction *action(Actions which) const;
     void retranslateProject() const;
     void retranslateBox() const;
     void retranslateOther() const;
+    void retranslateLink() const;
+    void retranslateRecording() const;
 
-    QVector<QPair<QToolButton *, QAction *>> m_iconButtons;
-    QVector<QAction *> m_dispensable; ///< what the tool bar shows in a wide window only
+    Link m_link = Link::NotShownYet;
+    bool m_isRecording = false;
 };

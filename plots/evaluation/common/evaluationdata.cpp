@@ -8,7 +8,7 @@
 
 namespace {
 
-// What a sensor shows that nobody has chosen anything for.
+// What a sensor shows until the user chooses something else.
 const Quantity kUsualChoice{Quantity::Kind::Maximum, Quantity::kWholeShot};
 QVector<Quantity> usualQuantities()
 {
@@ -64,7 +64,7 @@ QString capabilityText(const std::optional<double> &value)
         return *value > 0.0 ? QStringLiteral("∞") : QStringLiteral("-∞");
     if (std::abs(*value) > kLargest)
         return *value > 0.0 ? QStringLiteral("> 99") : QStringLiteral("< -99");
-    // Not rounded up: 1.329 is not yet 1.33.
+    // Rounded down: 1.329 must not look like 1.33, which is a limit.
     return localNumber(std::floor(*value * 100.0 + 1e-9) / 100.0, 'f', 2);
 }
 
@@ -78,7 +78,7 @@ void EvaluationData::setModel(Model *model)
     if (model == m_model)
         return;
     m_model = model;
-    m_caches.fill(QuantityCache());
+    m_caches.fill(QuantityCache()); // ids are unique within one model only
     emit modelChanged();
 }
 
@@ -125,6 +125,7 @@ QString EvaluationData::quantityName(const Quantity &quantity) const
 {
     if (quantity.kind == Quantity::Kind::AtMarker)
         return tr("Wert an Marker %1").arg(quantity.part + 1);
+    // In the order of Quantity::Kind.
     const QString names[] = {QString(),        tr("Minimum"),  tr("Maximum"),
                              tr("Mittelwert"), tr("Integral"), tr("Zeit der Spitze")};
     QString name = names[static_cast<int>(quantity.kind)];
@@ -168,6 +169,7 @@ void EvaluationData::setShown(int sensor, const Quantity &quantity, bool shown)
     if (before.contains(quantity) == shown || (!shown && before.size() == 1))
         return;
     edit(sensor, [&](SensorMeta &settings) {
+        // The usual quantities are shown without being stored; the first change has to store them, too.
         for (const Quantity &other : before)
             settings.at(other.key()).isShown = true;
         settings.at(quantity.key()).isShown = shown;

@@ -12,12 +12,12 @@
 /// A quantity of all shots of one sensor.
 struct QuantitySeries
 {
-    std::vector<std::optional<double>> shots; ///< none for a shot that lacks the quantity
+    std::vector<std::optional<double>> shots; ///< std::nullopt for a shot that lacks the quantity
     QVector<double> values;                   ///< of the shots that have it
 };
 
 /// What the pages of the evaluation share: the figures of all shots, computed once, and the settings that the project
-/// keeps for the evaluation. Computes nothing until it is asked.
+/// stores for the evaluation. Computes nothing until it is asked.
 class EvaluationData : public QObject
 {
     Q_OBJECT
@@ -27,12 +27,12 @@ public:
 
     /// Not owned. Emits modelChanged() if it is another one.
     void setModel(Model *model);
-    /// nullptr if none was set or if it is gone.
+    /// nullptr if none was set or if it has been deleted.
     [[nodiscard]] Model *model() const { return m_model; }
 
     /// All of these need a model and a sensor of 0 to 4.
     [[nodiscard]] int numShots(int sensor) const { return m_model->numChannels(sensor); }
-    /// Looks at what has changed since the last call only.
+    /// Recomputes only what has changed since the last call.
     [[nodiscard]] QuantitySeries series(int sensor, const Quantity &quantity);
     /// The name that the sensor has or is given by its position, and its unit; the unit may be empty.
     [[nodiscard]] QString sensorName(int sensor) const;
@@ -46,14 +46,14 @@ public:
     void setShown(int sensor, const Quantity &quantity, bool shown);
     /// One of those that are shown.
     [[nodiscard]] Quantity chosenQuantity(int sensor) const;
-    /// The choice is kept with the project, but is no change that would have to be saved.
+    /// The choice is stored with the project, but does not mark it as modified.
     void choose(int sensor, const Quantity &quantity);
     [[nodiscard]] ToleranceLimits limits(int sensor, const Quantity &quantity) const;
     /// Ignored if a limit is not finite.
     void setLimits(int sensor, const Quantity &quantity, const ToleranceLimits &limits);
 
-    /// Seconds from the begin of the shot before to the begin of this one; where a time stamp is missing or they go
-    /// backwards, how long the shot was recorded. None if there is no such shot.
+    /// Seconds from the beginning of the previous shot to the beginning of this one; where a time stamp is missing or
+    /// the later one is smaller, the length of the recording. std::nullopt if there is no such shot.
     [[nodiscard]] std::optional<double> cycleSeconds(int shot) const;
 
 signals:
@@ -69,7 +69,7 @@ private:
 
 /// The name that a sensor of 0 to 4 has in the model or is given by its position; by its position without a model.
 [[nodiscard]] QString sensorNameOf(const Model *model, int sensor);
-/// As all pages of the evaluation write a number: six significant digits.
+/// A number as the pages write it: six significant digits, with the language's decimal separator.
 [[nodiscard]] QString figureText(double value);
-/// "1.67"; "∞" and "> 99" where more digits would say nothing; "–" for none.
+/// "1.67"; "∞" and "> 99" where digits would have no meaning; "–" for std::nullopt.
 [[nodiscard]] QString capabilityText(const std::optional<double> &value);

@@ -11,7 +11,7 @@ void EvaluationPage::setData(EvaluationData *data)
     m_data = data;
     if (data)
         connect(data, &EvaluationData::modelChanged, this, &EvaluationPage::onData_modelChanged);
-    onData_modelChanged();
+    onData_modelChanged(); // the data may already have a model
 }
 
 EvaluationData *EvaluationPage::data() const
@@ -28,5 +28,5 @@ void EvaluationPage::onData_modelChanged()
 void EvaluationPage::showEvent(QShowEvent *event)
 {
     ModelPage::showEvent(event);
-    refreshNow(); // the model may have changed without telling
+    refreshNow(); // the model may have changed while its signals were blocked
 }

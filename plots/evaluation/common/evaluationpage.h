@@ -4,7 +4,7 @@
 
 class EvaluationData;
 
-/// A page of figures that it shares with other pages.
+/// A page that shows figures from the data that several pages share, and follows the model of that data.
 class EvaluationPage : public ModelPage
 {
     Q_OBJECT
@@ -16,7 +16,7 @@ public:
     void setData(EvaluationData *data);
 
 protected:
-    /// nullptr as long as there is none with a model.
+    /// nullptr while there is none, or none with a model.
     [[nodiscard]] EvaluationData *data() const;
 
     void showEvent(QShowEvent *event) override;

@@ -15,7 +15,7 @@ namespace {
 constexpr double kLargest = 1e9;
 constexpr int kDecimals = 6;
 
-/// Shows as many decimals as the number has: with three fixed decimals "300.000" could be read as three hundred
+/// Shows as many decimals as the number needs: with three fixed decimals "300.000" could be read as three hundred
 /// thousand.
 class LimitSpinBox : public DecimalSpinBox
 {
@@ -48,7 +48,7 @@ LimitField::LimitField(QWidget *parent)
     m_spinBox->setObjectName(QStringLiteral("spinBox"));
     m_spinBox->setStepType(QAbstractSpinBox::AdaptiveDecimalStepType);
     m_spinBox->setAlignment(Qt::AlignCenter);
-    m_spinBox->setKeyboardTracking(false);
+    m_spinBox->setKeyboardTracking(false); // half a number is no limit
     m_spinBox->setEnabled(false);
     m_spinBox->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     auto *layout = new QHBoxLayout(this);
@@ -57,6 +57,7 @@ LimitField::LimitField(QWidget *parent)
     layout->addWidget(m_spinBox, 1);
     setFocusProxy(m_switch);
     connect(m_switch, &QCheckBox::toggled, m_spinBox, &QWidget::setEnabled);
+    // clicked() and not toggled(), which is emitted by setLimit(), too.
     connect(m_switch, &QCheckBox::clicked, this, &LimitField::edited);
     connect(m_spinBox, qOverload<double>(&QDoubleSpinBox::valueChanged), this, &LimitField::edited);
 }
@@ -83,7 +84,7 @@ void LimitField::setTitle(const QString &title)
 void LimitField::setUnit(const QString &unit)
 {
     const QString suffix = unit.isEmpty() ? QString() : QLatin1Char(' ') + unit;
-    if (suffix != m_spinBox->suffix()) // setting it throws away what is being typed
+    if (suffix != m_spinBox->suffix()) // setting it discards what the user is typing
         m_spinBox->setSuffix(suffix);
 }
 

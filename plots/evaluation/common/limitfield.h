@@ -7,7 +7,7 @@
 class QCheckBox;
 class QDoubleSpinBox;
 
-/// A number that can be switched off: a check box and a spin box.
+/// A number that can be switched off: a toggle and a spin box.
 class LimitField : public QWidget
 {
     Q_OBJECT
@@ -15,9 +15,9 @@ class LimitField : public QWidget
 public:
     explicit LimitField(QWidget *parent = nullptr);
 
-    /// Emits nothing. A number that is being typed is not replaced by an equal one.
+    /// Emits nothing. If the number is the same, what the user is typing is kept.
     void setLimit(const std::optional<double> &limit);
-    /// None while it is switched off.
+    /// std::nullopt while it is switched off.
     [[nodiscard]] std::optional<double> limit() const;
     void setTitle(const QString &title);
     void setUnit(const QString &unit);

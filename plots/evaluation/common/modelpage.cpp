@@ -5,10 +5,9 @@
 #include <QEvent>
 
 ModelPage::ModelPage(QWidget *parent)
-    : QWidget(parent)
+    : TranslatedWidget(parent)
 {
-    m_refreshTimer.setSingleShot(true);
-    connect(&m_refreshTimer, &QTimer::timeout, this, &ModelPage::onRefreshTimer_timeout);
+    connect(&m_throttle, &Throttle::due, this, &ModelPage::onThrottle_due);
 }
 
 void ModelPage::follow(Model *model)
@@ -24,7 +23,7 @@ void ModelPage::follow(Model *model)
     scheduleRefresh();
 }
 
-// Comes for every sample line: no log line here, the model writes one for every emission.
+// Called for every sample line: no log line here, the model writes one for every emission.
 void ModelPage::onModel_dataChanged()
 {
     if (m_seenRevision != m_model->structureRevision()) {
@@ -43,14 +42,14 @@ void ModelPage::onModel_projectChanged()
 void ModelPage::scheduleRefresh()
 {
     m_outOfDate = true;
-    if (isVisible() && !m_refreshTimer.isActive())
-        m_refreshTimer.start(kRefreshInterval);
+    if (isVisible())
+        m_throttle.request();
 }
 
-void ModelPage::onRefreshTimer_timeout()
+void ModelPage::onThrottle_due()
 {
     qCDebug(lcPlots) << Q_FUNC_INFO;
-    if (isVisible() && m_outOfDate)
+    if (isVisible() && m_outOfDate) // it may have been hidden in the meantime
         refreshNow();
 }
 
@@ -59,22 +58,21 @@ void ModelPage::refreshNow()
     if (!m_model)
         return;
     m_outOfDate = false;
-    m_refreshTimer.stop();
+    m_throttle.cancel();
+    emit refreshing(m_model);
     refresh();
 }
 
 void ModelPage::showEvent(QShowEvent *event)
 {
-    QWidget::showEvent(event);
+    TranslatedWidget::showEvent(event);
     if (m_outOfDate)
         refreshNow();
 }
 
 void ModelPage::changeEvent(QEvent *event)
 {
-    if (event->type() == QEvent::LanguageChange) {
-        retranslateUi();
-        scheduleRefresh(); // names stand in many places
-    }
-    QWidget::changeEvent(event);
+    TranslatedWidget::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        scheduleRefresh(); // names of quantities and sensors are part of what is shown
 }

@@ -1,14 +1,14 @@
 #pragma once
 
+#include "kit/small/throttle.h"
+#include "kit/small/translatedwidget.h"
 #include "model/model.h"
 
 #include <QPointer>
-#include <QTimer>
-#include <QWidget>
 
-/// A page that follows a model while it is shown: what changes in short succession is looked at once. While it is
-/// hidden it does nothing, and catches up when it is shown.
-class ModelPage : public QWidget
+/// A page that follows a model while it is visible: changes in quick succession cause one refresh. A hidden page does
+/// nothing and catches up when it is shown.
+class ModelPage : public TranslatedWidget
 {
     Q_OBJECT
 
@@ -17,21 +17,26 @@ public:
 
     explicit ModelPage(QWidget *parent = nullptr);
 
+signals:
+    /// The page is about to refresh itself from this model.
+    void refreshing(const Model *model);
+
 protected:
-    /// Not owned; nullptr: none any more.
+    /// Not owned; nullptr: no model any more.
     void follow(Model *model);
-    /// nullptr if none is followed or if it is gone.
+    /// nullptr if none is followed or if it has been deleted.
     [[nodiscard]] Model *model() const { return m_model; }
 
     /// Brings everything up to date; called only while there is a model.
     virtual void refresh() = 0;
-    virtual void retranslateUi() = 0;
-    /// Measurements were removed or have changed places.
+    /// Measurements were removed or have changed their order.
     virtual void structureChanged() {}
+    /// Does nothing: the texts of most pages belong to the widgets that the page is made of.
+    void retranslateUi() override {}
 
-    /// Does so within kRefreshInterval, or as soon as the page is shown.
+    /// Refreshes within kRefreshInterval, or as soon as the page is shown.
     void scheduleRefresh();
-    /// Does so at once, whether the page is shown or not.
+    /// Refreshes at once, whether the page is visible or not.
     void refreshNow();
     [[nodiscard]] bool isOutOfDate() const { return m_outOfDate; }
 
@@ -41,11 +46,11 @@ protected:
 private slots:
     void onModel_dataChanged();
     void onModel_projectChanged();
-    void onRefreshTimer_timeout();
+    void onThrottle_due();
 
 private:
     QPointer<Model> m_model;
-    QTimer m_refreshTimer;
+    Throttle m_throttle{kRefreshInterval};
     quint64 m_seenRevision = 0;
     bool m_outOfDate = true;
 };

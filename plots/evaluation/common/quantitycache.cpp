@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-// Removals move figures to smaller indices; order stays, so one walk over both finds every one that is still good.
+// Removals move figures to smaller indices; the order stays, so one pass over both finds all that are still valid.
 void QuantityCache::alignTo(const Shots &shots)
 {
     std::size_t kept = 0;
@@ -21,7 +21,7 @@ void QuantityCache::alignTo(const Shots &shots)
 
 QuantityCache::Work QuantityCache::refresh(const Shots &shots, const MarkerIndices &markers)
 {
-    if (markers != m_markers) {
+    if (markers != m_markers) { // they divide the shot, so no figure is valid any more
         m_ids.clear();
         m_figures.clear();
         m_markers = markers;

@@ -4,19 +4,19 @@
 
 #include <vector>
 
-/// The figures of all shots of one sensor. Knows a shot by a number that stays with it while its samples are only
-/// appended to; so it keeps no samples and points at none.
+/// The figures of all shots of one sensor. Identifies a shot by a number that stays the same while samples are only
+/// appended to it, so that it needs neither copies of samples nor pointers to them.
 class QuantityCache
 {
 public:
     struct Shot
     {
-        quint64 id = 0; ///< differs from that of every other shot
+        quint64 id = 0; ///< unique
         const QVector<double> *samples = nullptr;
     };
     using Shots = std::vector<Shot>;
 
-    /// How many shots a refresh had to look at.
+    /// How many shots a refresh had to read.
     struct Work
     {
         int scanned = 0;  ///< from their first sample
@@ -24,10 +24,10 @@ public:
     };
 
     /// Brings the figures up to date. Shots may have been removed anywhere and appended at the end; another order of
-    /// those that stayed is right as well, but costs the work anew.
+    /// the others gives correct results, too, but all of them are computed again.
     Work refresh(const Shots &shots, const MarkerIndices &markers);
 
-    /// As of the last refresh, one for each shot.
+    /// As of the last refresh, one per shot.
     [[nodiscard]] const std::vector<ShotFigures> &figures() const { return m_figures; }
 
 private:

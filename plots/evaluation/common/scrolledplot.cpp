@@ -11,7 +11,7 @@
 namespace {
 
 constexpr int kWidestSample = 10; // pixels
-constexpr int kUsualCount = 200;  // samples that the time axis has room for while there are none
+constexpr int kUsualCount = 200;  // samples that fit into the width while there are none
 
 } // namespace
 
@@ -64,7 +64,7 @@ void ScrolledPlot::fitTimeAxis()
     m_scrollBar->setRange(0, hidden);
     m_scrollBar->setPageStep(std::max(1, count - hidden));
     m_scrollBar->setSingleStep(std::max(1, m_scrollBar->pageStep() / 10));
-    m_scrollBar->setVisible(hidden > 0);
+    m_scrollBar->setVisible(hidden > 0); // may resize the plot, but only in height
 }
 
 bool ScrolledPlot::eventFilter(QObject *watched, QEvent *event)

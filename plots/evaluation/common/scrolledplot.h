@@ -5,19 +5,20 @@
 class OsziWidget;
 class QScrollBar;
 
-/// A plot with a scroll bar for the time, as long as its curves are longer than it is wide, and with the mouse
-/// read-out.
+/// A plot with the mouse read-out and with a scroll bar for the time, which is visible while the curves are longer than
+/// the plot is wide.
 class ScrolledPlot : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// Takes the plot over as a child.
+    /// Makes the plot its child.
     explicit ScrolledPlot(OsziWidget *plot, QWidget *parent = nullptr);
 
-    /// Lets so many samples fill the width, within what can be told apart; 0: none yet.
+    /// Fits the time axis so that this number of samples fills the width, as far as single samples stay visible; 0:
+    /// there are no samples yet.
     void setLongest(int samples);
-    /// Does nothing if the range is the same already: every change draws all curves anew.
+    /// Does nothing if the range is the same already: every change draws all curves again.
     void setValueRange(double minimum, double maximum);
 
 protected:

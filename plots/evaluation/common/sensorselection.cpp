@@ -3,6 +3,7 @@
 #include "kit/small/coloredbutton.h"
 #include "model/model.h"
 #include "plots/evaluation/common/evaluationdata.h"
+#include "plots/evaluation/common/modelpage.h"
 
 #include <QButtonGroup>
 #include <QHBoxLayout>
@@ -10,10 +11,10 @@
 
 #include <algorithm>
 
-SensorSelection::SensorSelection(QWidget *parent)
-    : QWidget(parent)
+SensorSelection::SensorSelection(ModelPage *page)
+    : TranslatedWidget(page)
 {
-    // As high as the other buttons, with room for longer names than a button of its own.
+    // As high as the other buttons, but in a smaller font: names can be long.
     setStyleSheet(QStringLiteral("ColoredButton {font-size: 16px; min-height: 40px;}"));
     auto *group = new QButtonGroup(this);
     auto *layout = new QHBoxLayout(this);
@@ -29,7 +30,8 @@ SensorSelection::SensorSelection(QWidget *parent)
         m_buttons[static_cast<std::size_t>(sensor)] = button;
     }
     m_buttons[0]->setChecked(true);
-    showSensors(nullptr);
+    retranslateUi();
+    connect(page, &ModelPage::refreshing, this, &SensorSelection::onPage_refreshing);
     connect(group, &QButtonGroup::idToggled, this, &SensorSelection::onGroup_idToggled);
 }
 
@@ -46,17 +48,23 @@ void SensorSelection::setSensor(int sensor)
         m_buttons[static_cast<std::size_t>(sensor)]->setChecked(true);
 }
 
+void SensorSelection::onPage_refreshing(const Model *model)
+{
+    m_model = model;
+    retranslateUi();
+}
+
 // The button shortens a name that does not fit; the tool tip has all of it.
-void SensorSelection::showSensors(const Model *model)
+void SensorSelection::retranslateUi()
 {
     for (int sensor = 0; sensor < kNumSensors; ++sensor) {
         ColoredButton *button = m_buttons[static_cast<std::size_t>(sensor)];
-        const QString name = sensorNameOf(model, sensor);
+        const QString name = sensorNameOf(m_model, sensor);
         button->setText(QString(name).replace(QLatin1Char('&'), QLatin1String("&&"))); // no keyboard shortcut
         button->setToolTip(Qt::convertFromPlainText(name));
         button->setAccessibleName(name);
-        if (model)
-            button->setColor(model->color(sensor));
+        if (m_model)
+            button->setColor(m_model->color(sensor));
     }
 }
 

@@ -22,7 +22,7 @@ struct Quantity
     /// For a value at a marker the marker, 0 to 3; else 0 for the whole shot, or 1 to 5 for a phase.
     int part = kWholeShot;
 
-    /// A name that is good for a file: "marker2", "maximum", "mean.phase3".
+    /// A name to be stored in files: "marker2", "maximum", "mean.phase3".
     [[nodiscard]] QString key() const;
     /// None for a text that is no key.
     [[nodiscard]] static std::optional<Quantity> fromKey(const QString &key);
@@ -40,7 +40,7 @@ struct Quantity
 /// on; phase 5 goes from the last marker to the end of the shot. Together the phases are the shot.
 using MarkerIndices = std::array<int, Quantity::kNumMarkers>;
 
-/// What is known of the samples of a shot, without the sensor's offset: enough for every quantity.
+/// The figures of a shot's samples, without the sensor's offset, from which every quantity can be computed.
 struct ShotFigures
 {
     struct Part
@@ -52,15 +52,15 @@ struct ShotFigures
         int peakIndex = 0; ///< of the first of the largest samples
 
         void add(double value, int index);
-        /// Adds a part that lies behind this one.
+        /// Adds a part that follows this one in time.
         void add(const Part &next);
     };
 
-    int count = 0; ///< samples looked at
+    int count = 0; ///< samples that the figures cover
     std::array<Part, Quantity::kNumPhases> phases;
     std::array<std::optional<double>, Quantity::kNumMarkers> atMarker;
 
-    /// Looks at the samples that were appended since the last call. The markers must be the same as then.
+    /// Takes in the samples that were appended since the last call. The markers must be the same as then.
     void extend(const QVector<double> &samples, const MarkerIndices &markers);
     [[nodiscard]] Part whole() const;
 };
@@ -69,10 +69,10 @@ struct ShotFigures
 struct QuantityScale
 {
     double offset = 0.0; ///< is added to every sample
-    int clock = 100;     ///< milliseconds a sample
+    int clock = 100;     ///< milliseconds per sample
 };
 
-/// None if the shot has no sample in that part, or none at the marker. Times are seconds from the begin of the shot,
-/// an integral is in seconds times the sensor's unit: each sample counts for one clock.
+/// None if the shot has no sample in that part, or none at the marker. Times are seconds from the beginning of the
+/// shot, an integral is in seconds times the sensor's unit: each sample counts for one clock.
 [[nodiscard]] std::optional<double> valueOf(const Quantity &quantity, const ShotFigures &figures,
                                             const QuantityScale &scale);

@@ -1,23 +1,28 @@
 #include "plots/evaluation/common/shottable.h"
 
+#include <QEvent>
 #include <QHeaderView>
-#include <QTableView>
 
-QTableView *newShotTable(QWidget *parent, const QString &name, QAbstractItemModel *model)
+ShotTable::ShotTable(const QString &name, QWidget *parent)
+    : QTableView(parent)
 {
     constexpr int kRowHeight = 30; // pixels
-    auto *table = new QTableView(parent);
-    table->setObjectName(name);
-    table->setModel(model);
-    table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table->setSelectionMode(QAbstractItemView::SingleSelection);
-    table->setTabKeyNavigation(false);
-    table->setWordWrap(false);
-    table->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
-    table->verticalHeader()->hide();
-    table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    table->verticalHeader()->setDefaultSectionSize(kRowHeight);
-    table->horizontalHeader()->setHighlightSections(false);
-    return table;
+    setObjectName(name);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setTabKeyNavigation(false);
+    setWordWrap(false);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(kRowHeight);
+    horizontalHeader()->setHighlightSections(false);
+}
+
+void ShotTable::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslateUi();
+    QTableView::changeEvent(event);
 }

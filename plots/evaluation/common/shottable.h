@@ -1,11 +1,19 @@
 #pragma once
 
-#include <QString>
+#include <QTableView>
 
-class QAbstractItemModel;
-class QTableView;
-class QWidget;
+/// A table view with one row per shot. One row can be selected and no cell can be edited unless a derived class
+/// allows more.
+class ShotTable : public QTableView
+{
+    Q_OBJECT
 
-/// A table with a row a shot, of which one is chosen at a time and none is edited, both until it is told otherwise.
-/// Belongs to the parent.
-[[nodiscard]] QTableView *newShotTable(QWidget *parent, const QString &name, QAbstractItemModel *model);
+public:
+    explicit ShotTable(const QString &name, QWidget *parent = nullptr);
+
+protected:
+    /// Sets all texts. The constructor of the class that implements it has to call it once.
+    virtual void retranslateUi() = 0;
+
+    void changeEvent(QEvent *event) override;
+};

@@ -5,7 +5,8 @@
 
 #include <vector>
 
-/// What the tables with a row a shot have in common. Shots come and go at the end of their rows.
+/// What the tables with one row per shot have in common. Rows are inserted and removed at the end of the shots; those
+/// before are changed.
 class ShotTableModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -15,13 +16,13 @@ public:
 
     [[nodiscard]] virtual int numShots() const = 0;
     [[nodiscard]] int rowCount(const QModelIndex &parent = {}) const override;
-    /// Announces that all texts are in another language.
+    /// Announces that all texts have changed with the language.
     void retranslate();
 
 protected:
     /// "2026/03/09 06:00:01"; empty if it is not valid.
     [[nodiscard]] static QString timestampText(const QDateTime &timestamp);
-    /// Makes as many rows as there are to be, and announces it; those that stay are left as they are.
+    /// Resizes `rows` to the size of `wanted` and announces it. Rows that exist in both are not changed.
     template <typename Row>
     void resizeRows(std::vector<Row> &rows, const std::vector<Row> &wanted)
     {

@@ -19,9 +19,9 @@ constexpr int kRight = 16;
 constexpr int kTitleHeight = 24;
 constexpr int kBottom = 24;
 constexpr double kLargestPoint = 3.5;   // radius, pixels
-constexpr double kClosestPoints = 3.0;  // pixels between two points that are drawn as such
+constexpr double kClosestPoints = 3.0;  // pixels between two points; with less, only a band is drawn
 constexpr double kClosestMarks = 70.0;  // pixels between two labels below the plot
-constexpr double kClosestLevels = 34.0; // pixels between two labels beside it
+constexpr double kClosestLevels = 34.0; // pixels between two labels of the value axis
 
 QColor outsideColor()
 {
@@ -32,7 +32,7 @@ void drawLevels(QPainter &painter, const TrendGeometry &geometry)
 {
     const TrendTicks ticks = trendTicks(geometry.range, static_cast<int>(geometry.area.height() / kClosestLevels));
     for (const double value : ticks.values) {
-        const double y = std::round(geometry.y(value)) + 0.5;
+        const double y = std::round(geometry.y(value)) + 0.5; // the middle of a pixel gives a sharp line
         painter.setPen(theme::qColorLight);
         painter.drawLine(QPointF(geometry.area.left(), y), QPointF(geometry.area.right(), y));
         painter.setPen(theme::qColorDark);
@@ -54,7 +54,7 @@ void drawNumbers(QPainter &painter, const TrendGeometry &geometry)
         return;
     const TrendRange range{0.0, double(geometry.count - 1)};
     const int most = std::max(1, static_cast<int>(geometry.area.width() / kClosestMarks));
-    const TrendTicks ticks = trendTicks(range, std::min(most, geometry.count - 1));
+    const TrendTicks ticks = trendTicks(range, std::min(most, geometry.count - 1)); // steps of whole shots only
     for (const double shot : ticks.values)
         draw(static_cast<int>(std::lround(shot)));
 }
@@ -253,6 +253,7 @@ void TrendChart::paintEvent(QPaintEvent *event)
         drawLevels(painter, geometry);
     drawNumbers(painter, geometry);
     drawFrame(painter, geometry.area);
+    // With room for the points of the first and last shot, whose centres are on the frame.
     painter.setClipRect(geometry.area.adjusted(-5.0, -1.0, 5.0, 1.0));
     if (m_chosenShot >= 0 && m_chosenShot < geometry.count)
         drawChosen(painter, geometry, m_chosenShot);

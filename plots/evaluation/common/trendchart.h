@@ -5,7 +5,7 @@
 #include <QColor>
 #include <QWidget>
 
-/// One value a shot, over the shots: with its tolerance limits, its mean, and the points outside in red.
+/// One value per shot over the shots' numbers, with tolerance limits, mean, and the points outside in red.
 class TrendChart : public QWidget
 {
     Q_OBJECT
@@ -15,7 +15,7 @@ public:
 
     void set(const TrendValues &values, const ToleranceLimits &limits);
     void setColor(const QColor &color);
-    /// What the values are, with their unit; stands above the plot.
+    /// The name of the values with their unit, shown above the plot.
     void setTitle(const QString &title);
     /// The shot that is marked; none if there is no such shot.
     void setChosenShot(int shot);
@@ -26,7 +26,7 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 signals:
-    /// The user clicked near it.
+    /// The user clicked near a shot's point.
     void shotClicked(int shot);
 
 protected:

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr double kLargest = 1e300; // beyond it a span overflows
+constexpr double kLargest = 1e300; // beyond this the difference of two values overflows
 
 void include(std::optional<TrendRange> &range, double value)
 {
@@ -45,7 +45,7 @@ TrendRange trendRange(const TrendValues &values, const ToleranceLimits &limits)
         return {};
     const double span = range->maximum - range->minimum;
     const double middle = std::max(std::abs(range->minimum), std::abs(range->maximum));
-    // Below that a double has no room for different marks.
+    // With a smaller span neighbouring marks would be the same double.
     const double room = span > middle * 1e-12 ? span / 12.0 : std::max(0.5, middle / 20.0);
     return {range->minimum - room, range->maximum + room};
 }
@@ -58,6 +58,7 @@ TrendTicks trendTicks(TrendRange range, int most)
     TrendTicks ticks;
     ticks.step = niceStep(span / most);
     const double first = std::ceil(range.minimum / ticks.step);
+    // Multiples instead of repeated additions, which would let rounding errors grow.
     for (int i = 0; i <= most && (first + i) * ticks.step <= range.maximum; ++i)
         ticks.values.append((first + i) * ticks.step);
     return ticks;
@@ -68,6 +69,7 @@ QString tickText(double value, double step)
     if (!(step > 0.0) || std::abs(value) >= 1e6 || step < 1e-6)
         return localNumber(value, 'g', 6);
     const int decimals = std::max(0, static_cast<int>(std::ceil(-std::log10(step) - 1e-9)));
+    // Without the comparison a negative zero would become "-0".
     return localNumber(value == 0.0 ? 0.0 : value, 'f', decimals);
 }
 

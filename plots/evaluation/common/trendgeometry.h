@@ -8,7 +8,7 @@
 #include <optional>
 #include <vector>
 
-/// Values over shots; none where a shot has no value.
+/// One value per shot; std::nullopt where a shot has none.
 using TrendValues = std::vector<std::optional<double>>;
 
 struct TrendRange
@@ -31,7 +31,7 @@ struct TrendTicks
 /// The text of a mark, with as many decimals as the step needs.
 [[nodiscard]] QString tickText(double value, double step);
 
-/// Where values stand in a chart: shot 0 at the left edge, the last shot at the right one; a single shot in the middle.
+/// Where values are drawn in a chart: shot 0 at the left edge, the last shot at the right; a single shot in the middle.
 struct TrendGeometry
 {
     QRectF area;
@@ -46,7 +46,7 @@ struct TrendGeometry
     [[nodiscard]] int shotAt(double x) const;
 };
 
-/// What to draw of values that come closer together than pixels: of each pixel's column the smallest and largest one.
+/// What is drawn where several values share a column of pixels: the smallest and the largest one.
 struct TrendColumn
 {
     int first = 0; ///< shot whose value is the column's first

@@ -2,9 +2,7 @@
 
 #include "app/theme.h"
 #include "plots/common/localnumber.h"
-#include "plots/evaluation/dashboard/dashboardtile.h"
 
-#include <QEvent>
 #include <QPainter>
 
 namespace {
@@ -16,22 +14,11 @@ QString secondsText(const std::optional<double> &seconds)
     return seconds ? localNumber(*seconds, 'f', 1) + QStringLiteral(" s") : QStringLiteral("–");
 }
 
-QFont sized(const QFont &font, int pixels, bool bold)
-{
-    QFont result = font;
-    result.setPixelSize(pixels);
-    result.setBold(bold);
-    return result;
-}
-
 } // namespace
 
 CycleTile::CycleTile(QWidget *parent)
-    : QAbstractButton(parent)
+    : Tile(parent)
 {
-    setCursor(Qt::PointingHandCursor);
-    setFocusPolicy(Qt::StrongFocus);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     describe();
 }
 
@@ -49,51 +36,22 @@ void CycleTile::describe()
                   "Aufzeichnung"));
 }
 
-QSize CycleTile::sizeHint() const
-{
-    return {360, 280};
-}
-
-QSize CycleTile::minimumSizeHint() const
-{
-    return {280, 230};
-}
-
-void CycleTile::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange)
-        describe();
-    QAbstractButton::changeEvent(event);
-}
-
-void CycleTile::enterEvent(QEvent *event)
-{
-    QAbstractButton::enterEvent(event);
-    update();
-}
-
-void CycleTile::leaveEvent(QEvent *event)
-{
-    QAbstractButton::leaveEvent(event);
-    update();
-}
-
 void CycleTile::paintEvent(QPaintEvent *event)
 {
     Q_UNUSED(event)
     QPainter painter(this);
-    drawTileFrame(painter, *this, theme::qColorPrimary);
-    const QRect inside = tileContents(*this);
+    drawFrame(painter, theme::qColorPrimary);
+    const QRect inside = contents();
     const auto line = [&](int y, int height, const QString &text, Qt::Alignment alignment) {
         painter.drawText(QRect(inside.left(), inside.top() + y, inside.width(), height),
                          int(alignment | Qt::AlignVCenter) | Qt::TextSingleLine, text);
     };
     painter.setPen(theme::qColorText);
-    painter.setFont(sized(font(), 19, true));
+    painter.setFont(sizedFont(19, true));
     line(0, 26, tr("Zykluszeit"), Qt::AlignLeft);
-    painter.setFont(sized(font(), 40, true));
+    painter.setFont(sizedFont(40, true));
     line(50, 52, secondsText(m_content.latestCycle), Qt::AlignLeft);
-    painter.setFont(sized(font(), 16, false));
+    painter.setFont(sizedFont(16));
     painter.setPen(theme::qColorDark);
     line(26, 22, tr("Letzter Zyklus"), Qt::AlignLeft);
     const QString time = m_content.latestTimestamp.isValid()

@@ -1,12 +1,13 @@
 #pragma once
 
-#include <QAbstractButton>
+#include "plots/evaluation/dashboard/tile.h"
+
 #include <QDateTime>
 
 #include <optional>
 
-/// The tile of the dashboard that tells of the shots as such: how many there are and how long a cycle takes.
-class CycleTile : public QAbstractButton
+/// The tile of the dashboard that shows how many shots there are and how long a cycle takes.
+class CycleTile final : public Tile
 {
     Q_OBJECT
 
@@ -14,7 +15,7 @@ public:
     struct Content
     {
         int shots = 0;
-        std::optional<double> latestCycle; ///< seconds; none without a shot
+        std::optional<double> latestCycle; ///< seconds; std::nullopt without a shot
         std::optional<double> meanCycle;   ///< seconds
         int cyclesInMean = 0;
         QDateTime latestTimestamp; ///< of the newest shot; may be invalid
@@ -25,17 +26,10 @@ public:
     void set(const Content &content);
     [[nodiscard]] const Content &content() const { return m_content; }
 
-    [[nodiscard]] QSize sizeHint() const override;
-    [[nodiscard]] QSize minimumSizeHint() const override;
-
 protected:
-    void changeEvent(QEvent *event) override;
-    void enterEvent(QEvent *event) override;
-    void leaveEvent(QEvent *event) override;
+    void describe() override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void describe();
-
     Content m_content;
 };

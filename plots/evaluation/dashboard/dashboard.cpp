@@ -27,7 +27,7 @@ Dashboard::Dashboard(QWidget *parent)
     qCDebug(lcPlots) << Q_FUNC_INFO;
     auto *grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->setSpacing(0); // the tiles' shadows are room enough
+    grid->setSpacing(0); // the tiles' shadows already keep them apart
     for (int sensor = 0; sensor < kNumSensors; ++sensor) {
         auto *tile = new DashboardTile(this);
         tile->setObjectName(QStringLiteral("tile%1").arg(sensor));

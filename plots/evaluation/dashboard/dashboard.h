@@ -8,7 +8,7 @@
 class CycleTile;
 class DashboardTile;
 
-/// The first view of the evaluation: the newest shot at a glance. A tile a sensor, and one for the cycle time.
+/// The first page of the evaluation: the newest shot at a glance. One tile per sensor, and one for the cycle time.
 class Dashboard final : public EvaluationPage
 {
     Q_OBJECT

@@ -1,12 +1,9 @@
 #include "plots/evaluation/dashboard/dashboardtile.h"
 
 #include "app/theme.h"
-#include "kit/material/qtmaterialpaint.h"
-#include "kit/small/shadowframe.h"
 #include "plots/evaluation/common/evaluationdata.h"
 #include "plots/evaluation/common/trendchart.h"
 
-#include <QEvent>
 #include <QPainter>
 #include <QTextDocument>
 
@@ -14,9 +11,7 @@
 
 namespace {
 
-constexpr int kEdge = 8; // pixels
-constexpr int kPadding = 14;
-constexpr int kHeadHeight = 50;
+constexpr int kHeadHeight = 50; // pixels
 constexpr int kValueHeight = 52;
 constexpr int kCountHeight = 50; // of two lines
 constexpr int kShortCountHeight = 28;
@@ -44,14 +39,6 @@ BadgeColors badgeColors(CapabilityGrade grade)
     return {QColor(0xE4, 0xE4, 0xE4), theme::qColorDark};
 }
 
-QFont sized(const QFont &font, int pixels, bool bold = false)
-{
-    QFont result = font;
-    result.setPixelSize(pixels);
-    result.setBold(bold);
-    return result;
-}
-
 void drawLine(QPainter &painter, const QRect &area, const QString &text, Qt::Alignment alignment = Qt::AlignLeft)
 {
     painter.drawText(area, int(alignment | Qt::AlignVCenter) | Qt::TextSingleLine,
@@ -60,35 +47,9 @@ void drawLine(QPainter &painter, const QRect &area, const QString &text, Qt::Ali
 
 } // namespace
 
-void drawTileFrame(QPainter &painter, const QAbstractButton &tile, const QColor &edge)
-{
-    using Elevation = ShadowFrame::Elevation;
-    const QRect card = ShadowFrame::cardRect(tile.rect());
-    const bool isRaised = tile.underMouse() && !tile.isDown();
-    ShadowFrame::paintCard(painter, tile.rect(), isRaised ? Elevation::High : Elevation::Low,
-                           tile.isDown() ? theme::qColorLight : theme::qColorBackground);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(edge);
-    painter.setClipRect(QRect(card.topLeft(), QSize(kEdge, card.height())));
-    painter.drawRoundedRect(card, ShadowFrame::kRadius, ShadowFrame::kRadius);
-    painter.setClipping(false);
-    if (tile.hasFocus())
-        QtMaterialPaint::drawFocusRing(painter, card, ShadowFrame::kRadius, theme::qColorPrimary);
-}
-
-QRect tileContents(const QAbstractButton &tile)
-{
-    return ShadowFrame::cardRect(tile.rect()).adjusted(kEdge + kPadding, 10, -kPadding, -8);
-}
-
 DashboardTile::DashboardTile(QWidget *parent)
-    : QAbstractButton(parent)
-{
-    setCursor(Qt::PointingHandCursor);
-    setFocusPolicy(Qt::StrongFocus);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-}
+    : Tile(parent)
+{}
 
 void DashboardTile::set(const Content &content)
 {
@@ -121,9 +82,11 @@ QString DashboardTile::limitsText() const
     return limits.lower ? tr("ab %1").arg(figureText(*limits.lower)) : tr("bis %1").arg(figureText(*limits.upper));
 }
 
-// For those who cannot see the picture.
+// The tile is painted, so a screen reader needs its content as text.
 void DashboardTile::describe()
 {
+    if (m_content.sensor.isEmpty())
+        return; // nothing was set yet
     const QString latest = m_content.latest ? figureText(*m_content.latest) : QStringLiteral("–");
     setAccessibleName(
         tr("%1, %2: %3 %4, %5").arg(m_content.sensor, m_content.quantity, latest, m_content.unit, verdict()));
@@ -134,42 +97,13 @@ void DashboardTile::describe()
     setToolTip(Qt::convertFromPlainText(m_content.sensor + QLatin1Char('\n') + m_content.quantity));
 }
 
-QSize DashboardTile::sizeHint() const
-{
-    return {360, 280};
-}
-
-QSize DashboardTile::minimumSizeHint() const
-{
-    return {280, 230};
-}
-
-void DashboardTile::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::LanguageChange && !m_content.sensor.isEmpty())
-        describe();
-    QAbstractButton::changeEvent(event);
-}
-
-void DashboardTile::enterEvent(QEvent *event)
-{
-    QAbstractButton::enterEvent(event);
-    update();
-}
-
-void DashboardTile::leaveEvent(QEvent *event)
-{
-    QAbstractButton::leaveEvent(event);
-    update();
-}
-
 void DashboardTile::drawHead(QPainter &painter, const QRect &area) const
 {
     painter.setPen(theme::qColorText);
-    painter.setFont(sized(font(), 19, true));
+    painter.setFont(sizedFont(19, true));
     drawLine(painter, QRect(area.left(), area.top(), area.width(), 26), m_content.sensor);
     painter.setPen(theme::qColorDark);
-    painter.setFont(sized(font(), 16));
+    painter.setFont(sizedFont(16));
     drawLine(painter, QRect(area.left(), area.top() + 26, area.width(), 22), m_content.quantity);
 }
 
@@ -178,14 +112,15 @@ void DashboardTile::drawValue(QPainter &painter, const QRect &area) const
     const bool isOutside = m_content.latest && m_content.limits.isOutside(*m_content.latest);
     const QString text = m_content.latest ? figureText(*m_content.latest) : QStringLiteral("–");
     painter.setPen(isOutside ? badgeColors(CapabilityGrade::Poor).fill : theme::qColorText);
-    QFont font = sized(this->font(), 40, true);
+    QFont font = sizedFont(40, true);
+    // A long figure gets a smaller font: it must never be cut.
     while (font.pixelSize() > 20 && QFontMetrics(font).horizontalAdvance(text) > area.width() - 60)
         font.setPixelSize(font.pixelSize() - 2);
     painter.setFont(font);
     const int width = std::min(area.width(), painter.fontMetrics().horizontalAdvance(text));
     drawLine(painter, area, text);
     painter.setPen(theme::qColorDark);
-    painter.setFont(sized(this->font(), 18));
+    painter.setFont(sizedFont(18));
     drawLine(painter, area.adjusted(width + 8, 8, 0, 8), m_content.unit);
 }
 
@@ -198,7 +133,7 @@ void DashboardTile::drawBadge(QPainter &painter, const QRect &area) const
     painter.drawRoundedRect(area, 4.0, 4.0);
     const bool hasFigure = m_content.count >= kFewestShots && !m_content.limits.isEmpty();
     painter.setPen(colors.text);
-    painter.setFont(sized(font(), hasFigure ? 19 : 15, hasFigure));
+    painter.setFont(sizedFont(hasFigure ? 19 : 15, hasFigure));
     drawLine(painter, area.adjusted(4, 0, -4, 0), verdict(), Qt::AlignHCenter);
 }
 
@@ -214,13 +149,13 @@ void DashboardTile::drawSparkline(QPainter &painter, const QRect &area) const
     drawTrend(painter, geometry, m_content.lastShots, m_content.limits, m_content.color);
 }
 
-// How many shots are good, and below it what they are judged by.
+// The number of good shots, and below it the limits.
 void DashboardTile::drawCounts(QPainter &painter, const QRect &area) const
 {
     const QRect upper(area.left(), area.top() + 2, area.width(), 24);
     const QRect lower(area.left(), area.top() + 26, area.width(), 22);
     painter.setPen(theme::qColorText);
-    painter.setFont(sized(font(), 16));
+    painter.setFont(sizedFont(16));
     if (m_content.limits.isEmpty()) {
         drawLine(painter, upper, tr("Schüsse: %1").arg(m_content.count));
         return;
@@ -228,7 +163,7 @@ void DashboardTile::drawCounts(QPainter &painter, const QRect &area) const
     drawLine(painter, upper, tr("Gut: %1").arg(m_content.count - m_content.outside));
     painter.setPen(theme::qColorDark);
     drawLine(painter, lower, tr("Grenzen: %1").arg(limitsText()));
-    painter.setFont(sized(font(), 16, m_content.outside > 0));
+    painter.setFont(sizedFont(16, m_content.outside > 0));
     painter.setPen(m_content.outside > 0 ? badgeColors(CapabilityGrade::Poor).fill : theme::qColorDark);
     drawLine(painter, upper, tr("Außerhalb: %1").arg(m_content.outside), Qt::AlignRight);
 }
@@ -237,8 +172,8 @@ void DashboardTile::paintEvent(QPaintEvent *event)
 {
     Q_UNUSED(event)
     QPainter painter(this);
-    drawTileFrame(painter, *this, m_content.color);
-    const QRect inside = tileContents(*this);
+    drawFrame(painter, m_content.color);
+    const QRect inside = contents();
     const QRect value(inside.left(), inside.top() + kHeadHeight, inside.width() - kBadgeWidth - 8, kValueHeight);
     const QRect badge(inside.right() - kBadgeWidth, value.center().y() - kBadgeHeight / 2, kBadgeWidth, kBadgeHeight);
     const int sparklineTop = value.bottom() + 6;

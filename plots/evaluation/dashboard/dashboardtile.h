@@ -1,18 +1,17 @@
 #pragma once
 
 #include "plots/evaluation/common/trendgeometry.h"
+#include "plots/evaluation/dashboard/tile.h"
 
-#include <QAbstractButton>
 #include <QColor>
 
-/// A tile of the dashboard, and a button: what a sensor's newest shot gave, whether it keeps its limits, and how the
-/// last shots went.
-class DashboardTile : public QAbstractButton
+/// The tile of one sensor: the value of its newest shot, whether it keeps its limits, and the trend of the last shots.
+class DashboardTile final : public Tile
 {
     Q_OBJECT
 
 public:
-    /// Too few shots for a verdict show no colour.
+    /// With fewer shots than this there is no verdict and no colour.
     static constexpr int kFewestShots = 20;
     static constexpr int kSparklineShots = 50;
 
@@ -22,11 +21,11 @@ public:
         QString quantity;
         QString unit;
         QColor color;
-        std::optional<double> latest; ///< none if the newest shot lacks the quantity
+        std::optional<double> latest; ///< std::nullopt if the newest shot lacks the quantity
         ToleranceLimits limits;
         Capability capability;
         int count = 0;         ///< shots that have the quantity
-        int outside = 0;       ///< of them
+        int outside = 0;       ///< those outside the limits
         TrendValues lastShots; ///< up to kSparklineShots
     };
 
@@ -39,18 +38,12 @@ public:
     /// What the badge says: the Cpk, or why there is none.
     [[nodiscard]] QString verdict() const;
 
-    [[nodiscard]] QSize sizeHint() const override;
-    [[nodiscard]] QSize minimumSizeHint() const override;
-
 protected:
-    void changeEvent(QEvent *event) override;
-    void enterEvent(QEvent *event) override;
-    void leaveEvent(QEvent *event) override;
+    void describe() override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
     [[nodiscard]] QString limitsText() const;
-    void describe();
     void drawHead(QPainter &painter, const QRect &area) const;
     void drawValue(QPainter &painter, const QRect &area) const;
     void drawBadge(QPainter &painter, const QRect &area) const;
@@ -59,8 +52,3 @@ private:
 
     Content m_content;
 };
-
-/// The frame that all tiles of the dashboard have: a card with a coloured edge; it shows hovering, pressing and focus.
-void drawTileFrame(QPainter &painter, const QAbstractButton &tile, const QColor &edge);
-/// What the frame leaves for the contents.
-[[nodiscard]] QRect tileContents(const QAbstractButton &tile);

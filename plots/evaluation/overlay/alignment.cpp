@@ -44,7 +44,7 @@ double alignedLift(const QVector<double> &samples, const AlignmentRule &rule, in
 
 Deviation deviation(const AlignedCurve &curve, const AlignedCurve &reference, const Deviation &before)
 {
-    const qint64 ahead = qint64(reference.aligned) - curve.aligned; // what stands over sample i is sample i + ahead
+    const qint64 ahead = qint64(reference.aligned) - curve.aligned; // sample i is compared with sample i + ahead
     const qint64 first = std::max<qint64>({before.compared, -ahead, 0});
     const qint64 end = std::min<qint64>(curve.samples->size(), reference.samples->size() - ahead);
     if (end <= first)

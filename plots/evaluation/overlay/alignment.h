@@ -6,11 +6,17 @@
 
 /// What the shots of an overlay are lined up by.
 enum class AlignBy {
-    Start,   ///< their first samples stand over each other
-    Marker,  ///< their values at a marker: it stands at the same sample in every shot, so there every curve becomes 0
-    Rising,  ///< where they first come up to a threshold from below
-    Falling, ///< where they first come down to it from above
+    Start,   ///< their first samples are drawn at the same place
+    Marker,  ///< their values at a marker, which is at the same sample in every shot: there every curve becomes 0
+    Rising,  ///< where they first reach a threshold from below
+    Falling, ///< where they first reach it from above
 };
+
+/// True where the shots are lined up by a threshold that they cross.
+[[nodiscard]] inline bool usesThreshold(AlignBy by)
+{
+    return by == AlignBy::Rising || by == AlignBy::Falling;
+}
 
 struct AlignmentRule
 {
@@ -22,19 +28,19 @@ struct AlignmentRule
 
 [[nodiscard]] bool operator==(const AlignmentRule &a, const AlignmentRule &b);
 
-/// The first sample, from index `from` on, that has reached the threshold while the one before it lay strictly on the
+/// The first sample, from index `from` on, that has reached the threshold while the one before it was strictly on the
 /// other side; -1 if there is none. A signal that begins at the threshold or beyond has to leave it first.
 [[nodiscard]] int firstCrossing(const QVector<double> &samples, double offset, double threshold, bool rising,
                                 int from = 1);
 
-/// The sample that is put over those of the other shots; -1 for a shot that has none. Samples before `from` were
-/// searched without success.
+/// The sample that is drawn at the same place as those of the other shots; -1 for a shot that has none. Samples before
+/// `from` were searched without success.
 [[nodiscard]] int alignedSample(const QVector<double> &samples, const AlignmentRule &rule, int from = 1);
 
-/// What has to be added to the values of a shot with this aligned sample, beside the offset.
+/// What is added to the values of a shot with this aligned sample, in addition to the offset.
 [[nodiscard]] double alignedLift(const QVector<double> &samples, const AlignmentRule &rule, int aligned);
 
-/// A curve and the sample of it that stands over those of others.
+/// A curve and its sample that is drawn at the same place as those of the others.
 struct AlignedCurve
 {
     const QVector<double> *samples = nullptr;
@@ -49,5 +55,5 @@ struct Deviation
     int compared = 0;              ///< samples of the first curve before this one were looked at
 };
 
-/// Goes on where `before` ended: both curves may have grown since, and nothing else may have changed.
+/// Continues where `before` ended: both curves may have grown since, and nothing else may have changed.
 [[nodiscard]] Deviation deviation(const AlignedCurve &curve, const AlignedCurve &reference, const Deviation &before);

@@ -25,7 +25,7 @@ QIcon swatch(const QColor &color)
 
 QColor ColorDelegate::colorAt(int n)
 {
-    constexpr double kGoldenAngle = 137.508; // degrees; its multiples never come close to each other soon
+    constexpr double kGoldenAngle = 137.508; // degrees; successive multiples stay far apart
     const int number = std::max(n, 0);
     const int hue = int(210.0 + number * kGoldenAngle) % 360;
     const bool isGlaring = hue > 40 && hue < 190; // yellow to cyan
@@ -50,12 +50,13 @@ QWidget *ColorDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem
     const auto current = index.data(Qt::EditRole).value<QColor>();
     if (box->findData(current) < 0)
         box->addItem(swatch(current), QString(), current);
+    // One click chooses: without this the editor would stay open until it loses the focus.
     connect(box, qOverload<int>(&QComboBox::activated), this, [this, box] {
-        auto *self = const_cast<ColorDelegate *>(this);
+        auto *self = const_cast<ColorDelegate *>(this); // createEditor() is const, the signals are not
         emit self->commitData(box);
         emit self->closeEditor(box);
     });
-    QTimer::singleShot(0, box, &QComboBox::showPopup); // what is wanted is the list
+    QTimer::singleShot(0, box, &QComboBox::showPopup); // the user wants the list, not a closed box
     return box;
 }
 
@@ -71,7 +72,7 @@ void ColorDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, con
         model->setData(index, box->currentData().value<QColor>(), Qt::EditRole);
 }
 
-/// The cell is narrower than a list can be used.
+/// Wider than the cell, which has no room for a usable list.
 void ColorDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option, const QModelIndex &) const
 {
     QRect rect = option.rect;

@@ -11,8 +11,8 @@ class ColorDelegate : public QStyledItemDelegate
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
-    /// The colour of the n-th of many things: neighbours are easy to tell apart, and all stand out on white. A negative
-    /// n counts as 0.
+    /// The colour of the n-th of many things: neighbours are easy to tell apart, and all are visible on white. A
+    /// negative n counts as 0.
     [[nodiscard]] static QColor colorAt(int n);
     static constexpr int kNumChoices = 12;
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-/// Mean and squares are carried along sample by sample, which loses no digits where values are large and scatter
-/// little.
+// Mean and squares are updated sample by sample: the usual sum of squares would lose all digits where values are large
+// and scatter little.
 void MeanBand::add(const QVector<double> &samples, int from, int shift, double lift)
 {
     const int first = std::max(from, 0);

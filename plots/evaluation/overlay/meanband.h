@@ -21,7 +21,7 @@ public:
     };
 
     void clear() { m_points.clear(); }
-    /// Takes in the samples of a curve from `from` on. Its sample 0 stands at index `shift`, which is not negative;
+    /// Takes in the samples of a curve from `from` on. Its sample 0 is at index `shift`, which is not negative;
     /// `lift` is added to every value.
     void add(const QVector<double> &samples, int from, int shift, double lift);
 

@@ -17,7 +17,7 @@ constexpr int kReferenceAlpha = 110;
 constexpr int kMeanWidth = 2;
 constexpr int kBandAlpha = 70;
 
-/// Far outside, lines have to stay where the painter can still handle them.
+// Lines that leave the plot must stay within the coordinates that the painter can handle.
 QPoint pointAt(const PlotGeometry &geometry, qint64 index, double value)
 {
     constexpr int kFar = 10000;
@@ -26,7 +26,7 @@ QPoint pointAt(const PlotGeometry &geometry, qint64 index, double value)
 
 void paintBand(QPainter &painter, const QPolygon &upper, const QPolygon &lower)
 {
-    QPolygon band = upper;
+    QPolygon band = upper; // and back along the lower edge
     std::for_each(lower.crbegin(), lower.crend(), [&](const QPoint &point) { band.append(point); });
     QColor fill = theme::qColorPrimary;
     fill.setAlpha(kBandAlpha);
@@ -86,7 +86,7 @@ void OverlayPlot::paintReference(QPainter &painter, const PlotGeometry &geometry
     painter.drawPolyline(line);
 }
 
-/// In pieces: between shots that do not overlap there may be indices where none has a value.
+// In pieces: between shots that do not overlap there may be indices where none has a value.
 void OverlayPlot::paintMean(QPainter &painter, const PlotGeometry &geometry) const
 {
     if (!m_mean || (!m_showsMean && !(m_sigmas > 0.0)))
@@ -109,7 +109,8 @@ void OverlayPlot::paintMean(QPainter &painter, const PlotGeometry &geometry) con
         if (m_sigmas > 0.0)
             paintBand(painter, upper, lower);
         if (m_showsMean) {
-            painter.setPen(QPen(Qt::black, kMeanWidth, Qt::DashLine)); // what lies under it shows between
+            painter.setPen(
+                QPen(Qt::black, kMeanWidth, Qt::DashLine)); // curves below it stay visible between the dashes
             painter.drawPolyline(line);
         }
         for (; index < end && points[size_t(index)].count == 0; ++index) {

@@ -4,7 +4,7 @@
 #include "plots/oscilloscope/osziwidget.h"
 
 /// A plot that also shows what the curves of an overlay have in common: their mean, a band around it, and one curve
-/// that the others are compared to, wide and translucent.
+/// that the others are compared with, wide and translucent.
 class OverlayPlot : public OsziWidget
 {
     Q_OBJECT
@@ -14,16 +14,16 @@ public:
 
     struct Reference
     {
-        const SampleList *samples = nullptr; ///< not owned; null: there is none
-        int shift = 0;                       ///< index at which sample 0 stands
+        const SampleList *samples = nullptr; ///< not owned; nullptr: no reference
+        int shift = 0;                       ///< index of the time axis at which sample 0 is drawn
         double lift = 0.0;                   ///< added to its values
         QColor color;
     };
 
-    /// Not owned, and looked at whenever the plot is painted; the plot's offset is added to all of it. Has to be set
-    /// again when its samples or those of the mean have changed.
+    /// Not owned, and read whenever the plot is painted; the plot's offset is added to its values. Must be set again
+    /// when its samples or those of the mean have changed.
     void setReference(const Reference &reference);
-    /// nullptr for none; a band of `sigmas` times sigma to each side is drawn if that is more than 0.
+    /// nullptr: no mean. If `sigmas` is more than 0, a band of that many sigmas to each side is drawn.
     void setMean(const MeanBand *mean, bool showsMean, double sigmas);
     [[nodiscard]] const Reference &reference() const { return m_reference; }
     [[nodiscard]] bool showsMean() const { return m_mean && m_showsMean; }

@@ -34,12 +34,13 @@ void OverlayShots::refresh(const std::vector<Source> &sources, const AlignmentRu
     compareAll(reference);
 }
 
-/// Keeps the shots that are still there.
+// Keeps the shots that still exist.
 void OverlayShots::takeOver(const std::vector<Source> &sources)
 {
     const auto isSame = [](const auto &shot, const Source &source) { return shot->id == source.id; };
     if (std::equal(m_shots.begin(), m_shots.end(), sources.begin(), sources.end(), isSame))
         return;
+    // Moved and not copied: the plot points at them.
     std::unordered_map<quint64, std::unique_ptr<OverlayShot>> known;
     for (auto &shot : m_shots)
         known.emplace(shot->id, std::move(shot));
@@ -52,7 +53,7 @@ void OverlayShots::takeOver(const std::vector<Source> &sources)
     }
 }
 
-/// A list that is appended to while it is shared is copied as a whole each time: the growing one is not shared.
+// Appending to a list that is shared copies all of it every time; so the one that is growing is not shared.
 void OverlayShots::copySamples(OverlayShot &shot, const Source &source, bool mayGrow)
 {
     const bool hasGrown = source.samples->size() != shot.samples.size();
@@ -81,10 +82,10 @@ void OverlayShots::align(OverlayShot &shot)
 {
     if (shot.isPlaced())
         return;
-    if (m_rule.by == AlignBy::Rising || m_rule.by == AlignBy::Falling)
+    if (usesThreshold(m_rule.by))
         m_work += std::max(0, shot.samples.size() - shot.searched);
     shot.aligned = alignedSample(shot.samples, m_rule, shot.searched);
-    shot.searched = std::max(1, shot.samples.size());
+    shot.searched = std::max(1, shot.samples.size()); // a crossing needs the sample before
     shot.lift = alignedLift(shot.samples, m_rule, shot.aligned);
 }
 
@@ -131,6 +132,7 @@ const MeanBand &OverlayShots::meanOf(const std::vector<bool> &isDrawn)
     const auto isSame = [](const Averaged &a, const Averaged &b) {
         return a.id == b.id && a.shift == b.shift && !(a.lift < b.lift) && !(a.lift > b.lift);
     };
+    // While the same shots are drawn at the same places, only new samples are added to the mean.
     const bool goesOn = std::equal(wanted.begin(), wanted.end(), m_averaged.begin(), m_averaged.end(), isSame);
     if (!goesOn)
         m_mean.clear();

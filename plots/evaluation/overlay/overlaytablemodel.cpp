@@ -36,7 +36,8 @@ void OverlayTableModel::setRows(std::vector<OverlayRow> rows)
     const auto [last, newLast] = std::mismatch(m_rows.rbegin(), m_rows.rend(), rows.rbegin());
     const auto firstChanged = static_cast<int>(first - m_rows.begin());
     const auto lastChanged = static_cast<int>(m_rows.rend() - last) - 1;
-    // Announced cells lose what is being typed in them, and while a shot grows its deviation changes all the time.
+    // The text that the user is typing into a cell is lost when the cell is announced as changed, and while a shot
+    // grows its deviation changes all the time.
     const bool onlyDeviations = std::equal(first, m_rows.end(), newFirst, isSameButDeviation);
     m_rows = std::move(rows);
     emit dataChanged(index(firstChanged, onlyDeviations ? Deviation : 0), index(lastChanged, NumColumns - 1));
@@ -75,6 +76,7 @@ QVariant OverlayTableModel::sortKey(int shot, int column) const
     case Shown:
         return row.isShown;
     case Timestamp:
+        // A number, as comparing two local times is slow.
         return row.timestamp.isValid() ? row.timestamp.toMSecsSinceEpoch() : qint64(-1);
     case Label:
         return row.label.toCaseFolded();
@@ -130,7 +132,7 @@ QVariant OverlayTableModel::headerData(int section, Qt::Orientation orientation,
     if (orientation != Qt::Horizontal || (role != Qt::DisplayRole && role != Qt::ToolTipRole))
         return {};
     switch (section) {
-    case Color: // no room for a text over so small a cell
+    case Color: // the column is too narrow for a title
         return role == Qt::ToolTipRole ? tr("Farbe der Kurve") : QString();
     case Shown:
         return role == Qt::ToolTipRole ? tr("Kurve zeigen") : QString();

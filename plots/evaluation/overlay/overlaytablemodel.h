@@ -21,7 +21,8 @@ struct OverlayRow
 
 [[nodiscard]] bool operator==(const OverlayRow &a, const OverlayRow &b);
 
-/// The shots of an overlay. What the user changes in it is not kept here, but reported; the owner then sets the rows.
+/// The shots of an overlay, one per row. What the user edits is not stored here but reported; the owner then sets the
+/// rows.
 class OverlayTableModel : public ShotTableModel
 {
     Q_OBJECT

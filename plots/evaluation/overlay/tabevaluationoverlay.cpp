@@ -1,23 +1,16 @@
 #include "plots/evaluation/overlay/tabevaluationoverlay.h"
-#include "plots/evaluation/common/sensorselection.h"
 
 #include "model/model.h"
 #include "plots/common/logging.h"
-#include "plots/evaluation/overlay/colordelegate.h"
-#include "plots/evaluation/overlay/overlayplot.h"
+#include "plots/evaluation/common/sensorselection.h"
+#include "plots/evaluation/overlay/overlayoptions.h"
+#include "plots/evaluation/overlay/overlayshotlist.h"
+#include "plots/evaluation/overlay/overlaytable.h"
 #include "plots/evaluation/overlay/overlaytablemodel.h"
+#include "plots/evaluation/overlay/scrolledoverlay.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDoubleSpinBox>
-#include <QEvent>
-#include <QKeyEvent>
-#include <QLabel>
-#include <QPushButton>
-#include <QSet>
-#include <QSignalBlocker>
-#include <QSortFilterProxyModel>
-#include <QTableView>
+#include <QSplitter>
+#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -26,12 +19,46 @@ TabEvaluationOverlay::TabEvaluationOverlay(QWidget *parent)
 {
     qCDebug(lcPlots) << Q_FUNC_INFO;
     createLayout();
-    retranslateUi();
     connectWidgets();
-    onAlignmentChanged();
 }
 
-TabEvaluationOverlay::~TabEvaluationOverlay() = default;
+void TabEvaluationOverlay::createLayout()
+{
+    constexpr int kUsualTable = 572; // pixels that show all its columns
+    // The tab key follows the order in which the parts are created.
+    m_sensors = new SensorSelection(this);
+    m_options = new OverlayOptions(this);
+    m_table = new OverlayTable(this);
+    m_list = new OverlayShotList(m_table, this);
+    m_plot = new ScrolledOverlay(this);
+    auto *splitter = new QSplitter(Qt::Horizontal, this);
+    splitter->setChildrenCollapsible(false);
+    splitter->setHandleWidth(8);
+    splitter->addWidget(m_list);
+    splitter->addWidget(m_plot);
+    splitter->setStretchFactor(0, 0);
+    splitter->setStretchFactor(1, 1);
+    splitter->setSizes({kUsualTable, kUsualTable});
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(6, 6, 6, 6);
+    layout->addWidget(m_sensors);
+    layout->addWidget(m_options);
+    layout->addWidget(splitter, 1);
+}
+
+void TabEvaluationOverlay::connectWidgets()
+{
+    connect(m_sensors, &SensorSelection::sensorChanged, this, &TabEvaluationOverlay::onSensorButtonToggled);
+    connect(m_options, &OverlayOptions::alignmentChanged, this, &TabEvaluationOverlay::onOptions_alignmentChanged);
+    connect(m_options, &OverlayOptions::meanChanged, this, &TabEvaluationOverlay::onOptions_meanChanged);
+    connect(m_table, &OverlayTable::choiceChanged, this, &TabEvaluationOverlay::onTable_choiceChanged);
+    connect(m_table, &OverlayTable::toggleWanted, this, &TabEvaluationOverlay::onTable_toggleWanted);
+    connect(m_table, &OverlayTable::shownEdited, this, &TabEvaluationOverlay::onTable_shownEdited);
+    connect(m_table, &OverlayTable::colorEdited, this, &TabEvaluationOverlay::onTable_colorEdited);
+    connect(m_table, &OverlayTable::labelEdited, this, &TabEvaluationOverlay::onTable_labelEdited);
+    connect(m_list, &OverlayShotList::allWanted, this, &TabEvaluationOverlay::onList_allWanted);
+    connect(m_list, &OverlayShotList::referenceWanted, this, &TabEvaluationOverlay::onList_referenceWanted);
+}
 
 void TabEvaluationOverlay::setModel(Model *model)
 {
@@ -42,7 +69,6 @@ void TabEvaluationOverlay::setModel(Model *model)
     }
     follow(model);
     m_looks.clear();
-    m_reference = 0;
     forgetShots();
     update();
 }
@@ -52,9 +78,21 @@ int TabEvaluationOverlay::currentSensor() const
     return m_sensors->sensor();
 }
 
+int TabEvaluationOverlay::referenceShot() const
+{
+    return m_looks.reference();
+}
+
+void TabEvaluationOverlay::setReferenceShot(int shot)
+{
+    qCDebug(lcPlots) << Q_FUNC_INFO << "shot=" << shot;
+    m_looks.setReference(shot);
+    recompute();
+}
+
 // --- Following the model ---------------------------------------------------------------------------------------------
 
-// Nothing would free the samples of removed shots before the page is shown again.
+// Nothing else would free the samples of removed shots before the page is shown again.
 void TabEvaluationOverlay::structureChanged()
 {
     if (!isVisible())
@@ -65,17 +103,7 @@ void TabEvaluationOverlay::hideEvent(QHideEvent *event)
 {
     ModelPage::hideEvent(event);
     if (isOutOfDate())
-        forgetShots(); // some of them may be gone
-}
-
-bool TabEvaluationOverlay::eventFilter(QObject *watched, QEvent *event)
-{
-    if (watched == m_table && event->type() == QEvent::KeyPress
-        && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Space) {
-        toggleSelected();
-        return true;
-    }
-    return ModelPage::eventFilter(watched, event);
+        forgetShots(); // some of them may have been removed
 }
 
 void TabEvaluationOverlay::update()
@@ -90,7 +118,6 @@ void TabEvaluationOverlay::update()
 
 void TabEvaluationOverlay::refresh()
 {
-    m_sensors->showSensors(model());
     recompute();
 }
 
@@ -107,32 +134,12 @@ void TabEvaluationOverlay::recompute()
 
 void TabEvaluationOverlay::forgetShots()
 {
-    setSlots({});
-    m_plot->setReference({});
-    m_plot->setMean(nullptr, false, 0.0);
+    m_plot->forgetShots(); // first: it points at them
     m_shots.clear();
 }
 
-bool TabEvaluationOverlay::usesThreshold() const
-{
-    const auto by = static_cast<AlignBy>(m_comboAlignment->currentData().toPoint().x());
-    return by == AlignBy::Rising || by == AlignBy::Falling;
-}
-
-AlignmentRule TabEvaluationOverlay::rule() const
-{
-    const QPoint choice = m_comboAlignment->currentData().toPoint(); // kind and marker
-    AlignmentRule rule;
-    rule.by = static_cast<AlignBy>(choice.x());
-    rule.offset = model()->offset(m_currentSensor);
-    if (rule.by == AlignBy::Marker)
-        rule.marker = model()->verticalMarker(choice.y());
-    if (usesThreshold())
-        rule.threshold = m_thresholds[static_cast<size_t>(m_currentSensor)];
-    return rule;
-}
-
-/// What a shot is known by: the id of its measurement of the first sensor that has one.
+// The id of its measurement of the first sensor that has one, so that what the user chose for a shot is the same for
+// all sensors.
 quint64 TabEvaluationOverlay::keyOf(int shot) const
 {
     quint64 key = 0;
@@ -141,148 +148,106 @@ quint64 TabEvaluationOverlay::keyOf(int shot) const
     return key;
 }
 
-/// True if shots have gone, or others have come in their place.
-bool TabEvaluationOverlay::readKeys()
+OverlayLooks::Keys TabEvaluationOverlay::readKeys() const
 {
     int count = 0;
     for (int sensor = 0; sensor < kNumSensors; ++sensor)
         count = std::max(count, model()->numChannels(sensor));
-    std::vector<quint64> keys(static_cast<size_t>(count));
+    OverlayLooks::Keys keys(static_cast<size_t>(count));
     for (int shot = 0; shot < count; ++shot)
         keys[static_cast<size_t>(shot)] = keyOf(shot);
-    const bool hasMoved = std::mismatch(m_keys.begin(), m_keys.end(), keys.begin(), keys.end()).first != m_keys.end();
-    m_keys = std::move(keys);
-    return hasMoved;
-}
-
-void TabEvaluationOverlay::forgetRemovedLooks()
-{
-    QHash<quint64, Look> looks;
-    for (const quint64 key : m_keys) {
-        const auto look = m_looks.constFind(key);
-        if (look != m_looks.constEnd())
-            looks.insert(key, *look);
-    }
-    m_looks = looks;
-    if (std::find(m_keys.begin(), m_keys.end(), m_reference) == m_keys.end())
-        m_reference = 0;
+    return keys;
 }
 
 void TabEvaluationOverlay::refreshShots()
 {
-    const bool hasMoved = readKeys();
-    if (hasMoved)
-        forgetRemovedLooks();
+    const bool hasMoved = m_looks.setShots(readKeys());
     std::vector<OverlayShots::Source> sources(static_cast<size_t>(model()->numChannels(m_currentSensor)));
-    quint64 reference = 0;
     for (size_t i = 0; i < sources.size(); ++i) {
         const auto shot = static_cast<int>(i);
         sources[i] = {model()->measurementId(m_currentSensor, shot), model()->measurement(m_currentSensor, shot)};
-        if (m_keys[i] == m_reference)
-            reference = sources[i].id;
     }
-    m_shots.refresh(sources, rule(), reference);
-    if (!hasMoved)
-        return;
-    m_table->clearSelection(); // its rows are of other shots now
-    m_table->setCurrentIndex({});
+    const int reference = m_looks.reference();
+    const bool hasReference = reference >= 0 && static_cast<size_t>(reference) < sources.size();
+    m_shots.refresh(sources, m_options->rule(*model()), hasReference ? sources[static_cast<size_t>(reference)].id : 0);
+    if (hasMoved)
+        m_table->forgetSelection(); // its rows are of other shots now
 }
 
-int TabEvaluationOverlay::referenceShot() const
+int TabEvaluationOverlay::currentShot() const
 {
-    const auto found = std::find(m_keys.begin(), m_keys.end(), m_reference);
-    return m_reference == 0 || found == m_keys.end() ? -1 : static_cast<int>(found - m_keys.begin());
+    const int shot = m_table->currentShot();
+    return shot < numShots() ? shot : -1; // the table may not have its new rows yet
 }
 
-void TabEvaluationOverlay::setReferenceShot(int shot)
-{
-    qCDebug(lcPlots) << Q_FUNC_INFO << "shot=" << shot;
-    const bool exists = shot >= 0 && static_cast<size_t>(shot) < m_keys.size();
-    m_reference = exists ? m_keys[static_cast<size_t>(shot)] : 0;
-    recompute();
-}
-
-TabEvaluationOverlay::Look TabEvaluationOverlay::lookOf(int shot) const
-{
-    return m_looks.value(m_keys[static_cast<size_t>(shot)]);
-}
-
-QColor TabEvaluationOverlay::colorOf(int shot) const
-{
-    const QColor chosen = lookOf(shot).color;
-    return chosen.isValid() ? chosen : ColorDelegate::colorAt(shot);
-}
-
-// --- The table -------------------------------------------------------------------------------------------------------
+// --- What is shown ---------------------------------------------------------------------------------------------------
 
 void TabEvaluationOverlay::showRows()
 {
     std::vector<OverlayRow> rows(m_shots.shots().size());
-    const int reference = referenceShot();
+    const int reference = m_looks.reference();
     for (size_t i = 0; i < rows.size(); ++i) {
         const auto shot = static_cast<int>(i);
-        rows[i].color = colorOf(shot);
-        rows[i].isShown = !lookOf(shot).isHidden;
+        rows[i].color = m_looks.color(shot);
+        rows[i].isShown = !m_looks.isHidden(shot);
         rows[i].isReference = shot == reference;
         rows[i].timestamp = model()->timestamp(shot);
         rows[i].label = model()->shotLabel(shot);
         rows[i].deviation = m_shots.shots()[i]->apart.largest;
     }
-    m_tableModel->setRows(std::move(rows));
+    m_table->setRows(std::move(rows));
     showStatus();
 }
 
-/// How many shots are drawn, and why the others are not.
 void TabEvaluationOverlay::showStatus()
 {
-    int shown = 0;
-    int unplaced = 0;
-    for (size_t i = 0; i < m_shots.shots().size(); ++i) {
-        if (lookOf(static_cast<int>(i)).isHidden)
-            continue;
-        ++(m_shots.shots()[i]->isPlaced() ? shown : unplaced);
+    OverlayShotList::Status status;
+    status.by = m_options->alignedBy();
+    status.count = numShots();
+    for (int shot = 0; shot < status.count; ++shot) {
+        if (!m_looks.isHidden(shot))
+            ++(m_shots.shots()[static_cast<size_t>(shot)]->isPlaced() ? status.shown : status.unplaced);
     }
-    const auto count = static_cast<int>(m_shots.shots().size());
-    QString text = count == 0 ? tr("Noch keine Messungen") : tr("%1 von %2 gezeigt").arg(shown).arg(count);
-    if (unplaced > 0)
-        text += QStringLiteral(", ") + unplacedText(unplaced);
-    m_status->setText(text);
     const int current = currentShot();
-    m_buttonReference->setEnabled(current >= 0);
-    m_buttonReference->setText(current >= 0 && current == referenceShot() ? tr("&Referenz aufheben")
-                                                                          : tr("Als &Referenz"));
-    m_buttonAll->setEnabled(count > 0);
-    m_buttonNone->setEnabled(count > 0);
+    status.hasCurrent = current >= 0;
+    status.isReferenceCurrent = current >= 0 && current == m_looks.reference();
+    m_list->showStatus(status);
 }
 
-QString TabEvaluationOverlay::unplacedText(int count) const
+void TabEvaluationOverlay::showPlot()
 {
-    if (usesThreshold())
-        return tr("%1 ohne Durchgang").arg(count);
-    const auto by = static_cast<AlignBy>(m_comboAlignment->currentData().toPoint().x());
-    return (by == AlignBy::Start ? tr("%1 leer") : tr("%1 zu kurz")).arg(count);
+    OverlayScene scene;
+    scene.rule = m_options->rule(*model());
+    scene.clock = model()->clock();
+    scene.selected = m_table->selectedShots(numShots());
+    scene.current = currentShot();
+    scene.showsMean = m_options->showsMean();
+    scene.sigmas = m_options->sigmas();
+    m_plot->showShots(m_shots, m_looks, scene);
 }
 
-int TabEvaluationOverlay::currentShot() const
+// --- What the user does ----------------------------------------------------------------------------------------------
+
+void TabEvaluationOverlay::onSensorButtonToggled()
 {
-    const int shot = m_sorted->mapToSource(m_table->currentIndex()).row();
-    return shot < static_cast<int>(m_shots.shots().size()) ? shot : -1;
+    m_currentSensor = currentSensor();
+    qCDebug(lcPlots) << Q_FUNC_INFO << "currentSensor=" << m_currentSensor;
+    m_options->setSensor(m_currentSensor);
+    recompute();
 }
 
-std::vector<bool> TabEvaluationOverlay::selectedShots() const
+void TabEvaluationOverlay::onOptions_alignmentChanged()
 {
-    std::vector<bool> selected(m_shots.shots().size());
-    for (const QItemSelectionRange &range : m_table->selectionModel()->selection()) {
-        for (int row = range.top(); row <= range.bottom(); ++row) {
-            const int shot = m_sorted->mapToSource(m_sorted->index(row, 0)).row();
-            if (shot >= 0 && static_cast<size_t>(shot) < selected.size())
-                selected[static_cast<size_t>(shot)] = true;
-        }
-    }
-    return selected;
+    recompute();
 }
 
-void TabEvaluationOverlay::onSelectionChanged()
+void TabEvaluationOverlay::onOptions_meanChanged()
+{
+    if (model())
+        showPlot();
+}
+
+void TabEvaluationOverlay::onTable_choiceChanged()
 {
     qCDebug(lcPlots) << Q_FUNC_INFO;
     if (!model())
@@ -294,14 +259,14 @@ void TabEvaluationOverlay::onSelectionChanged()
 void TabEvaluationOverlay::onTable_shownEdited(int shot, bool shown)
 {
     qCDebug(lcPlots) << Q_FUNC_INFO << "shot=" << shot << "shown=" << shown;
-    m_looks[m_keys[static_cast<size_t>(shot)]].isHidden = !shown;
+    m_looks.setHidden(shot, !shown);
     recompute();
 }
 
 void TabEvaluationOverlay::onTable_colorEdited(int shot, const QColor &color)
 {
     qCDebug(lcPlots) << Q_FUNC_INFO << "shot=" << shot << "color=" << color;
-    m_looks[m_keys[static_cast<size_t>(shot)]].color = color;
+    m_looks.setColor(shot, color);
     recompute();
 }
 
@@ -315,82 +280,33 @@ void TabEvaluationOverlay::onTable_labelEdited(int shot, const QString &label)
     recompute();
 }
 
-/// The chosen rows become what the current one was not.
-void TabEvaluationOverlay::toggleSelected()
+// All selected rows get the opposite of what the current one was.
+void TabEvaluationOverlay::onTable_toggleWanted()
 {
     const int current = currentShot();
     if (current < 0)
         return;
-    const bool hides = !lookOf(current).isHidden;
-    std::vector<bool> selected = selectedShots();
+    const bool hides = !m_looks.isHidden(current);
+    std::vector<bool> selected = m_table->selectedShots(numShots());
     selected[static_cast<size_t>(current)] = true;
     for (size_t i = 0; i < selected.size(); ++i) {
         if (selected[i])
-            m_looks[m_keys[i]].isHidden = hides;
+            m_looks.setHidden(static_cast<int>(i), hides);
     }
     recompute();
 }
 
-void TabEvaluationOverlay::setAllShown(bool shown)
+void TabEvaluationOverlay::onList_allWanted(bool shown)
 {
-    for (size_t i = 0; i < m_shots.shots().size(); ++i)
-        m_looks[m_keys[i]].isHidden = !shown;
+    qCDebug(lcPlots) << Q_FUNC_INFO << shown;
+    for (int shot = 0; shot < numShots(); ++shot)
+        m_looks.setHidden(shot, !shown);
     recompute();
 }
 
-void TabEvaluationOverlay::onButtonAll_clicked()
-{
-    qCDebug(lcPlots) << Q_FUNC_INFO;
-    setAllShown(true);
-}
-
-void TabEvaluationOverlay::onButtonNone_clicked()
-{
-    qCDebug(lcPlots) << Q_FUNC_INFO;
-    setAllShown(false);
-}
-
-void TabEvaluationOverlay::onButtonReference_clicked()
+void TabEvaluationOverlay::onList_referenceWanted()
 {
     qCDebug(lcPlots) << Q_FUNC_INFO;
     const int shot = currentShot();
     setReferenceShot(shot == referenceShot() ? -1 : shot);
-}
-
-// --- Options ---------------------------------------------------------------------------------------------------------
-
-void TabEvaluationOverlay::onSensorButtonToggled()
-{
-    m_currentSensor = currentSensor();
-    qCDebug(lcPlots) << Q_FUNC_INFO << "currentSensor=" << m_currentSensor;
-    showThreshold();
-    recompute();
-}
-
-void TabEvaluationOverlay::onAlignmentChanged()
-{
-    qCDebug(lcPlots) << Q_FUNC_INFO << m_comboAlignment->currentText();
-    m_spinBoxThreshold->setEnabled(usesThreshold());
-    recompute();
-}
-
-void TabEvaluationOverlay::onThresholdChanged()
-{
-    qCDebug(lcPlots) << Q_FUNC_INFO << m_spinBoxThreshold->value();
-    m_thresholds[static_cast<size_t>(m_currentSensor)] = m_spinBoxThreshold->value();
-    recompute();
-}
-
-void TabEvaluationOverlay::onMeanChanged()
-{
-    qCDebug(lcPlots) << Q_FUNC_INFO;
-    m_spinBoxSigmas->setEnabled(m_checkBand->isChecked());
-    if (model())
-        showPlot();
-}
-
-void TabEvaluationOverlay::showThreshold()
-{
-    const QSignalBlocker blocker(m_spinBoxThreshold);
-    m_spinBoxThreshold->setValue(m_thresholds[static_cast<size_t>(m_currentSensor)]);
 }

@@ -47,6 +47,19 @@ ShotRuntime extendedRuntime(const ShotRuntime &before, const QVector<double> &sa
     return result;
 }
 
+RuntimeSummary runtimeSummary(const std::vector<ShotRuntime> &results)
+{
+    RuntimeSummary summary;
+    for (const ShotRuntime &result : results) {
+        summary.starts.append(result.startTime());
+        if (result.hasDuration())
+            summary.durations.append(result.duration());
+        summary.stops.append(result.stopTime());
+        summary.longestTime = std::max(summary.longestTime, result.totalTime());
+    }
+    return summary;
+}
+
 // A shared buffer is never written to, so equal addresses mean equal samples.
 bool RuntimeCache::isKnown(size_t shot, const QVector<double> &samples) const
 {
@@ -55,8 +68,8 @@ bool RuntimeCache::isKnown(size_t shot, const QVector<double> &samples) const
            && m_results[shot].count == samples.size();
 }
 
-// Removals move results to smaller indices; order stays, so one walk over both finds every result that is still good.
-// A result that is not found here is looked for no more and computed anew.
+// Removals move results to smaller indices; the order stays, so one pass over both finds every result that is still
+// valid. A result that is not found here is dropped and computed again.
 void RuntimeCache::alignTo(const Shots &shots)
 {
     size_t kept = 0;

@@ -1,8 +1,16 @@
 #pragma once
 
+#include <QList>
 #include <QVector>
 
 #include <vector>
+
+/// The thresholds of one sensor, in its unit.
+struct RuntimeThresholds
+{
+    double start = 0.0;
+    double stop = 0.0;
+};
 
 /// What a shot is measured against. Values are compared after the offset was added.
 struct RuntimeCriteria
@@ -16,10 +24,10 @@ struct RuntimeCriteria
 
 /// The first sample, from index `from` on, that lies strictly below the threshold; -1 if there is none.
 [[nodiscard]] int firstBelow(const QVector<double> &samples, double offset, double threshold, int from = 0);
-/// The last sample that does so, not looked for before index `from`; -1 if there is none.
+/// The last such sample, searched down to index `from`; -1 if there is none.
 [[nodiscard]] int lastBelow(const QVector<double> &samples, double offset, double threshold, int from = 0);
 
-/// Start and stop of one shot. Ten samples are taken for a second.
+/// Start and stop of one shot. Ten samples count as one second, whatever the sampling period is.
 struct ShotRuntime
 {
     static constexpr int kSamplesPerSecond = 10;
@@ -41,19 +49,30 @@ struct ShotRuntime
 [[nodiscard]] bool operator==(const ShotRuntime &a, const ShotRuntime &b);
 
 [[nodiscard]] ShotRuntime shotRuntime(const QVector<double> &samples, const RuntimeCriteria &criteria);
-/// The result for a list that has only grown at its end since `before`: looks at the new samples alone.
+/// The result for a list to which samples were only appended since `before`: reads only the new ones.
 [[nodiscard]] ShotRuntime extendedRuntime(const ShotRuntime &before, const QVector<double> &samples,
                                           const RuntimeCriteria &criteria);
 
-/// The results of all shots of one sensor. Keeps a shared copy of every list but the last, which tells for certain
-/// whether a list is still the same one, even if it was removed and its memory used again; a list that is appended to
-/// while shared is copied once.
+/// The figures of all shots that the box plots show, in seconds.
+struct RuntimeSummary
+{
+    QList<double> starts;
+    QList<double> durations; ///< only of shots whose start and stop differ
+    QList<double> stops;
+    double longestTime = 0.0; ///< total time of the longest shot
+};
+
+[[nodiscard]] RuntimeSummary runtimeSummary(const std::vector<ShotRuntime> &results);
+
+/// The results of all shots of one sensor. Keeps a shared copy of every list but the last: that tells for certain
+/// whether a list is still the same one, even if it was removed and its memory reused. A list that is appended to
+/// while it is shared is copied once.
 class RuntimeCache
 {
 public:
     using Shots = std::vector<const QVector<double> *>;
 
-    /// How many shots a refresh had to look at.
+    /// How many shots a refresh had to read.
     struct Work
     {
         int scanned = 0;  ///< from their first sample
@@ -62,10 +81,10 @@ public:
 
     /// Brings the results up to date. `revision` must differ from the last call's if a list was added or removed since.
     Work refresh(const Shots &shots, const RuntimeCriteria &criteria, quint64 revision);
-    /// Forgets what belongs to lists that are gone, so that their memory is freed; computes nothing.
+    /// Forgets the results and copies of removed lists, so that their memory is freed; computes nothing.
     void releaseRemoved(const Shots &shots);
 
-    /// As of the last refresh, one for each shot.
+    /// As of the last refresh, one per shot.
     [[nodiscard]] const std::vector<ShotRuntime> &results() const { return m_results; }
 
 private:

@@ -1,7 +1,6 @@
 #include "plots/evaluation/runtime/runtimetablemodel.h"
 
 #include "app/theme.h"
-#include "plots/common/localnumber.h"
 
 #include <algorithm>
 
@@ -25,9 +24,10 @@ std::optional<double> numberIn(const RuntimeRow &row, int column)
     }
 }
 
+// With a decimal point in every language, unlike the other pages: this table's format is fixed.
 QString figure(double value)
 {
-    return localNumber(value, 'g', 6);
+    return QString::number(value, 'g', 6);
 }
 
 std::optional<statistics::Moments> momentsOf(const std::vector<RuntimeRow> &rows, int column)
@@ -61,7 +61,7 @@ void RuntimeTableModel::setRows(const std::vector<RuntimeRow> &rows)
         return;
     const auto changedFrom = static_cast<int>(std::distance(m_rows.begin(), first));
     std::copy(newFirst, rows.end(), first);
-    computeSummary();
+    computeSummary(); // before the announcement, which includes the two last rows
     emit dataChanged(index(changedFrom, 0), index(rowCount() - 1, NumColumns - 1));
 }
 

@@ -18,7 +18,7 @@ struct RuntimeRow
 
 [[nodiscard]] bool operator==(const RuntimeRow &a, const RuntimeRow &b);
 
-/// The shots' runtimes, and behind them a row of means and a row of sigmas of the columns with numbers.
+/// The shots' runtimes, one per row, followed by a row of means and a row of sigmas of the columns with numbers.
 class RuntimeTableModel : public ShotTableModel
 {
     Q_OBJECT

@@ -1,17 +1,16 @@
 #include "plots/evaluation/runtime/tabevaluationruntime.h"
-#include "plots/evaluation/common/sensorselection.h"
 
 #include "model/model.h"
-#include "plots/charts/boxwhiskerswidget.h"
 #include "plots/common/logging.h"
-#include "plots/evaluation/runtime/runtimetablemodel.h"
-#include "plots/oscilloscope/osziwidget.h"
+#include "plots/evaluation/common/sensorselection.h"
+#include "plots/evaluation/runtime/runtimeboxplots.h"
+#include "plots/evaluation/runtime/runtimeplot.h"
+#include "plots/evaluation/runtime/runtimetable.h"
+#include "plots/evaluation/runtime/thresholdfields.h"
 
-#include <QDoubleSpinBox>
-#include <QSignalBlocker>
-#include <QTableView>
+#include <QModelIndex>
+#include <QVBoxLayout>
 
-#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -21,32 +20,6 @@ bool isSensor(int sensor)
     return sensor >= 0 && sensor < kNumSensors;
 }
 
-std::optional<qint64> pauseBetween(const QDateTime &from, const QDateTime &to)
-{
-    return from.isValid() && to.isValid() ? std::optional(from.secsTo(to)) : std::nullopt;
-}
-
-// Time stamps seldom change, and taking the difference of two local times is slow.
-bool hasTimestamps(const std::vector<RuntimeRow> &rows, size_t first, const QDateTime &from, const QDateTime &to)
-{
-    return first + 1 < rows.size() && rows[first].timestamp == from && rows[first + 1].timestamp == to;
-}
-
-std::vector<RuntimeRow> rowsOf(const Model &model, const std::vector<ShotRuntime> &results,
-                               const std::vector<RuntimeRow> &before)
-{
-    std::vector<RuntimeRow> rows;
-    rows.reserve(results.size());
-    for (const ShotRuntime &result : results)
-        rows.push_back({result, model.timestamp(static_cast<int>(rows.size())), std::nullopt});
-    for (size_t i = 0; i + 1 < rows.size(); ++i) {
-        const QDateTime &from = rows[i].timestamp;
-        const QDateTime &to = rows[i + 1].timestamp;
-        rows[i].pause = hasTimestamps(before, i, from, to) ? before[i].pause : pauseBetween(from, to);
-    }
-    return rows;
-}
-
 } // namespace
 
 TabEvaluationRuntime::TabEvaluationRuntime(QWidget *parent)
@@ -54,11 +27,40 @@ TabEvaluationRuntime::TabEvaluationRuntime(QWidget *parent)
 {
     qCDebug(lcPlots) << Q_FUNC_INFO;
     createLayout();
-    retranslateUi();
     connectWidgets();
 }
 
-TabEvaluationRuntime::~TabEvaluationRuntime() = default;
+void TabEvaluationRuntime::createLayout()
+{
+    // The tab key follows the order in which the parts are created.
+    m_sensors = new SensorSelection(this);
+    m_table = new RuntimeTable(this);
+    m_plot = new RuntimePlot(this);
+    m_thresholdFields = new ThresholdFields(this);
+    m_boxPlots = new RuntimeBoxPlots(this);
+    auto *right = new QVBoxLayout;
+    right->setSpacing(0);
+    right->addWidget(m_thresholdFields);
+    right->addWidget(m_boxPlots);
+    right->addStretch();
+    auto *middle = new QHBoxLayout;
+    middle->addWidget(m_table, 3);
+    middle->addLayout(right, 1);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(6, 6, 6, 6);
+    layout->addWidget(m_sensors);
+    layout->addLayout(middle, 1);
+    layout->addWidget(m_plot, 1);
+}
+
+void TabEvaluationRuntime::connectWidgets()
+{
+    connect(m_sensors, &SensorSelection::sensorChanged, this, &TabEvaluationRuntime::onSensorButtonToggled);
+    connect(m_thresholdFields, &ThresholdFields::edited, this, &TabEvaluationRuntime::onStartStopSpinBoxChanged);
+    connect(m_table->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &TabEvaluationRuntime::onCurrentRowChanged);
+    connect(m_table, &QTableView::clicked, this, &TabEvaluationRuntime::onTable_clicked);
+}
 
 void TabEvaluationRuntime::setModel(Model *model)
 {
@@ -69,7 +71,7 @@ void TabEvaluationRuntime::setModel(Model *model)
     }
     follow(model);
     m_caches.fill(RuntimeCache());
-    m_shown.sensor = -1;
+    m_plot->forgetShot();
     m_chosenShot = -1;
     update();
 }
@@ -104,35 +106,28 @@ void TabEvaluationRuntime::setThresholds(int sensor, double start, double stop)
                                          << " stop=" << stop;
     if (!isSensor(sensor) || !std::isfinite(start) || !std::isfinite(stop))
         return;
-    const auto bounded = [this](double value) {
-        return std::clamp(value, m_spinBoxStartValue->minimum(), m_spinBoxStartValue->maximum());
-    };
-    m_thresholds[static_cast<size_t>(sensor)] = {bounded(start), bounded(stop)};
+    // Bounded here, too, as other sensors' thresholds are not in the fields.
+    m_thresholds[static_cast<size_t>(sensor)] = ThresholdFields::bounded({start, stop});
     if (sensor != m_currentSensor)
         return;
-    showThresholds();
+    m_thresholdFields->setThresholds(currentThresholds());
     if (model())
         scheduleRefresh();
 }
 
 RuntimeCriteria TabEvaluationRuntime::criteria() const
 {
-    const Thresholds &thresholds = m_thresholds[static_cast<size_t>(m_currentSensor)];
+    const RuntimeThresholds &thresholds = m_thresholds[static_cast<size_t>(m_currentSensor)];
     return {model() ? model()->offset(m_currentSensor) : 0.0, thresholds.start, thresholds.stop};
 }
 
 // --- Following the model ---------------------------------------------------------------------------------------------
 
+// Also while the page is hidden: the caches would keep the samples of removed shots in memory.
 void TabEvaluationRuntime::structureChanged()
 {
     for (int sensor = 0; sensor < kNumSensors; ++sensor)
         m_caches[static_cast<size_t>(sensor)].releaseRemoved(shotsOf(sensor));
-}
-
-void TabEvaluationRuntime::showEvent(QShowEvent *event)
-{
-    fitColumns(); // a page that was never shown has not been given its fonts before
-    ModelPage::showEvent(event);
 }
 
 void TabEvaluationRuntime::update()
@@ -145,17 +140,11 @@ void TabEvaluationRuntime::update()
 
 void TabEvaluationRuntime::refresh()
 {
-    m_sensors->showSensors(model());
-    recompute();
-}
-
-void TabEvaluationRuntime::recompute()
-{
     updateTable();
     updateOszi();
 }
 
-// --- Table and summaries ---------------------------------------------------------------------------------------------
+// --- Table, box plots and plot ---------------------------------------------------------------------------------------
 
 RuntimeCache::Shots TabEvaluationRuntime::shotsOf(int sensor) const
 {
@@ -175,40 +164,29 @@ void TabEvaluationRuntime::updateTable()
     const RuntimeCache::Work work = cache.refresh(shotsOf(m_currentSensor), criteria(), model()->structureRevision());
     qCDebug(lcPlots).noquote().nospace() << Q_FUNC_INFO << " shots=" << cache.results().size()
                                          << " scanned=" << work.scanned << " extended=" << work.extended;
-    m_tableModel->setRows(rowsOf(*model(), cache.results(), m_tableModel->rows()));
-    fitColumns();
-    showSummaries(cache.results());
-    if (m_chosenShot >= m_tableModel->numShots())
-        followNewestShot();
-}
-
-void TabEvaluationRuntime::followNewestShot()
-{
-    m_chosenShot = -1;
-    m_table->clearSelection();
-    m_table->setCurrentIndex(QModelIndex());
-}
-
-void TabEvaluationRuntime::showSummaries(const std::vector<ShotRuntime> &results)
-{
-    QList<double> starts;
-    QList<double> durations;
-    QList<double> stops;
-    double longest = 0.0;
-    m_longestCount = 0;
-    for (const ShotRuntime &result : results) {
-        starts.append(result.startTime());
-        if (result.hasDuration())
-            durations.append(result.duration());
-        stops.append(result.stopTime());
-        longest = std::max(longest, result.totalTime());
-        m_longestCount = std::max(m_longestCount, result.count);
+    m_table->showResults(*model(), cache.results());
+    m_boxPlots->set(runtimeSummary(cache.results()));
+    if (m_chosenShot >= m_table->numShots()) { // the chosen shot was removed
+        m_chosenShot = -1;
+        m_table->forgetChoice();
     }
-    for (BoxWhiskersWidget *summary : m_summaries)
-        summary->setAxisRange(0.0, longest);
-    m_summaries[0]->set(starts);
-    m_summaries[1]->set(durations);
-    m_summaries[2]->set(stops);
+}
+
+int TabEvaluationRuntime::shownShot() const
+{
+    if (!model())
+        return -1;
+    const int count = model()->numChannels(m_currentSensor);
+    return m_chosenShot >= 0 && m_chosenShot < count ? m_chosenShot : count - 1;
+}
+
+void TabEvaluationRuntime::updateOszi()
+{
+    qCDebug(lcPlots) << Q_FUNC_INFO;
+    if (!hasModel(Q_FUNC_INFO))
+        return;
+    m_plot->showShot(*model(), m_currentSensor, shownShot(), criteria(),
+                     m_caches[static_cast<size_t>(m_currentSensor)].results());
 }
 
 // --- What the user does ----------------------------------------------------------------------------------------------
@@ -253,26 +231,17 @@ void TabEvaluationRuntime::onSensorButtonToggled()
     logThresholds(Q_FUNC_INFO, "*", m_currentSensor);
     if (!isOther)
         return;
-    showThresholds();
+    m_thresholdFields->setThresholds(currentThresholds());
     if (hasModel(Q_FUNC_INFO))
-        recompute();
+        refresh();
 }
 
 void TabEvaluationRuntime::onStartStopSpinBoxChanged()
 {
-    const Thresholds thresholds{m_spinBoxStartValue->value(), m_spinBoxStopValue->value()};
+    const RuntimeThresholds thresholds = m_thresholdFields->thresholds();
     qCDebug(lcPlots).noquote().nospace() << Q_FUNC_INFO << " start=" << thresholds.start << " stop=" << thresholds.stop;
-    m_thresholds[static_cast<size_t>(m_currentSensor)] = thresholds;
+    currentThresholds() = thresholds;
     if (hasModel(Q_FUNC_INFO))
-        recompute();
+        refresh();
     emit thresholdsChanged();
-}
-
-void TabEvaluationRuntime::showThresholds()
-{
-    const QSignalBlocker startBlocker(m_spinBoxStartValue);
-    const QSignalBlocker stopBlocker(m_spinBoxStopValue);
-    const Thresholds &thresholds = m_thresholds[static_cast<size_t>(m_currentSensor)];
-    m_spinBoxStartValue->setValue(thresholds.start);
-    m_spinBoxStopValue->setValue(thresholds.stop);
 }

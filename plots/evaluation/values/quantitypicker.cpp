@@ -82,7 +82,7 @@ void QuantityPicker::setShown(const QVector<Quantity> &shown)
     for (int i = 0; i < m_boxes.size(); ++i) {
         const bool isShown = shown.contains(Quantity::all().at(i));
         m_boxes[i]->setChecked(isShown);
-        m_boxes[i]->setEnabled(!isShown || shown.size() > 1);
+        m_boxes[i]->setEnabled(!isShown || shown.size() > 1); // the table needs at least one column
     }
 }
 
@@ -135,7 +135,7 @@ void QuantityPicker::retranslateUi()
         QLabel *title = m_columnTitles[static_cast<std::size_t>(phase)];
         const QString given = m_phaseNames.value(phase - 1).simplified();
         const QString name = given.isEmpty() ? tr("Phase %1").arg(phase) : given;
-        title->setTextFormat(Qt::PlainText);
+        title->setTextFormat(Qt::PlainText); // the name is the user's
         title->setText(title->fontMetrics().elidedText(name, Qt::ElideRight, kColumnWidth));
         title->setToolTip(Qt::convertFromPlainText(name));
     }

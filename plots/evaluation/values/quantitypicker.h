@@ -9,7 +9,8 @@
 class QCheckBox;
 class QLabel;
 
-/// A panel of check boxes, one a quantity: figures down, parts of the shot across. Meant to pop up below a button.
+/// A panel of check boxes, one per quantity: a row for each kind of figure, a column for each part of the shot. Meant
+/// to pop up below a button.
 class QuantityPicker : public QFrame
 {
     Q_OBJECT
@@ -17,7 +18,7 @@ class QuantityPicker : public QFrame
 public:
     explicit QuantityPicker(QWidget *parent = nullptr);
 
-    /// Checks these and no others. The last one that is checked cannot be taken away.
+    /// Checks these and no others. A single checked box cannot be unchecked.
     void setShown(const QVector<Quantity> &shown);
     void setPhaseNames(const QStringList &names);
     /// Pops up below the widget, moved so that it stays on its screen.

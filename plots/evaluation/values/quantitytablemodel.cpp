@@ -49,7 +49,7 @@ int QuantityTableModel::firstDifference(const Content &other) const
     std::size_t row = commonPart(m_content.timestamps, other.timestamps);
     for (std::size_t i = 0; i < m_content.columns.size(); ++i) {
         if (!(m_content.columns[i].limits == other.columns[i].limits))
-            return 0;
+            return 0; // any cell may have another colour
         row = std::min(row, commonPart(m_content.columns[i].values, other.columns[i].values));
     }
     return static_cast<int>(row);
@@ -75,7 +75,7 @@ void QuantityTableModel::resizeTo(const Content &content)
 
 void QuantityTableModel::setContent(Content content)
 {
-    if (!haveSameColumns(m_content, content)) {
+    if (!haveSameColumns(m_content, content)) { // inserting and removing columns is not worth its code
         beginResetModel();
         m_content = std::move(content);
         endResetModel();

@@ -6,7 +6,7 @@
 
 #include <vector>
 
-/// The quantities of one sensor's shots: number and time stamp of each shot, and a column a quantity.
+/// The quantities of one sensor's shots: number and time stamp of each shot, and one column per quantity.
 class QuantityTableModel : public ShotTableModel
 {
     Q_OBJECT
@@ -19,11 +19,11 @@ public:
         Quantity quantity;
         QString title; ///< may have two lines
         ToleranceLimits limits;
-        std::vector<std::optional<double>> values; ///< one a shot
+        std::vector<std::optional<double>> values; ///< one per shot
     };
     struct Content
     {
-        std::vector<QDateTime> timestamps; ///< one a shot; may be invalid
+        std::vector<QDateTime> timestamps; ///< one per shot; may be invalid
         std::vector<QuantityColumn> columns;
     };
 

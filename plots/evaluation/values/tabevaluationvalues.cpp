@@ -1,54 +1,19 @@
 #include "plots/evaluation/values/tabevaluationvalues.h"
-#include "plots/evaluation/common/sensorselection.h"
 
-#include "app/theme.h"
-#include "plots/charts/normalboxwidget.h"
-#include "plots/charts/normaldistributionwidget.h"
-#include "plots/charts/statistics.h"
 #include "plots/common/logging.h"
 #include "plots/evaluation/common/evaluationdata.h"
-#include "plots/evaluation/common/limitfield.h"
+#include "plots/evaluation/common/sensorselection.h"
 #include "plots/evaluation/common/trendchart.h"
-#include "plots/evaluation/values/quantitypicker.h"
-#include "plots/evaluation/values/quantitytablemodel.h"
+#include "plots/evaluation/values/distributionpanel.h"
+#include "plots/evaluation/values/limitspanel.h"
+#include "plots/evaluation/values/quantitychoice.h"
+#include "plots/evaluation/values/valuestable.h"
 
-#include <QComboBox>
-#include <QHeaderView>
-#include <QLabel>
-#include <QLayout>
-#include <QPushButton>
-#include <QScopedValueRollback>
-#include <QTableView>
-
-#include <algorithm>
+#include <QVBoxLayout>
 
 namespace {
 
-// Where a limit that is switched on for the first time begins.
-constexpr double kSuggestedSigmas = 4.0;
-constexpr int kTimeWidth = 180; // pixels of a time stamp
-
-QString gradeSheet(CapabilityGrade grade)
-{
-    static const QHash<int, QString> colors{{int(CapabilityGrade::Good), QStringLiteral("#2E7D32")},
-                                            {int(CapabilityGrade::Fair), QStringLiteral("#8A6D00")},
-                                            {int(CapabilityGrade::Poor), QStringLiteral("#B3261E")}};
-    return QStringLiteral("QLabel {font-weight: bold; color: %1;}").arg(colors.value(int(grade), theme::colorDark));
-}
-
-// To as many digits as figures have.
-double rounded(double value)
-{
-    return QString::number(value, 'g', 6).toDouble();
-}
-
-// Mixed with white, so that black lines stand out.
-QColor paled(const QColor &color)
-{
-    constexpr double kWhite = 0.55;
-    const auto mix = [](double part) { return part + (1.0 - part) * kWhite; };
-    return QColor::fromRgbF(mix(color.redF()), mix(color.greenF()), mix(color.blueF()));
-}
+constexpr int kWidestRightSide = 560; // pixels
 
 QString withUnit(const QString &text, const QString &unit, const QString &pattern)
 {
@@ -75,6 +40,48 @@ TabEvaluationValues::TabEvaluationValues(QWidget *parent)
     connectWidgets();
 }
 
+void TabEvaluationValues::createLayout()
+{
+    // The tab key follows the order in which the parts are created.
+    m_sensors = new SensorSelection(this);
+    m_table = new ValuesTable(this);
+    m_chart = new TrendChart(this);
+    m_chart->setObjectName(QStringLiteral("trendChart"));
+    auto *left = new QVBoxLayout;
+    left->addWidget(m_table, 1);
+    left->addWidget(m_chart, 1);
+    auto *rightSide = new QWidget(this);
+    rightSide->setMaximumWidth(kWidestRightSide);
+    m_choice = new QuantityChoice(rightSide);
+    m_limits = new LimitsPanel(rightSide);
+    m_distribution = new DistributionPanel(rightSide);
+    auto *right = new QVBoxLayout(rightSide);
+    right->setContentsMargins(0, 0, 0, 0);
+    right->setSpacing(4);
+    right->addWidget(m_choice);
+    right->addWidget(m_limits);
+    right->addWidget(m_distribution, 1);
+    auto *middle = new QHBoxLayout;
+    middle->setSpacing(12);
+    middle->addLayout(left, 3);
+    middle->addWidget(rightSide, 2);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(6, 6, 6, 6);
+    layout->addWidget(m_sensors);
+    layout->addLayout(middle, 1);
+}
+
+void TabEvaluationValues::connectWidgets()
+{
+    connect(m_sensors, &SensorSelection::sensorChanged, this, &TabEvaluationValues::onSensors_sensorChanged);
+    connect(m_table, &ValuesTable::shotChosen, this, &TabEvaluationValues::onTable_shotChosen);
+    connect(m_table, &ValuesTable::quantityChosen, this, &TabEvaluationValues::onQuantity_chosen);
+    connect(m_choice, &QuantityChoice::chosen, this, &TabEvaluationValues::onQuantity_chosen);
+    connect(m_choice, &QuantityChoice::toggled, this, &TabEvaluationValues::onChoice_toggled);
+    connect(m_chart, &TrendChart::shotClicked, this, &TabEvaluationValues::onChart_shotClicked);
+    connect(m_limits, &LimitsPanel::edited, this, &TabEvaluationValues::onLimits_edited);
+}
+
 void TabEvaluationValues::setCurrentSensor(int sensor)
 {
     qCDebug(lcPlots) << Q_FUNC_INFO << sensor;
@@ -83,7 +90,7 @@ void TabEvaluationValues::setCurrentSensor(int sensor)
 
 int TabEvaluationValues::chosenShot() const
 {
-    return m_table->currentIndex().row();
+    return m_table->chosenShot();
 }
 
 // --- What the user does ------------------------------------------------------------------------------------------
@@ -96,35 +103,22 @@ void TabEvaluationValues::onSensors_sensorChanged(int sensor)
         refreshNow();
 }
 
-void TabEvaluationValues::onTable_currentChanged(const QModelIndex &current)
+void TabEvaluationValues::onTable_shotChosen(int shot)
 {
-    m_chart->setChosenShot(current.row());
-    if (!m_refreshing && current.column() >= QuantityTableModel::FirstQuantity)
-        choose(m_shown.value(current.column() - QuantityTableModel::FirstQuantity));
+    m_chart->setChosenShot(shot);
 }
 
-void TabEvaluationValues::onHeader_sectionClicked(int section)
-{
-    qCDebug(lcPlots) << Q_FUNC_INFO << section;
-    if (section >= QuantityTableModel::FirstQuantity)
-        choose(m_shown.value(section - QuantityTableModel::FirstQuantity));
-}
-
-void TabEvaluationValues::onQuantityBox_activated(int index)
+void TabEvaluationValues::onQuantity_chosen(int index)
 {
     qCDebug(lcPlots) << Q_FUNC_INFO << index;
-    if (index >= 0 && index < m_shown.size())
-        choose(m_shown.at(index));
-}
-
-void TabEvaluationValues::onButtonQuantities_clicked()
-{
-    qCDebug(lcPlots) << Q_FUNC_INFO;
-    m_picker->popUpBelow(m_buttonQuantities);
+    if (!data() || index < 0 || index >= m_shown.size() || data()->chosenQuantity(m_sensor) == m_shown.at(index))
+        return;
+    data()->choose(m_sensor, m_shown.at(index));
+    refreshNow();
 }
 
 // A column that is added is meant to be looked at.
-void TabEvaluationValues::onPicker_toggled(const Quantity &quantity, bool shown)
+void TabEvaluationValues::onChoice_toggled(const Quantity &quantity, bool shown)
 {
     qCDebug(lcPlots) << Q_FUNC_INFO << quantity.key() << shown;
     if (!data())
@@ -138,9 +132,7 @@ void TabEvaluationValues::onPicker_toggled(const Quantity &quantity, bool shown)
 void TabEvaluationValues::onChart_shotClicked(int shot)
 {
     qCDebug(lcPlots) << Q_FUNC_INFO << shot;
-    const int column = QuantityTableModel::FirstQuantity + m_tableModel->chosenColumn();
-    m_table->setCurrentIndex(m_tableModel->index(shot, column));
-    m_table->scrollTo(m_table->currentIndex());
+    m_table->chooseShot(shot);
 }
 
 void TabEvaluationValues::onLimits_edited()
@@ -148,15 +140,7 @@ void TabEvaluationValues::onLimits_edited()
     qCDebug(lcPlots) << Q_FUNC_INFO;
     if (!data())
         return;
-    data()->setLimits(m_sensor, data()->chosenQuantity(m_sensor), {m_lowerLimit->limit(), m_upperLimit->limit()});
-    refreshNow();
-}
-
-void TabEvaluationValues::choose(const Quantity &quantity)
-{
-    if (!data() || data()->chosenQuantity(m_sensor) == quantity)
-        return;
-    data()->choose(m_sensor, quantity);
+    data()->setLimits(m_sensor, data()->chosenQuantity(m_sensor), m_limits->limits());
     refreshNow();
 }
 
@@ -164,15 +148,10 @@ void TabEvaluationValues::choose(const Quantity &quantity)
 
 void TabEvaluationValues::refresh()
 {
-    const QScopedValueRollback<bool> refreshing(m_refreshing, true);
-    m_sensors->showSensors(model());
     m_shown = data()->shownQuantities(m_sensor);
     showTable();
     showChoice();
-    showLimits();
-    const QuantitySeries series = data()->series(m_sensor, data()->chosenQuantity(m_sensor));
-    showSeries(series);
-    showCapability(series);
+    showSeries(data()->series(m_sensor, data()->chosenQuantity(m_sensor)));
 }
 
 void TabEvaluationValues::showTable()
@@ -184,26 +163,7 @@ void TabEvaluationValues::showTable()
         content.columns.push_back({quantity, withUnit(data()->quantityName(quantity), unit, tr("%1 [%2]")),
                                    data()->limits(m_sensor, quantity), data()->series(m_sensor, quantity).shots});
     }
-    const int shot = chosenShot();
-    const int column = m_shown.indexOf(data()->chosenQuantity(m_sensor));
-    m_tableModel->setContent(std::move(content));
-    m_tableModel->setChosenColumn(column);
-    fitColumns();
-    if (chosenShot() < 0 && shot >= 0) // with other columns the table has forgotten it
-        m_table->setCurrentIndex(m_tableModel->index(shot, QuantityTableModel::FirstQuantity + column));
-    m_chart->setChosenShot(chosenShot());
-}
-
-// Few columns share the width; many are as wide as they need to be.
-void TabEvaluationValues::fitColumns()
-{
-    QHeaderView *header = m_table->horizontalHeader();
-    int needed = 0;
-    for (int column = 0; column < header->count(); ++column)
-        needed += std::max(header->sectionSizeHint(column), column == QuantityTableModel::Timestamp ? kTimeWidth : 0);
-    const bool fits = needed <= m_table->viewport()->width();
-    for (int column = QuantityTableModel::FirstQuantity; column < header->count(); ++column)
-        header->setSectionResizeMode(column, fits ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
+    m_table->setContent(std::move(content), m_shown.indexOf(data()->chosenQuantity(m_sensor)));
 }
 
 void TabEvaluationValues::showChoice()
@@ -211,91 +171,34 @@ void TabEvaluationValues::showChoice()
     QStringList names;
     for (const Quantity &quantity : qAsConst(m_shown))
         names.append(data()->quantityName(quantity));
-    QStringList listed;
-    for (int i = 0; i < m_quantityBox->count(); ++i)
-        listed.append(m_quantityBox->itemText(i));
-    if (names != listed) {
-        m_quantityBox->clear();
-        m_quantityBox->addItems(names);
-    }
-    m_quantityBox->setCurrentIndex(m_shown.indexOf(data()->chosenQuantity(m_sensor)));
-    m_quantityBox->setToolTip(m_quantityBox->currentText());
     QStringList phases;
     for (int phase = 0; phase < Quantity::kNumPhases; ++phase)
         phases.append(data()->model()->phaseName(phase));
-    m_picker->setPhaseNames(phases);
-    m_picker->setShown(m_shown);
-}
-
-void TabEvaluationValues::showLimits()
-{
-    const Quantity quantity = data()->chosenQuantity(m_sensor);
-    const ToleranceLimits limits = data()->limits(m_sensor, quantity);
-    const QString unit = data()->quantityUnit(m_sensor, quantity);
-    for (LimitField *field : {m_lowerLimit, m_upperLimit})
-        field->setUnit(unit);
-    m_lowerLimit->setLimit(limits.lower);
-    m_upperLimit->setLimit(limits.upper);
+    m_choice->setPhaseNames(phases);
+    m_choice->setQuantities(m_shown, names, m_shown.indexOf(data()->chosenQuantity(m_sensor)));
 }
 
 void TabEvaluationValues::showSeries(const QuantitySeries &series)
 {
     const Quantity quantity = data()->chosenQuantity(m_sensor);
+    const ToleranceLimits limits = data()->limits(m_sensor, quantity);
     const QString unit = data()->quantityUnit(m_sensor, quantity);
     const QColor color = data()->model()->color(m_sensor);
-    const QList<double> values(series.values.begin(), series.values.end());
     m_chart->setColor(color);
     m_chart->setTitle(withUnit(data()->quantityName(quantity), unit, tr("%1 [%2]")));
-    m_chart->set(series.shots, data()->limits(m_sensor, quantity));
-    m_box->setFillColor(paled(color));
-    m_box->setUnit(unit);
-    m_box->set(values);
-    m_bell->setCurveColor(color);
-    m_bell->set(values);
-    const statistics::Moments moments = statistics::moments(series.values);
-    m_lowerLimit->setSuggestion(rounded(moments.mean - kSuggestedSigmas * moments.sigma));
-    m_upperLimit->setSuggestion(rounded(moments.mean + kSuggestedSigmas * moments.sigma));
-}
-
-void TabEvaluationValues::showCapability(const QuantitySeries &series)
-{
-    const ToleranceLimits limits = data()->limits(m_sensor, data()->chosenQuantity(m_sensor));
-    const Capability figures = capability(series.values, limits);
-    m_cp->setText(tr("Cp %1").arg(capabilityText(figures.cp)));
-    m_cpk->setText(tr("Cpk %1").arg(capabilityText(figures.cpk)));
-    m_cpk->setStyleSheet(gradeSheet(gradeOf(figures)));
-    const int outside = countOutside(series.values, limits);
-    if (limits.isInverted())
-        m_outside->setText(limits.lower == limits.upper ? tr("Grenzen sind gleich!")
-                                                        : tr("Untere Grenze über oberer!"));
-    else if (limits.isEmpty())
-        m_outside->setText(tr("Keine Grenzen"));
-    else
-        m_outside->setText(tr("Außerhalb: %1 von %2").arg(outside).arg(series.values.size()));
-    m_outside->setStyleSheet(
-        gradeSheet(outside > 0 || limits.isInverted() ? CapabilityGrade::Poor : CapabilityGrade::Unknown));
+    m_chart->set(series.shots, limits);
+    m_limits->set(series.values, limits, unit);
+    m_distribution->set(series.values, unit, color);
 }
 
 void TabEvaluationValues::resizeEvent(QResizeEvent *event)
 {
     EvaluationPage::resizeEvent(event);
-    layout()->activate(); // the widgets have their new widths
-    fitColumns();
+    layout()->activate(); // the table has its new width from here on
+    m_table->fitColumns();
 }
 
 void TabEvaluationValues::retranslateUi()
 {
-    m_labelQuantity->setText(tr("Größe"));
-    m_quantityBox->setAccessibleName(tr("Dargestellte Größe"));
-    m_buttonQuantities->setText(tr("&Spalten..."));
-    m_buttonQuantities->setToolTip(tr("Größen der Tabelle wählen"));
-    m_lowerLimit->setTitle(tr("&Untere Grenze"));
-    m_upperLimit->setTitle(tr("&Obere Grenze"));
-    m_table->setAccessibleName(tr("Werte der Schüsse"));
     m_chart->setAccessibleName(tr("Verlauf über die Schüsse"));
-    m_bell->setAccessibleName(tr("Normalverteilung"));
-    const QString sigma = tr("Mit der Standardabweichung der Grundgesamtheit (geteilt durch n)");
-    m_cp->setToolTip(tr("(Obere - untere Grenze) / 6 Sigma. %1").arg(sigma));
-    m_cpk->setToolTip(tr("Abstand des Mittelwerts von der näheren Grenze / 3 Sigma. %1").arg(sigma));
-    m_sensors->showSensors(model());
 }

@@ -1,24 +1,14 @@
 #pragma once
 
-#include "model/sensordescription.h"
 #include "plots/evaluation/common/evaluationpage.h"
 #include "plots/evaluation/common/shotquantity.h"
 
-#include <array>
-
-class LimitField;
-class NormalBoxWidget;
-class NormalDistributionWidget;
-class QComboBox;
-class QLabel;
-class QLayout;
-class QModelIndex;
-class QPushButton;
-class QTableView;
-class QuantityPicker;
-class QuantityTableModel;
+class DistributionPanel;
+class LimitsPanel;
+class QuantityChoice;
 class SensorSelection;
 class TrendChart;
+class ValuesTable;
 struct QuantitySeries;
 
 /// The evaluation page of the values: quantities of one sensor's shots in a table, and the chosen one of them as a
@@ -43,47 +33,26 @@ protected:
 
 private slots:
     void onSensors_sensorChanged(int sensor);
-    void onTable_currentChanged(const QModelIndex &current);
-    void onHeader_sectionClicked(int section);
-    void onQuantityBox_activated(int index);
-    void onPicker_toggled(const Quantity &quantity, bool shown);
-    void onButtonQuantities_clicked();
+    void onTable_shotChosen(int shot);
+    void onQuantity_chosen(int index);
+    void onChoice_toggled(const Quantity &quantity, bool shown);
     void onChart_shotClicked(int shot);
     void onLimits_edited();
 
 private:
     void createLayout();
-    [[nodiscard]] QLayout *createChoice();
-    [[nodiscard]] QLayout *createLimits();
-    [[nodiscard]] QLayout *createLeftSide();
-    [[nodiscard]] QLayout *createRightSide();
-    void createTable();
     void connectWidgets();
 
-    void choose(const Quantity &quantity);
     void showTable();
-    void fitColumns();
     void showChoice();
-    void showLimits();
     void showSeries(const QuantitySeries &series);
-    void showCapability(const QuantitySeries &series);
 
     int m_sensor = 0;
-    bool m_refreshing = false;
     QVector<Quantity> m_shown; // as the table and the list show them
     SensorSelection *m_sensors = nullptr;
-    QTableView *m_table = nullptr;
-    QuantityTableModel *m_tableModel = nullptr;
-    QLabel *m_labelQuantity = nullptr;
-    QComboBox *m_quantityBox = nullptr;
-    QPushButton *m_buttonQuantities = nullptr;
-    QuantityPicker *m_picker = nullptr;
-    LimitField *m_lowerLimit = nullptr;
-    LimitField *m_upperLimit = nullptr;
-    QLabel *m_cp = nullptr;
-    QLabel *m_cpk = nullptr;
-    QLabel *m_outside = nullptr;
+    ValuesTable *m_table = nullptr;
     TrendChart *m_chart = nullptr;
-    NormalBoxWidget *m_box = nullptr;
-    NormalDistributionWidget *m_bell = nullptr;
+    QuantityChoice *m_choice = nullptr;
+    LimitsPanel *m_limits = nullptr;
+    DistributionPanel *m_distribution = nullptr;
 };

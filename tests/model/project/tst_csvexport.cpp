@@ -1,5 +1,6 @@
 #include "model/project/csvexport.h"
 #include "model/project/pacer.h"
+#include "model/project/projectdocument.h"
 #include "tests/support/faildevice.h"
 #include "tests/support/literals.h"
 
@@ -11,10 +12,10 @@ namespace {
 ProjectDocument document()
 {
     ProjectDocument result;
-    result.data.name = "Deckel"_s;
-    result.data.number = "47"_s;
-    result.data.user = "Öz"_s;
-    result.data.date = "heute"_s;
+    result.name = "Deckel"_s;
+    result.number = "47"_s;
+    result.user = "Öz"_s;
+    result.date = "heute"_s;
     result.clock = 250;
     result.sensorNames[1] = "Weg"_s;
     return result;
@@ -44,7 +45,10 @@ private slots:
         const SampleList first{1.5, 1234567.0, -2.0};
         const SampleList empty;
         ProjectDocument source = document();
-        source.samples[1] = {{&first, 3}, {&empty, 0}, {&first, 1}};
+        SampleRuns &runs = source.samples[1].emplace();
+        runs.emplace_back(&first, 3);
+        runs.emplace_back(empty);
+        runs.emplace_back(&first, 1);
         QCOMPARE(csv(source), "Dateiname: a.vnt\nProjekt: Deckel\nProj.Nr.: 47\nBearbeiter: Öz\nDatum: heute\n\n"
                               "Abtastrate: 250ms\nSensor 1: \nSensor 2: Weg\n"
                               "data 0;1,5;1,23457e+06;-2\ndata 1;\ndata 2;1,5\n"
@@ -55,7 +59,7 @@ private slots:
     {
         const SampleList samples(30000, 1.25);
         ProjectDocument source = document();
-        source.samples[0] = {{&samples, samples.size()}};
+        source.samples[0].emplace().emplace_back(&samples, samples.size());
         const int size = csv(source).size();
         for (int limit : {0, 1, 65536, size / 2, size - 1, size}) {
             FailDevice device(limit);

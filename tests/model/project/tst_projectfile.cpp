@@ -1,6 +1,7 @@
 #include "model/json/jsonnumber.h"
 #include "model/project/pacer.h"
-#include "model/project/projectfile.h"
+#include "model/project/projectreader.h"
+#include "model/project/projectwriter.h"
 #include "tests/model/project/referenceproject.h"
 #include "tests/support/faildevice.h"
 #include "tests/support/literals.h"
@@ -51,44 +52,67 @@ QByteArray write(const ProjectDocument &document)
 {
     QBuffer buffer;
     Pacer pacer(kNoYield, 1);
-    if (!buffer.open(QIODevice::WriteOnly) || !writeProject(buffer, document, pacer))
+    if (!buffer.open(QIODevice::WriteOnly) || !projectfile::write(buffer, document, pacer))
         return "failed";
     return buffer.data();
 }
 
-std::optional<ProjectContent> read(QByteArray text)
+std::optional<ProjectDocument> read(QByteArray text)
 {
     QBuffer buffer(&text);
     Pacer pacer(kNoYield, 1);
-    return buffer.open(QIODevice::ReadOnly) ? readProject(buffer, pacer) : std::nullopt;
+    return buffer.open(QIODevice::ReadOnly) ? projectfile::read(buffer, pacer) : std::nullopt;
 }
 
 // The samples of "sensor 1" of a file that holds nothing else.
 QVector<SampleList> readSamples(const QByteArray &measurements)
 {
-    const auto content = read("{\"sensor 1\": " + measurements + "}");
-    if (!content || !content->measurements[0])
+    const auto document = read("{\"sensor 1\": " + measurements + "}");
+    if (!document || !document->samples[0])
         return {{-1.0}};
-    return QVector<SampleList>(content->measurements[0]->begin(), content->measurements[0]->end());
+    QVector<SampleList> result;
+    for (const SampleRun &run : *document->samples[0])
+        result.append(SampleList(run.data(), run.data() + run.count()));
+    return result;
 }
 
-ProjectDocument fullDocument(const QVector<SampleList> &samples)
+ProjectDocument described()
 {
     ProjectDocument document;
-    document.data = {"Deckel \"groß\""_s, "4711"_s, "J. Öz"_s, "1.2.2021"_s, "K\\L"_s, 850, 1.25, 0.1, 1200};
+    document.name = "Deckel \"groß\""_s;
+    document.number = "4711"_s;
+    document.user = "J. Öz"_s;
+    document.date = "1.2.2021"_s;
+    document.customer = "K\\L"_s;
+    document.closingForce = 850;
+    document.injectionTime = 1.25;
+    document.pressTime = 0.1;
+    document.pressure = 1200;
     document.clock = 20;
     document.comment = "Zeile 1\nZeile 2\t\u20ac \U0001F600 / \x7f"_s + QChar(1) + QChar(0xd800);
     document.mesotraType = 3;
-    document.markersAbsolute = true;
-    document.osziMinimum = {-1.5, 0, 1e-7, 3e300, 5e-324};
-    document.osziMaximum = {1, 2, 3, 4, 1e22};
+    document.hardwareVersion = "H"_s;
+    document.firmwareVersion = QString();
+    return document;
+}
+
+// A document without gaps, which points at the samples.
+ProjectDocument fullDocument(const QVector<SampleList> &samples)
+{
+    ProjectDocument document = described();
+    document.viewData = {ProjectViewData::Kind::Given, true, QVector<double>{-1.5, 0, 1e-7, 3e300, 5e-324},
+                         QVector<double>{1, 2, 3, 4, 1e22}};
     document.images[1] = QByteArray("\x89PNG\0\xff", 6);
     document.sensorNames = {"Weg"_s, "Druck"_s, QString(), QString(), QString()};
-    document.markers = {1, 20, 300, std::numeric_limits<int>::max()};
-    document.phases = {"a"_s, "b"_s, "ß"_s, QString(), QString()};
-    document.corrections = {0.1, -0.2, 0, 1e-9, 12345678.9};
+    document.markers = QVector<int>{1, 20, 300, std::numeric_limits<int>::max()};
+    document.phases = QStringList{"a"_s, "b"_s, "ß"_s, QString(), QString()};
+    document.corrections = QVector<double>{0.1, -0.2, 0, 1e-9, 12345678.9};
+    document.sensorMinimum = QVector<double>(5, -3.5);
+    document.sensorMaximum = QVector<double>(5, 3.5);
+    for (std::optional<SampleRuns> &runs : document.samples)
+        runs.emplace();
     for (int i = 0; i < samples.size(); ++i)
-        document.samples[static_cast<std::size_t>(i % kNumSensors)].push_back({&samples[i], samples[i].size()});
+        document.samples[static_cast<std::size_t>(i % kNumSensors)]->emplace_back(&samples[i], samples[i].size());
     return document;
 }
 
@@ -150,18 +174,49 @@ private slots:
         QVector<SampleList> samples{
             {}, {-0.0, 0.0, 5e-324, -5e-324, std::numeric_limits<double>::min(), 2.2250738585072011e-308}};
         samples << randomDoubles(150000, 3) << SampleList(66000, 1.0 / 3) << SampleList() << randomDoubles(1000, 4);
-        const auto content = read(write(fullDocument(samples)));
-        QVERIFY(content);
+        const QByteArray text = write(fullDocument(samples));
+        const auto document = read(text);
+        QVERIFY(document);
         for (int i = 0; i < samples.size(); ++i) {
-            const auto &measurements = content->measurements[static_cast<std::size_t>(i % kNumSensors)];
-            QVERIFY(measurements && int(measurements->size()) > i / kNumSensors);
-            const SampleList &found = measurements->at(static_cast<std::size_t>(i / kNumSensors));
-            QCOMPARE(found.size(), samples[i].size());
-            for (int k = 0; k < found.size(); ++k)
-                QCOMPARE(bits(found[k]), bits(samples[i][k]));
+            const auto &runs = document->samples[static_cast<std::size_t>(i % kNumSensors)];
+            QVERIFY(runs && int(runs->size()) > i / kNumSensors);
+            const SampleRun &found = runs->at(static_cast<std::size_t>(i / kNumSensors));
+            QCOMPARE(found.count(), samples[i].size());
+            for (int k = 0; k < found.count(); ++k)
+                QCOMPARE(bits(found.data()[k]), bits(samples[i][k]));
         }
-        QCOMPARE(content->fields.value("comment"_s).toString(), fullDocument({}).comment);
-        QCOMPARE(content->fields.value("corrections"_s).toList().at(4).toDouble(), 12345678.9);
+        QCOMPARE(*document->fileVersion, "7"_s);
+        QVERIFY(write(*document) == text);
+    }
+
+    void keepsGaps_data()
+    {
+        columns<QByteArray, QByteArray>("text", "written");
+        row("nothing", "{}"_ba, "{}"_ba);
+        row("wrong types",
+            R"({"clock":"20","comment":1,"markers":{},"phases":"x","sensor 2":7,"sensorName 1":null})"_ba, "{}"_ba);
+        row("last one counts", R"({"clock":5,"clock":7,"comment":"a","comment":2,"sensor 1":[[1]],"sensor 1":[]})"_ba,
+            R"({"clock":7,"sensor 1":[]})"_ba);
+        row("rounded and cut", R"({"clock":99.5,"markers":[1.5,"2",null],"phases":["a",5],"paramPressure":-1e99})"_ba,
+            R"({"clock":100,"markers":[2,0,0],"paramPressure":-2147483648,"phases":["a",""]})"_ba);
+        row("empty view", R"({"ViewData":{}})"_ba, "{}"_ba);
+        row("view of no use", R"({"ViewData":{"x":1}})"_ba, R"({"ViewData":{}})"_ba);
+        row("view replaced", R"({"ViewData":{"osziMinValues":[1]},"ViewData":{"checkBoxMarkerAbsolute":true}})"_ba,
+            R"({"ViewData":{"checkBoxMarkerAbsolute":true}})"_ba);
+    }
+
+    /// What a file lacks, or has of another type, is not in the file that is written from it.
+    void keepsGaps()
+    {
+        QFETCH(QByteArray, text);
+        QFETCH(QByteArray, written);
+        const auto document = read(text);
+        QVERIFY(document);
+        QJsonObject found = QJsonDocument::fromJson(write(*document)).object();
+        QCOMPARE(found.take("fileVersion"_s).toString(), "7"_s);
+        for (const char *image : {"projectImage", "projectImage1", "projectImage2", "projectImage3", "projectImage4"})
+            QCOMPARE(found.take(QLatin1String(image)).toString("none"_s), QString());
+        QCOMPARE(QJsonDocument(found).toJson(QJsonDocument::Compact), written);
     }
 
     void reportsAFullDevice()
@@ -173,7 +228,7 @@ private slots:
         for (int limit : {0, 1, 100, 1000, 65535, 65536, 65537, size / 2, size - 65537, size - 2, size - 1, size}) {
             FailDevice device(limit);
             Pacer pacer(kNoYield, 1);
-            QCOMPARE(writeProject(device, document, pacer), limit == size);
+            QCOMPARE(projectfile::write(device, document, pacer), limit == size);
             QVERIFY(whole.startsWith(device.taken()));
         }
     }
@@ -256,12 +311,12 @@ private slots:
             ", \"comment\": \"a\\u00e4\\\"b\\\\\", \"clock\": 50, \"markers\": [true, null, false]}";
         for (int shift = 0; shift < 140; ++shift) {
             const QByteArray text = "{" + QByteArray(65536 - 70 - shift, ' ') + "\"sensor 2\":[" + numbers + "]" + tail;
-            const auto content = read(text);
-            QVERIFY(content && content->measurements[1]);
-            QCOMPARE(content->measurements[1]->front(), (SampleList{-1.25, 0.0, 100.0, 123456789.0}));
-            QCOMPARE(content->fields.value("comment"_s).toString(), "aä\"b\\"_s);
-            QCOMPARE(content->fields.value("clock"_s).toDouble(), 50.0);
-            QCOMPARE(content->fields.value("markers"_s).toList().at(0).toBool(), true);
+            auto document = read(text);
+            QVERIFY(document && document->samples[1]);
+            QCOMPARE(*document->samples[1]->front().take(), (SampleList{-1.25, 0.0, 100.0, 123456789.0}));
+            QCOMPARE(*document->comment, "aä\"b\\"_s);
+            QCOMPARE(*document->clock, 50);
+            QCOMPARE(document->markers->size(), 3);
         }
     }
 
@@ -301,18 +356,18 @@ private slots:
     void readsStrings()
     {
         QFETCH(QByteArray, json);
-        const auto content = read("{\"comment\":\"" + json + "\"}");
-        QVERIFY(content);
-        QTEST(content->fields.value("comment"_s).toString(), "text");
+        const auto document = read("{\"comment\":\"" + json + "\"}");
+        QVERIFY(document && document->comment);
+        QTEST(*document->comment, "text");
     }
 
     void boundsWhatItKeeps()
     {
         const QByteArray list = "[" + "0,"_ba.repeated(1000000) + "0]";
-        const auto content = read("{\"x\":" + list + ",\"markers\":" + list + ",\"measurement\":[1]}");
-        QVERIFY(content);
-        QCOMPARE(content->fields.keys(), QStringList{"markers"_s});
-        QVERIFY(content->fields.value("markers"_s).toList().size() <= 64);
+        const auto document = read("{\"x\":" + list + ",\"markers\":" + list + ",\"corrections\":" + list + "}");
+        QVERIFY(document);
+        QCOMPARE(document->markers->size(), 64);
+        QCOMPARE(document->corrections->size(), 64);
     }
 };
 

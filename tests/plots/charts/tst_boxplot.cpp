@@ -4,6 +4,8 @@
 #include "plots/charts/normaldistributionwidget.h"
 #include "tests/support/rows.h"
 
+#include <QLocale>
+
 #include <limits>
 
 namespace {
@@ -160,7 +162,7 @@ private slots:
         row("huge axis", QList<double>{1, 2}, -kHuge, kHuge, QSize(100, 60));
     }
 
-    // The sanitizers are the judges.
+    // Nothing to compare: the sanitizers find what goes wrong.
     void survivesOddInput()
     {
         QFETCH(QList<double>, values);
@@ -183,6 +185,26 @@ private slots:
         NormalBoxWidget figures;
         figures.set(values);
         picture(figures);
+    }
+
+    void labelsAreTheSameInEveryLanguage()
+    {
+        QVector<QImage> boxes;
+        QVector<QImage> bells;
+        for (const QLocale::Language language : {QLocale::German, QLocale::English}) {
+            QLocale::setDefault(QLocale(language));
+            BoxWhiskersWidget box;
+            box.resize(240, 60);
+            box.setAxisRange(0.0, 3.0);
+            box.set({0.25, 1.5, 2.75});
+            boxes << picture(box);
+            NormalDistributionWidget bell;
+            bell.resize(320, 180);
+            bell.set({0.25, 1.5, 2.75});
+            bells << picture(bell);
+        }
+        QCOMPARE(boxes.at(0), boxes.at(1));
+        QCOMPARE(bells.at(0), bells.at(1));
     }
 
     void bellPeaksInTheMiddle()

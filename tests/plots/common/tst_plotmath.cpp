@@ -81,6 +81,42 @@ private slots:
         QTEST(timeAxis(start, zoom, clock).xOfTime(time), "x");
     }
 
+    void columnsToSamples_data()
+    {
+        columns<int, int, int, qint64>("start", "zoom", "x", "sample");
+
+        row("cut off, not rounded", 0, 10, 176, qint64(10));
+        row("scrolled", 100, 10, 170, qint64(110));
+        row("just left of the plot area", 5, 10, 61, qint64(5));
+        row("farther left", 5, 10, 60, qint64(4));
+        row("beyond int", kIntMax, 1, 71, qint64(kIntMax) + 1);
+    }
+
+    void columnsToSamples()
+    {
+        QFETCH(int, start);
+        QFETCH(int, zoom);
+        QFETCH(int, x);
+        QTEST(timeAxis(start, zoom, 1).sampleAt(x), "sample");
+    }
+
+    void visibleSamples_data()
+    {
+        columns<int, int, int>("width", "zoom", "samples");
+
+        row("the last one does not fit", 99, 10, 2);
+        row("narrower than the labels", 40, 10, 0);
+    }
+
+    void visibleSamples()
+    {
+        QFETCH(int, width);
+        QFETCH(int, zoom);
+        PlotGeometry geometry = timeAxis(0, zoom, 1);
+        geometry.width = width;
+        QTEST(geometry.visibleSamples(), "samples");
+    }
+
     void visibleSpans_data()
     {
         columns<int, int, int, qint64, qint64>("start", "zoom", "count", "first", "last");

@@ -61,7 +61,7 @@ private slots:
 
     void deviations_data()
     {
-        // largest: negative: none
+        // largest: negative means none
         columns<Samples, int, double, double>("samples", "aligned", "lift", "largest");
 
         // The reference is 1, 2, 4, 8 with its sample 1 aligned.
@@ -92,7 +92,7 @@ private slots:
         const AlignedCurve to{&reference, 1, 0.0};
         Deviation found = deviation({&samples, 2, 0.0}, to, {});
         QCOMPARE(*found.largest, 2.0);
-        samples[2] = 900.0; // looked at already
+        samples[2] = 900.0; // was read already
         samples << 4.5 << 8.25;
         found = deviation({&samples, 2, 0.0}, to, found);
         QCOMPARE(*found.largest, 2.0);
@@ -131,7 +131,7 @@ private slots:
         }
     }
 
-    /// The sum of the squares would have no digit left of what is scattered here.
+    /// With a plain sum of squares no digit of this small scatter would be left.
     void meanKeepsDigits()
     {
         MeanBand band;
@@ -159,7 +159,7 @@ private slots:
         QCOMPARE(points[4].mean, 9.0);
         QCOMPARE(points[5].count, 1);
 
-        overlay.place({true, false, true}); // what is not drawn needs no room
+        overlay.place({true, false, true}); // a shot that is not drawn needs no room
         QCOMPARE(overlay.alignedIndex(), 1);
         QCOMPARE(int(overlay.meanOf({true, false, true}).points().size()), 3);
     }
@@ -173,7 +173,7 @@ private slots:
         const auto refresh = [&](const AlignmentRule &rule) {
             overlay.refresh(lists, rule, 1);
             overlay.place({true, true});
-            (void)overlay.meanOf({true, true}); // looked at below
+            (void)overlay.meanOf({true, true}); // checked below
             return overlay.takeWork();
         };
         QCOMPARE(refresh({}), qint64(1000 + 500));
@@ -185,7 +185,7 @@ private slots:
         QCOMPARE(overlay.meanOf({true, true}).points()[500].mean, 3.0);
         QVERIFY(overlay.shots()[1]->samples.constData() != last.constData());
         QCOMPARE(overlay.shots()[0]->samples.constData(), first.constData());
-        QCOMPARE(refresh(rising(3)), qint64(999 + 500 + 501)); // searched; the first shot has no mean any more
+        QCOMPARE(refresh(rising(3)), qint64(999 + 500 + 501)); // searched; the first shot is no longer in the mean
         QCOMPARE(int(overlay.meanOf({true, true}).points().size()), 501);
     }
 
@@ -198,10 +198,11 @@ private slots:
         overlay.refresh(sourcesOf({{1, removed.get()}, {2, &kept}}), {}, 1);
         const OverlayShot *second = overlay.shots()[1].get();
         removed.reset();
-        QCOMPARE(overlay.shots()[0]->samples, Samples({1, 2, 3})); // until the next refresh
+        QCOMPARE(overlay.shots()[0]->samples, Samples({1, 2, 3})); // unchanged until the next refresh
         overlay.refresh(sourcesOf({{2, &kept}, {3, &added}}), {}, 1);
         QCOMPARE(overlay.shots()[0].get(), second);
-        QCOMPARE(overlay.shots()[0]->samples.constData(), kept.constData()); // shared as soon as it cannot grow
+        QCOMPARE(overlay.shots()[0]->samples.constData(),
+                 kept.constData()); // shared as soon as it cannot grow any more
         QCOMPARE(overlay.shots()[1]->samples, added);
         QVERIFY(!overlay.reference());
         QVERIFY(!overlay.shots()[0]->apart.largest);

@@ -25,7 +25,7 @@ RuntimeCache::Shots pointersTo(std::vector<List> &lists)
     return shots;
 }
 
-std::vector<ShotRuntime> computedAnew(const std::vector<List> &lists, const RuntimeCriteria &criteria)
+std::vector<ShotRuntime> computedFromScratch(const std::vector<List> &lists, const RuntimeCriteria &criteria)
 {
     std::vector<ShotRuntime> results;
     for (const List &list : lists)
@@ -101,7 +101,7 @@ private slots:
         const RuntimeCache::Work grown = refresh(1);
         QCOMPARE(grown.scanned, 0);
         QCOMPARE(grown.extended, 1);
-        QVERIFY(cache.results() == computedAnew(lists, criteria));
+        QVERIFY(cache.results() == computedFromScratch(lists, criteria));
 
         lists[0].append(-1.0); // an older shot grows
         QCOMPARE(refresh(1).scanned, 1);
@@ -109,11 +109,11 @@ private slots:
 
         lists[1][7] = -1.0; // an older shot is overwritten
         QCOMPARE(refresh(1).scanned, 1);
-        QVERIFY(cache.results() == computedAnew(lists, criteria));
+        QVERIFY(cache.results() == computedFromScratch(lists, criteria));
 
         criteria.offset = 5.0;
         QCOMPARE(refresh(1).scanned, 3);
-        QVERIFY(cache.results() == computedAnew(lists, criteria));
+        QVERIFY(cache.results() == computedFromScratch(lists, criteria));
         QCOMPARE(refresh(1).scanned, 0);
     }
 
@@ -128,12 +128,12 @@ private slots:
 
         lists.erase(lists.begin() + 3, lists.begin() + 6);
         lists.erase(lists.begin());
-        QCOMPARE(cache.refresh(pointersTo(lists), criteria, 2).scanned, 1); // the last one was not kept apart
-        QVERIFY(cache.results() == computedAnew(lists, criteria));
+        QCOMPARE(cache.refresh(pointersTo(lists), criteria, 2).scanned, 1); // of the last one no copy is kept
+        QVERIFY(cache.results() == computedFromScratch(lists, criteria));
 
         lists.push_back(List{});
         QCOMPARE(cache.refresh(pointersTo(lists), criteria, 3).scanned, 2); // the new one, and the last before it
-        QVERIFY(cache.results() == computedAnew(lists, criteria));
+        QVERIFY(cache.results() == computedFromScratch(lists, criteria));
     }
 
     // A removed list's memory may be used again by one of the same length.
@@ -147,8 +147,8 @@ private slots:
                 list = List();
                 list = noise(16, unsigned(revision) * 10 + unsigned(&list - lists.data()));
             }
-            (void)cache.refresh(pointersTo(lists), criteria, revision); // how much it had to do does not matter here
-            QVERIFY(cache.results() == computedAnew(lists, criteria));
+            (void)cache.refresh(pointersTo(lists), criteria, revision); // the amount of work does not matter here
+            QVERIFY(cache.results() == computedFromScratch(lists, criteria));
         }
     }
 

@@ -38,10 +38,10 @@ class TestShotQuantity : public QObject
     Q_OBJECT
 
 private slots:
-    // Expected values worked out by hand from the list above, with an offset of 0.5 and 200 ms a sample.
+    // Expected values worked out by hand from the list above, with an offset of 0.5 and 200 ms per sample.
     void valuesOfAShot_data()
     {
-        // expected: not a number: none
+        // expected: not a number means that there is no value
         columns<QString, double>("key", "expected");
         const double none = std::nan("");
         const auto row = [](const char *key, double expected) { ::row(key, QString::fromLatin1(key), expected); };
@@ -69,7 +69,7 @@ private slots:
         QCOMPARE(value.has_value(), !std::isnan(expected));
         if (value)
             QCOMPARE(*value, expected);
-        // A shot without samples has nothing, one that ends before its markers has no part behind them.
+        // A shot without samples has no figures; one that ends before its markers has none after them.
         QVERIFY(!valueOf(*quantity, ShotFigures(), {}));
         QCOMPARE(valueOf(*quantity, figuresOf({1.0}, {1, 2, 3, 4}), {}).has_value(),
                  !key.startsWith("marker"_s) && (!key.contains("phase"_s) || key.endsWith(QLatin1Char('1'))));
@@ -202,7 +202,7 @@ private slots:
             for (int shot = 0; shot < count; shot += 7)
                 QCOMPARE(geometry.shotAt(geometry.x(shot)), shot);
         }
-        // No more columns than pixels, and the extremes survive.
+        // No more columns than pixels, and the extremes are kept.
         TrendValues values(10000, 1.0);
         values[4711] = -3.0;
         values[4712] = std::nullopt;

@@ -100,7 +100,7 @@ private slots:
         table()->sortByColumn(Column::Number, Qt::DescendingOrder);
         table()->selectRow(0); // the newest now
         QCOMPARE(colors(), QVector<bool>({false, false, true, true}));
-        QTest::keyClick(table(), Qt::Key_Space); // where none of the chosen is drawn, the others are not in its shadow
+        QTest::keyClick(table(), Qt::Key_Space); // if none of the selected shots is drawn, the others do not fade
         QCOMPARE(colors(), QVector<bool>({true, true, false, false}));
     }
 
@@ -155,20 +155,20 @@ private slots:
     {
         addShot(*m_model, flat(1), 1000.0);
         m_model->emitDataChanged();
-        QCOMPARE(table()->model()->rowCount(), 0); // changes are gathered
+        QCOMPARE(table()->model()->rowCount(), 0); // changes are bundled
         QTRY_COMPARE(table()->model()->rowCount(), 1);
         m_page->hide();
         addShot(*m_model, flat(2), 1000.0);
         m_model->emitDataChanged();
         QTest::qWait(2 * TabEvaluationOverlay::kRefreshInterval);
         QCOMPARE(table()->model()->rowCount(), 1);
-        QVERIFY(!plot()->curve(0)); // nor are samples held that may have been removed
+        QVERIFY(!plot()->curve(0)); // and no samples are kept that may have been removed
         m_page->show();
         QCOMPARE(table()->model()->rowCount(), 2);
         QCOMPARE(*plot()->curve(1), flat(2));
 
         m_model->clearData();
-        m_page->hide(); // before it has looked
+        m_page->hide(); // before it has refreshed
         QTRY_VERIFY(!plot()->curve(0));
         m_page->show();
         QCOMPARE(table()->model()->rowCount(), 0);

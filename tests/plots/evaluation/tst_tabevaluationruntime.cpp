@@ -42,6 +42,7 @@ private slots:
 
     void cleanup()
     {
+        QLocale::setDefault(QLocale::c());
         m_page.reset();
         m_model.reset();
     }
@@ -68,6 +69,15 @@ private slots:
         QCOMPARE(cell(1, RuntimeTableModel::Pause), "30"_s);
         QCOMPARE(cell(2, RuntimeTableModel::Pause), QString());
         QCOMPARE(cell(3, RuntimeTableModel::Pause), "29.5"_s);
+    }
+
+    void figuresHaveADecimalPointInEveryLanguage()
+    {
+        QLocale::setDefault(QLocale(QLocale::German));
+        addShot(*m_model, shotOf(12, 100, 47), 1.0);
+        m_page->update();
+        QCOMPARE(rowTexts(0).mid(2, 4), QStringList({"1.2"_s, "9.9"_s, "11.1"_s, "15"_s}));
+        QCOMPARE(cell(1, RuntimeTableModel::Start), "1.2"_s);
     }
 
     void summariesGetTheirLists()
@@ -123,7 +133,7 @@ private slots:
         QTableView *table = child<QTableView>("tableRuntime");
         table->setCurrentIndex(table->model()->index(0, 3));
         QCOMPARE(*plot->curve(0), shotOf(1, 2, 3));
-        m_page->onCellClicked(3, 0); // the mean is no shot
+        m_page->onCellClicked(3, 0); // the row of means is no shot
         QCOMPARE(m_page->shownShot(), 0);
 
         addShot(*m_model, shotOf(1, 1, 1), 1.0);
@@ -133,7 +143,8 @@ private slots:
         QCOMPARE(plot->curve(0)->at(0), 302.0);
     }
 
-    // Signals stay blocked where a deletion fails half-way; the sanitizer would report what is drawn after that.
+    // Signals stay blocked where a deletion fails half-way; a plot that still drew removed samples would read freed
+    // memory.
     void plotSurvivesRemovalItWasNotToldOf()
     {
         addShot(*m_model, shotOf(50, 50, 50), 1.0);

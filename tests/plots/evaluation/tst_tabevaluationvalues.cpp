@@ -37,7 +37,7 @@ struct Pages
         dashboard.show();
         QVERIFY(QTest::qWaitForWindowExposed(&values));
     }
-    /// What the table shows from its second row of shots on, cell by cell.
+    /// The text of a cell of the table.
     [[nodiscard]] QString cell(int row, int column) const
     {
         return table()->model()->index(row, column).data().toString();
@@ -131,7 +131,7 @@ private slots:
         emit pages.table()->horizontalHeader()->sectionClicked(2);
         QVERIFY(!isSet());
         QCOMPARE(pages.data.shownQuantities(0).size(), 3); // limits alone make no column
-        // A column that is taken away and comes back has its limits again.
+        // A column that is removed and added again still has its limits.
         pages.data.setShown(0, kMaximum, false);
         pages.data.setShown(0, kMaximum, true);
         QVERIFY(pages.data.limits(0, kMaximum).upper == 11.0);

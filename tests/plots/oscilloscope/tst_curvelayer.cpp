@@ -179,8 +179,8 @@ private slots:
         row("tall row", [](Kind &k) { k.height = 500, k.curves = 8; });
     }
 
-    /// Scrolls, lets curves grow, changes the offset and the highlighted curve: the picture is never drawn from scratch
-    /// on demand, and always equal to one that is.
+    /// Scrolls, lets curves grow, changes the offset and the highlighted curve: the picture is updated, never
+    /// redrawn on request, and always equals one that is drawn from scratch.
     void keptPictureFollowsTheScene()
     {
         QFETCH(Kind, kind);

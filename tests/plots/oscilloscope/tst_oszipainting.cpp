@@ -151,7 +151,7 @@ private slots:
 
         m_plot->showMouseMarker(70 + 9 * 4);
         QCOMPARE(m_plot->findChild<QLabel *>("mouseReadOut"_s)->text(), "1.1"_s);
-        m_plot->showMouseMarker(70 + 9 * 2); // the curve begins behind
+        m_plot->showMouseMarker(70 + 9 * 2); // before the first sample
         QVERIFY(m_plot->findChild<QLabel *>("mouseReadOut"_s)->isHidden());
     }
 

@@ -35,7 +35,7 @@ void grow(Random &random, SampleList &samples, int count)
 
 } // namespace
 
-/// What stands on the screen after small updates is what a paint of the whole plot shows.
+/// After partial updates, the screen shows the same as after painting the whole plot.
 class TestOsziUpdates : public QObject
 {
     Q_OBJECT
@@ -95,7 +95,7 @@ private slots:
             grow(m_random, samples, between(m_random, 1, 30));
             m_plot->samplesAppended();
             QCoreApplication::processEvents();
-            QCOMPARE(onScreen(), paintedAnew());
+            QCOMPARE(onScreen(), repainted());
         }
     }
 
@@ -110,7 +110,7 @@ private slots:
             m_plot->samplesAppended();
             const QImage before = onScreen();
             QTRY_VERIFY_WITH_TIMEOUT(onScreen() != before, 2000);
-            QCOMPARE(onScreen(), paintedAnew());
+            QCOMPARE(onScreen(), repainted());
         }
     }
 
@@ -121,7 +121,7 @@ private slots:
             QCoreApplication::processEvents();
             const QImage scrolled = onScreen();
             m_plot->refresh();
-            QCOMPARE(scrolled, paintedAnew());
+            QCOMPARE(scrolled, repainted());
         }
     }
 
@@ -130,7 +130,7 @@ private:
     {
         return m_plot->screen()->grabWindow(m_plot->winId()).toImage().convertToFormat(QImage::Format_RGB32);
     }
-    [[nodiscard]] QImage paintedAnew() const { return m_plot->grab().toImage().convertToFormat(QImage::Format_RGB32); }
+    [[nodiscard]] QImage repainted() const { return m_plot->grab().toImage().convertToFormat(QImage::Format_RGB32); }
 
     Random m_random{5};
     std::deque<SampleList> m_lists;

@@ -85,7 +85,7 @@ private slots:
         row("first sample", 0, -10.0);
         row("time within a sample", 299, -30.0);
         row("last sample", 300, -40.0);
-        row("behind the end", 400, 1.5);
+        row("past the end", 400, 1.5);
         row("before the start", -100, 1.5);
     }
 
@@ -127,7 +127,7 @@ private slots:
         row("between two samples", 0, 89, "21.5");
         row("left margin, truncated to the start", 0, 61, "11.5");
         row("farther left", 0, 60, QString());
-        row("behind the end", 0, 110, QString());
+        row("past the end", 0, 110, QString());
         row("none highlighted", -1, 81, QString());
     }
 
@@ -183,7 +183,7 @@ private slots:
         QCOMPARE(isRight ? place.left() - x : x - place.right() - 1, 10);
     }
 
-    void spinBoxesDoNotAnswerForEver()
+    void spinBoxesDoNotEchoForever()
     {
         QDoubleSpinBox valueBox; // two decimals: rounds the grid of a tiny range to 0.00
         QSpinBox clockBox;       // ends at 99
@@ -234,7 +234,7 @@ private slots:
         m_plot->setCurve(1, &m_samples, Qt::blue, true);
         m_plot->highlightSingle(1);
         step(*m_plot);
-        (void)m_plot->grab(); // has to come back, and without a word from the sanitizers
+        (void)m_plot->grab(); // has to return, and the sanitizers must not complain
         m_plot->showMouseMarker(80);
     }
 

@@ -19,7 +19,7 @@ QString german(const QDate &date)
     return date.toString("dd.MM.yyyy"_s);
 }
 
-/// The tab with what a user sees of it.
+/// The tab, and access to what a user sees of it.
 struct Bench
 {
     Bench()
@@ -159,7 +159,7 @@ private slots:
         bench.tab.addFetchedFiles("05.03.2024"_s, {});
         QCOMPARE(bench.rows("tableDays"), strings({"X 06.03.2024|2|geladen", "- 05.03.2024|0|geladen",
                                                    "- 04.03.2024|–|neu", "X 03.03.2024|1|geladen"}));
-        QCOMPARE(bench.table("tableFiles")->rowCount(), 0); // those of the day that came last
+        QCOMPARE(bench.table("tableFiles")->rowCount(), 0); // the files of the day that was fetched last
         auto *step = bench.find<LeftRightStepBox>("stepBoxFile");
         QVERIFY(step->isEmpty());
         bench.find<QTableView>("tableDays")->selectRow(0);
@@ -201,7 +201,7 @@ private slots:
         bench.tab.setList(strings({"dir-20240307", "dir-20240306"}));
         QCOMPARE(bench.rows("tableDays"),
                  strings({"- 07.03.2024|–|neu", "X 06.03.2024|–|neu", "X 05.03.2024|1|geladen"}));
-        QCOMPARE(bench.rows("tableFiles").size(), 1); // still of the day chosen
+        QCOMPARE(bench.rows("tableFiles").size(), 1); // still those of the chosen day
         bench.tab.setList({});
         QCOMPARE(bench.rows("tableDays"), strings({"X 05.03.2024|1|geladen"}));
     }
@@ -237,7 +237,7 @@ private slots:
         QCOMPARE(bench.rows("tableDays"), strings({"- 05.03.2024|2|importiert"}));
         bench.tab.addFetchedFiles("05.03.2024"_s, files); // once more
         QVERIFY(bench.tab.selectedFiles().isEmpty());
-        bench.tick("tableDays", 0); // asked for
+        bench.tick("tableDays", 0); // the user ticks it again
         QCOMPARE(bench.tab.selectedFiles(), files);
         bench.tab.setImportedFiles({}); // a new project
         QCOMPARE(bench.rows("tableDays"), strings({"X 05.03.2024|2|geladen"}));

@@ -28,7 +28,9 @@ struct Bench
         , isListening(!boxListens || box.listen())
         , view(&model, scripted(prompts))
         , connector(boxListens ? box.port() : quint16{1})
-        , dialog(&view, &connector, kHost, kShortWait)
+        , dialog(
+              &view, [this](const QString &title, const QString &filter) { return view.askOpenFile(title, filter); },
+              &connector, kHost, kShortWait)
     {
         connector.scp().setOptions({tool.file(), "pi"_s, "secret"_s, kHost, ScpTimeouts{2000, 10000, 200}});
         connector.scp().setSurroundings({[this](const ScpMessage &message) { told.append(message.title); }, {}});

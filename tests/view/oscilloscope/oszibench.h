@@ -6,7 +6,7 @@
 
 #include <QCoreApplication>
 
-/// A tab of a known size on a model of its own.
+/// A tab of a known size and the model that it shows.
 struct OsziBench
 {
     OsziBench()
@@ -40,6 +40,7 @@ struct OsziBench
     }
     [[nodiscard]] int visible() const
     {
+        // Counted here once more, so that a wrong count of the plot does not go unnoticed.
         return (tab.row(0)->contentsRect().width() - OsziWidget::kLeftMargin) / tab.row(0)->zoom();
     }
     [[nodiscard]] QVector<int> shown(int row = 0) const

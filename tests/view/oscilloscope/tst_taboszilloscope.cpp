@@ -102,7 +102,7 @@ private slots:
         QVERIFY(!bench.tab.grab().isNull());
     }
 
-    void filterOutlivesNewShot()
+    void filterStaysForNewShots()
     {
         OsziBench bench;
         for (int i = 0; i < 4; ++i)
@@ -114,7 +114,7 @@ private slots:
         QCOMPARE(bench.shown(), (QVector<int>{1, 2}));
         QVERIFY(!edit->hasFocus());
         bench.addShot(3);
-        QCOMPARE(bench.shown(), (QVector<int>{1, 2, 5})); // the newest is recorded in sight
+        QCOMPARE(bench.shown(), (QVector<int>{1, 2, 5})); // the newest stays in sight while it is recorded
         bench.addShot(3);
         QCOMPARE(bench.shown(), (QVector<int>{1, 2, 6}));
         bench.find<QSpinBox>("highlightSpinBox")->setValue(4);
@@ -169,12 +169,11 @@ private slots:
         QCOMPARE(bar->value(), 2507 - bench.visible());
     }
 
-    void stepBackByHandIsNotUndone()
+    void steppingBackByHandIsNotUndone()
     {
         OsziBench bench;
         bench.addShot(2000);
-        bench.find<QSlider>("sliderTimeZoom")
-            ->setValue(50); // a step is a sample, far less than the distance that follows
+        bench.find<QSlider>("sliderTimeZoom")->setValue(50); // a step is one sample, far less than kFollowDistance
         auto *bar = bench.find<QScrollBar>("scrollBarOszi");
         bar->setValue(bar->maximum());
         const int end = bar->maximum();
@@ -255,7 +254,7 @@ private slots:
         const int left = Qt::Key_Left;
         const int right = Qt::Key_Right;
         row("in the middle first", QVector<int>{left}, ctrl, 14);
-        row("to and fro", QVector<int>{left, right, left, left, left}, ctrl, 12);
+        row("back and forth", QVector<int>{left, right, left, left, left}, ctrl, 12);
         row("in leaps", QVector<int>{right, right}, ctrl | Qt::ShiftModifier, 24);
         row("not beyond the end", QVector<int>{right, right, right, right}, ctrl | Qt::ShiftModifier, 29);
         row("not before the beginning", QVector<int>{left, left, left, left}, ctrl | Qt::ShiftModifier, 0);
@@ -279,6 +278,20 @@ private slots:
         QTest::keyRelease(plot, Qt::Key_Control);
         for (const auto *label : plot->findChildren<QLabel *>())
             QVERIFY(!label->isVisible());
+    }
+
+    void readOutByKeysReachesSamplesThatCameLater()
+    {
+        OsziBench bench;
+        bench.addShot(0);
+        bench.grow(30);
+        bench.model.emitDataChanged();
+        OsziWidget *plot = bench.tab.row(1);
+        QTest::keyPress(plot, Qt::Key_Right, Qt::ControlModifier);
+        const auto *readOut = plot->findChild<QLabel *>("mouseReadOut"_s);
+        QVERIFY(readOut);
+        QCOMPARE(readOut->text(), "16"_s); // sample 14, in the middle
+        QTest::keyRelease(plot, Qt::Key_Control);
     }
 
     void readOutIsMirrored()

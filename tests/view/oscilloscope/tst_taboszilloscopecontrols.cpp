@@ -18,7 +18,7 @@ void wheel(QWidget *target, QPoint at, int delta, Qt::KeyboardModifiers modifier
     QCoreApplication::sendEvent(target, &event);
 }
 
-/// Where the controls outside of the rows are, in the page that scrolls.
+/// Where the controls outside the rows are, in the page that scrolls.
 QVector<QRect> controlPlaces(const QWidget &page)
 {
     const auto *rows = page.findChild<QWidget *>("scrollArea"_s);
@@ -68,12 +68,29 @@ private slots:
         }
     }
 
+    void tabKeyGoesDownThePage()
+    {
+        const QStringList expected{
+            "sensor1CheckBox"_s,  "sensor5CheckBox"_s,         "checkBoxYCorrection"_s, "lockButton"_s,
+            "osziWidget1"_s,      "offsetSpinBox1"_s,          "osziWidget5"_s,         "offsetSpinBox5"_s,
+            "scrollArea"_s,       "scrollBarOszi"_s,           "sliderTimeZoom"_s,      "clockGridSpinBox"_s,
+            "buttonMarker1"_s,    "markerSpinBox4"_s,          "buttonClearMarkers"_s,  "checkBoxAllMeasurings"_s,
+            "highlightSpinBox"_s, "buttonDeleteMeasurement"_s, "comboBoxClock"_s};
+        OsziBench bench;
+        QStringList met;
+        for (QWidget *next = bench.tab.nextInFocusChain(); next != &bench.tab; next = next->nextInFocusChain()) {
+            if (next->focusPolicy() & Qt::TabFocus && expected.contains(next->objectName()))
+                met << next->objectName();
+        }
+        QCOMPARE(met, expected);
+    }
+
     void markerEdited_data()
     {
         columns<int, double, int>("number", "seconds", "milliseconds");
         row("rounded up, not truncated", 1, 1.2345, 1235);
         row("whole", 4, 12.0, 12000);
-        row("not a hair below", 2, 1.001, 1001);
+        row("not a millisecond less", 2, 1.001, 1001);
         row("beyond what fits", 3, 1e12, 2147483000);
     }
 
@@ -135,7 +152,11 @@ private slots:
         columns<bool, int, int, int, int>("absolute", "zoom", "start", "x", "milliseconds");
         row("absolute", true, 1, 0, 170, 10000);
         row("scrolled", true, 1, 500, 170, 60000);
-        row("nearest sample", true, 10, 0, 176, 1100);
+        row("the sample that the read-out shows", true, 10, 0, 176, 1000);
+        row("its last column", true, 10, 0, 179, 1000);
+        row("the next sample", true, 10, 0, 180, 1100);
+        row("scrolled and zoomed", true, 10, 500, 176, 51000);
+        row("half a sample left of the axis", true, 10, 500, 65, 50000);
         row("left of the axis", true, 1, 0, 10, 0);
         row("distance to the marker before", false, 1, 0, 170, 8000);
         row("before the marker before", false, 1, 0, 80, 0);
@@ -156,7 +177,13 @@ private slots:
         bench.find<QSlider>("sliderTimeZoom")->setValue(zoom);
         bench.find<QScrollBar>("scrollBarOszi")->setValue(start);
         bench.find<QPushButton>("buttonMarker", 3)->click();
-        QTest::mouseClick(bench.tab.row(1), Qt::LeftButton, Qt::NoModifier, {x, 20});
+        QTest::mousePress(bench.tab.row(1), Qt::LeftButton, Qt::NoModifier, {x, 20});
+        if (absolute && x >= OsziWidget::kLeftMargin) { // the marker lands on the sample that is read out
+            const int sample = moved.first().at(1).toInt() / bench.model.clock();
+            const double value = bench.model.measurement(1, 0)->at(sample);
+            QCOMPARE(bench.tab.row(1)->findChild<QLabel *>("mouseReadOut"_s)->text().toDouble(), value);
+        }
+        QTest::mouseRelease(bench.tab.row(1), Qt::LeftButton, Qt::NoModifier, {x, 20});
         QCOMPARE(moved.count(), 1);
         QCOMPARE(moved.first().at(0).toInt(), 2);
         QTEST(moved.first().at(1).toInt(), "milliseconds");
@@ -180,12 +207,12 @@ private slots:
         bench.tab.setMaximumSensorRange(0, 2, 0.0, 100.0);
         QCOMPARE(bench.tab.row(2)->maxValue(), 100.0);
         QCOMPARE(bench.model.osziMinimum(2), 0.0);
-        bench.tab.setMaximumSensorRange(0, 2, 300.0, 500.0); // nothing of what was shown is left
+        bench.tab.setMaximumSensorRange(0, 2, 300.0, 500.0); // nothing of what was shown lies within
         QCOMPARE(bench.find<QDoubleSpinBox>("minSpinBox", 3)->value(), 300.0);
         QCOMPARE(bench.tab.row(2)->minValue(), 300.0);
         QCOMPARE(bench.model.osziMaximum(2), 500.0);
 
-        bench.model.setOsziMinimum(2, -9000.0); // of a project that was saved with other limits
+        bench.model.setOsziMinimum(2, -9000.0); // from a project that was saved with other limits
         bench.model.setOsziMaximum(2, 9000.0);
         bench.model.setOsziMinimum(3, 7.0);
         bench.model.setOsziMaximum(3, 7.0);
@@ -252,9 +279,9 @@ private slots:
     void wheelKeepsTheTimeUnderThePointer_data()
     {
         columns<int, int, bool>("from", "delta", "changes");
-        row("nearer", 1, 360, true);
-        row("further", 10, -240, true);
-        row("at the far end", 1, -120, false);
+        row("in", 1, 360, true);
+        row("out", 10, -240, true);
+        row("out at the smallest zoom", 1, -120, false);
         row("a fraction of a step", 5, 40, false);
     }
 
@@ -283,7 +310,7 @@ private slots:
             false);
         row("Shift along the values", Qt::LeftButton, Qt::KeyboardModifiers(Qt::ShiftModifier), QPoint(5, 30), 500,
             true);
-        row("a plain drag is the read-out's", Qt::LeftButton, Qt::KeyboardModifiers(), QPoint(-100, 10), 500, false);
+        row("without a key: moves the read-out", Qt::LeftButton, Qt::KeyboardModifiers(), QPoint(-100, 10), 500, false);
     }
 
     void dragPansOneAxis()
@@ -307,10 +334,10 @@ private slots:
 
     void gesturesOnTheValueAxis_data()
     {
-        // keys: none: a double click
+        // no keys: a double click
         columns<QKeySequence, double, double>("keys", "minimum", "maximum");
-        row("nearer", QKeySequence(Qt::CTRL + Qt::Key_Plus), 20.0, 180.0);
-        row("further", QKeySequence(Qt::CTRL + Qt::Key_Minus), -25.0, 225.0);
+        row("in", QKeySequence(Qt::CTRL + Qt::Key_Plus), 20.0, 180.0);
+        row("out", QKeySequence(Qt::CTRL + Qt::Key_Minus), -25.0, 225.0);
         row("up", QKeySequence(Qt::Key_Up), 20.0, 220.0);
         row("F fits 11 to 110", QKeySequence(Qt::Key_F), 6.0, 115.0);
         row("double click", QKeySequence(), 6.0, 115.0);

@@ -1,5 +1,6 @@
 #include "app/theme.h"
 #include "model/model.h"
+#include "tests/support/files.h"
 #include "tests/support/literals.h"
 #include "tests/support/logcapture.h"
 #include "tests/support/rows.h"
@@ -215,6 +216,35 @@ private slots:
         QVERIFY(!bench.view->isAsking());
     }
 
+    void completedNameAsksBeforeOverwriting_data()
+    {
+        // asked: title of the question, empty: none
+        columns<QString, bool, bool, QString, QString>("chosen", "exactCase", "overwrite", "asked", "result");
+        row("with the suffix", "there.vnt", false, false, QString(), "there.vnt"); // the dialog has asked
+        row("in capitals", "there.VNT", false, false, QString(), "there.VNT");
+        row("a new file", "new", false, false, QString(), "new.vnt");
+        row("overwritten", "there", false, true, "Speichern", "there.vnt");
+        row("refused", "there", false, false, "Speichern", QString());
+        row("capitals completed", "there.VNT", true, false, QString(), "there.VNT.vnt");
+        row("cancelled", QString(), false, false, QString(), QString());
+    }
+
+    void completedNameAsksBeforeOverwriting()
+    {
+        QFETCH(QString, chosen);
+        QFETCH(bool, exactCase);
+        QFETCH(bool, overwrite);
+        const QTemporaryDir folder;
+        writeFile(folder.filePath("there.vnt"_s), "old");
+        Bench bench;
+        bench.prompts->saveNames = {chosen.isEmpty() ? QString() : folder.filePath(chosen)};
+        bench.prompts->answers = {overwrite ? QMessageBox::Yes : QMessageBox::No};
+        const QString file = bench.view->askSaveFileWithSuffix("Speichern"_s, "f"_s, ".vnt"_s,
+                                                               exactCase ? Qt::CaseSensitive : Qt::CaseInsensitive);
+        QTEST(QFileInfo(file).fileName(), "result");
+        QTEST(bench.prompts->questions.empty() ? QString() : bench.prompts->questions.front().title, "asked");
+    }
+
     void progressIsCentredAndCancels()
     {
         const Bench bench;
@@ -261,10 +291,10 @@ private slots:
         const auto *label = bench.view->findChild<QLabel *>("labelProjectFile"_s);
         QCOMPARE(label->text(), "Neues Projekt"_s);
         bench.model.setCurrentFile("/daten/deckel.vnt"_s);
-        bench.model.setProjectModifiedFlag(true); // the model tells nobody
-        QTRY_COMPARE(label->text(), "deckel.vnt – geändert"_s);
+        bench.model.setProjectModifiedFlag(true);
+        QCOMPARE(label->text(), "deckel.vnt – geändert"_s);
         bench.model.setProjectModifiedFlag(false);
-        QTRY_COMPARE(label->text(), "deckel.vnt – gespeichert"_s);
+        QCOMPARE(label->text(), "deckel.vnt – gespeichert"_s);
     }
 
     void editInTheProjectTabIsNotLost()

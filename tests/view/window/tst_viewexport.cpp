@@ -8,7 +8,7 @@
 #include "tests/support/scriptedprompts.h"
 #include "view/oscilloscope/taboszilloscope.h"
 #include "view/terminal/loggertext.h"
-#include "view/window/exportfiles.h"
+#include "view/terminal/terminalfile.h"
 #include "view/window/view.h"
 
 #include <QtWidgets>

@@ -5,8 +5,8 @@
 #include "tests/support/scriptedprompts.h"
 #include "view/blackbox/tabblackbox.h"
 #include "view/box/ipaddressdialog.h"
+#include "view/common/elidedlabel.h"
 #include "view/evaluation/tabevaluation.h"
-#include "view/oscilloscope/oszirowcontrols.h"
 #include "view/terminal/tabdatalogger.h"
 #include "view/window/dialogprompts.h"
 #include "view/window/view.h"
@@ -159,16 +159,14 @@ QString clippedText(const QWidget *page)
     return {};
 }
 
-/// A window in the middle of a recording.
-void work(View &view, Model &model, const QDir &folder, bool withDemo)
+/// The window as in the middle of a recording, with a link to a box and much that was used before.
+void connectAndRecord(View &view, Model &model, DemoState demo)
 {
-    fill(model);
-    fill(*view.tabBlackBox(), model, folder);
     model.setConnected(true);
     model.emitAppStateChanged();
     view.setDeviceAddress("192.168.4.1"_s);
     view.setRecordingRunning(true);
-    view.setDemoState(withDemo ? DemoState::Running : DemoState::Off);
+    view.setDemoState(demo);
     rememberMuch(view);
     model.setDeviceDescription({"2.1"_s, "8.0.3"_s, 1, {{"Werkzeug, Düsenseite"_s, 5, {}}}});
     view.findChild<QCheckBox *>("loggerCheckBoxA1"_s)->setChecked(true);
@@ -181,17 +179,19 @@ void work(View &view, Model &model, const QDir &folder, bool withDemo)
     view.showStatus("Die CSV-Datei konnte nicht gespeichert werden!"_s);
 }
 
-void lookAtTabs(View &view, const QString &picture)
+void checkPages(View &view, const QString &picture)
 {
+    const QSize size = view.size();
     for (int tab = 0; tab < view.tabs()->count(); ++tab) {
         view.tabs()->setCurrentIndex(tab);
         QTest::qWait(150);
+        QCOMPARE(view.size(), size);
         keep(view, picture.arg(tab));
         QCOMPARE(clippedText(view.tabs()->widget(tab)), QString());
     }
 }
 
-void lookAtEvaluation(View &view, const QString &picture)
+void checkEvaluation(View &view, const QString &picture)
 {
     view.tabs()->setCurrentWidget(view.tabEvaluation());
     for (int page = 1; page < TabEvaluation::kNumPages; ++page) {
@@ -202,7 +202,7 @@ void lookAtEvaluation(View &view, const QString &picture)
     }
 }
 
-void lookAtAbout(View &view, const QString &picture)
+void checkAbout(View &view, const QString &picture)
 {
     view.showAbout();
     auto *about = view.findChild<QDialog *>("AboutDialog"_s);
@@ -245,19 +245,22 @@ private slots:
         View view(&model, std::make_unique<ScriptedPrompts>());
         const char *language = english ? "actionLanguageEnglish" : "actionLanguageGerman";
         view.findChild<QAction *>(QLatin1String(language))->trigger();
-        if (connected)
-            work(view, model, QDir(folder.path()), english);
+        if (connected) {
+            fill(model);
+            fill(*view.tabBlackBox(), model, QDir(folder.path()));
+            connectAndRecord(view, model, english ? DemoState::Running : DemoState::Off);
+        }
         view.resize(size);
         view.show();
         QVERIFY(QTest::qWaitForWindowExposed(&view));
         const QString picture = QString::fromLatin1(QTest::currentDataTag()).remove(QLatin1Char(' ')) + "-%1"_s;
-        lookAtTabs(view, picture);
-        QCOMPARE(view.size(), size); // no page has made the window larger
-        lookAtEvaluation(view, picture);
+        checkPages(view, picture);
+        checkEvaluation(view, picture);
+        QCOMPARE(view.size(), size); // no page forced it larger
         QCOMPARE(clippedText(view.findChild<QToolBar *>("toolBar"_s)), QString());
         view.showProgress("Verbinden mit 192.168.4.1 ..."_s);
         keep(view, picture.arg("progress"_s));
-        lookAtAbout(view, picture);
+        checkAbout(view, picture);
         auto *menu = view.findChild<QMenu *>("menu"_s);
         menu->resize(menu->sizeHint());
         keep(*menu, picture.arg("menu"_s));

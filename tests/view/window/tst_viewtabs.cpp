@@ -8,6 +8,7 @@
 #include "view/terminal/tabdatalogger.h"
 #include "view/terminal/tabterminal.h"
 #include "view/window/dialogprompts.h"
+#include "view/window/pagetable.h"
 
 #include <QtWidgets>
 
@@ -166,6 +167,20 @@ private slots:
         TabWebConfig tab;
         tab.setAddress(address);
         QCOMPARE(tab.findChild<QPushButton *>("buttonOpenWebPage"_s)->isEnabled(), !url.isEmpty());
+    }
+
+    void pageKeys_data()
+    {
+        columns<int, QString>("page", "key");
+        row("first", 0, "Ctrl+1");
+        row("ninth", 8, "Ctrl+9");
+        row("tenth", 9, QString()); // no digit is left
+    }
+
+    void pageKeys()
+    {
+        QFETCH(int, page);
+        QTEST(PageTable::keyOf(page).toString(), "key");
     }
 
     void escapeAnswers_data()

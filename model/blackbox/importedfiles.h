@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QByteArray>
+#include <QSet>
+#include <QStringList>
+
+/// The logger files that were imported, and their fingerprints, which tell them from others that came to the same place
+/// later.
+class ImportedFiles
+{
+public:
+    [[nodiscard]] QStringList files() const { return m_files; }
+    void setFiles(const QStringList &files);
+    /// A file that is on the list already stays where it is on it.
+    void add(const QString &absolutePath);
+    [[nodiscard]] QSet<QByteArray> fingerprints() const { return m_fingerprints; }
+
+private:
+    void remember(const QString &file);
+
+    QStringList m_files;
+    QSet<QByteArray> m_fingerprints;
+};

@@ -1,0 +1,147 @@
+#include "model/modelfiles.h"
+
+#include "model/logging.h"
+#include "model/modelchanges.h"
+#include "model/project/atomicfile.h"
+#include "model/project/csvexport.h"
+#include "model/project/filework.h"
+#include "model/project/metafile.h"
+#include "model/project/pacer.h"
+#include "model/project/project.h"
+#include "model/project/projectdocument.h"
+#include "model/project/projecteditor.h"
+#include "model/project/projectreader.h"
+#include "model/project/projecttransfer.h"
+#include "model/project/projectwriter.h"
+
+#include <QDebug>
+#include <QFile>
+#include <QFileInfo>
+
+#include <utility>
+
+struct ModelFiles::Opened
+{
+    ProjectDocument document;
+    ImageStore images;
+};
+
+ModelFiles::ModelFiles(ProjectEditor &editor, Project &project, ModelChanges &changes, FileWork &work)
+    : m_editor(editor)
+    , m_project(project)
+    , m_changes(changes)
+    , m_work(work)
+{}
+
+void ModelFiles::setCurrentFile(const QString &absolutePath)
+{
+    if (std::exchange(m_currentFile, absolutePath) != absolutePath)
+        m_changes.fileState();
+}
+
+void ModelFiles::setModified(bool modified)
+{
+    if (std::exchange(m_modified, modified) != modified)
+        m_changes.fileState();
+}
+
+bool ModelFiles::open(const QString &fileName, const char *function)
+{
+    if (m_work.refuses(function))
+        return false;
+    QFile file(fileName);
+    if (!QFileInfo(fileName).isFile() || !file.open(QIODevice::ReadOnly)) {
+        qCDebug(lcModel).noquote().nospace() << function << " could not open file:" << fileName;
+        return false;
+    }
+    std::optional<Opened> opened = read(file);
+    if (!opened) {
+        qCDebug(lcModel).noquote().nospace() << function << " jdoc is no object!";
+        return false;
+    }
+    apply(*opened, QFileInfo(fileName).absoluteFilePath(), function);
+    m_changes.opened(function);
+    m_editor.setProjectModifiedFlag(false);
+    qCDebug(lcModel) << function << " END";
+    return true;
+}
+
+// All that can fail, takes long or lets events in happens here, before the model is touched.
+std::optional<ModelFiles::Opened> ModelFiles::read(QFile &file)
+{
+    const auto task = [&]() -> std::optional<Opened> {
+        Pacer pacer(m_work.yield(), file.size());
+        std::optional<ProjectDocument> document = projectfile::read(file, pacer);
+        if (!document)
+            return {};
+        ImageStore images = ImageStore::decoded(std::move(document->images), [&] { pacer.moveTo(file.size()); });
+        return Opened{std::move(*document), std::move(images)};
+    };
+    return m_work.run(task, Q_FUNC_INFO);
+}
+
+// What clear() and the setters announce is not passed on, as open() announces everything afterwards.
+void ModelFiles::apply(Opened &opened, const QString &absolutePath, const char *function)
+{
+    const ModelChanges::Silence silence(m_changes);
+    m_editor.clear();
+    m_project.images = std::move(opened.images);
+    applyDocument(opened.document, absolutePath, m_editor, m_project, function);
+    if (std::optional<ProjectMeta> meta = openMeta(absolutePath, m_project.shots, function))
+        m_project.meta = *std::move(meta);
+}
+
+bool ModelFiles::save(const QString &fileName, const char *function)
+{
+    if (m_work.refuses(function))
+        return false;
+    // Events come in while the project is written, so what goes into the file beside it is taken now.
+    const quint64 changesBefore = countChanges();
+    const ProjectMeta meta = m_project.meta;
+    const ShotChecks checks = shotChecks(m_project.shots);
+    if (!writeProject(fileName))
+        return false;
+    m_metaSaved = saveMeta(fileName, meta, checks);
+    const bool isUpToDate = countChanges() == changesBefore;
+    m_editor.setCurrentFile(QFileInfo(fileName).absoluteFilePath());
+    m_changes.project(function);
+    m_editor.setProjectModifiedFlag(!isUpToDate);
+    return true;
+}
+
+bool ModelFiles::saveCsv(const QString &fileName, const char *function)
+{
+    return !m_work.refuses(function) && writeCsv(fileName);
+}
+
+quint64 ModelFiles::countChanges() const
+{
+    return m_changes.count() + m_project.shots.revision(); // neither ever goes back
+}
+
+bool ModelFiles::writeProject(const QString &fileName)
+{
+    const auto task = [&] {
+        ProjectDocument document = documentOf(m_project);
+        const ImageStore::Pixmaps pixmaps = m_project.images.pixmaps();
+        Pacer pacer(m_work.yield(), document.sampleCount());
+        const auto write = [&](QIODevice &target) {
+            document.images = m_project.images.encoded(pixmaps, [&pacer] { pacer.moveTo(0); });
+            return projectfile::write(target, document, pacer);
+        };
+        return replaceFile(fileName, write, [&pacer] { pacer.look(); });
+    };
+    return m_work.run(task, Q_FUNC_INFO);
+}
+
+bool ModelFiles::writeCsv(const QString &fileName)
+{
+    const auto task = [&] {
+        const ProjectDocument document = documentOf(m_project);
+        const QString projectFile = QFileInfo(m_currentFile).fileName();
+        Pacer pacer(m_work.yield(), document.sampleCount());
+        const auto write = [&](QIODevice &target) { return ::writeCsv(target, projectFile, document, pacer); };
+        return replaceFile(fileName, write, [&pacer] { pacer.look(); });
+    };
+    return m_work.run(task, Q_FUNC_INFO);
+}

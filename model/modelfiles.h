@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+class FileWork;
+class ProjectEditor;
+class ModelChanges;
+class QFile;
+struct Project;
+
+/// Carries the project of a model to its file and back, and knows the name of that file and whether the project was
+/// modified since. `function` is the one that log lines name.
+class ModelFiles
+{
+public:
+    /// All of them must outlive this.
+    ModelFiles(ProjectEditor &editor, Project &project, ModelChanges &changes, FileWork &work);
+
+    /// False, with the model as it was, if the file cannot be read or holds no project.
+    [[nodiscard]] bool open(const QString &fileName, const char *function);
+    [[nodiscard]] bool save(const QString &fileName, const char *function);
+    [[nodiscard]] bool saveCsv(const QString &fileName, const char *function);
+    /// False if the last save() wrote the project, but not the file beside it.
+    [[nodiscard]] bool isMetaSaved() const { return m_metaSaved; }
+
+    [[nodiscard]] QString currentFile() const { return m_currentFile; }
+    void setCurrentFile(const QString &absolutePath);
+    [[nodiscard]] bool isModified() const { return m_modified; }
+    void setModified(bool modified);
+
+private:
+    struct Opened;
+    [[nodiscard]] std::optional<Opened> read(QFile &file);
+    void apply(Opened &opened, const QString &absolutePath, const char *function);
+    [[nodiscard]] bool writeProject(const QString &fileName);
+    [[nodiscard]] bool writeCsv(const QString &fileName);
+    [[nodiscard]] quint64 countChanges() const;
+
+    ProjectEditor &m_editor;
+    Project &m_project;
+    ModelChanges &m_changes;
+    FileWork &m_work;
+    QString m_currentFile; // absolute
+    bool m_modified = false;
+    bool m_metaSaved = true;
+};

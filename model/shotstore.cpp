@@ -1,0 +1,149 @@
+#include "model/shotstore.h"
+
+#include "model/arrayindex.h"
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+
+namespace {
+
+// What the ends of a range start from, so that a measurement without samples has an inverted range.
+constexpr double kNoMinimum = 9999999.0;
+constexpr double kNoMaximum = -9999999.0;
+
+// Squeezing copies: with a longer measurement the user would notice, and memory it has not used costs nothing.
+constexpr int kLargestToSqueeze = 1000000;
+
+bool isSensor(int sensor)
+{
+    return sensor >= 0 && sensor < kNumSensors;
+}
+
+} // namespace
+
+int ShotStore::count(int sensor) const
+{
+    return isSensor(sensor) ? static_cast<int>(m_channels[at(sensor)].size()) : 0;
+}
+
+int ShotStore::shotCount() const
+{
+    const auto longest = std::max_element(m_channels.begin(), m_channels.end(),
+                                          [](const Channel &a, const Channel &b) { return a.size() < b.size(); });
+    return static_cast<int>(longest->size());
+}
+
+SampleList *ShotStore::find(int sensor, int measurement) const
+{
+    if (!isSensor(sensor) || measurement < 0)
+        return nullptr;
+    const Channel &channel = m_channels[at(sensor)];
+    return at(measurement) < channel.size() ? channel[at(measurement)].get() : nullptr;
+}
+
+const SampleList *ShotStore::samples(int sensor, int measurement) const
+{
+    return find(sensor, measurement);
+}
+
+quint64 ShotStore::id(int sensor, int measurement) const
+{
+    return find(sensor, measurement) ? m_ids[at(sensor)][at(measurement)] : 0;
+}
+
+double ShotStore::latest(int sensor) const
+{
+    const SampleList *newest = find(sensor, count(sensor) - 1);
+    return newest && !newest->isEmpty() ? newest->constLast() : 0.0;
+}
+
+double ShotStore::minimum(int sensor, int measurement) const
+{
+    const SampleList *samples = find(sensor, measurement);
+    if (!samples)
+        return 0.0;
+    return samples->isEmpty() ? kNoMinimum : *std::min_element(samples->cbegin(), samples->cend());
+}
+
+double ShotStore::maximum(int sensor, int measurement) const
+{
+    const SampleList *samples = find(sensor, measurement);
+    if (!samples)
+        return 0.0;
+    return samples->isEmpty() ? kNoMaximum : *std::max_element(samples->cbegin(), samples->cend());
+}
+
+int ShotStore::append(int sensor, SampleList samples)
+{
+    if (!isSensor(sensor))
+        return -1;
+    m_channels[at(sensor)].push_back(std::make_unique<SampleList>(std::move(samples)));
+    m_ids[at(sensor)].push_back(++m_lastId);
+    countStructureChange();
+    return count(sensor) - 1;
+}
+
+bool ShotStore::appendSample(int sensor, int measurement, double value)
+{
+    SampleList *samples = find(sensor, measurement);
+    if (!samples)
+        return false;
+    samples->append(std::isfinite(value) ? value : 0.0);
+    ++m_revision;
+    return true;
+}
+
+void ShotStore::setChannel(int sensor, Channel channel)
+{
+    if (!isSensor(sensor))
+        return;
+    Channel &old = m_channels[at(sensor)];
+    std::move(old.begin(), old.end(), std::back_inserter(m_removed));
+    old = std::move(channel);
+    m_ids[at(sensor)].resize(old.size());
+    for (quint64 &id : m_ids[at(sensor)])
+        id = ++m_lastId;
+    countStructureChange();
+}
+
+bool ShotStore::remove(int measurement)
+{
+    if (measurement < 0 || measurement >= shotCount())
+        return false;
+    for (std::size_t sensor = 0; sensor < m_channels.size(); ++sensor) {
+        Channel &channel = m_channels[sensor];
+        if (at(measurement) >= channel.size())
+            continue;
+        m_removed.push_back(std::move(channel[at(measurement)]));
+        channel.erase(channel.begin() + measurement);
+        m_ids[sensor].erase(m_ids[sensor].begin() + measurement);
+    }
+    countStructureChange();
+    return true;
+}
+
+void ShotStore::clear()
+{
+    for (Channel &channel : m_channels) {
+        std::move(channel.begin(), channel.end(), std::back_inserter(m_removed));
+        channel.clear();
+    }
+    for (std::vector<quint64> &ids : m_ids)
+        ids.clear();
+    countStructureChange();
+}
+
+void ShotStore::squeezeNewest()
+{
+    for (Channel &channel : m_channels) {
+        if (!channel.empty() && channel.back()->size() < kLargestToSqueeze)
+            channel.back()->squeeze();
+    }
+}
+
+void ShotStore::countStructureChange()
+{
+    ++m_structureRevision;
+    ++m_revision;
+}

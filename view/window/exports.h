@@ -1,0 +1,29 @@
+#pragma once
+
+#include "view/window/pages.h"
+
+#include <QObject>
+
+class MainWindow;
+class Model;
+
+/// The files that the window itself writes: the terminal's text, a picture of the oscilloscope, the samples as CSV.
+/// Each is written when the window's signal of that name is emitted; what goes wrong is told in the status bar.
+class Exports : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Both must outlive this object.
+    Exports(MainWindow *window, Model *model, const Pages &pages);
+
+private:
+    [[nodiscard]] bool refuseWhileBusy() const;
+    void saveTerminal() const;
+    void saveOszi() const;
+    void saveCsv() const;
+
+    MainWindow *m_window;
+    Model *m_model;
+    Pages m_pages;
+};
