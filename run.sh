@@ -45,7 +45,7 @@ fi
 start_simulator
 echo "Box simulator on $address:$port; Ventaro's messages go to build/log/ventaro.txt"
 export VENTARO_DEVICE_ADDRESS=$address VENTARO_AUTOCONNECT=1
-# Several debug lines a sample would fill the disk in a day.
+# Several debug lines per sample would fill the disk within a day.
 export QT_LOGGING_RULES=${QT_LOGGING_RULES-ventaro.*.debug=false}
 program=$PWD/$programs/ventaro log=$PWD/build/log/ventaro.txt
 cd "$caller" # where a project named on the command line is looked for

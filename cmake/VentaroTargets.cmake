@@ -23,7 +23,7 @@ if(VENTARO_SANITIZE)
 endif()
 
 # ventaro_layer(<target> SOURCES <file>... [LINK <target>...])
-# One static library a layer. tools/check_layers.py reads these calls to learn which file belongs to which layer.
+# One static library per layer. tools/check_layers.py reads these calls to learn which file belongs to which layer.
 function(ventaro_layer target)
     cmake_parse_arguments(arg "" "" "SOURCES;LINK" ${ARGN})
     add_library(${target} STATIC ${arg_SOURCES})

@@ -48,7 +48,7 @@ quiet_apt() {
 echo "Installing ${missing[*]}"
 # The list of packages may be out of date or absent; a failed update alone need not stop the installation.
 quiet_apt update || echo "apt-get update failed" >>"$log"
-# The tests start an SSH server of their own; none is to run as a service because of them.
+# The tests start their own SSH server; installing it for them must not start a service.
 case " ${missing[*]} " in *" openssh-server "*)
     "${as_root[@]}" mkdir -p /etc/ssh && "${as_root[@]}" touch /etc/ssh/sshd_not_to_be_run
     ;;

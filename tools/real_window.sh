@@ -1,6 +1,6 @@
 #!/bin/bash
-# Drives the program in a real window, with keys and pointer, on a screen that nobody sees: Xvfb with a window manager.
-# Shows what off-screen tests cannot: fonts of the style sheet, the pixel ratio of the screen, what a window manager does.
+# Drives the program in a real window with keys and pointer, under Xvfb with a window manager. Shows what off-screen tests
+# cannot: fonts of the style sheet, the pixel ratio of the screen, what a window manager does.
 #
 #   real_window.sh [--scale 1.5] [--size 1280x800] [--language de|en] [--programs DIR] [--output DIR] SCRIPT [ARGUMENT...]
 #
@@ -50,7 +50,7 @@ output=$(realpath "$output")
     echo "No program in $programs" >&2
     exit 1
 }
-for tool in Xvfb openbox xdotool convert import; do
+for tool in Xvfb openbox xdotool xprop convert import; do
     command -v $tool >/dev/null || {
         echo "$tool is not installed (tools/install_packages.sh test)"
         exit 77
@@ -62,6 +62,7 @@ work=$(mktemp -d)
 log=$output/ventaro.txt
 processes=()
 program='' # its process while it runs
+unset DISPLAY # until the screen is there; never the user's own
 
 fail() {
     echo "FAILED: $*" >&2
@@ -78,8 +79,10 @@ background() {
 }
 
 end_all() {
-    local i
+    local i running
+    running=" $(jobs -pr | tr '\n' ' ') " # the number of a process that has ended may be somebody else's
     for ((i = ${#processes[@]} - 1; i >= 0; --i)); do
+        [[ $running == *" ${processes[i]} "* ]] || continue
         kill "${processes[i]}" 2>/dev/null || true
         wait "${processes[i]}" 2>/dev/null || true
     done
@@ -109,7 +112,8 @@ start_screen() {
     background "$work/xvfb.txt" Xvfb -displayfd 1 -screen 0 "$(dots "${size%x*}")x$(dots "${size#*x}")x24" -dpi 96 \
         -nolisten tcp
     wait_for grep -qs '^[0-9]' "$work/xvfb.txt"
-    export DISPLAY=:$(grep -m 1 '^[0-9]' "$work/xvfb.txt")
+    DISPLAY=:$(grep -m 1 '^[0-9]' "$work/xvfb.txt")
+    export DISPLAY
     background "$work/openbox.txt" openbox --config-file /etc/xdg/openbox/rc.xml
     xdotool mousemove 0 0 # or widgets in the middle look hovered over
     wait_for manages_windows
@@ -119,11 +123,10 @@ manages_windows() {
     xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'
 }
 
-# The program knows one port only, so each run takes an address of its own.
+# The program knows one port only, so runs at the same time need different addresses.
 start_simulator() {
-    local attempt
-    for attempt in {1..20}; do
-        address=127.$((RANDOM % 250 + 1)).$((RANDOM % 250 + 1)).$((RANDOM % 250 + 1))
+    for address in 127.26.4.{1..50}; do
+        : >"$work/simulator.txt"
         background "$work/simulator.txt" "$programs/ventaro-box-simulator" --address "$address" --port 2222 --seed 1
         wait_for grep -q 'listen' "$work/simulator.txt"
         ! grep -q 'cannot listen' "$work/simulator.txt" || continue

@@ -41,7 +41,7 @@ for flag in "$drawings"/flags/*.svg; do
     render "$flag" "$(basename "$flag" .svg)" 36
 done
 
-# What a desktop shows for the program and its files. Small sizes have drawings of their own with fewer, wider lines.
+# What a desktop shows for the program and its files. Small sizes have separate drawings with fewer, wider lines.
 desktop=packaging/icons/hicolor
 # for_desktop DRAWING KIND NAME
 for_desktop() {

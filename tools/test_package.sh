@@ -1,5 +1,5 @@
 #!/bin/bash
-# Tries the Debian package in a bare Debian 12 of its own: installs it with what it depends on, starts the program there
+# Tries the Debian package in a bare Debian 12 made for this: installs it with what it depends on, starts the program there
 # as a user on a display, opens a project, ends it, and removes the package without a trace. Needs root and takes a few
 # minutes; not part of test.sh. Leaves pictures in build/package/.
 #

@@ -8,6 +8,25 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+namespace {
+
+constexpr QSize kPictureSize(20, 10);
+
+/// One edit of each kind that a project file has to keep.
+void editProject(Bench &bench)
+{
+    emit bench.view.tabOszi()->markerChangedAbsolute(2, 17);
+    emit bench.view.tabProject()->phaseEditChanged(1, "Füllen <ß>"_s);
+    QPixmap picture(kPictureSize);
+    picture.fill(Qt::darkCyan);
+    bench.model.setImage(2, picture);
+    bench.model.setComment("Größe \"7\"\n\tZeile 2"_s);
+    bench.prompts->whileOpen = [] { QTest::qWait(30); };
+    emit bench.view.calibrate();
+}
+
+} // namespace
+
 class TestSession : public QObject
 {
     Q_OBJECT
@@ -44,10 +63,12 @@ private slots:
         for (int shot = 0; shot < 3; ++shot)
             QVERIFY(rig.recordShot(40));
         QCOMPARE(bench.shots(), 3);
+        bench.prompts->answers = {QMessageBox::Yes};
+        emit bench.view.tabOszi()->deleteMeasurements("2"_s);
+        QCOMPARE(bench.shots(), 2);
+        QVERIFY(rig.allArrived()); // in what is now shot 2
+        editProject(bench);
 
-        QPixmap picture(20, 10);
-        picture.fill(Qt::darkCyan);
-        edit(rig, picture);
         bench.prompts->saveNames = {file};
         emit bench.view.saveProject();
         QVERIFY(!bench.model.isProjectModified());
@@ -59,7 +80,7 @@ private slots:
         QVERIFY(rig.allArrived()); // bit for bit
         QCOMPARE(bench.model.clock(), 1);
         QCOMPARE(bench.model.phaseName(1), "Füllen <ß>"_s);
-        QCOMPARE(bench.model.image(2).size(), picture.size());
+        QCOMPARE(bench.model.image(2).size(), kPictureSize);
         const QString again = m_folder.filePath("again.vnt"_s);
         QVERIFY(bench.model.save(again));
         QVERIFY(contentOf(again) == contentOf(file));
@@ -83,7 +104,8 @@ private slots:
         QVERIFY(rig.bench.samples(0, 0).size() > 0);
     }
 
-    /// The user chooses the period of the project; the box follows that of a new project, which keeps the sensors.
+    /// The user chooses the period of the project; a new one brings its own, which the box takes, and keeps the
+    /// sensors.
     void boxAndProjectStayMatched()
     {
         Rig rig;
@@ -115,7 +137,7 @@ private slots:
         QVERIFY(!bench.model.hardwareVersion().isEmpty() && !bench.model.isProjectModified());
         bench.model.setProjectModifiedFlag(true);
         bench.prompts->answers = {QMessageBox::Discard};
-        emit bench.view.newProject(); // with what is discarded, its box is left
+        emit bench.view.newProject(); // what is thrown away takes its box along
         QVERIFY(!bench.model.isConnected());
     }
 
@@ -146,26 +168,8 @@ private slots:
     }
 
 private:
-    static void edit(Rig &rig, const QPixmap &picture);
-
     QTemporaryDir m_folder;
 };
-
-/// Deletes the second of three shots and changes something of every kind.
-void TestSession::edit(Rig &rig, const QPixmap &picture)
-{
-    Bench &bench = rig.bench;
-    bench.prompts->answers = {QMessageBox::Yes};
-    emit bench.view.tabOszi()->deleteMeasurements("2"_s);
-    QCOMPARE(bench.shots(), 2);
-    QVERIFY(rig.allArrived()); // in what is now shot 2
-    emit bench.view.tabOszi()->markerChangedAbsolute(2, 17);
-    emit bench.view.tabProject()->phaseEditChanged(1, "Füllen <ß>"_s);
-    bench.model.setImage(2, picture);
-    bench.model.setComment("Größe \"7\"\n\tZeile 2"_s);
-    bench.prompts->whileOpen = [&] { QTest::qWait(30); };
-    emit bench.view.calibrate();
-}
 
 QTEST_MAIN(TestSession)
 #include "tst_session.moc"

@@ -46,7 +46,7 @@ class Picture:
         return [self.row(y, area.left, area.right + 1) for y in range(area.top, area.bottom + 1)]
 
     def plots(self, narrowest):
-        """The plots from top to bottom, of at least so many dots in width; None if the lines do not make plots."""
+        """The plots from top to bottom, each at least `narrowest` dots wide; None if a frame is not whole."""
         pattern = re.compile(rb"[\0-\x%02x]{%d,}" % (LINE, narrowest))
         found = {y: match for y in range(self.height) if (match := pattern.search(self.row(y)))}
         lines = groups(found)  # top and bottom of each frame in turn, as nothing interrupts them
