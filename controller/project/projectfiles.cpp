@@ -10,7 +10,6 @@
 #include "view/window/view.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 
 namespace {
 
@@ -158,16 +157,9 @@ void ProjectFiles::saveAs()
 /// Empty: cancelled.
 QString ProjectFiles::askFileToSave()
 {
-    const QString title = tr("Projekt speichern");
-    QString fileName = m_occupancy.ask([&] { return m_view.askSaveFile(title, projectFilter()); });
-    if (fileName.isEmpty() || fileName.endsWith(kProjectSuffix, Qt::CaseInsensitive))
-        return fileName;
-    fileName += kProjectSuffix; // or the file dialog would not show it
-    if (!QFileInfo::exists(fileName))
-        return fileName;
-    // The file dialog could only ask about the name as it was typed.
-    const QString question = tr("Die Datei \"%1\" ist schon vorhanden. Überschreiben?").arg(fileName);
-    return m_occupancy.ask([&] { return m_view.askYesNo(title, question); }) ? fileName : QString();
+    // Without the suffix the dialog for opening would not show the file.
+    return m_occupancy.ask(
+        [this] { return m_view.askSaveFileWithSuffix(tr("Projekt speichern"), projectFilter(), kProjectSuffix); });
 }
 
 bool ProjectFiles::saveTo(const QString &fileName)

@@ -10,7 +10,6 @@
 #include "view/window/view.h"
 
 #include <QDir>
-#include <QFileInfo>
 #include <QPixmap>
 #include <QSaveFile>
 
@@ -170,12 +169,6 @@ void ProjectPictures::save(int image)
 /// Empty: cancelled.
 QString ProjectPictures::askFileToSave()
 {
-    const QString title = tr("Bild speichern");
-    QString file = m_occupancy.ask([&] { return m_view.askSaveFile(title, tr("PNG-Bild (*.png)")); });
-    if (file.isEmpty() || file.endsWith(kPictureSuffix, Qt::CaseInsensitive))
-        return file;
-    file += kPictureSuffix;
-    const QString question = tr("Die Datei \"%1\" ist schon vorhanden. Überschreiben?").arg(file);
-    const bool mayWrite = !QFileInfo::exists(file) || m_occupancy.ask([&] { return m_view.askYesNo(title, question); });
-    return mayWrite ? file : QString();
+    return m_occupancy.ask(
+        [this] { return m_view.askSaveFileWithSuffix(tr("Bild speichern"), tr("PNG-Bild (*.png)"), kPictureSuffix); });
 }
