@@ -189,6 +189,90 @@
     </message>
 </context>
 <context>
+    <name>BoxDescriptions</name>
+    <message>
+        <source>Namen und Grenzen der Sensoren kommen jetzt von der Box.</source>
+        <translation>The names and limits of the sensors now come from the box.</translation>
+    </message>
+</context>
+<context>
+    <name>BoxLink</name>
+    <message>
+        <source>Keine Verbindung zur Mesotra Hardware.</source>
+        <translation>No connection to the Mesotra hardware.</translation>
+    </message>
+    <message>
+        <source>Verbinden ...</source>
+        <translation>Connecting ...</translation>
+    </message>
+    <message>
+        <source>Keine gültige Adresse: %1</source>
+        <translation>Not a valid address: %1</translation>
+    </message>
+    <message>
+        <source>Ventaro ist mit %1 verbunden.</source>
+        <translation>Ventaro is connected to %1.</translation>
+    </message>
+    <message>
+        <source>Die Demo wird beendet. Mit %1 verbinden?</source>
+        <translation>The demo will end. Connect to %1?</translation>
+    </message>
+    <message>
+        <source>Die Verbindung zu %1 wird getrennt. Mit %2 verbinden?</source>
+        <translation>The connection to %1 will be closed. Connect to %2?</translation>
+    </message>
+    <message>
+        <source>Verbinden</source>
+        <translation>Connect</translation>
+    </message>
+    <message>
+        <source>Verbinden mit %1 ...</source>
+        <translation>Connecting to %1 ...</translation>
+    </message>
+    <message>
+        <source>Verbindungsaufbau abgebrochen.</source>
+        <translation>Connection attempt cancelled.</translation>
+    </message>
+    <message>
+        <source>Die Demo läuft.</source>
+        <translation>The demo is running.</translation>
+    </message>
+    <message>
+        <source>Verbunden mit %1.</source>
+        <translation>Connected to %1.</translation>
+    </message>
+    <message>
+        <source>Verbindung getrennt, Aufnahme beendet. Alle Daten sind erhalten.</source>
+        <translation>Disconnected, recording ended. All data has been kept.</translation>
+    </message>
+    <message>
+        <source>Verbindung getrennt.</source>
+        <translation>Disconnected.</translation>
+    </message>
+    <message>
+        <source>Die Mesotra Box startet neu. Verbinden mit %1 ...</source>
+        <translation>The Mesotra box is restarting. Connecting to %1 ...</translation>
+    </message>
+    <message>
+        <source>Die Mesotra Hardware ist nicht mehr erreichbar.</source>
+        <translation>The Mesotra hardware can no longer be reached.</translation>
+    </message>
+    <message>
+        <source>Die Mesotra Hardware wurde nicht gefunden! Bitte IP-Adresse überprüfen!</source>
+        <translation>The Mesotra hardware was not found! Please check the IP address!</translation>
+    </message>
+    <message>
+        <source>Die Verbindung wurde abgelehnt!
+(Die IP-Adresse wurde jedoch gefunden.)</source>
+        <translation>The connection was refused!
+(The IP address was found, however.)</translation>
+    </message>
+    <message>
+        <source>Netzwerk Fehler</source>
+        <translation>Network error</translation>
+    </message>
+</context>
+<context>
     <name>BoxStateCard</name>
     <message>
         <source>Nicht verbunden</source>
@@ -279,363 +363,6 @@
     <message>
         <source>Verbindungsaufbau</source>
         <translation>Connection</translation>
-    </message>
-</context>
-<context>
-    <name>Controller</name>
-    <message>
-        <source>Saving...</source>
-        <translation>Saving...</translation>
-    </message>
-    <message>
-        <source>Bitte warten, bis der laufende Vorgang beendet ist.</source>
-        <translation>Please wait until the current operation has finished.</translation>
-    </message>
-    <message>
-        <source>Verbinden ...</source>
-        <translation>Connecting ...</translation>
-    </message>
-    <message>
-        <source>Verbindungsaufbau abgebrochen.</source>
-        <translation>Connection attempt cancelled.</translation>
-    </message>
-    <message>
-        <source>Die Abtastrate lässt sich nicht ändern, solange eine Aufzeichnung läuft.</source>
-        <translation>The sampling period cannot be changed while a recording is running.</translation>
-    </message>
-    <message>
-        <source>Die vorhandenen Messungen erhalten die Zeitachse der neuen Abtastrate. Fortfahren?</source>
-        <translation>The existing measurements will take on the time axis of the new sampling period. Continue?</translation>
-    </message>
-    <message>
-        <source>Abtastrate ändern</source>
-        <translation>Change sampling period</translation>
-    </message>
-    <message>
-        <source>Achtung: Das Projekt ist mit %1 ms je Wert aufgezeichnet, die Box misst mit %2 ms.</source>
-        <translation>Attention: the project was recorded at %1 ms per value, the box samples at %2 ms.</translation>
-    </message>
-    <message>
-        <source>Verbindung getrennt, Aufnahme beendet. Alle Daten sind erhalten.</source>
-        <translation>Disconnected, recording ended. All data has been kept.</translation>
-    </message>
-    <message>
-        <source>Verbindung getrennt.</source>
-        <translation>Disconnected.</translation>
-    </message>
-    <message>
-        <source>Die Mesotra Hardware ist nicht mehr erreichbar.</source>
-        <translation>The Mesotra hardware can no longer be reached.</translation>
-    </message>
-    <message>
-        <source>Die Mesotra Hardware wurde nicht gefunden! Bitte IP-Adresse überprüfen!</source>
-        <translation>The Mesotra hardware was not found! Please check the IP address!</translation>
-    </message>
-    <message>
-        <source>Die Verbindung wurde abgelehnt!
-(Die IP-Adresse wurde jedoch gefunden.)</source>
-        <translation>The connection was refused!
-(The IP address was found, however.)</translation>
-    </message>
-    <message>
-        <source>Netzwerk Fehler</source>
-        <translation>Network error</translation>
-    </message>
-    <message>
-        <source>Keine gültige Adresse: %1</source>
-        <translation>Not a valid address: %1</translation>
-    </message>
-    <message>
-        <source>Verbinden mit %1 ...</source>
-        <translation>Connecting to %1 ...</translation>
-    </message>
-    <message>
-        <source>Soll die aktuelle Projektbeschreibung durch die empfangenen Daten überschrieben werden?</source>
-        <translation>Overwrite the current project description with the data received?</translation>
-    </message>
-    <message>
-        <source>Projektbeschreibung empfangen</source>
-        <translation>Project description received</translation>
-    </message>
-    <message>
-        <source>Keine Verbindung zur Mesotra Hardware.</source>
-        <translation>No connection to the Mesotra hardware.</translation>
-    </message>
-    <message>
-        <source>Ventaro Dateien (*.vnt)</source>
-        <translation>Ventaro files (*.vnt)</translation>
-    </message>
-    <message>
-        <source>Projekt öffnen</source>
-        <translation>Open project</translation>
-    </message>
-    <message>
-        <source>Loading...</source>
-        <translation>Loading...</translation>
-    </message>
-    <message>
-        <source>Cannot open file %1 !.</source>
-        <translation>Cannot open file %1!</translation>
-    </message>
-    <message>
-        <source>Problem</source>
-        <translation>Problem</translation>
-    </message>
-    <message>
-        <source>Projekt speichern</source>
-        <translation>Save project</translation>
-    </message>
-    <message>
-        <source>Die Datei &quot;%1&quot; ist schon vorhanden. Überschreiben?</source>
-        <translation>The file &quot;%1&quot; already exists. Overwrite it?</translation>
-    </message>
-    <message>
-        <source>Das Projekt ist gespeichert, aber Grenzen, Schwellen, Bezeichnungen und Zeitstempel der Auswertung konnten nicht gespeichert werden!</source>
-        <translation>The project has been saved, but the limits, thresholds, labels and time stamps of the evaluation could not be saved!</translation>
-    </message>
-    <message>
-        <source>Projekt gespeichert: %1</source>
-        <translation>Project saved: %1</translation>
-    </message>
-    <message>
-        <source>Das Projekt konnte nicht gespeichert werden!</source>
-        <translation>The project could not be saved!</translation>
-    </message>
-    <message>
-        <source>Die Sensoren werden kalibriert.</source>
-        <translation>The sensors are being calibrated.</translation>
-    </message>
-    <message>
-        <source>Kalibrierung</source>
-        <translation>Calibration</translation>
-    </message>
-    <message>
-        <source>Folgende Datensätze werden gelöscht:
-</source>
-        <translation>The following records will be deleted:
-</translation>
-    </message>
-    <message>
-        <source>Daten löschen</source>
-        <translation>Delete data</translation>
-    </message>
-    <message>
-        <source>Fehler im Bereich &quot;%1&quot;: ab dort wurde nichts gelöscht.</source>
-        <translation>Error in the range &quot;%1&quot;: nothing was deleted from there on.</translation>
-    </message>
-    <message>
-        <source>Der Ordner %1 kann nicht angelegt werden.</source>
-        <translation>The folder %1 cannot be created.</translation>
-    </message>
-    <message>
-        <source>Dateien übertragen...</source>
-        <translation>Transferring files...</translation>
-    </message>
-    <message>
-        <source>%1 von %2 Tagen übertragen.</source>
-        <translation>%1 of %2 days transferred.</translation>
-    </message>
-    <message>
-        <source>Ordner mit BlackBox-Dateien auswählen</source>
-        <translation>Choose a folder with BlackBox files</translation>
-    </message>
-    <message>
-        <source>Keine BlackBox-Dateien (*.bb) in %1</source>
-        <translation>No BlackBox files (*.bb) in %1</translation>
-    </message>
-    <message>
-        <source>Die Mesotra Box startet neu. Verbinden mit %1 ...</source>
-        <translation>The Mesotra box is restarting. Connecting to %1 ...</translation>
-    </message>
-    <message>
-        <source>1 Messung importiert</source>
-        <translation>1 measurement imported</translation>
-    </message>
-    <message>
-        <source>%1 Messungen importiert</source>
-        <translation>%1 measurements imported</translation>
-    </message>
-    <message>
-        <source>1 Zeile übersprungen</source>
-        <translation>1 line skipped</translation>
-    </message>
-    <message>
-        <source>%1 Zeilen übersprungen</source>
-        <translation>%1 lines skipped</translation>
-    </message>
-    <message>
-        <source>1 Wert war nicht lesbar und ist jetzt 0</source>
-        <translation>1 value was unreadable and is now 0</translation>
-    </message>
-    <message>
-        <source>%1 Werte waren nicht lesbar und sind jetzt 0</source>
-        <translation>%1 values were unreadable and are now 0</translation>
-    </message>
-    <message>
-        <source>1 Datei nicht lesbar</source>
-        <translation>1 file unreadable</translation>
-    </message>
-    <message>
-        <source>%1 Dateien nicht lesbar</source>
-        <translation>%1 files unreadable</translation>
-    </message>
-    <message>
-        <source>Diese Dateien konnten nicht gelesen werden:</source>
-        <translation>These files could not be read:</translation>
-    </message>
-    <message>
-        <source>Importieren...</source>
-        <translation>Importing...</translation>
-    </message>
-    <message>
-        <source>Während einer Aufzeichnung kann nichts importiert werden.
-Bitte beenden Sie zuerst die Aufzeichnung.</source>
-        <translation>Nothing can be imported while a recording is running.
-Please stop the recording first.</translation>
-    </message>
-    <message>
-        <source>BlackBox</source>
-        <translation>BlackBox</translation>
-    </message>
-    <message>
-        <source>Eine der Dateien ist schon in diesem Projekt.
-Noch einmal importieren?</source>
-        <translation>One of the files is already in this project.
-Import it again?</translation>
-    </message>
-    <message>
-        <source>%1 der Dateien sind schon in diesem Projekt.
-Noch einmal importieren?</source>
-        <translation>%1 of the files are already in this project.
-Import them again?</translation>
-    </message>
-    <message>
-        <source>Ventaro ist mit %1 verbunden.</source>
-        <translation>Ventaro is connected to %1.</translation>
-    </message>
-    <message>
-        <source>Die Demo wird beendet. Mit %1 verbinden?</source>
-        <translation>The demo will end. Connect to %1?</translation>
-    </message>
-    <message>
-        <source>Die Verbindung zu %1 wird getrennt. Mit %2 verbinden?</source>
-        <translation>The connection to %1 will be closed. Connect to %2?</translation>
-    </message>
-    <message>
-        <source>Verbinden</source>
-        <translation>Connect</translation>
-    </message>
-    <message>
-        <source>Die Demo wird gestartet ...</source>
-        <translation>Starting the demo ...</translation>
-    </message>
-    <message>
-        <source>Die Verbindung zur Box wird getrennt.</source>
-        <translation>The connection to the box will be closed.</translation>
-    </message>
-    <message>
-        <source>Was in der Demo aufgezeichnet wird, kommt in das geöffnete Projekt.</source>
-        <translation>What is recorded in the demo is added to the open project.</translation>
-    </message>
-    <message>
-        <source>Demo starten?</source>
-        <translation>Start the demo?</translation>
-    </message>
-    <message>
-        <source>Demo</source>
-        <translation>Demo</translation>
-    </message>
-    <message>
-        <source>Die Demo ist beendet.</source>
-        <translation>The demo has ended.</translation>
-    </message>
-    <message>
-        <source>Das ist in der Demo nicht möglich: Die simulierte Box hat keinen Speicher.</source>
-        <translation>Not possible in the demo: the simulated box has no storage.</translation>
-    </message>
-    <message>
-        <source>Bilder (%1)</source>
-        <translation>Pictures (%1)</translation>
-    </message>
-    <message>
-        <source>Die Datei &quot;%1&quot; konnte nicht gelesen werden!</source>
-        <translation>The file &quot;%1&quot; could not be read!</translation>
-    </message>
-    <message>
-        <source>Das Bild &quot;%1&quot; ist zu groß: Es hat mehr als %2 Millionen Bildpunkte!</source>
-        <translation>The picture &quot;%1&quot; is too large: it has more than %2 million pixels!</translation>
-    </message>
-    <message>
-        <source>Die Datei &quot;%1&quot; enthält kein Bild, das gelesen werden kann!</source>
-        <translation>The file &quot;%1&quot; holds no picture that can be read!</translation>
-    </message>
-    <message>
-        <source>Bild auswählen</source>
-        <translation>Choose a picture</translation>
-    </message>
-    <message>
-        <source>Nur %1 von %2 Bildern übernommen, mehr Plätze sind nicht frei.</source>
-        <translation>Only %1 of %2 pictures added; there is no room for more.</translation>
-    </message>
-    <message>
-        <source>Bild %1 wird aus dem Projekt gelöscht.
-Fortfahren?</source>
-        <translation>Picture %1 will be deleted from the project.
-Continue?</translation>
-    </message>
-    <message>
-        <source>Bild löschen</source>
-        <translation>Delete picture</translation>
-    </message>
-    <message>
-        <source>Bild %1 wird durch ein anderes ersetzt.
-Fortfahren?</source>
-        <translation>Picture %1 will be replaced by another one.
-Continue?</translation>
-    </message>
-    <message>
-        <source>Bild ersetzen</source>
-        <translation>Replace picture</translation>
-    </message>
-    <message>
-        <source>Die Demo ist nicht möglich: Der Simulator lässt sich nicht starten.</source>
-        <translation>The demo cannot run: the simulator does not start.</translation>
-    </message>
-    <message>
-        <source>Die Demo ist nicht möglich: Der Simulator antwortet nicht.</source>
-        <translation>The demo cannot run: the simulator does not respond.</translation>
-    </message>
-    <message>
-        <source>Die Demo ist beendet: Der Simulator läuft nicht mehr.</source>
-        <translation>The demo has ended: the simulator is no longer running.</translation>
-    </message>
-    <message>
-        <source>Die Demo läuft.</source>
-        <translation>The demo is running.</translation>
-    </message>
-    <message>
-        <source>Verbunden mit %1.</source>
-        <translation>Connected to %1.</translation>
-    </message>
-    <message>
-        <source>Namen und Grenzen der Sensoren kommen jetzt von der Box.</source>
-        <translation>The names and limits of the sensors now come from the box.</translation>
-    </message>
-    <message>
-        <source>Bild speichern</source>
-        <translation>Save picture</translation>
-    </message>
-    <message>
-        <source>PNG-Bild (*.png)</source>
-        <translation>PNG picture (*.png)</translation>
-    </message>
-    <message>
-        <source>Bild gespeichert: %1</source>
-        <translation>Picture saved: %1</translation>
-    </message>
-    <message>
-        <source>Das Bild konnte nicht gespeichert werden!</source>
-        <translation>The picture could not be saved!</translation>
     </message>
 </context>
 <context>
@@ -732,6 +459,104 @@ Continue?</translation>
     </message>
 </context>
 <context>
+    <name>DaysPanel</name>
+    <message>
+        <source>Tage auf der Box: %1</source>
+        <translation>Days on the box: %1</translation>
+    </message>
+    <message>
+        <source>Tage auf der Box</source>
+        <translation>Days on the box</translation>
+    </message>
+    <message>
+        <source>&amp;Liste laden</source>
+        <translation>&amp;Load list</translation>
+    </message>
+    <message>
+        <source>Die Box nach den Tagen fragen, die sie aufgezeichnet hat</source>
+        <translation>Ask the box for the days it has logged</translation>
+    </message>
+    <message>
+        <source>&amp;Alle</source>
+        <translation>&amp;All</translation>
+    </message>
+    <message>
+        <source>Alle Tage auswählen</source>
+        <translation>Select all days</translation>
+    </message>
+    <message>
+        <source>&amp;Keine</source>
+        <translation>&amp;None</translation>
+    </message>
+    <message>
+        <source>Keinen Tag auswählen</source>
+        <translation>Select no day</translation>
+    </message>
+    <message>
+        <source>&amp;Nur neue</source>
+        <translation>N&amp;ew only</translation>
+    </message>
+    <message>
+        <source>Die Tage auswählen, von denen noch nichts geladen ist</source>
+        <translation>Select the days of which nothing has been copied yet</translation>
+    </message>
+    <message>
+        <source>&amp;Holen</source>
+        <translation>Cop&amp;y</translation>
+    </message>
+    <message>
+        <source>Die Dateien der ausgewählten Tage von der Box kopieren</source>
+        <translation>Copy the files of the selected days from the box</translation>
+    </message>
+    <message>
+        <source>Aufgezeichnete Tage</source>
+        <translation>Logged days</translation>
+    </message>
+</context>
+<context>
+    <name>DemoLink</name>
+    <message>
+        <source>Die Demo ist nicht möglich: Der Simulator lässt sich nicht starten.</source>
+        <translation>The demo cannot run: the simulator does not start.</translation>
+    </message>
+    <message>
+        <source>Die Demo ist nicht möglich: Der Simulator antwortet nicht.</source>
+        <translation>The demo cannot run: the simulator does not respond.</translation>
+    </message>
+    <message>
+        <source>Die Demo ist beendet: Der Simulator läuft nicht mehr.</source>
+        <translation>The demo has ended: the simulator is no longer running.</translation>
+    </message>
+    <message>
+        <source>Die Demo wird gestartet ...</source>
+        <translation>Starting the demo ...</translation>
+    </message>
+    <message>
+        <source>Die Verbindung zur Box wird getrennt.</source>
+        <translation>The connection to the box will be closed.</translation>
+    </message>
+    <message>
+        <source>Was in der Demo aufgezeichnet wird, kommt in das geöffnete Projekt.</source>
+        <translation>What is recorded in the demo is added to the open project.</translation>
+    </message>
+    <message>
+        <source>Demo starten?</source>
+        <translation>Start the demo?</translation>
+    </message>
+    <message>
+        <source>Demo</source>
+        <translation>Demo</translation>
+    </message>
+    <message>
+        <source>Die Demo ist beendet.</source>
+        <translation>The demo has ended.</translation>
+    </message>
+    <message>
+        <source>Das ist in der Demo nicht möglich: Die simulierte Box hat keinen Speicher.</source>
+        <translation>Not possible in the demo: the simulated box has no storage.</translation>
+    </message>
+</context>
+<context>
     <name>DialogPrompts</name>
     <message>
         <source>Speichern</source>
@@ -756,6 +581,13 @@ Continue?</translation>
     <message>
         <source>Abbrechen</source>
         <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>DistributionPanel</name>
+    <message>
+        <source>Normalverteilung</source>
+        <translation>Normal distribution</translation>
     </message>
 </context>
 <context>
@@ -838,6 +670,64 @@ Continue?</translation>
     <message>
         <source>Die CSV-Datei konnte nicht gespeichert werden!</source>
         <translation>The CSV file could not be saved!</translation>
+    </message>
+</context>
+<context>
+    <name>FileProgress</name>
+    <message>
+        <source>Saving...</source>
+        <translation>Saving...</translation>
+    </message>
+</context>
+<context>
+    <name>FilesPanel</name>
+    <message>
+        <source>&amp;Importieren (%1)</source>
+        <translation>&amp;Import (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Importieren</source>
+        <translation>&amp;Import</translation>
+    </message>
+    <message>
+        <source>Dateien</source>
+        <translation>Files</translation>
+    </message>
+    <message>
+        <source>Dateien vom %1</source>
+        <translation>Files from %1</translation>
+    </message>
+    <message>
+        <source>Lokale Dateien</source>
+        <translation>Local files</translation>
+    </message>
+    <message>
+        <source>&amp;Ordner öffnen...</source>
+        <translation>&amp;Open folder...</translation>
+    </message>
+    <message>
+        <source>Dateien der Box aus einem Ordner dieses Rechners nehmen</source>
+        <translation>Use files of the box from a folder on this computer</translation>
+    </message>
+    <message>
+        <source>Die ausgewählten Dateien als Messungen in das Projekt übernehmen</source>
+        <translation>Add the selected files to the project as measurements</translation>
+    </message>
+    <message>
+        <source>Dateien des Tages</source>
+        <translation>Files of the day</translation>
+    </message>
+    <message>
+        <source>Vorschau der Messung</source>
+        <translation>Preview of the measurement</translation>
+    </message>
+    <message>
+        <source>Datei in der Vorschau</source>
+        <translation>File in the preview</translation>
+    </message>
+    <message>
+        <source>Vorige und nächste Datei des Tages ansehen</source>
+        <translation>Look at the previous and the next file of the day</translation>
     </message>
 </context>
 <context>
@@ -950,6 +840,152 @@ Continue?</translation>
     </message>
 </context>
 <context>
+    <name>ImportSummary</name>
+    <message>
+        <source>1 Messung importiert</source>
+        <translation>1 measurement imported</translation>
+    </message>
+    <message>
+        <source>%1 Messungen importiert</source>
+        <translation>%1 measurements imported</translation>
+    </message>
+    <message>
+        <source>1 Zeile übersprungen</source>
+        <translation>1 line skipped</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen übersprungen</source>
+        <translation>%1 lines skipped</translation>
+    </message>
+    <message>
+        <source>1 Wert war nicht lesbar und ist jetzt 0</source>
+        <translation>1 value was unreadable and is now 0</translation>
+    </message>
+    <message>
+        <source>%1 Werte waren nicht lesbar und sind jetzt 0</source>
+        <translation>%1 values were unreadable and are now 0</translation>
+    </message>
+    <message>
+        <source>1 Datei nicht lesbar</source>
+        <translation>1 file unreadable</translation>
+    </message>
+    <message>
+        <source>%1 Dateien nicht lesbar</source>
+        <translation>%1 files unreadable</translation>
+    </message>
+    <message>
+        <source>Diese Dateien konnten nicht gelesen werden:</source>
+        <translation>These files could not be read:</translation>
+    </message>
+</context>
+<context>
+    <name>LimitsPanel</name>
+    <message>
+        <source>Cp %1</source>
+        <translation>Cp %1</translation>
+    </message>
+    <message>
+        <source>Cpk %1</source>
+        <translation>Cpk %1</translation>
+    </message>
+    <message>
+        <source>Grenzen sind gleich!</source>
+        <translation>Limits are equal!</translation>
+    </message>
+    <message>
+        <source>Untere Grenze über oberer!</source>
+        <translation>Lower limit above upper!</translation>
+    </message>
+    <message>
+        <source>Keine Grenzen</source>
+        <translation>No limits</translation>
+    </message>
+    <message>
+        <source>Außerhalb: %1 von %2</source>
+        <translation>Outside: %1 of %2</translation>
+    </message>
+    <message>
+        <source>&amp;Untere Grenze</source>
+        <translation>&amp;Lower limit</translation>
+    </message>
+    <message>
+        <source>&amp;Obere Grenze</source>
+        <translation>&amp;Upper limit</translation>
+    </message>
+    <message>
+        <source>Mit der Standardabweichung der Grundgesamtheit (geteilt durch n)</source>
+        <translation>With the population standard deviation (divided by n)</translation>
+    </message>
+    <message>
+        <source>(Obere - untere Grenze) / 6 Sigma. %1</source>
+        <translation>(Upper - lower limit) / 6 sigma. %1</translation>
+    </message>
+    <message>
+        <source>Abstand des Mittelwerts von der näheren Grenze / 3 Sigma. %1</source>
+        <translation>Distance of the mean from the nearer limit / 3 sigma. %1</translation>
+    </message>
+</context>
+<context>
+    <name>LoggerFetch</name>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Der Ordner %1 kann nicht angelegt werden.</source>
+        <translation>The folder %1 cannot be created.</translation>
+    </message>
+    <message>
+        <source>Dateien übertragen...</source>
+        <translation>Transferring files...</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Tagen übertragen.</source>
+        <translation>%1 of %2 days transferred.</translation>
+    </message>
+    <message>
+        <source>Ordner mit BlackBox-Dateien auswählen</source>
+        <translation>Choose a folder with BlackBox files</translation>
+    </message>
+    <message>
+        <source>Keine BlackBox-Dateien (*.bb) in %1</source>
+        <translation>No BlackBox files (*.bb) in %1</translation>
+    </message>
+</context>
+<context>
+    <name>LoggerImport</name>
+    <message>
+        <source>Während einer Aufzeichnung kann nichts importiert werden.
+Bitte beenden Sie zuerst die Aufzeichnung.</source>
+        <translation>Nothing can be imported while a recording is running.
+Please stop the recording first.</translation>
+    </message>
+    <message>
+        <source>BlackBox</source>
+        <translation>BlackBox</translation>
+    </message>
+    <message>
+        <source>Eine der Dateien ist schon in diesem Projekt.
+Noch einmal importieren?</source>
+        <translation>One of the files is already in this project.
+Import it again?</translation>
+    </message>
+    <message>
+        <source>%1 der Dateien sind schon in diesem Projekt.
+Noch einmal importieren?</source>
+        <translation>%1 of the files are already in this project.
+Import them again?</translation>
+    </message>
+    <message>
+        <source>Importieren...</source>
+        <translation>Importing...</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+</context>
+<context>
     <name>MainToolBar</name>
     <message>
         <source>Werkzeugleiste</source>
@@ -961,6 +997,60 @@ Continue?</translation>
     <message>
         <source>Der Browser konnte nicht geöffnet werden.</source>
         <translation>The browser could not be opened.</translation>
+    </message>
+</context>
+<context>
+    <name>MarkerBar</name>
+    <message>
+        <source>absolut</source>
+        <translation>absolute</translation>
+    </message>
+    <message>
+        <source>Zeiten ab dem Beginn der Messung statt Abstände der Marker</source>
+        <translation>Times from the start of the measurement instead of distances between markers</translation>
+    </message>
+    <message>
+        <source>Alle Marker löschen</source>
+        <translation>Clear all markers</translation>
+    </message>
+    <message>
+        <source>t [s]=</source>
+        <translation>t [s]=</translation>
+    </message>
+    <message>
+        <source>Klicken und dann im Diagramm auf die gewünschte Stelle tippen.
+Esc bricht ab.</source>
+        <translation>Click, then tap the desired place in the plot.
+Esc cancels.</translation>
+    </message>
+    <message>
+        <source>Marker %1 setzen</source>
+        <translation>Set marker %1</translation>
+    </message>
+    <message>
+        <source>Zeit des Markers in Sekunden; ohne &quot;absolut&quot; der Abstand zum vorigen Marker</source>
+        <translation>Time of the marker in seconds; without &quot;absolute&quot; the distance from the previous marker</translation>
+    </message>
+    <message>
+        <source>Marker %1 in Sekunden</source>
+        <translation>Marker %1 in seconds</translation>
+    </message>
+</context>
+<context>
+    <name>MeasurementDeletion</name>
+    <message>
+        <source>Folgende Datensätze werden gelöscht:
+</source>
+        <translation>The following records will be deleted:
+</translation>
+    </message>
+    <message>
+        <source>Daten löschen</source>
+        <translation>Delete data</translation>
+    </message>
+    <message>
+        <source>Fehler im Bereich &quot;%1&quot;: ab dort wurde nichts gelöscht.</source>
+        <translation>Error in the range &quot;%1&quot;: nothing was deleted from there on.</translation>
     </message>
 </context>
 <context>
@@ -1037,6 +1127,36 @@ Continue?</translation>
     </message>
 </context>
 <context>
+    <name>Occupancy</name>
+    <message>
+        <source>Bitte warten, bis der laufende Vorgang beendet ist.</source>
+        <translation>Please wait until the current operation has finished.</translation>
+    </message>
+</context>
+<context>
+    <name>OsziHead</name>
+    <message>
+        <source>Gesperrt: Bereiche, Raster, Korrekturen, Marker und Messungen sind vor Änderungen geschützt. Klicken zum Entsperren.</source>
+        <translation>Locked: ranges, grids, offsets, markers and measurements are protected against changes. Click to unlock.</translation>
+    </message>
+    <message>
+        <source>Alles kann geändert werden. Klicken zum Sperren.</source>
+        <translation>Everything can be changed. Click to lock.</translation>
+    </message>
+    <message>
+        <source>Gesperrt</source>
+        <translation>Locked</translation>
+    </message>
+    <message>
+        <source>Offen</source>
+        <translation>Unlocked</translation>
+    </message>
+    <message>
+        <source>Diagramm dieses Sensors zeigen</source>
+        <translation>Show this sensor&apos;s plot</translation>
+    </message>
+</context>
+<context>
     <name>OsziRow</name>
     <message>
         <source>%1 [%2]</source>
@@ -1109,6 +1229,103 @@ arrows move, Home and End jump, F fits the value range to the curves,
 Ctrl with the left or right arrow shows the values (with Shift in steps of ten).
 Mouse: wheel time axis, Ctrl with wheel value axis, middle button or Shift moves,
 double-click fits the value range.</translation>
+    </message>
+</context>
+<context>
+    <name>OverlayOptions</name>
+    <message>
+        <source>Ausrichten</source>
+        <translation>Align</translation>
+    </message>
+    <message>
+        <source>Schwelle in der Einheit des Sensors</source>
+        <translation>Threshold in the sensor&apos;s unit</translation>
+    </message>
+    <message>
+        <source>&amp;Mittelwert</source>
+        <translation>&amp;Mean</translation>
+    </message>
+    <message>
+        <source>Mittelwert der gezeigten Kurven</source>
+        <translation>Mean of the curves shown</translation>
+    </message>
+    <message>
+        <source>&amp;Band ±</source>
+        <translation>&amp;Band ±</translation>
+    </message>
+    <message>
+        <source>Streuung der gezeigten Kurven um ihren Mittelwert</source>
+        <translation>Scatter of the curves shown around their mean</translation>
+    </message>
+    <message>
+        <source>Breite des Bandes in Sigma</source>
+        <translation>Width of the band in sigmas</translation>
+    </message>
+    <message>
+        <source>am Beginn</source>
+        <translation>at the start</translation>
+    </message>
+    <message>
+        <source>Null bei Marker %1</source>
+        <translation>Zero at marker %1</translation>
+    </message>
+    <message>
+        <source>Schwelle steigend</source>
+        <translation>Threshold rising</translation>
+    </message>
+    <message>
+        <source>Schwelle fallend</source>
+        <translation>Threshold falling</translation>
+    </message>
+    <message>
+        <source>Woran die Kurven übereinander liegen: an ihrem Beginn, mit ihren Werten bei einem Marker, oder wo sie zum ersten Mal eine Schwelle durchlaufen</source>
+        <translation>What the curves are aligned by: their start, their values at a marker, or where they first cross a threshold</translation>
+    </message>
+</context>
+<context>
+    <name>OverlayShotList</name>
+    <message>
+        <source>Noch keine Messungen</source>
+        <translation>No measurements yet</translation>
+    </message>
+    <message>
+        <source>%1 von %2 gezeigt</source>
+        <translation>%1 of %2 shown</translation>
+    </message>
+    <message>
+        <source>&amp;Referenz aufheben</source>
+        <translation>Clear &amp;reference</translation>
+    </message>
+    <message>
+        <source>Als &amp;Referenz</source>
+        <translation>As &amp;reference</translation>
+    </message>
+    <message>
+        <source>%1 ohne Durchgang</source>
+        <translation>%1 without crossing</translation>
+    </message>
+    <message>
+        <source>%1 leer</source>
+        <translation>%1 empty</translation>
+    </message>
+    <message>
+        <source>%1 zu kurz</source>
+        <translation>%1 too short</translation>
+    </message>
+    <message>
+        <source>&amp;Alle zeigen</source>
+        <translation>Show &amp;all</translation>
+    </message>
+    <message>
+        <source>&amp;Keine zeigen</source>
+        <translation>Show &amp;none</translation>
+    </message>
+</context>
+<context>
+    <name>OverlayTable</name>
+    <message>
+        <source>Schüsse der Überlagerung</source>
+        <translation>Shots of the overlay</translation>
     </message>
 </context>
 <context>
@@ -1244,6 +1461,53 @@ double-click fits the value range.</translation>
     </message>
 </context>
 <context>
+    <name>ProjectFiles</name>
+    <message>
+        <source>Ventaro Dateien (*.vnt)</source>
+        <translation>Ventaro files (*.vnt)</translation>
+    </message>
+    <message>
+        <source>Projekt öffnen</source>
+        <translation>Open project</translation>
+    </message>
+    <message>
+        <source>Loading...</source>
+        <translation>Loading...</translation>
+    </message>
+    <message>
+        <source>Cannot open file %1 !.</source>
+        <translation>Cannot open file %1!</translation>
+    </message>
+    <message>
+        <source>Projekt speichern</source>
+        <translation>Save project</translation>
+    </message>
+    <message>
+        <source>Die Datei &quot;%1&quot; ist schon vorhanden. Überschreiben?</source>
+        <translation>The file &quot;%1&quot; already exists. Overwrite it?</translation>
+    </message>
+    <message>
+        <source>Saving...</source>
+        <translation>Saving...</translation>
+    </message>
+    <message>
+        <source>Das Projekt konnte nicht gespeichert werden!</source>
+        <translation>The project could not be saved!</translation>
+    </message>
+    <message>
+        <source>Das Projekt ist gespeichert, aber Grenzen, Schwellen, Bezeichnungen und Zeitstempel der Auswertung konnten nicht gespeichert werden!</source>
+        <translation>The project has been saved, but the limits, thresholds, labels and time stamps of the evaluation could not be saved!</translation>
+    </message>
+    <message>
+        <source>Projekt gespeichert: %1</source>
+        <translation>Project saved: %1</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+</context>
+<context>
     <name>ProjectForm</name>
     <message>
         <source>&amp;Projekt:</source>
@@ -1314,6 +1578,88 @@ double-click fits the value range.</translation>
     </message>
 </context>
 <context>
+    <name>ProjectOffer</name>
+    <message>
+        <source>Soll die aktuelle Projektbeschreibung durch die empfangenen Daten überschrieben werden?</source>
+        <translation>Overwrite the current project description with the data received?</translation>
+    </message>
+    <message>
+        <source>Projektbeschreibung empfangen</source>
+        <translation>Project description received</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectPictures</name>
+    <message>
+        <source>Bilder (%1)</source>
+        <translation>Pictures (%1)</translation>
+    </message>
+    <message>
+        <source>Die Datei &quot;%1&quot; konnte nicht gelesen werden!</source>
+        <translation>The file &quot;%1&quot; could not be read!</translation>
+    </message>
+    <message>
+        <source>Das Bild &quot;%1&quot; ist zu groß: Es hat mehr als %2 Millionen Bildpunkte!</source>
+        <translation>The picture &quot;%1&quot; is too large: it has more than %2 million pixels!</translation>
+    </message>
+    <message>
+        <source>Die Datei &quot;%1&quot; enthält kein Bild, das gelesen werden kann!</source>
+        <translation>The file &quot;%1&quot; holds no picture that can be read!</translation>
+    </message>
+    <message>
+        <source>Bild auswählen</source>
+        <translation>Choose a picture</translation>
+    </message>
+    <message>
+        <source>Nur %1 von %2 Bildern übernommen, mehr Plätze sind nicht frei.</source>
+        <translation>Only %1 of %2 pictures added; there is no room for more.</translation>
+    </message>
+    <message>
+        <source>Bild %1 wird durch ein anderes ersetzt.
+Fortfahren?</source>
+        <translation>Picture %1 will be replaced by another one.
+Continue?</translation>
+    </message>
+    <message>
+        <source>Bild ersetzen</source>
+        <translation>Replace picture</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Bild %1 wird aus dem Projekt gelöscht.
+Fortfahren?</source>
+        <translation>Picture %1 will be deleted from the project.
+Continue?</translation>
+    </message>
+    <message>
+        <source>Bild löschen</source>
+        <translation>Delete picture</translation>
+    </message>
+    <message>
+        <source>Bild gespeichert: %1</source>
+        <translation>Picture saved: %1</translation>
+    </message>
+    <message>
+        <source>Das Bild konnte nicht gespeichert werden!</source>
+        <translation>The picture could not be saved!</translation>
+    </message>
+    <message>
+        <source>Bild speichern</source>
+        <translation>Save picture</translation>
+    </message>
+    <message>
+        <source>PNG-Bild (*.png)</source>
+        <translation>PNG picture (*.png)</translation>
+    </message>
+    <message>
+        <source>Die Datei &quot;%1&quot; ist schon vorhanden. Überschreiben?</source>
+        <translation>The file &quot;%1&quot; already exists. Overwrite it?</translation>
+    </message>
+</context>
+<context>
     <name>QcAttitudeMeter</name>
     <message>
         <source>Querneigung %1°, Längsneigung %2°</source>
@@ -1329,6 +1675,25 @@ double-click fits the value range.</translation>
     <message>
         <source>%1, veraltet</source>
         <translation>%1, out of date</translation>
+    </message>
+</context>
+<context>
+    <name>QuantityChoice</name>
+    <message>
+        <source>Größe</source>
+        <translation>Size</translation>
+    </message>
+    <message>
+        <source>Dargestellte Größe</source>
+        <translation>Displayed quantity</translation>
+    </message>
+    <message>
+        <source>&amp;Spalten...</source>
+        <translation>&amp;Columns...</translation>
+    </message>
+    <message>
+        <source>Größen der Tabelle wählen</source>
+        <translation>Choose the quantities of the table</translation>
     </message>
 </context>
 <context>
@@ -1448,6 +1813,39 @@ double-click fits the value range.</translation>
     </message>
 </context>
 <context>
+    <name>RecordingActions</name>
+    <message>
+        <source>Die Sensoren werden kalibriert.</source>
+        <translation>The sensors are being calibrated.</translation>
+    </message>
+    <message>
+        <source>Kalibrierung</source>
+        <translation>Calibration</translation>
+    </message>
+</context>
+<context>
+    <name>RuntimeBoxPlots</name>
+    <message>
+        <source>Start [s]</source>
+        <translation>Start [s]</translation>
+    </message>
+    <message>
+        <source>Dauer [s]</source>
+        <translation>Duration [s]</translation>
+    </message>
+    <message>
+        <source>Stop [s]</source>
+        <translation>Stop [s]</translation>
+    </message>
+</context>
+<context>
+    <name>RuntimeTable</name>
+    <message>
+        <source>Laufzeiten der Schüsse</source>
+        <translation>Run times of the shots</translation>
+    </message>
+</context>
+<context>
     <name>RuntimeTableModel</name>
     <message>
         <source>Sigma</source>
@@ -1484,6 +1882,40 @@ double-click fits the value range.</translation>
     <message>
         <source>Pause [s]</source>
         <translation>Pause [s]</translation>
+    </message>
+</context>
+<context>
+    <name>SamplingBox</name>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>Abtastrate</source>
+        <translation>Sampling period</translation>
+    </message>
+    <message>
+        <source>Zeit zwischen zwei Messwerten; wählbar, solange die Box verbunden ist</source>
+        <translation>Time between two samples; selectable while the box is connected</translation>
+    </message>
+</context>
+<context>
+    <name>SamplingPeriod</name>
+    <message>
+        <source>Die Abtastrate lässt sich nicht ändern, solange eine Aufzeichnung läuft.</source>
+        <translation>The sampling period cannot be changed while a recording is running.</translation>
+    </message>
+    <message>
+        <source>Die vorhandenen Messungen erhalten die Zeitachse der neuen Abtastrate. Fortfahren?</source>
+        <translation>The existing measurements will take on the time axis of the new sampling period. Continue?</translation>
+    </message>
+    <message>
+        <source>Abtastrate ändern</source>
+        <translation>Change sampling period</translation>
+    </message>
+    <message>
+        <source>Achtung: Das Projekt ist mit %1 ms je Wert aufgezeichnet, die Box misst mit %2 ms.</source>
+        <translation>Attention: the project was recorded at %1 ms per value, the box samples at %2 ms.</translation>
     </message>
 </context>
 <context>
@@ -1669,6 +2101,69 @@ Enter: edit</translation>
     </message>
 </context>
 <context>
+    <name>ShotBar</name>
+    <message>
+        <source>Dargestellt werden die Messungen 1 bis %1. Alle weiteren werden aufgezeichnet und gespeichert, aber nicht gezeichnet.</source>
+        <translation>Measurements 1 to %1 are displayed. All further ones are recorded and saved, but not drawn.</translation>
+    </message>
+    <message>
+        <source>Messungen (%1 gezeigt)</source>
+        <translation>Measurements (%1 shown)</translation>
+    </message>
+    <message>
+        <source>Messungen</source>
+        <translation>Measurements</translation>
+    </message>
+    <message>
+        <source>Angezeigt</source>
+        <translation>Displayed</translation>
+    </message>
+    <message>
+        <source>alle</source>
+        <translation>all</translation>
+    </message>
+    <message>
+        <source>Alle Messungen zeigen</source>
+        <translation>Show all measurements</translation>
+    </message>
+    <message>
+        <source>Nummern und Bereiche, durch Komma getrennt: 1-3,5 zeigt die Messungen 1, 2, 3 und 5.</source>
+        <translation>Numbers and ranges, separated by commas: 1-3,5 shows measurements 1, 2, 3 and 5.</translation>
+    </message>
+    <message>
+        <source>Angezeigte Messungen</source>
+        <translation>Displayed measurements</translation>
+    </message>
+    <message>
+        <source>Markiert</source>
+        <translation>Highlight</translation>
+    </message>
+    <message>
+        <source>Nummer der hervorgehobenen Messung; 0 hebt keine hervor</source>
+        <translation>Number of the highlighted measurement; 0 highlights none</translation>
+    </message>
+    <message>
+        <source>Markierte Messung</source>
+        <translation>Highlighted measurement</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Nummern und Bereiche in aufsteigender Folge, durch Komma getrennt: 1-3,5 löscht die Messungen 1, 2, 3 und 5.</source>
+        <translation>Numbers and ranges in ascending order, separated by commas: 1-3,5 deletes measurements 1, 2, 3 and 5.</translation>
+    </message>
+    <message>
+        <source>Zu löschende Messungen</source>
+        <translation>Measurements to delete</translation>
+    </message>
+    <message>
+        <source>Diese Messungen löschen</source>
+        <translation>Delete these measurements</translation>
+    </message>
+</context>
+<context>
     <name>ShotPreview</name>
     <message>
         <source>Die Datei kann nicht gelesen werden.</source>
@@ -1728,117 +2223,6 @@ Identification of this computer:
     </message>
 </context>
 <context>
-    <name>TabBlackBox</name>
-    <message>
-        <source>&amp;Importieren (%1)</source>
-        <translation>&amp;Import (%1)</translation>
-    </message>
-    <message>
-        <source>&amp;Importieren</source>
-        <translation>&amp;Import</translation>
-    </message>
-    <message>
-        <source>Tage auf der Box: %1</source>
-        <translation>Days on the box: %1</translation>
-    </message>
-    <message>
-        <source>Tage auf der Box</source>
-        <translation>Days on the box</translation>
-    </message>
-    <message>
-        <source>Dateien</source>
-        <translation>Files</translation>
-    </message>
-    <message>
-        <source>Dateien vom %1</source>
-        <translation>Files from %1</translation>
-    </message>
-    <message>
-        <source>Lokale Dateien</source>
-        <translation>Local files</translation>
-    </message>
-    <message>
-        <source>%1 von %2</source>
-        <translation>%1 of %2</translation>
-    </message>
-    <message>
-        <source>&amp;Liste laden</source>
-        <translation>&amp;Load list</translation>
-    </message>
-    <message>
-        <source>Die Box nach den Tagen fragen, die sie aufgezeichnet hat</source>
-        <translation>Ask the box for the days it has logged</translation>
-    </message>
-    <message>
-        <source>&amp;Alle</source>
-        <translation>&amp;All</translation>
-    </message>
-    <message>
-        <source>Alle Tage auswählen</source>
-        <translation>Select all days</translation>
-    </message>
-    <message>
-        <source>&amp;Keine</source>
-        <translation>&amp;None</translation>
-    </message>
-    <message>
-        <source>Keinen Tag auswählen</source>
-        <translation>Select no day</translation>
-    </message>
-    <message>
-        <source>&amp;Nur neue</source>
-        <translation>N&amp;ew only</translation>
-    </message>
-    <message>
-        <source>Die Tage auswählen, von denen noch nichts geladen ist</source>
-        <translation>Select the days of which nothing has been copied yet</translation>
-    </message>
-    <message>
-        <source>&amp;Holen</source>
-        <translation>Cop&amp;y</translation>
-    </message>
-    <message>
-        <source>Die Dateien der ausgewählten Tage von der Box kopieren</source>
-        <translation>Copy the files of the selected days from the box</translation>
-    </message>
-    <message>
-        <source>&amp;Ordner öffnen...</source>
-        <translation>&amp;Open folder...</translation>
-    </message>
-    <message>
-        <source>Dateien der Box aus einem Ordner dieses Rechners nehmen</source>
-        <translation>Use files of the box from a folder on this computer</translation>
-    </message>
-    <message>
-        <source>Die ausgewählten Dateien als Messungen in das Projekt übernehmen</source>
-        <translation>Add the selected files to the project as measurements</translation>
-    </message>
-    <message>
-        <source>Aufgezeichnete Tage</source>
-        <translation>Logged days</translation>
-    </message>
-    <message>
-        <source>Dateien des Tages</source>
-        <translation>Files of the day</translation>
-    </message>
-    <message>
-        <source>Vorschau der Messung</source>
-        <translation>Preview of the measurement</translation>
-    </message>
-    <message>
-        <source>Fortschritt der Übertragung</source>
-        <translation>Progress of the transfer</translation>
-    </message>
-    <message>
-        <source>Datei in der Vorschau</source>
-        <translation>File in the preview</translation>
-    </message>
-    <message>
-        <source>Vorige und nächste Datei des Tages ansehen</source>
-        <translation>Look at the previous and the next file of the day</translation>
-    </message>
-</context>
-<context>
     <name>TabDataLogger</name>
     <message>
         <source>&amp;Leeren</source>
@@ -1877,200 +2261,14 @@ Identification of this computer:
     </message>
 </context>
 <context>
-    <name>TabEvaluationOverlay</name>
-    <message>
-        <source>Noch keine Messungen</source>
-        <translation>No measurements yet</translation>
-    </message>
-    <message>
-        <source>%1 von %2 gezeigt</source>
-        <translation>%1 of %2 shown</translation>
-    </message>
-    <message>
-        <source>&amp;Referenz aufheben</source>
-        <translation>Clear &amp;reference</translation>
-    </message>
-    <message>
-        <source>Als &amp;Referenz</source>
-        <translation>As &amp;reference</translation>
-    </message>
-    <message>
-        <source>%1 ohne Durchgang</source>
-        <translation>%1 without crossing</translation>
-    </message>
-    <message>
-        <source>%1 leer</source>
-        <translation>%1 empty</translation>
-    </message>
-    <message>
-        <source>%1 zu kurz</source>
-        <translation>%1 too short</translation>
-    </message>
-    <message>
-        <source>Ausrichten</source>
-        <translation>Align</translation>
-    </message>
-    <message>
-        <source>Schwelle in der Einheit des Sensors</source>
-        <translation>Threshold in the sensor&apos;s unit</translation>
-    </message>
-    <message>
-        <source>&amp;Mittelwert</source>
-        <translation>&amp;Mean</translation>
-    </message>
-    <message>
-        <source>Mittelwert der gezeigten Kurven</source>
-        <translation>Mean of the curves shown</translation>
-    </message>
-    <message>
-        <source>&amp;Band ±</source>
-        <translation>&amp;Band ±</translation>
-    </message>
-    <message>
-        <source>Streuung der gezeigten Kurven um ihren Mittelwert</source>
-        <translation>Scatter of the curves shown around their mean</translation>
-    </message>
-    <message>
-        <source>&amp;Alle zeigen</source>
-        <translation>Show &amp;all</translation>
-    </message>
-    <message>
-        <source>&amp;Keine zeigen</source>
-        <translation>Show &amp;none</translation>
-    </message>
-    <message>
-        <source>Schüsse der Überlagerung</source>
-        <translation>Shots of the overlay</translation>
-    </message>
-    <message>
-        <source>am Beginn</source>
-        <translation>at the start</translation>
-    </message>
-    <message>
-        <source>Null bei Marker %1</source>
-        <translation>Zero at marker %1</translation>
-    </message>
-    <message>
-        <source>Schwelle steigend</source>
-        <translation>Threshold rising</translation>
-    </message>
-    <message>
-        <source>Schwelle fallend</source>
-        <translation>Threshold falling</translation>
-    </message>
-    <message>
-        <source>Woran die Kurven übereinander liegen: an ihrem Beginn, mit ihren Werten bei einem Marker, oder wo sie zum ersten Mal eine Schwelle durchlaufen</source>
-        <translation>What the curves are aligned by: their start, their values at a marker, or where they first cross a threshold</translation>
-    </message>
-    <message>
-        <source>Breite des Bandes in Sigma</source>
-        <translation>Width of the band in sigmas</translation>
-    </message>
-</context>
-<context>
-    <name>TabEvaluationRuntime</name>
-    <message>
-        <source>Startschwelle</source>
-        <translation>Start threshold</translation>
-    </message>
-    <message>
-        <source>Stoppschwelle</source>
-        <translation>Stop threshold</translation>
-    </message>
-    <message>
-        <source>Start [s]</source>
-        <translation>Start [s]</translation>
-    </message>
-    <message>
-        <source>Dauer [s]</source>
-        <translation>Duration [s]</translation>
-    </message>
-    <message>
-        <source>Stop [s]</source>
-        <translation>Stop [s]</translation>
-    </message>
-    <message>
-        <source>Laufzeiten der Schüsse</source>
-        <translation>Run times of the shots</translation>
-    </message>
-</context>
-<context>
     <name>TabEvaluationValues</name>
     <message>
         <source>%1 [%2]</source>
         <translation>%1 [%2]</translation>
     </message>
     <message>
-        <source>Cp %1</source>
-        <translation>Cp %1</translation>
-    </message>
-    <message>
-        <source>Cpk %1</source>
-        <translation>Cpk %1</translation>
-    </message>
-    <message>
-        <source>Grenzen sind gleich!</source>
-        <translation>Limits are equal!</translation>
-    </message>
-    <message>
-        <source>Untere Grenze über oberer!</source>
-        <translation>Lower limit above upper!</translation>
-    </message>
-    <message>
-        <source>Keine Grenzen</source>
-        <translation>No limits</translation>
-    </message>
-    <message>
-        <source>Außerhalb: %1 von %2</source>
-        <translation>Outside: %1 of %2</translation>
-    </message>
-    <message>
-        <source>Größe</source>
-        <translation>Quantity</translation>
-    </message>
-    <message>
-        <source>Dargestellte Größe</source>
-        <translation>Displayed quantity</translation>
-    </message>
-    <message>
-        <source>&amp;Spalten...</source>
-        <translation>&amp;Columns...</translation>
-    </message>
-    <message>
-        <source>Größen der Tabelle wählen</source>
-        <translation>Choose the quantities of the table</translation>
-    </message>
-    <message>
-        <source>&amp;Untere Grenze</source>
-        <translation>&amp;Lower limit</translation>
-    </message>
-    <message>
-        <source>&amp;Obere Grenze</source>
-        <translation>&amp;Upper limit</translation>
-    </message>
-    <message>
-        <source>Werte der Schüsse</source>
-        <translation>Values of the shots</translation>
-    </message>
-    <message>
         <source>Verlauf über die Schüsse</source>
         <translation>Trend over the shots</translation>
-    </message>
-    <message>
-        <source>Normalverteilung</source>
-        <translation>Normal distribution</translation>
-    </message>
-    <message>
-        <source>Mit der Standardabweichung der Grundgesamtheit (geteilt durch n)</source>
-        <translation>With the population standard deviation (divided by n)</translation>
-    </message>
-    <message>
-        <source>(Obere - untere Grenze) / 6 Sigma. %1</source>
-        <translation>(Upper - lower limit) / 6 sigma. %1</translation>
-    </message>
-    <message>
-        <source>Abstand des Mittelwerts von der näheren Grenze / 3 Sigma. %1</source>
-        <translation>Distance of the mean from the nearer limit / 3 sigma. %1</translation>
     </message>
 </context>
 <context>
@@ -2078,201 +2276,6 @@ Identification of this computer:
     <message>
         <source>Prozessüberwachung für Spritzgießwerkzeuge</source>
         <translation>Process monitoring for injection moulds</translation>
-    </message>
-</context>
-<context>
-    <name>TabOszilloscope</name>
-    <message>
-        <source>%1 ms</source>
-        <translation>%1 ms</translation>
-    </message>
-    <message>
-        <source>Dargestellt werden die Messungen 1 bis %1. Alle weiteren werden aufgezeichnet und gespeichert, aber nicht gezeichnet.</source>
-        <translation>Measurements 1 to %1 are displayed. All further ones are recorded and saved, but not drawn.</translation>
-    </message>
-    <message>
-        <source>Messungen (%1 gezeigt)</source>
-        <translation>Measurements (%1 shown)</translation>
-    </message>
-    <message>
-        <source>Messungen</source>
-        <translation>Measurements</translation>
-    </message>
-    <message>
-        <source>Gesperrt: Bereiche, Raster, Korrekturen, Marker und Messungen sind vor Änderungen geschützt. Klicken zum Entsperren.</source>
-        <translation>Locked: ranges, grids, offsets, markers and measurements are protected against changes. Click to unlock.</translation>
-    </message>
-    <message>
-        <source>Alles kann geändert werden. Klicken zum Sperren.</source>
-        <translation>Everything can be changed. Click to lock.</translation>
-    </message>
-    <message>
-        <source>Gesperrt</source>
-        <translation>Locked</translation>
-    </message>
-    <message>
-        <source>Offen</source>
-        <translation>Unlocked</translation>
-    </message>
-    <message>
-        <source>Diagramm dieses Sensors zeigen</source>
-        <translation>Show this sensor&apos;s plot</translation>
-    </message>
-    <message>
-        <source>Zoom</source>
-        <translation>Zoom</translation>
-    </message>
-    <message>
-        <source>Zeitachse dehnen (im Diagramm: Mausrad, + und -)</source>
-        <translation>Stretch the time axis (in the plot: mouse wheel, + and -)</translation>
-    </message>
-    <message>
-        <source>Zoom der Zeitachse</source>
-        <translation>Zoom of the time axis</translation>
-    </message>
-    <message>
-        <source>Zeitachse verschieben (im Diagramm: Pfeiltasten, Pos1 und Ende).
-Ganz rechts folgt die Ansicht den neuesten Werten.</source>
-        <translation>Move the time axis (in the plot: arrow keys, Home and End).
-At the far right the view follows the newest values.</translation>
-    </message>
-    <message>
-        <source>Zeitachse verschieben</source>
-        <translation>Move the time axis</translation>
-    </message>
-    <message>
-        <source>Raster</source>
-        <translation>Grid</translation>
-    </message>
-    <message>
-        <source>auto</source>
-        <translation>auto</translation>
-    </message>
-    <message>
-        <source>Abstand der senkrechten Rasterlinien automatisch wählen</source>
-        <translation>Choose the spacing of the vertical grid lines automatically</translation>
-    </message>
-    <message>
-        <source> ms</source>
-        <translation> ms</translation>
-    </message>
-    <message>
-        <source>Abstand der senkrechten Rasterlinien</source>
-        <translation>Spacing of the vertical grid lines</translation>
-    </message>
-    <message>
-        <source>Raster der Zeitachse</source>
-        <translation>Grid of the time axis</translation>
-    </message>
-    <message>
-        <source>y Korr.</source>
-        <translation>y corr.</translation>
-    </message>
-    <message>
-        <source>Jede Kurve so verschieben, dass sie zu dieser Zeit durch null geht</source>
-        <translation>Shift every curve so that it passes through zero at this time</translation>
-    </message>
-    <message>
-        <source>y Korrektur</source>
-        <translation>y correction</translation>
-    </message>
-    <message>
-        <source>Zeit, zu der jede Kurve durch null geht</source>
-        <translation>Time at which every curve passes through zero</translation>
-    </message>
-    <message>
-        <source>Zeit der y Korrektur</source>
-        <translation>Time of the y correction</translation>
-    </message>
-    <message>
-        <source>Abtastrate</source>
-        <translation>Sampling period</translation>
-    </message>
-    <message>
-        <source>Zeit zwischen zwei Messwerten; wählbar, solange die Box verbunden ist</source>
-        <translation>Time between two samples; selectable while the box is connected</translation>
-    </message>
-    <message>
-        <source>t [s]=</source>
-        <translation>t [s]=</translation>
-    </message>
-    <message>
-        <source>Klicken und dann im Diagramm auf die gewünschte Stelle tippen.
-Esc bricht ab.</source>
-        <translation>Click, then tap the desired place in the plot.
-Esc cancels.</translation>
-    </message>
-    <message>
-        <source>Marker %1 setzen</source>
-        <translation>Set marker %1</translation>
-    </message>
-    <message>
-        <source>Zeit des Markers in Sekunden; ohne &quot;absolut&quot; der Abstand zum vorigen Marker</source>
-        <translation>Time of the marker in seconds; without &quot;absolute&quot; the distance from the previous marker</translation>
-    </message>
-    <message>
-        <source>Marker %1 in Sekunden</source>
-        <translation>Marker %1 in seconds</translation>
-    </message>
-    <message>
-        <source>absolut</source>
-        <translation>absolute</translation>
-    </message>
-    <message>
-        <source>Zeiten ab dem Beginn der Messung statt Abstände der Marker</source>
-        <translation>Times from the start of the measurement instead of distances between markers</translation>
-    </message>
-    <message>
-        <source>Alle Marker löschen</source>
-        <translation>Clear all markers</translation>
-    </message>
-    <message>
-        <source>Angezeigt</source>
-        <translation>Displayed</translation>
-    </message>
-    <message>
-        <source>alle</source>
-        <translation>all</translation>
-    </message>
-    <message>
-        <source>Alle Messungen zeigen</source>
-        <translation>Show all measurements</translation>
-    </message>
-    <message>
-        <source>Nummern und Bereiche, durch Komma getrennt: 1-3,5 zeigt die Messungen 1, 2, 3 und 5.</source>
-        <translation>Numbers and ranges, separated by commas: 1-3,5 shows measurements 1, 2, 3 and 5.</translation>
-    </message>
-    <message>
-        <source>Angezeigte Messungen</source>
-        <translation>Displayed measurements</translation>
-    </message>
-    <message>
-        <source>Markiert</source>
-        <translation>Highlight</translation>
-    </message>
-    <message>
-        <source>Nummer der hervorgehobenen Messung; 0 hebt keine hervor</source>
-        <translation>Number of the highlighted measurement; 0 highlights none</translation>
-    </message>
-    <message>
-        <source>Markierte Messung</source>
-        <translation>Highlighted measurement</translation>
-    </message>
-    <message>
-        <source>Löschen</source>
-        <translation>Delete</translation>
-    </message>
-    <message>
-        <source>Nummern und Bereiche in aufsteigender Folge, durch Komma getrennt: 1-3,5 löscht die Messungen 1, 2, 3 und 5.</source>
-        <translation>Numbers and ranges in ascending order, separated by commas: 1-3,5 deletes measurements 1, 2, 3 and 5.</translation>
-    </message>
-    <message>
-        <source>Zu löschende Messungen</source>
-        <translation>Measurements to delete</translation>
-    </message>
-    <message>
-        <source>Diese Messungen löschen</source>
-        <translation>Delete these measurements</translation>
     </message>
 </context>
 <context>
@@ -2412,6 +2415,77 @@ Arrow up and down: earlier lines</translation>
     </message>
 </context>
 <context>
+    <name>ThresholdFields</name>
+    <message>
+        <source>Startschwelle</source>
+        <translation>Start threshold</translation>
+    </message>
+    <message>
+        <source>Stoppschwelle</source>
+        <translation>Stop threshold</translation>
+    </message>
+</context>
+<context>
+    <name>TimeAxisBar</name>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Zeitachse dehnen (im Diagramm: Mausrad, + und -)</source>
+        <translation>Stretch the time axis (in the plot: mouse wheel, + and -)</translation>
+    </message>
+    <message>
+        <source>Zoom der Zeitachse</source>
+        <translation>Zoom of the time axis</translation>
+    </message>
+    <message>
+        <source>Zeitachse verschieben (im Diagramm: Pfeiltasten, Pos1 und Ende).
+Ganz rechts folgt die Ansicht den neuesten Werten.</source>
+        <translation>Move the time axis (in the plot: arrow keys, Home and End).
+At the far right the view follows the newest values.</translation>
+    </message>
+    <message>
+        <source>Zeitachse verschieben</source>
+        <translation>Move the time axis</translation>
+    </message>
+    <message>
+        <source>Raster</source>
+        <translation>Grid</translation>
+    </message>
+    <message>
+        <source>auto</source>
+        <translation>auto</translation>
+    </message>
+    <message>
+        <source>Abstand der senkrechten Rasterlinien automatisch wählen</source>
+        <translation>Choose the spacing of the vertical grid lines automatically</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>Abstand der senkrechten Rasterlinien</source>
+        <translation>Spacing of the vertical grid lines</translation>
+    </message>
+    <message>
+        <source>Raster der Zeitachse</source>
+        <translation>Grid of the time axis</translation>
+    </message>
+</context>
+<context>
+    <name>TransferBar</name>
+    <message>
+        <source>%1 von %2</source>
+        <translation>%1 of %2</translation>
+    </message>
+    <message>
+        <source>Fortschritt der Übertragung</source>
+        <translation>Progress of the transfer</translation>
+    </message>
+</context>
+<context>
     <name>TrendChart</name>
     <message>
         <source>Keine Werte</source>
@@ -2491,6 +2565,13 @@ Arrow up and down: earlier lines</translation>
     <message>
         <source>Abbrechen</source>
         <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>ValuesTable</name>
+    <message>
+        <source>Werte der Schüsse</source>
+        <translation>Values of the shots</translation>
     </message>
 </context>
 <context>
@@ -2682,6 +2763,33 @@ Arrow up and down: earlier lines</translation>
     <message>
         <source>Aufzeichnung starten</source>
         <translation>Start recording</translation>
+    </message>
+</context>
+<context>
+    <name>YCorrectionBox</name>
+    <message>
+        <source>y Korr.</source>
+        <translation>y corr.</translation>
+    </message>
+    <message>
+        <source>Jede Kurve so verschieben, dass sie zu dieser Zeit durch null geht</source>
+        <translation>Shift every curve so that it passes through zero at this time</translation>
+    </message>
+    <message>
+        <source>y Korrektur</source>
+        <translation>y correction</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>Zeit, zu der jede Kurve durch null geht</source>
+        <translation>Time at which every curve passes through zero</translation>
+    </message>
+    <message>
+        <source>Zeit der y Korrektur</source>
+        <translation>Time of the y correction</translation>
     </message>
 </context>
 </TS>
