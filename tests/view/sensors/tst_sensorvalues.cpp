@@ -33,6 +33,16 @@ SensorInfo sensorOf(int channel)
 
 using Action = std::function<void(SensorValues &values, qint64 &time)>;
 
+Action live(double value)
+{
+    return [value](SensorValues &values, qint64 &) { values.addSample(allOf(value), kPeriod); };
+}
+
+Action recorded(double value)
+{
+    return [value](SensorValues &values, qint64 &) { (void)values.setRecorded(recordedAs(value)); };
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(Action)
@@ -46,16 +56,12 @@ private slots:
     void readingOfASensor_data()
     {
         columns<Action, int, SensorStatus, double, double>("action", "channel", "status", "value", "readOut");
-        const auto live = [](double value) {
-            return [value](SensorValues &values, qint64 &) { values.addSample(allOf(value), kPeriod); };
-        };
         row("nothing yet", Action([](SensorValues &, qint64 &) {}), 0, SensorStatus::NoValue, 0.0, 0.0);
-        row("recorded", Action([](SensorValues &values, qint64 &) { (void)values.setRecorded(recordedAs(4.0)); }), 0,
-            SensorStatus::Stale, 5.0, 5.0);
-        row("live", Action(live(4.0)), 4, SensorStatus::Inside, 5.0, 5.0);
-        row("above by the offset alone", Action(live(9.5)), 0, SensorStatus::Above, 10.5, 10.5);
-        row("below", Action(live(-1.5)), 0, SensorStatus::Below, -0.5, -0.5);
-        row("the box sends nothing for it", Action(live(4.0)), -1, SensorStatus::NoValue, 0.0, 0.0);
+        row("recorded", recorded(4.0), 0, SensorStatus::Stale, 5.0, 5.0);
+        row("live", live(4.0), 4, SensorStatus::Inside, 5.0, 5.0);
+        row("above by the offset alone", live(9.5), 0, SensorStatus::Above, 10.5, 10.5);
+        row("below", live(-1.5), 0, SensorStatus::Below, -0.5, -0.5);
+        row("the box sends nothing for it", live(4.0), -1, SensorStatus::NoValue, 0.0, 0.0);
         row("live hides recorded", Action([](SensorValues &values, qint64 &) {
                 values.addSample(allOf(4.0), kPeriod);
                 (void)values.setRecorded(recordedAs(7.0));
