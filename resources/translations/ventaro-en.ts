@@ -1652,7 +1652,7 @@ double-click fits the value range.</translation>
     <name>QuantityChoice</name>
     <message>
         <source>Größe</source>
-        <translation>Quantity</translation>
+        <translation>Size</translation>
     </message>
     <message>
         <source>Dargestellte Größe</source>
@@ -1957,6 +1957,41 @@ double-click fits the value range.</translation>
     <message>
         <source>min %1   max %2</source>
         <translation>min %1   max %2</translation>
+    </message>
+</context>
+<context>
+    <name>SensorSide</name>
+    <message>
+        <source>Sensoren</source>
+        <translation>Sensors</translation>
+    </message>
+    <message>
+        <source>&amp;Bearbeiten...</source>
+        <translation>&amp;Edit...</translation>
+    </message>
+    <message>
+        <source>Name, Farbe und Grenzen des gewählten Sensors (Eingabetaste)</source>
+        <translation>Name, colour and limits of the selected sensor (Enter)</translation>
+    </message>
+    <message>
+        <source>&amp;Min/Max neu</source>
+        <translation>Reset &amp;min/max</translation>
+    </message>
+    <message>
+        <source>Minimum und Maximum aller Sensoren neu beginnen</source>
+        <translation>Reset minimum and maximum of all sensors</translation>
+    </message>
+    <message>
+        <source>Umbenennen (F2)</source>
+        <translation>Rename (F2)</translation>
+    </message>
+    <message>
+        <source>Bearbeiten...</source>
+        <translation>Edit...</translation>
+    </message>
+    <message>
+        <source>Minimum und Maximum neu beginnen</source>
+        <translation>Reset minimum and maximum</translation>
     </message>
 </context>
 <context>
@@ -2265,38 +2300,6 @@ Identification of this computer:
 Links die Sensoren ankreuzen, die gezeigt werden sollen.</source>
         <translation>No sensor selected.
 Tick the sensors to be shown on the left.</translation>
-    </message>
-    <message>
-        <source>Sensoren</source>
-        <translation>Sensors</translation>
-    </message>
-    <message>
-        <source>&amp;Bearbeiten...</source>
-        <translation>&amp;Edit...</translation>
-    </message>
-    <message>
-        <source>Name, Farbe und Grenzen des gewählten Sensors (Eingabetaste)</source>
-        <translation>Name, colour and limits of the selected sensor (Enter)</translation>
-    </message>
-    <message>
-        <source>&amp;Min/Max neu</source>
-        <translation>Reset &amp;min/max</translation>
-    </message>
-    <message>
-        <source>Minimum und Maximum aller Sensoren neu beginnen</source>
-        <translation>Reset minimum and maximum of all sensors</translation>
-    </message>
-    <message>
-        <source>Umbenennen (F2)</source>
-        <translation>Rename (F2)</translation>
-    </message>
-    <message>
-        <source>Bearbeiten...</source>
-        <translation>Edit...</translation>
-    </message>
-    <message>
-        <source>Minimum und Maximum neu beginnen</source>
-        <translation>Reset minimum and maximum</translation>
     </message>
 </context>
 <context>

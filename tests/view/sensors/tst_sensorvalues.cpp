@@ -38,6 +38,11 @@ Action live(double value)
     return [value](SensorValues &values, qint64 &) { values.addSample(allOf(value), kPeriod); };
 }
 
+Action recorded(double value)
+{
+    return [value](SensorValues &values, qint64 &) { (void)values.setRecorded(recordedAs(value)); };
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(Action)
@@ -52,8 +57,7 @@ private slots:
     {
         columns<Action, int, SensorStatus, double, double>("action", "channel", "status", "value", "readOut");
         row("nothing yet", Action([](SensorValues &, qint64 &) {}), 0, SensorStatus::NoValue, 0.0, 0.0);
-        row("recorded", Action([](SensorValues &values, qint64 &) { (void)values.setRecorded(recordedAs(4.0)); }), 0,
-            SensorStatus::Stale, 5.0, 5.0);
+        row("recorded", recorded(4.0), 0, SensorStatus::Stale, 5.0, 5.0);
         row("live", live(4.0), 4, SensorStatus::Inside, 5.0, 5.0);
         row("above by the offset alone", live(9.5), 0, SensorStatus::Above, 10.5, 10.5);
         row("below", live(-1.5), 0, SensorStatus::Below, -0.5, -0.5);
@@ -75,16 +79,16 @@ private slots:
                 values.addSample(allOf(6.0), kPeriod);
             }),
             0, SensorStatus::Inside, 7.0, 5.0);
-        const auto outlived = [](SensorValues &values, qint64 &time) {
-            values.addSample(allOf(4.0), kPeriod);
-            time += LiveValues::kShortestFreshness + 1;
-        };
-        row("too old", Action(outlived), 0, SensorStatus::Stale, 5.0, 5.0);
-        const auto lost = [](SensorValues &values, qint64 &) {
-            values.addSample(allOf(99.0), kPeriod);
-            values.expire();
-        };
-        row("link lost", Action(lost), 0, SensorStatus::Stale, 100.0, 100.0);
+        row("too old", Action([](SensorValues &values, qint64 &time) {
+                values.addSample(allOf(4.0), kPeriod);
+                time += LiveValues::kShortestFreshness + 1;
+            }),
+            0, SensorStatus::Stale, 5.0, 5.0);
+        row("link lost", Action([](SensorValues &values, qint64 &) {
+                values.addSample(allOf(99.0), kPeriod);
+                values.expire();
+            }),
+            0, SensorStatus::Stale, 100.0, 100.0);
     }
 
     void readingOfASensor()
