@@ -16,6 +16,7 @@ QString machineHash(const QByteArray &machineId)
 
 bool isMachineLicensed(const QByteArray &machineId, const QStringList &licensedHashes)
 {
+    // A build without a list is not tied to a computer.
     if (licensedHashes.isEmpty())
         return true;
     if (machineId.isEmpty())

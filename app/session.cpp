@@ -17,7 +17,7 @@ int runSession(QApplication &application, const SessionOptions &options)
     View view(&model);
     const Controller controller(&model, &view, options.controller);
 
-    // Closing the window is only a wish; whether the program ends is decided where unsaved data is asked about.
+    // Closing the window only asks to quit; the controller decides, as there may be unsaved data.
     QGuiApplication::setQuitOnLastWindowClosed(false);
     view.show();
     if (options.connectAtOnce)

@@ -26,7 +26,7 @@ namespace {
 
 constexpr int kSplashWidth = 1200;
 
-/// For title bars and task bars, in their usual sizes: made small, the large drawing would be hair-lines.
+/// In the usual sizes of title bars and task bars: scaled down, the lines of the large drawing would be too thin.
 QIcon windowIcon()
 {
     QIcon icon;
@@ -92,6 +92,7 @@ void showSplash(QSplashScreen &splash, std::chrono::milliseconds time)
         splash.setPixmap(
             picture.scaledToWidth(qRound(kSplashWidth * picture.devicePixelRatio()), Qt::FastTransformation));
     }
+    // Blocked on purpose: the splash is closed before any other object of the program exists.
     splash.setWindowFlags(splash.windowFlags() | Qt::WindowStaysOnTopHint);
     splash.show();
     QCoreApplication::processEvents();

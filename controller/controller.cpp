@@ -1,160 +1,96 @@
 #include "controller/controller.h"
 
-#include "controller/controller_p.h"
+#include "controller/controllerparts.h"
 #include "controller/logging.h"
-#include "device/protocol/hostaddress.h"
-#include "device/protocol/samplingperiod.h"
-#include "model/model.h"
 #include "view/blackbox/tabblackbox.h"
 #include "view/oscilloscope/taboszilloscope.h"
 #include "view/project/tabproject.h"
-#include "view/sensors/tabsensors.h"
 #include "view/window/view.h"
 
-#include <QApplication>
-
-namespace {
-
-// How long the answer to a list request may take before the user may ask again.
-constexpr int kListTimeout = 5000;
-constexpr int kProgressCheck = 200;
-
-void makeSingleShot(QTimer &timer, int milliseconds)
-{
-    timer.setSingleShot(true);
-    timer.setInterval(milliseconds);
-}
-
-} // namespace
-
 Controller::Controller(Model *model, View *view, const ControllerOptions &options)
-    : d(std::make_unique<Private>(model, view, options))
+    : d(std::make_unique<ControllerParts>(*model, *view, options))
 {
     qCDebug(lcController) << Q_FUNC_INFO;
-    makeSingleShot(d->deviceDescriptionTimer, options.deviceDescriptionTimeout);
-    makeSingleShot(d->sensorDescriptionTimer, options.sensorDescriptionTimeout);
-    makeSingleShot(d->listTimer, kListTimeout);
-    makeSingleShot(d->progressTimer, kProgressCheck);
-    makeSingleShot(d->resumeTimer, 0);
-    makeSingleShot(d->deferredTimer, 0);
-
-    d->progressBar = new QProgressBar;
-    d->progressBar->hide();
-    d->view->addStatusWidget(d->progressBar);
-    d->model->setYield([this](int percent) { showFileProgress(percent); });
-
-    connectUserActions();
-    connectTabs();
+    connectActions(*view);
+    connectTabs(*view);
     connectDevice();
-    connectDemo();
-    connectTransfers(options);
-    d->view->setAddressValidator(isValidHostAddress);
-    d->view->tabOszi()->setSamplingPeriods(samplingPeriodLabels());
-    d->view->setDeviceAddress(d->address);
-    if (!d->model->currentFile().isEmpty())
-        d->view->rememberProject(d->model->currentFile());
+    handleMessages();
 }
 
 Controller::~Controller()
 {
     qCDebug(lcController) << Q_FUNC_INFO;
-    d->model->setYield({});
-    // The socket's last signals must not find a controller that is half gone.
-    d->connector.disconnect(this);
-    d->demo.disconnect(this);
-    delete d->progressBar;
 }
 
-void Controller::connectUserActions()
+void Controller::connectActions(const View &view)
 {
-    QObject::connect(d->view, &View::newProject, this, &Controller::onNewProject);
-    QObject::connect(d->view, &View::openProject, this, &Controller::onOpenProject);
-    QObject::connect(d->view, &View::openProjectFile, this, &Controller::onOpenProjectFile);
-    QObject::connect(d->view, &View::saveProject, this, &Controller::onSaveProject);
-    QObject::connect(d->view, &View::saveProjectAs, this, &Controller::onSaveProjectAs);
-    QObject::connect(d->view, &View::importBlackBox, this, &Controller::onImportBlackBox);
-    QObject::connect(d->view, &View::firmwareUpdate, this, &Controller::onFirmwareUpdate);
-    QObject::connect(d->view, &View::connectDisconnect, this, &Controller::onActionConnect);
-    QObject::connect(d->view, &View::calibrate, this, &Controller::onActionCalibration);
-    QObject::connect(d->view, &View::startStopRecording, this, &Controller::onActionStartStopRecording);
-    QObject::connect(d->view, &View::quit, this, &Controller::onActionQuit);
+    connect(&view, &View::newProject, this, &Controller::onNewProject);
+    connect(&view, &View::openProject, this, &Controller::onOpenProject);
+    connect(&view, &View::saveProject, this, &Controller::onSaveProject);
+    connect(&view, &View::saveProjectAs, this, &Controller::onSaveProjectAs);
+    connect(&view, &View::importBlackBox, this, &Controller::onImportBlackBox);
+    connect(&view, &View::firmwareUpdate, this, &Controller::onFirmwareUpdate);
+    connect(&view, &View::connectDisconnect, this, &Controller::onActionConnect);
+    connect(&view, &View::calibrate, this, &Controller::onActionCalibration);
+    connect(&view, &View::startStopRecording, this, &Controller::onActionStartStopRecording);
+    connect(&view, &View::quit, this, &Controller::onActionQuit);
 }
 
-void Controller::connectTabs()
+void Controller::connectTabs(const View &view)
 {
-    const TabProject *project = d->view->tabProject();
-    QObject::connect(project, &TabProject::projectDataChanged, this, &Controller::onTabProject_projectDataChanged);
-    QObject::connect(project, &TabProject::clearDataClicked, this, &Controller::onTabProject_clearDataClicked);
-    QObject::connect(project, &TabProject::phaseEditChanged, this, &Controller::onTabProject_onPhaseEditChanged);
-    QObject::connect(project, &TabProject::commentChanged, this, &Controller::onTabProject_commentChanged);
+    const TabProject *project = view.tabProject();
+    connect(project, &TabProject::projectDataChanged, this, &Controller::onTabProject_projectDataChanged);
+    connect(project, &TabProject::clearDataClicked, this, &Controller::onTabProject_clearDataClicked);
+    connect(project, &TabProject::phaseEditChanged, this, &Controller::onTabProject_onPhaseEditChanged);
 
-    QObject::connect(project, &TabProject::imageButtonClicked, this, &Controller::onTabProject_imageButtonClicked);
-    QObject::connect(project, &TabProject::imageDeleteClicked, this, &Controller::onTabProject_imageDeleteClicked);
-    QObject::connect(project, &TabProject::imageSaveClicked, this, &Controller::onTabProject_imageSaveClicked);
-    QObject::connect(project, &TabProject::imageFilesGiven, this, &Controller::onTabProject_imageFilesGiven);
-    QObject::connect(project, &TabProject::imageGiven, this, &Controller::onTabProject_imageGiven);
+    const TabOszilloscope *oszi = view.tabOszi();
+    connect(oszi, &TabOszilloscope::deleteMeasurements, this, &Controller::onTabOszi_deleteMeasurements);
+    connect(oszi, &TabOszilloscope::markerChangedAbsolute, this, &Controller::onTabOszi_markerChangedAbsolute);
+    connect(oszi, &TabOszilloscope::markerChangedRelative, this, &Controller::onTabOszi_markerChangedRelative);
+    connect(oszi, &TabOszilloscope::checkBoxMarkerAbsClicked, this, &Controller::onTabOszi_checkBoxMarkerAbsClicked);
 
-    const TabOszilloscope *oszi = d->view->tabOszi();
-    QObject::connect(oszi, &TabOszilloscope::deleteMeasurements, this, &Controller::onTabOszi_deleteMeasurements);
-    QObject::connect(oszi, &TabOszilloscope::markerChangedAbsolute, this, &Controller::onTabOszi_markerChangedAbsolute);
-    QObject::connect(oszi, &TabOszilloscope::markerChangedRelative, this, &Controller::onTabOszi_markerChangedRelative);
-    QObject::connect(oszi, &TabOszilloscope::checkBoxMarkerAbsClicked, this,
-                     &Controller::onTabOszi_checkBoxMarkerAbsClicked);
-    QObject::connect(oszi, &TabOszilloscope::offsetEdited, this, &Controller::onTabOszi_offsetEdited);
-    QObject::connect(oszi, &TabOszilloscope::rangeEdited, this, &Controller::onTabOszi_rangeEdited);
-    QObject::connect(oszi, &TabOszilloscope::samplingPeriodChosen, this, &Controller::onTabOszi_samplingPeriodChosen);
-
-    const TabSensors *sensors = d->view->tabSensors();
-    QObject::connect(sensors, &TabSensors::sensorNameEdited, this, &Controller::onTabSensors_nameEdited);
-    QObject::connect(sensors, &TabSensors::sensorColorEdited, this, &Controller::onTabSensors_colorEdited);
-    QObject::connect(sensors, &TabSensors::sensorLimitsEdited, this, &Controller::onTabSensors_limitsEdited);
-
-    const TabBlackBox *blackBox = d->view->tabBlackBox();
-    QObject::connect(blackBox, &TabBlackBox::listRequested, this, &Controller::onTabBlackBox_listClicked);
-    QObject::connect(blackBox, &TabBlackBox::importClicked, this, &Controller::onTabBlackBox_importClicked);
-    QObject::connect(d->view, &View::terminalSend, this, &Controller::onTerminalSend);
-    QObject::connect(d->view, &View::about, this, &Controller::onActionAbout);
-    QObject::connect(d->view, &View::progressCancelled, this, &Controller::cancelConnecting);
+    const TabBlackBox *blackBox = view.tabBlackBox();
+    connect(blackBox, &TabBlackBox::listRequested, this, &Controller::onTabBlackBox_listClicked);
+    connect(blackBox, &TabBlackBox::importClicked, this, &Controller::onTabBlackBox_importClicked);
+    connect(blackBox, &TabBlackBox::fetchClicked, this, &Controller::onTabBlackBox_fetchBlackBoxDataClicked);
+    connect(blackBox, &TabBlackBox::openLocalFolderClicked, this, &Controller::onTabBlackBox_openLocalFolderClicked);
 }
 
 void Controller::connectDevice()
 {
-    MesotraConnector *connector = &d->connector;
-    QObject::connect(connector, &MesotraConnector::connected, this, &Controller::onConnected);
-    QObject::connect(connector, &MesotraConnector::disconnected, this, &Controller::onDisconnected);
-    QObject::connect(connector, &MesotraConnector::messageReceived, this, &Controller::onMessageReceived);
-    QObject::connect(connector, &MesotraConnector::written, d->view, &View::terminalSent);
-    QObject::connect(connector, &MesotraConnector::error, this, [this](QAbstractSocket::SocketError error) {
-        if (d->demo.isActive())
-            onDemoFailed(DemoBox::End::Ended);
-        else if (d->linkWanted && !waitForRestart(error))
-            connectionError(error);
-    });
+    const MesotraConnector *box = &d->connector;
+    connect(box, &MesotraConnector::connected, this, &Controller::onConnected);
+    connect(box, &MesotraConnector::disconnected, this, &Controller::onDisconnected);
+    connect(box, &MesotraConnector::messageReceived, this, &Controller::onMessageReceived);
+    connect(&d->link, &BoxLink::failed, this, &Controller::connectionError);
+    connect(&d->descriptions, &BoxDescriptions::deviceWaitOver, this,
+            &Controller::onTimerWaitForDeviceDescription_timeout);
+    connect(&d->descriptions, &BoxDescriptions::sensorWaitOver, this,
+            &Controller::onTimerWaitForSensorDescription_timeout);
+}
 
-    QObject::connect(&d->deviceDescriptionTimer, &QTimer::timeout, this,
-                     &Controller::onTimerWaitForDeviceDescription_timeout);
-    QObject::connect(&d->sensorDescriptionTimer, &QTimer::timeout, this,
-                     &Controller::onTimerWaitForSensorDescription_timeout);
-    QObject::connect(&d->resumeTimer, &QTimer::timeout, this, &Controller::resumeLines);
-    QObject::connect(&d->deferredTimer, &QTimer::timeout, this, &Controller::handleDeferred);
-    QObject::connect(&d->progressTimer, &QTimer::timeout, this, &Controller::hideProgressWhenIdle);
-    QObject::connect(&d->listTimer, &QTimer::timeout, this,
-                     [this] { d->view->tabBlackBox()->setListButtonEnabled(true); });
+void Controller::handleMessages()
+{
+    d->dispatch.setHandler(MessageKind::Sample, [this](const QString &message) { handleValueMessage(message); });
+    d->dispatch.setHandler(MessageKind::DeviceDescription,
+                           [this](const QString &message) { handleDeviceDescription(message); });
+    d->dispatch.setHandler(MessageKind::SensorDescription,
+                           [this](const QString &message) { handleSensorDescription(message); });
 }
 
 bool Controller::isRecordingRunning() const
 {
-    return d->recordingRunning;
+    return d->recorder.isRunning();
 }
 
 int Controller::seriesIndex(int position) const
 {
-    return d->series.index(position);
+    return d->recorder.seriesIndex(position);
 }
 
 bool Controller::areValuesInThousandths() const
 {
-    return d->valuesInThousandths;
+    return d->recorder.areValuesInThousandths();
 }
 
 MesotraConnector *Controller::connector() const
@@ -162,50 +98,200 @@ MesotraConnector *Controller::connector() const
     return &d->connector;
 }
 
-/// Called from the model's long loops; an export that the view has started shows the bar here first.
-void Controller::showFileProgress(int percent)
+qint64 Controller::demoProcessId() const
 {
-    if (d->progressBar->isHidden()) {
-        d->progressBar->setFormat(tr("Saving..."));
-        d->progressBar->show();
-        d->progressTimer.start();
-    }
-    d->progressBar->setValue(d->importTotal > 0 ? (100 * d->importDone + percent) / d->importTotal : percent);
-    QCoreApplication::processEvents();
+    return d->demoBox.processId();
 }
 
-void Controller::hideProgressWhenIdle()
-{
-    if (d->model->isBusy())
-        d->progressTimer.start();
-    else
-        d->progressBar->hide();
-}
+// --- Actions of the window ---
 
-bool Controller::isOccupied() const
-{
-    return d->openPrompts > 0 || d->fetching || d->importTotal > 0 || d->view->isAsking() || d->model->isBusy();
-}
-
-bool Controller::refuseWhileOccupied()
-{
-    if (!isOccupied())
-        return false;
-    qCDebug(lcController) << "refused: a dialog is open or a file is being read or written";
-    d->view->showStatus(tr("Bitte warten, bis der laufende Vorgang beendet ist."));
-    return true;
-}
-
-bool Controller::refuseWhileConnecting()
-{
-    if (!d->view->isProgressShown())
-        return false;
-    d->view->showStatus(tr("Bitte warten, bis der laufende Vorgang beendet ist."));
-    return true;
-}
-
-void Controller::onActionAbout()
+void Controller::onNewProject()
 {
     qCDebug(lcController) << Q_FUNC_INFO;
-    d->view->showAbout();
+    d->files.newProject();
+}
+
+void Controller::onOpenProject()
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    d->files.open();
+}
+
+void Controller::onSaveProject()
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    d->files.save();
+}
+
+void Controller::onSaveProjectAs()
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    d->files.saveAs();
+}
+
+void Controller::onImportBlackBox()
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    d->loggerList.requestIfPossible();
+}
+
+void Controller::onFirmwareUpdate()
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    d->firmware.run();
+}
+
+void Controller::onActionConnect()
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    d->link.toggle();
+}
+
+void Controller::onActionCalibration()
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    d->recording.calibrate();
+}
+
+void Controller::onActionStartStopRecording()
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    d->recording.startOrStop();
+}
+
+void Controller::onActionQuit()
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    d->files.quit();
+}
+
+// --- Tabs ---
+
+void Controller::onTabProject_projectDataChanged()
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    d->tabEdits.takeProjectData();
+}
+
+void Controller::onTabProject_clearDataClicked()
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    d->deletion.deleteAll();
+}
+
+void Controller::onTabProject_onPhaseEditChanged(int phase, const QString &name)
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    d->tabEdits.setPhaseName(phase, name);
+}
+
+void Controller::onTabOszi_deleteMeasurements(const QString &range)
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    d->deletion.deleteRange(range);
+}
+
+void Controller::onTabOszi_markerChangedAbsolute(int index, int pos_ms)
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    d->tabEdits.setMarkerAbsolute(index, pos_ms);
+}
+
+void Controller::onTabOszi_markerChangedRelative(int index, int pos_ms)
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    d->tabEdits.setMarkerRelative(index, pos_ms);
+}
+
+void Controller::onTabOszi_checkBoxMarkerAbsClicked(bool absolute)
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    d->tabEdits.setMarkersAbsolute(absolute);
+}
+
+void Controller::onTabBlackBox_listClicked()
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    d->loggerList.request();
+}
+
+void Controller::onTabBlackBox_importClicked(const QStringList &files)
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    d->loggerImport.run(files);
+}
+
+void Controller::onTabBlackBox_fetchBlackBoxDataClicked()
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    d->loggerFetch.fetchSelected();
+}
+
+void Controller::onTabBlackBox_openLocalFolderClicked()
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    d->loggerFetch.openLocalFolder();
+}
+
+QStringList Controller::copyLocalDirToTmpDir(const QString &localDirectory, const QDir &temporaryDirectory)
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    return d->loggerFetch.copyLocal(localDirectory, temporaryDirectory);
+}
+
+// --- The link and its messages ---
+
+void Controller::onMessageReceived(const QString &message)
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    d->lines.take(message);
+}
+
+void Controller::handleValueMessage(const QString &message)
+{
+    // The clock is not read while nobody sees the log.
+    qCDebug(lcController).nospace() << Q_FUNC_INFO << " message=" << message
+                                    << " ms=" << d->recorder.restartLineClock();
+    d->recorder.takeSampleLine(message);
+}
+
+void Controller::handleDeviceDescription(const QString &message)
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    d->descriptions.takeDevice(message);
+}
+
+void Controller::handleSensorDescription(const QString &message)
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    d->descriptions.takeSensors(message);
+}
+
+void Controller::onConnected()
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    d->link.opened();
+}
+
+void Controller::onDisconnected()
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    d->link.closed();
+}
+
+void Controller::connectionError(QAbstractSocket::SocketError error)
+{
+    qCDebug(lcController) << Q_FUNC_INFO << error;
+    d->link.reportError(error);
+}
+
+void Controller::onTimerWaitForDeviceDescription_timeout()
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+}
+
+void Controller::onTimerWaitForSensorDescription_timeout()
+{
+    qCDebug(lcController) << Q_FUNC_INFO << "valuesInThousandths=" << true;
+    d->recorder.setValuesInThousandths(true);
 }

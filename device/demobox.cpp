@@ -25,7 +25,7 @@ QString simulatorBesideProgram()
     return QDir(QCoreApplication::applicationDirPath()).filePath(name);
 }
 
-/// 0 for a line that tells of no port.
+/// 0 for a line that names no port.
 quint16 listeningPort(const QByteArray &line)
 {
     return line.startsWith(kListening) ? line.mid(kListening.size()).trimmed().toUShort() : quint16{0};
@@ -67,7 +67,7 @@ void DemoBox::start()
     if (std::exchange(m_active, true))
         return;
     m_process = new QProcess(this);
-    m_process->setStandardErrorFile(QProcess::nullDevice()); // several lines a sample, of use to nobody here
+    m_process->setStandardErrorFile(QProcess::nullDevice()); // several lines per sample that nobody reads
     QObject::connect(m_process, &QProcess::readyReadStandardOutput, this, &DemoBox::readOutput);
     QObject::connect(m_process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
         fail(error == QProcess::FailedToStart ? End::NotStarted : End::Ended);
@@ -87,7 +87,7 @@ void DemoBox::stop()
     m_startTimer.stop();
     m_listening = false;
     m_output.clear();
-    m_process->disconnect(this);
+    m_process->disconnect(this); // its end is no failure
     endProcess(*m_process);
     std::exchange(m_process, nullptr)->deleteLater(); // a signal of it may be on the way here
 }
@@ -105,6 +105,7 @@ void DemoBox::readOutput()
         m_startTimer.stop();
         emit listening(port);
     }
+    // A program that is not the simulator may write without end.
     if (m_listening || m_output.size() > kLongestLine)
         m_output.clear();
 }

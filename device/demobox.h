@@ -24,7 +24,7 @@ public:
     /// Ends the simulator.
     ~DemoBox() override;
 
-    /// Whether there is a simulator to start; looks at the file.
+    /// True if the simulator's file exists and can be run; looks at the file system.
     [[nodiscard]] bool isAvailable() const;
     [[nodiscard]] QString program() const { return m_program; }
     /// From start() to stop() or failed().
@@ -50,7 +50,7 @@ private:
     QString m_program;
     QProcess *m_process = nullptr; ///< owned; exists while active
     QTimer m_startTimer;
-    QByteArray m_output; ///< the beginning of a line
+    QByteArray m_output; ///< of the simulator; a line that is not complete yet
     bool m_active = false;
     bool m_listening = false;
 };

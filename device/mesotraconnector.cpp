@@ -87,7 +87,7 @@ void MesotraConnector::disconnectFromHost()
     dropLink();
 }
 
-// Ends whatever the socket is doing. Nothing of the old link is reported afterwards but its end.
+/// Ends whatever the socket is doing. Afterwards nothing of the old link is reported except its end.
 void MesotraConnector::dropLink()
 {
     ++m_link;
@@ -108,7 +108,7 @@ void MesotraConnector::dropLink()
         onDisconnected();
 }
 
-// A socket that is still connecting is open too, but would keep the bytes and send them whenever the link comes up.
+/// A socket that is still connecting is open too, but would keep the bytes and send them whenever the link comes up.
 bool MesotraConnector::isReady() const
 {
     return m_socket->isOpen() && m_socket->state() == QAbstractSocket::ConnectedState;
@@ -124,7 +124,7 @@ bool MesotraConnector::write(const QString &text)
     return false;
 }
 
-// Waiting on a socket that is still connecting would end the attempt.
+/// Waiting on a socket that is still connecting would end the attempt.
 void MesotraConnector::waitForWritten()
 {
     if (isReady() && m_socket->bytesToWrite() > 0)
@@ -207,6 +207,7 @@ void MesotraConnector::schedule()
 {
     if (std::exchange(m_scheduled, true))
         return;
+    // Never from within the socket, which a slot could delete by dropping the link.
     QMetaObject::invokeMethod(
         this,
         [this] {
@@ -216,13 +217,13 @@ void MesotraConnector::schedule()
         Qt::QueuedConnection);
 }
 
-// Passes on what the socket reported, in the order in which it happened on the wire.
+/// Passes on what the socket reported, in the order in which it happened on the wire.
 void MesotraConnector::processPending()
 {
     if (m_paused)
-        return; // looked at again when that ends
+        return; // the end of the pause schedules another call
     if (m_delivering)
-        return; // inside an event loop of a slot; the outer call goes on when that slot returns
+        return; // inside the event loop of a slot; the outer call continues when that slot returns
     const QPointer<MesotraConnector> self(this);
     const quint64 link = m_link;
     if (std::exchange(m_pending.connected, false))
@@ -233,7 +234,7 @@ void MesotraConnector::processPending()
         processEndOfLink();
 }
 
-// The end first, then its cause: a slot of error() may ask the user, who should see the real state meanwhile.
+/// The end first, then its cause: a slot of error() may ask the user, who should see the real state meanwhile.
 void MesotraConnector::processEndOfLink()
 {
     const QPointer<MesotraConnector> self(this);
@@ -245,7 +246,7 @@ void MesotraConnector::processEndOfLink()
     }
     for (QAbstractSocket::SocketError socketError : errors) {
         if (!self || m_link != link)
-            return; // that link is history
+            return; // a slot has dropped that link
         tcpSocketError(socketError);
     }
 }
@@ -275,12 +276,12 @@ void MesotraConnector::tcpSocketListener()
 
 void MesotraConnector::deliverLine()
 {
-    std::array<char, kLineBufferSize> buffer; // filled by the read
+    std::array<char, kLineBufferSize> buffer; // not initialised: the read fills it
     const qint64 lineLength = m_socket->readLine(buffer.data(), kLineBufferSize);
     if (lineLength < 0)
         qCDebug(lcDevice) << "lineLength<0 !";
     if (lineLength <= 1)
-        return;
+        return; // a lone line feed
     const QString message = QString::fromLatin1(buffer.data(), static_cast<int>(lineLength));
     qCDebug(lcDevice) << message;
     emit messageReceived(message);

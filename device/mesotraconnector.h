@@ -11,18 +11,18 @@ class QTcpSocket;
 class ScpTransfer;
 
 /// The program's only channel to the measuring box: sends text commands over TCP and cuts what arrives into lines.
-/// Works asynchronously but for the wait of up to 100 ms for the bytes of each command to be written.
+/// Works asynchronously, except that each command waits up to 100 ms for its bytes to be written.
 ///
 /// The signals about the link are emitted from the event loop or from connect() and disconnectFromHost(), never from
-/// within the socket, so that a slot may do anything: open a dialog, connect anew, even delete the connector. While a
-/// slot of messageReceived() runs an event loop of its own, further lines wait; their order never changes.
+/// within the socket, so that a slot may do anything: open a dialog, connect again, even delete the connector. While a
+/// slot of messageReceived() runs an event loop, further lines wait; their order never changes.
 class MesotraConnector : public QObject
 {
     Q_OBJECT
 
 public:
     static constexpr quint16 kDefaultPort = 2222;
-    /// As much may arrive without a line feed before the connection is dropped, in bytes.
+    /// How many bytes may arrive without a line feed before the connection is dropped.
     static constexpr qint64 kMaxUnterminated = qint64{1024} * 1024;
 
     explicit MesotraConnector(quint16 port = kDefaultPort);
@@ -32,11 +32,11 @@ public:
     void connect(const QString &address);
     /// As connect(), to a simulated box on this machine. hostAddress() stays that of the real box.
     void connectToSimulator(quint16 port);
-    /// Waits up to 100 ms for pending bytes. Lines not delivered yet are dropped.
+    /// Waits up to 100 ms for pending bytes. Lines that have not been delivered yet are dropped.
     void disconnectFromHost();
     [[nodiscard]] bool isConnected() const { return m_connected; }
     [[nodiscard]] QString hostAddress() const { return m_hostAddress; }
-    /// False (and a log line) without a link, also while it is being made, or if the socket refuses the bytes.
+    /// False, and a log line, if there is no link (also while it is being made) or the socket refuses the bytes.
     bool write(const QString &text);
 
     void calibrate();                ///< "1\n": asks for a single value line
@@ -44,9 +44,9 @@ public:
     void stopMeasurement();          ///< "run=0\n"
     void requestDeviceDescription(); ///< "deviceDescription\n"
     void requestSensorDescription(); ///< "sensorDescription\n"
-    /// Label such as "100ms"; a label that the box does not know sends nothing.
+    /// Sends the command for a label such as "100ms", nothing for a label that the box does not know.
     void setClock(const QString &label);
-    /// False if not connected; otherwise true, whatever became of the bytes.
+    /// False if not connected; otherwise true, whether or not the bytes arrive.
     bool reboot();
     /// Uploads one local file to the box at hostAddress() with the SCP tool; returns when that is over, with events
     /// processed meanwhile. False if it failed, which scp() has reported to the user.
@@ -61,7 +61,7 @@ signals:
     void connected();
     /// After the last complete line that came over the link.
     void disconnected();
-    /// One line with its line feed, every byte one character (Latin-1), 2 to 1023 characters. A longer line comes as
+    /// One line with its line feed, 2 to 1023 characters, each byte one character (Latin-1). A longer line arrives as
     /// several messages.
     void messageReceived(const QString &message);
     /// UnknownSocketError if the connector itself dropped the link because no line feed came.

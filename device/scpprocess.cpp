@@ -15,7 +15,7 @@ constexpr int kReapTimeout = 3000; // ms; a killed process ends at once
 constexpr int kDone = 1001;
 constexpr int kTimedOut = 1002;
 
-/// The beginning of an output.
+/// Keeps the beginning of an output.
 class Excerpt
 {
 public:
@@ -79,6 +79,7 @@ ScpResult::End ChildScpProcess::runStarted(QProcess &process, const ScpTimeouts 
 {
     const auto isStarting = [&process] { return process.state() == QProcess::Starting; };
     Wait wait = waitWhile(process, isStarting, timeouts.start);
+    // A failed start ends the wait too: the state changes to NotRunning.
     if (wait == Wait::TimedOut || process.error() == QProcess::FailedToStart) {
         end(process, timeouts);
         return ScpResult::End::NotStarted;
@@ -111,7 +112,7 @@ ChildScpProcess::Wait ChildScpProcess::waitWhile(QProcess &process, const std::f
     });
     timer.start(milliseconds);
     m_loop = &loop;
-    const int code = loop.exec();
+    const int code = loop.exec(); // samples are taken and the window lives meanwhile
     m_loop = nullptr;
     if (!isPending())
         return Wait::Done;

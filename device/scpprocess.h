@@ -18,7 +18,7 @@ struct ScpTimeouts
     int terminate = 1000; ///< between the request to end and the end by force
 };
 
-/// Runs the SCP tool; the program does so with a child process, tests as they like.
+/// Runs the SCP tool: as a child process in the program, as a replacement in tests.
 class ScpProcess
 {
 public:
@@ -37,7 +37,7 @@ public:
 class ChildScpProcess : public ScpProcess
 {
 public:
-    /// So much of each of both outputs is kept, in bytes.
+    /// How many bytes of standard output, and of standard error, are kept.
     static constexpr int kMaxOutput = 16 * 1024;
 
     [[nodiscard]] ScpResult run(const ScpCommand &command, const ScpTimeouts &timeouts,

@@ -108,11 +108,12 @@ ScpOutcome ScpTransfer::run(const QString &arguments, const QString &workingDire
 
 ScpResult ScpTransfer::runTool(const ScpCommand &command)
 {
-    bool waiting = false;
+    bool waiting = false; // the cursor is switched back on every path, but only if it was changed
     const auto setWaiting = [this, &waiting](bool on) {
         if (std::exchange(waiting, on) != on && m_surroundings.setWaiting)
             m_surroundings.setWaiting(on);
     };
+    // The run processes events, from which another transfer could be asked for.
     m_running = true;
     ScpResult result = m_process->run(command, m_options.timeouts, [&setWaiting] { setWaiting(true); });
     m_running = false;

@@ -12,7 +12,7 @@
 class ScpTransfer
 {
 public:
-    /// How transfers are done; the address of an account is that of the call.
+    /// How transfers are made. The address is that of the call, or the default one while none is known.
     struct Options
     {
         QString toolFile; ///< empty: "winscp/winscp.com" in the program's folder
@@ -24,11 +24,11 @@ public:
     /// What the device layer cannot do itself; unset parts are left out.
     struct Surroundings
     {
-        std::function<void(const ScpMessage &)> report; ///< shows a message box; may return late
-        std::function<void(bool)> setWaiting;           ///< wait cursor on, and off again on every path
+        std::function<void(const ScpMessage &)> report; ///< shows a message box; may return only when it is closed
+        std::function<void(bool)> setWaiting;           ///< wait cursor; always false in the end
     };
 
-    /// Without a process the tool runs as a child process.
+    /// If no process is given, the tool runs as a child process.
     explicit ScpTransfer(std::unique_ptr<ScpProcess> process = nullptr);
 
     void setOptions(const Options &options) { m_options = options; }

@@ -22,7 +22,7 @@
 ///
 /// Sample ownership: a SampleList stays at its address until its measurement is removed. A removed measurement is
 /// kept alive until discardRemoved(), so that plots can still be drawn until they have been re-pointed. The model
-/// calls discardRemoved() itself behind every dataChanged() that it could deliver (not while its signals are
+/// calls discardRemoved() itself after every dataChanged() that it could deliver (not while its signals are
 /// blocked); so every receiver that keeps pointers must drop or re-point them synchronously in its slot whenever
 /// structureRevision() differs from what it saw last. Whoever removes with blocked signals re-points directly and
 /// then calls discardRemoved().
@@ -159,9 +159,10 @@ public:
     static constexpr int kMaxClock = ProjectSettings::kMaxClock;
 
     /// The logger files that were imported, absolute; neither part of the project file, nor changed by deletions.
+    /// Nothing uses the list yet.
     [[nodiscard]] QStringList fileList() const { return m_import.files().files(); }
     void setFileList(const QStringList &files);
-    /// The fingerprints of the files on the list, which tell them from others that came to the same place later.
+    /// The fingerprints of the files on the list, which tell them from later files of the same name.
     [[nodiscard]] QSet<QByteArray> importedFiles() const { return m_import.files().fingerprints(); }
 
     // --- State -------------------------------------------------------------------------------------------------
@@ -185,7 +186,8 @@ public:
     [[nodiscard]] bool isProjectMetaSaved() const { return m_files.isMetaSaved(); }
     [[nodiscard]] bool saveCsv(const QString &fileName);
     /// Appends what a logger file of the box recorded as one measurement, unless the file tells of none, and takes over
-    /// what it says about the sensors. Goes on the fileList(). False if it is no regular file or cannot be read.
+    /// what it says about the sensors. Puts the file on the fileList(). False if it is no regular file or cannot be
+    /// read.
     [[nodiscard]] bool addBlackBoxFile(const QString &fileName);
     /// What the last addBlackBoxFile() could not take over.
     [[nodiscard]] BlackBoxLosses blackBoxLosses() const { return m_import.losses(); }

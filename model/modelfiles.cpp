@@ -61,6 +61,7 @@ bool ModelFiles::open(const QString &fileName, const char *function)
     }
     apply(*opened, QFileInfo(fileName).absoluteFilePath(), function);
     m_changes.opened(function);
+    // Receivers may have set it, as if the user had changed what they have just been told of.
     m_editor.setProjectModifiedFlag(false);
     qCDebug(lcModel) << function << " END";
     return true;
@@ -123,6 +124,7 @@ bool ModelFiles::writeProject(const QString &fileName)
 {
     const auto task = [&] {
         ProjectDocument document = documentOf(m_project);
+        // Copies, which share their pixels: pictures may be changed while the file is written.
         const ImageStore::Pixmaps pixmaps = m_project.images.pixmaps();
         Pacer pacer(m_work.yield(), document.sampleCount());
         const auto write = [&](QIODevice &target) {

@@ -58,7 +58,7 @@ bool isOnNetwork(const QString &absolutePath, const QByteArray &mounts)
         const QString folder = mountFolder(fields.at(1));
         if (folder.size() < longest || !isBelow(absolutePath, folder))
             continue;
-        longest = folder.size(); // of two mounts on one folder the later one is seen
+        longest = folder.size(); // of two mounts on the same folder the later one counts
         result = isNetworkFileSystem(fields.at(2));
     }
     return result;

@@ -14,6 +14,7 @@ auto fields(const ProjectData &data)
 
 } // namespace
 
+// The bracket stays open, as it always was in the log.
 QString ProjectData::toDebugText() const
 {
     return QStringLiteral("[name=") + name + QStringLiteral(" number=") + number + QStringLiteral(" user=") + user

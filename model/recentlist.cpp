@@ -42,7 +42,7 @@ Qt::CaseSensitivity pathSensitivity()
 QString canonicalPath(const QString &fileName)
 {
     const QFileInfo file(fileName);
-    const QString canonical = file.canonicalFilePath();
+    const QString canonical = file.canonicalFilePath(); // empty if there is no such file
     return canonical.isEmpty() ? QDir::cleanPath(file.absoluteFilePath()) : canonical;
 }
 

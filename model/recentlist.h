@@ -15,8 +15,8 @@ constexpr int kMaxRecent = 5;
 [[nodiscard]] QStringList withFront(const QStringList &list, const QString &entry,
                                     Qt::CaseSensitivity sensitivity = Qt::CaseSensitive);
 
-/// What stored settings hold of a list: the first entries that are accepted, without repetitions. Anything else that
-/// may stand there, of whatever type and size, is left out.
+/// What stored settings hold of a list: the first entries that are accepted, without repetitions. Anything else in
+/// there, of whatever type and size, is left out.
 [[nodiscard]] QStringList fromSettings(const QVariant &stored, const std::function<bool(const QString &)> &isAccepted,
                                        Qt::CaseSensitivity sensitivity = Qt::CaseSensitive);
 

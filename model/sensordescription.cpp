@@ -23,7 +23,7 @@ void SensorGroup::setNumSensors(int n)
 {
     const int count = qBound(0, n, kMaxSensors);
     if (count < numSensors())
-        m_sensors.clear(); // a group that shrinks is another group: none of its entries are kept
+        m_sensors.clear(); // fewer sensors mean another group: none of the entries are kept
     m_sensors.reserve(count);
     while (numSensors() < count) {
         Sensor sensor;

@@ -32,6 +32,7 @@ public:
     void setSensorType(int i, const QString &type);
     [[nodiscard]] QString sensorUnit(int i) const;
     void setSensorUnit(int i, const QString &unit);
+    /// The latest value; nothing uses it yet.
     [[nodiscard]] double sensorValue(int i) const;
     void setSensorValue(int i, double value);
     [[nodiscard]] double sensorMinimum(int i) const;
@@ -39,7 +40,7 @@ public:
     [[nodiscard]] double sensorMaximum(int i) const;
     void setSensorMaximum(int i, double maximum);
     [[nodiscard]] QColor sensorColor(int i) const;
-    void SetSensorColor(int i, const QColor &color);
+    void SetSensorColor(int i, const QColor &color); ///< nothing uses it yet
 
     static constexpr int kMaxSensors = 1000;
 

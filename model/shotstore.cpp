@@ -98,6 +98,7 @@ void ShotStore::setChannel(int sensor, Channel channel)
 {
     if (!isSensor(sensor))
         return;
+    // Plots may still point at the old ones.
     Channel &old = m_channels[at(sensor)];
     std::move(old.begin(), old.end(), std::back_inserter(m_removed));
     old = std::move(channel);
@@ -114,7 +115,7 @@ bool ShotStore::remove(int measurement)
     for (std::size_t sensor = 0; sensor < m_channels.size(); ++sensor) {
         Channel &channel = m_channels[sensor];
         if (at(measurement) >= channel.size())
-            continue;
+            continue; // another sensor is ahead of this one
         m_removed.push_back(std::move(channel[at(measurement)]));
         channel.erase(channel.begin() + measurement);
         m_ids[sensor].erase(m_ids[sensor].begin() + measurement);

@@ -30,6 +30,7 @@ VerticalMarkers withMarkerDistance(VerticalMarkers markers, int index, int dista
     if (!isMarker(index))
         return markers;
     const auto marker = markers.begin() + index;
+    // Sums of two positions may not fit into an int.
     const std::int64_t base = index == 0 ? 0 : *std::prev(marker);
     const std::int64_t shift = base + std::max(distance, 0) - *marker;
     std::for_each(marker, markers.end(), [=](int &behind) {

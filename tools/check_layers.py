@@ -24,12 +24,19 @@ RULES = {
     "ventaro_plots": (["plotmath", "model", "types", "kit", "theme"], ["Core", "Gui", "Widgets"]),
     "ventaro_evaluation": (["plots", "plotmath", "model", "types", "kit", "theme"], ["Core", "Gui", "Widgets"]),
     "ventaro_view": (["evaluation", "plots", "plotmath", "model", "types", "kit", "theme"], ["Core", "Gui", "Widgets"]),
+    "ventaro_recording": (["model", "device", "protocol", "types"], ["Core", "Network"]),
     "ventaro_controller": (
-        ["view", "evaluation", "plots", "plotmath", "model", "types", "kit", "theme", "device", "protocol"],
+        [
+            *("recording", "view", "evaluation", "plots", "plotmath", "model", "types", "kit", "theme", "device"),
+            "protocol",
+        ],
         ["Core", "Gui", "Widgets", "Network"],
     ),
     "ventaro_startup": (
-        ["controller", "view", "evaluation", "plots", "plotmath", "model", "types", "kit", "theme", "device", "protocol"],
+        [
+            *("controller", "recording", "view", "evaluation", "plots", "plotmath", "model", "types", "kit", "theme"),
+            *("device", "protocol"),
+        ],
         ["Core", "Gui", "Widgets", "Network"],
     ),
     "ventaro_simulator": (["protocol", "types"], ["Core", "Network"]),

@@ -1,4 +1,4 @@
-#include "device/protocol/messages.h"
+#include "device/protocol/descriptions.h"
 
 #include <algorithm>
 #include <cmath>
@@ -100,7 +100,7 @@ void applyGroup(const ReceivedSensors::Group &received, SensorDescription &descr
         return;
     SensorGroup &group = *description.modifiableSensorGroup(received.position);
     group.setName(received.name);
-    // A shrink would lose the colours and limits of sensors that the program goes on recording.
+    // Shrinking would lose the colours and limits of sensors that the program goes on recording.
     group.setNumSensors(received.position == 0 ? std::max(received.numSensors, kNumSensors) : received.numSensors);
     applySensors(received, group);
 }
@@ -147,7 +147,7 @@ std::optional<ReceivedProject> parseProjectDescription(const QString &line)
     project.data.injectionTime = attribute("injectionTime").number();
     project.data.pressTime = attribute("pressTime").number();
     project.data.pressure = attribute("pressure").integer();
-    for (int i = 0; i < kNumPhases; ++i)
+    for (int i = 0; i < kNumCyclePhases; ++i)
         project.phases.at(static_cast<size_t>(i)) = attributeText(line, QStringLiteral("phase%1").arg(i + 1));
     return project;
 }

@@ -6,6 +6,7 @@
 
 namespace {
 
+// Bounds of the domain name system.
 constexpr int kMaxHostName = 253;
 constexpr int kMaxLabel = 63;
 
@@ -43,6 +44,7 @@ bool isValidHostAddress(const QString &text)
 {
     if (text.isEmpty() || text.size() > kMaxHostName)
         return false;
+    // Numbers only are an address or nothing: a resolver would read "10.1" as 10.0.0.1.
     const QStringList labels = text.split(QLatin1Char('.'));
     if (std::all_of(labels.begin(), labels.end(), isNumeric))
         return labels.size() == 4 && std::all_of(labels.begin(), labels.end(), isOctet);

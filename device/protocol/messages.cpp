@@ -1,9 +1,11 @@
 #include "device/protocol/messages.h"
 
+#include <array>
 #include <utility>
 
 namespace {
 
+// No prefix begins with another one, so that their order does not matter.
 const std::array<std::pair<QLatin1String, MessageKind>, 7> kPrefixes{{
     {QLatin1String("run=1"), MessageKind::RunStarted},
     {QLatin1String("run=0"), MessageKind::RunStopped},

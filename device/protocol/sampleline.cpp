@@ -1,4 +1,4 @@
-#include "device/protocol/messages.h"
+#include "device/protocol/sampleline.h"
 
 #include <QStringView>
 
@@ -25,7 +25,7 @@ struct Digits
 {
     std::uint64_t number = 0;
     int count = 0;
-    int fraction = 0; ///< how many of them stand behind the point
+    int fraction = 0; ///< how many of them follow the point
 };
 
 // Reads "12", "12.5" from `pos` on, which is moved behind them. An overlong number only has to be recognised as such.
@@ -73,6 +73,7 @@ double fieldValue(QStringView field)
         --end;
     if (const std::optional<double> plain = plainNumber(begin, end))
         return *plain;
+    // Slow but exact: an exponent, white space in front, more digits than a double can hold.
     const double value = field.toString().toDouble();
     return std::isfinite(value) ? value : 0.0;
 }

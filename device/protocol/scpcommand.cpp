@@ -52,7 +52,7 @@ QString openCommand(const ScpAccount &account)
 
 QString ScpCommand::commandLine() const
 {
-    QString tool = program;
+    QString tool = program; // as it would be typed under Windows
     return tool.replace(QLatin1Char('/'), QLatin1Char('\\')) + QLatin1Char(' ') + arguments;
 }
 
@@ -93,6 +93,7 @@ bool isBlackBoxDirectory(const QString &name)
 
 bool isUsableAccount(const ScpAccount &account)
 {
+    // Both separate the user from what follows in the tool's own notation.
     const bool ambiguous = account.user.contains(QLatin1Char(':')) || account.user.contains(QLatin1Char('@'));
     return isWord(account.user) && !ambiguous && isWord(account.password) && isValidHostAddress(account.address);
 }
@@ -104,6 +105,6 @@ std::optional<ScpSource> scpSource(const QString &fileName)
         return std::nullopt;
     if (isFileWord(fileName) && !fileName.startsWith(QLatin1Char('-')))
         return ScpSource{fileName, {}};
-    // Led by its folder, a name that begins with "-" is no option.
+    // Behind its folder, a name that begins with "-" is not taken for an option.
     return ScpSource{QLatin1String("./") + file.fileName(), file.absolutePath()};
 }

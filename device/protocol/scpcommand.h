@@ -6,7 +6,7 @@
 
 /// The command text of the external SCP tool. Everything here is pure. Each quoted part of an argument text is one
 /// command in the tool's own language, in which blanks separate words; so nothing with a blank, a quotation mark or a
-/// control character may get into it from outside. Who builds a command asks the checks below first.
+/// control character may get into it from outside. Whoever builds a command has to call the checks below first.
 
 /// Who logs in where. The address is a host name or an IPv4 address.
 struct ScpAccount
@@ -49,6 +49,6 @@ struct ScpSource
 
 /// True if every part is one word of the tool's language and the address is a host.
 [[nodiscard]] bool isUsableAccount(const ScpAccount &account);
-/// How to name a file so that it stays one word: where only its folder's path holds blanks, the name alone, for a
-/// run in that folder. Nothing if the name itself has blanks, wildcards, quotation marks or control characters.
+/// How to name a file so that it stays one word: if only the path of its folder contains blanks, the name alone, for
+/// a run in that folder. Nothing if the name itself has blanks, wildcards, quotation marks or control characters.
 [[nodiscard]] std::optional<ScpSource> scpSource(const QString &fileName);

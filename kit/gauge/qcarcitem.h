@@ -9,14 +9,14 @@ public:
     explicit QcArcItem(double radius = 84.0);
 
     [[nodiscard]] QColor color() const { return m_color; }
-    /// Invalid: the theme's for what matters less.
+    /// Invalid: the theme's soft colour.
     void setColor(const QColor &color);
     [[nodiscard]] double width() const { return m_width; }
-    /// In percent, at least a device pixel.
+    /// In percent; painted at least one device pixel wide.
     void setWidth(double percent);
-    /// From one value to the other, as far as they are on the scale; finite, else ignored.
+    /// From one value to the other, as far as they are on the scale; ignored if not finite.
     void setSpan(double from, double to);
-    /// All of the scale.
+    /// Covers the whole scale.
     void clearSpan();
 
     void paint(QPainter &painter, const QcCanvas &canvas, const QcReading &reading) const override;

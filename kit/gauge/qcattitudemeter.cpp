@@ -1,9 +1,11 @@
 #include "kit/gauge/qcattitudemeter.h"
 
-#include "kit/gauge/qcaccessible.h"
+#include "kit/gauge/qcannouncer.h"
 #include "kit/gauge/qccanvas.h"
 #include "kit/material/qtmaterialstyle.h"
+#include "kit/small/accessiblefactory.h"
 
+#include <QAccessibleWidget>
 #include <QEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -17,11 +19,11 @@ namespace {
 constexpr int kUsualSize = 240;
 constexpr int kSmallestSize = 96;
 constexpr double kMostPitch = 90.0;     // degrees
-constexpr double kDegree = 2.2;         // percent of the radius that the horizon moves for a degree of pitch
+constexpr double kDegree = 2.2;         // percent of the radius that the horizon moves per degree of pitch
 constexpr double kView = 84.0;          // radius of the part that moves, in percent
-constexpr double kLadderEnd = 42.0;     // how far from the middle its lines are seen
+constexpr double kLadderEnd = 42.0;     // percent: how far from the middle its lines are visible
 constexpr int kLadderStep = 10;         // degrees
-constexpr double kRoomForHalves = 22.0; // pixels between rungs that let one stand between
+constexpr double kRoomForHalves = 22.0; // pixels between rungs that leave room for half steps
 constexpr double kRollLength = 5.0;     // of the marks around the view
 constexpr double kBarWidth = 2.6;
 
@@ -46,7 +48,7 @@ void paintHalf(QPainter &painter, const QcCanvas &canvas, double way, const QCol
     painter.fillRect(QRectF(QPointF(-wide, 0.0), QPointF(wide, end)).normalized(), gradient);
 }
 
-/// One pair of numbers and the line between them, at a pitch that may be seen.
+/// A line of the ladder; with a number at either end if it is a long one.
 void paintRung(QPainter &painter, const QcCanvas &canvas, int degrees)
 {
     const bool isLong = degrees % kLadderStep == 0;
@@ -121,7 +123,7 @@ void paintRollMarks(QPainter &painter, const QcCanvas &canvas)
     paintTriangle(painter, canvas, 0.0, kView + 1.5, kView + 9.0);
 }
 
-/// The ring around the view; it leaves the view free.
+/// The ring around the view.
 void paintBezel(QPainter &painter, const QcCanvas &canvas)
 {
     QPainterPath ring;
@@ -160,6 +162,24 @@ void paintLevelSymbol(QPainter &painter, const QcCanvas &canvas)
     }
 }
 
+/// To screen readers it is an indicator with a text.
+class AttitudeInterface : public QAccessibleWidget
+{
+public:
+    explicit AttitudeInterface(QcAttitudeMeter *meter)
+        : QAccessibleWidget(meter, QAccessible::Indicator)
+        , m_meter(meter)
+    {}
+
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Value ? m_meter->spokenValue() : QAccessibleWidget::text(kind);
+    }
+
+private:
+    QcAttitudeMeter *m_meter;
+};
+
 } // namespace
 
 struct QcAttitudeMeter::Private
@@ -179,7 +199,7 @@ QcAttitudeMeter::QcAttitudeMeter(QWidget *parent)
     : QWidget(parent)
     , d(std::make_unique<Private>(this))
 {
-    installQcAccessibility();
+    installAccessible<QcAttitudeMeter, AttitudeInterface>();
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
@@ -232,7 +252,7 @@ void QcAttitudeMeter::paintEvent(QPaintEvent *)
 {
     if (d->still.isNull() || !d->canvas.fits(*this)) {
         d->canvas.adopt(*this, !isEnabled());
-        d->still = qcgauge::emptyPicture(*this);
+        d->still = qcgauge::emptyPicture(d->canvas);
         QPainter still(&d->still);
         still.setRenderHint(QPainter::Antialiasing);
         paintBezel(still, d->canvas);

@@ -5,8 +5,7 @@
 
 #include <memory>
 
-/// An artificial horizon: shows how far something is rolled to a side and pitched up. To a screen reader it is an
-/// indicator that says both in words.
+/// An artificial horizon: shows how far something is rolled to a side and pitched up. Screen readers get both in words.
 class QcAttitudeMeter : public QWidget
 {
     Q_OBJECT
@@ -15,11 +14,11 @@ public:
     explicit QcAttitudeMeter(QWidget *parent = nullptr);
     ~QcAttitudeMeter() override;
 
-    /// Degrees to the right, -180 (excluded) to 180. Others are taken as the angle that points the same way; what is
-    /// not finite is ignored.
+    /// Degrees to the right, -180 (excluded) to 180. Other angles are normalized to that; values that
+    /// are not finite are ignored.
     void setRoll(double degrees);
     [[nodiscard]] double roll() const;
-    /// Degrees upwards; the nearest of -90 to 90 is taken, what is not finite is ignored.
+    /// Degrees upwards, clamped to -90 to 90; values that are not finite are ignored.
     void setPitch(double degrees);
     [[nodiscard]] double pitch() const;
     [[nodiscard]] QString spokenValue() const;

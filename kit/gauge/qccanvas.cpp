@@ -31,6 +31,7 @@ QcColors QcColors::fromTheme(bool muted)
     QcColors colors;
     colors.muted = muted;
     colors.face = themeColor(QLatin1String("canvas"));
+    // The theme's text colour alone may be too pale for small numerals.
     const QColor ink = between(themeColor(QLatin1String("text")), colorcontrast::readableOn(colors.face), 0.55);
     colors.ink = colors.shaded(ink);
     colors.soft = colors.shaded(between(ink, colors.face, muted ? 0.15 : 0.35));
@@ -114,11 +115,10 @@ void drawRing(QPainter &painter, const QcCanvas &canvas, const Ring &ring, const
                     qRound((ring.from - ring.to) * kSixteenths));
 }
 
-QPixmap emptyPicture(const QWidget &widget)
+QPixmap emptyPicture(const QcCanvas &canvas)
 {
-    const qreal ratio = widget.devicePixelRatioF();
-    QPixmap picture((QSizeF(widget.size()) * ratio).toSize());
-    picture.setDevicePixelRatio(ratio);
+    QPixmap picture((QSizeF(canvas.size) * canvas.ratio).toSize());
+    picture.setDevicePixelRatio(canvas.ratio);
     picture.fill(Qt::transparent);
     return picture;
 }

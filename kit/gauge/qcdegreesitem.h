@@ -2,7 +2,7 @@
 
 #include "kit/gauge/qcitem.h"
 
-/// The marks of the scale: long ones where numerals stand, short ones between as far as they can be told apart. The
+/// The marks of the scale: long ones at the numerals, short ones in between as long as they can be told apart. The
 /// radius is that of their outer ends.
 class QcDegreesItem : public QcItem
 {

@@ -9,12 +9,12 @@ namespace qcgauge {
 namespace {
 
 constexpr double kOverrun = 5.0;          // degrees
-constexpr double kTolerance = 1e-9;       // steps; what a sum of rounding errors may be
+constexpr double kTolerance = 1e-9;       // steps: the largest sum of rounding errors
 constexpr double kMostMultiples = 1000.0; // more cannot be told apart on any screen
 constexpr double kExactIntegers = 9e15;   // above that a double skips integers
-constexpr int kMarkDecimals = 5;          // numbers with more have an exponent
-constexpr int kFigures = 6;               // of a number with one
-constexpr double kLongNumber = 1e9;       // from here on with an exponent
+constexpr int kMarkDecimals = 5;          // numbers with more decimals get an exponent
+constexpr int kFigures = 6;               // of a number with an exponent
+constexpr double kLongNumber = 1e9;       // written with an exponent from here on
 constexpr double kBeyondPrefixes = 1e12;
 constexpr double kSameStep = 1e-6; // of a step; less is a rounding error
 constexpr int kShortDecimals = 2;
@@ -31,7 +31,7 @@ QLocale withoutGroups(const QLocale &locale)
     return plain;
 }
 
-/// As few as tell the multiples of the step apart; one more than marks may have if those are too few.
+/// The fewest that tell the multiples of the step apart; kMarkDecimals + 1 if that takes too many.
 int decimalsOf(double step)
 {
     int decimals = 0;
@@ -48,7 +48,7 @@ struct Prefix
     QString symbol;
 };
 
-/// The largest that leaves something before the decimal point.
+/// The largest prefix that leaves a digit before the decimal point.
 Prefix prefixOf(double value)
 {
     const double size = std::abs(value);

@@ -1,92 +1,141 @@
 #include "kit/gauge/qcgaugewidget.h"
 
-#include "kit/gauge/qcaccessible.h"
-#include "kit/gauge/qcgaugewidget_p.h"
+#include "kit/gauge/qcannouncer.h"
 #include "kit/gauge/qcneedleitem.h"
+#include "kit/gauge/qcneedlemotion.h"
 #include "kit/logging.h"
 #include "kit/material/qtmaterialstyle.h"
+#include "kit/small/accessiblefactory.h"
 
-#include <QEvent>
+#include <QAccessibleWidget>
+#include <QPaintEvent>
+#include <QPainter>
 
 #include <algorithm>
 #include <cmath>
 
 namespace {
 
-constexpr int kFrame = 16; // ms
 constexpr int kUsualSize = 240;
 constexpr int kSmallestSize = 96;
 constexpr int kMostDecimals = 15;
-constexpr double kArrived = 0.0005; // of the range
-constexpr double kMargin = 0.1;     // of the range: how far outside a needle's way begins and ends
+
+/// To screen readers it is a dial with a value and a range.
+class GaugeInterface : public QAccessibleWidget, public QAccessibleValueInterface
+{
+public:
+    explicit GaugeInterface(QcGaugeWidget *gauge)
+        : QAccessibleWidget(gauge, QAccessible::Dial)
+        , m_gauge(gauge)
+    {}
+
+    void *interface_cast(QAccessible::InterfaceType type) override
+    {
+        return type == QAccessible::ValueInterface ? static_cast<QAccessibleValueInterface *>(this)
+                                                   : QAccessibleWidget::interface_cast(type);
+    }
+    QString text(QAccessible::Text kind) const override
+    {
+        if (kind == QAccessible::Value)
+            return m_gauge->spokenValue();
+        const QString text = QAccessibleWidget::text(kind);
+        return kind == QAccessible::Name && text.isEmpty() ? m_gauge->title() : text;
+    }
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.readOnly = true;
+        return state;
+    }
+    QVariant currentValue() const override { return m_gauge->hasValue() ? QVariant(m_gauge->value()) : QVariant(); }
+    QVariant maximumValue() const override { return m_gauge->maximum(); }
+    QVariant minimumValue() const override { return m_gauge->minimum(); }
+    QVariant minimumStepSize() const override { return {}; }
+    void setCurrentValue(const QVariant &) override {} // read-only
+
+private:
+    QcGaugeWidget *m_gauge;
+};
 
 } // namespace
+
+struct QcGaugeWidget::Private
+{
+    explicit Private(QcGaugeWidget *gauge)
+        : parts([this, gauge] {
+            prepared = false;
+            gauge->update();
+        })
+        , announcer(gauge)
+    {}
+
+    QcItemStack parts;
+    QcCanvas canvas;       ///< its scale has the gauge's range
+    bool prepared = false; ///< canvas and parts are up to date
+    bool stale = false;
+    QcReading reading;
+    QcNeedleMotion motion;
+    QcAnnouncer announcer;
+};
 
 QcGaugeWidget::QcGaugeWidget(QWidget *parent)
     : QWidget(parent)
     , d(std::make_unique<Private>(this))
 {
-    installQcAccessibility();
+    installAccessible<QcGaugeWidget, GaugeInterface>();
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
-    d->timer.setInterval(kFrame);
-    connect(&d->timer, &QTimer::timeout, this, &QcGaugeWidget::moveNeedle);
+    connect(&d->motion, &QcNeedleMotion::frame, this, &QcGaugeWidget::moveNeedle);
     connect(&QtMaterialStyle::instance(), &QtMaterialStyle::themeChanged, this, &QcGaugeWidget::renew);
 }
 
 QcGaugeWidget::~QcGaugeWidget() = default;
 
-void QcGaugeWidget::insertPart(int index, std::unique_ptr<QcItem> part)
+QcItemStack &QcGaugeWidget::parts()
 {
-    if (!part) {
-        qCWarning(lcKit) << "no part of a gauge given";
+    return d->parts;
+}
+
+// --- Keeping up to date ----------------------------------------------------------------------------------------
+
+void QcGaugeWidget::renew()
+{
+    d->parts.dropPictures();
+    d->prepared = false;
+    update();
+}
+
+/// Brings the canvas and what each part sees of it up to date.
+void QcGaugeWidget::prepare() const
+{
+    const bool fits = d->canvas.fits(*this);
+    if (d->prepared && fits)
         return;
-    }
-    part->m_gauge = this;
-    const auto place = d->parts.begin() + std::clamp(index, 0, partCount());
-    d->parts.emplace(place)->item = std::move(part);
-    renew();
+    d->prepared = true;
+    d->canvas.adopt(*this, d->stale || !isEnabled());
+    if (!fits) // pictures have the size and the resolution of the widget they were painted for
+        d->parts.dropPictures();
+    d->parts.setCanvas(d->canvas);
 }
 
-std::unique_ptr<QcItem> QcGaugeWidget::takePart(int index)
+QcCanvas QcGaugeWidget::canvas(int index) const
 {
-    if (!part(index))
-        return nullptr;
-    const auto place = d->parts.begin() + index;
-    std::unique_ptr<QcItem> taken = std::move(place->item);
-    taken->m_gauge = nullptr;
-    d->parts.erase(place);
-    renew();
-    return taken;
+    prepare();
+    return d->parts.canvas(index);
 }
 
-void QcGaugeWidget::removePart(int index)
+void QcGaugeWidget::setReading(const QcReading &reading)
 {
-    (void)takePart(index);
+    prepare();
+    const QRegion changed = d->parts.changedArea(d->reading, reading);
+    d->reading = reading;
+    if (!changed.isEmpty())
+        update(changed);
+    d->announcer.changed();
 }
 
-void QcGaugeWidget::movePart(int from, int to)
-{
-    if (from == to || !part(from) || !part(to))
-        return;
-    const auto begin = d->parts.begin();
-    if (from < to)
-        std::rotate(begin + from, begin + from + 1, begin + to + 1);
-    else
-        std::rotate(begin + to, begin + from, begin + from + 1);
-    renew();
-}
-
-int QcGaugeWidget::partCount() const
-{
-    return static_cast<int>(d->parts.size());
-}
-
-QcItem *QcGaugeWidget::part(int index) const
-{
-    return index >= 0 && index < partCount() ? d->parts[static_cast<std::size_t>(index)].item.get() : nullptr;
-}
+// --- What it shows ----------------------------------------------------------------------------------------------
 
 template <typename T>
 void QcGaugeWidget::assign(T &property, const T &value)
@@ -103,18 +152,18 @@ void QcGaugeWidget::setRange(double from, double to)
         qCWarning(lcKit) << "range of a gauge not accepted:" << from << to;
         return;
     }
-    assign(d->from, from);
-    assign(d->to, to);
+    assign(d->canvas.scale.from, from);
+    assign(d->canvas.scale.to, to);
 }
 
 double QcGaugeWidget::minimum() const
 {
-    return std::min(d->from, d->to);
+    return std::min(d->canvas.scale.from, d->canvas.scale.to);
 }
 
 double QcGaugeWidget::maximum() const
 {
-    return std::max(d->from, d->to);
+    return std::max(d->canvas.scale.from, d->canvas.scale.to);
 }
 
 void QcGaugeWidget::setBands(const QVector<QcBand> &bands)
@@ -143,8 +192,8 @@ void QcGaugeWidget::setUnit(const QString &unit)
 
 void QcGaugeWidget::setNeedleColor(const QColor &color)
 {
-    for (const Part &part : d->parts) {
-        auto *needle = dynamic_cast<QcNeedleItem *>(part.item.get());
+    for (int i = 0; i < d->parts.count(); ++i) {
+        auto *needle = dynamic_cast<QcNeedleItem *>(d->parts.at(i));
         if (needle && needle->source() == QcNeedleItem::Source::Value)
             needle->setColor(color);
     }
@@ -164,14 +213,13 @@ void QcGaugeWidget::setValue(double value)
     QcReading next = d->reading;
     next.hasValue = true;
     next.value = value;
-    const bool onItsWay = d->damping > 0 && d->reading.hasValue && isVisible() && !window()->isMinimized();
+    // A needle that nobody sees, or that had no value yet, jumps.
+    const bool onItsWay = d->motion.isDamped() && d->reading.hasValue && isVisible() && !window()->isMinimized();
     if (!onItsWay)
         next.shown = value;
     setReading(next);
-    if (onItsWay && next.shown != value && !d->timer.isActive()) {
-        d->sinceFrame.start();
-        d->timer.start();
-    }
+    if (onItsWay && next.shown != value)
+        d->motion.start();
 }
 
 void QcGaugeWidget::clearValue()
@@ -221,34 +269,26 @@ bool QcGaugeWidget::isStale() const
 
 void QcGaugeWidget::setDamping(int milliseconds)
 {
-    d->damping = std::max(0, milliseconds);
+    d->motion.setDamping(milliseconds);
 }
 
 bool QcGaugeWidget::isOnTheWay() const
 {
-    return d->timer.isActive();
+    return d->motion.isRunning();
 }
 
-/// The next frame of a needle on its way: the rest of the way shrinks by the same share in the same time.
 void QcGaugeWidget::moveNeedle()
 {
-    const double margin = (maximum() / 2 - minimum() / 2) * 2.0 * kMargin;
-    const auto near = [&](double value) { return std::clamp(value, minimum() - margin, maximum() + margin); };
     QcReading next = d->reading;
-    const double share = d->damping > 0 ? std::exp(-static_cast<double>(d->sinceFrame.restart()) / d->damping) : 0.0;
-    const double target = near(next.value);
-    next.shown = target + (near(next.shown) - target) * share;
-    if (!(std::abs(next.shown - target) > kArrived * margin / kMargin)) {
-        next.shown = next.value;
-        d->timer.stop();
-    }
+    next.shown = d->motion.advance(next.shown, next.value, minimum(), maximum());
     setReading(next);
 }
 
 void QcGaugeWidget::hideEvent(QHideEvent *event)
 {
     QWidget::hideEvent(event);
-    d->timer.stop();
+    // Nobody sees the rest of the way, and a hidden gauge should not keep a timer running.
+    d->motion.stop();
     d->reading.shown = d->reading.value;
 }
 
@@ -265,6 +305,21 @@ QString QcGaugeWidget::spokenValue() const
 const QcReading &QcGaugeWidget::reading() const
 {
     return d->reading;
+}
+
+void QcGaugeWidget::paintEvent(QPaintEvent *event)
+{
+    prepare();
+    QPainter painter(this);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    d->parts.paint(painter, event->region(), d->reading);
+}
+
+void QcGaugeWidget::changeEvent(QEvent *event)
+{
+    if (QcCanvas::changesWith(event->type()))
+        renew();
+    QWidget::changeEvent(event);
 }
 
 QSize QcGaugeWidget::sizeHint() const

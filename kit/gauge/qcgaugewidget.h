@@ -1,6 +1,6 @@
 #pragma once
 
-#include "kit/gauge/qcitem.h"
+#include "kit/gauge/qcitemstack.h"
 
 #include <QWidget>
 
@@ -8,77 +8,51 @@
 #include <utility>
 
 /// A round gauge that is put together from parts, see QcItem. It knows what it shows - a value, a range, bands, texts -
-/// and its parts how. Parts that do not move are painted once and kept as pictures until the size, the screen, the
-/// theme, the font, the language or the parts change; a new value repaints the area of what it moves.
+/// and its parts know how. Parts that do not move are painted once and kept as pictures until the size, the screen, the
+/// theme, the font, the language or the parts change; a new value repaints only the area of what it moves.
 ///
-/// To a screen reader it is a dial that tells its value. Without damping it has no timer.
+/// Screen readers see a dial with its value. Without damping no timer runs.
 class QcGaugeWidget : public QWidget
 {
     Q_OBJECT
     Q_PROPERTY(double value READ value WRITE setValue)
 
 public:
-    /// Without parts.
+    /// Without parts; qcgauge::createSensorGauge() makes a complete one.
     explicit QcGaugeWidget(QWidget *parent = nullptr);
     ~QcGaugeWidget() override;
-    /// With the parts for a measured value: bands, marks, numerals, title, unit, needle, value, held extremes, glass.
-    [[nodiscard]] static QcGaugeWidget *createSensorGauge(QWidget *parent = nullptr);
-
-    // --- Parts, in the order in which they are painted; the gauge owns them ---
-    /// Puts a new part on top, made from the arguments.
+    /// Puts a new part on top, made from the arguments; short for parts().append().
     template <typename Item, typename... Arguments>
     Item *append(Arguments &&...arguments)
     {
-        auto item = std::make_unique<Item>(std::forward<Arguments>(arguments)...);
-        Item *raw = item.get();
-        insertPart(partCount(), std::move(item));
-        return raw;
+        return parts().append<Item>(std::forward<Arguments>(arguments)...);
     }
-    /// At the nearest possible place; null is logged and ignored.
-    void insertPart(int index, std::unique_ptr<QcItem> part);
-    /// Gives the part away; null if there is none.
-    [[nodiscard]] std::unique_ptr<QcItem> takePart(int index);
-    /// An index that does not exist is ignored.
-    void removePart(int index);
-    /// `to` is the part's index afterwards. An index that does not exist is ignored.
-    void movePart(int from, int to);
-    [[nodiscard]] int partCount() const;
-    /// Null if there is none.
-    [[nodiscard]] QcItem *part(int index) const;
-    /// The first part of this class, null if there is none.
-    template <typename Item>
-    [[nodiscard]] Item *find() const
-    {
-        for (int i = 0; i < partCount(); ++i)
-            if (auto *found = dynamic_cast<Item *>(part(i)))
-                return found;
-        return nullptr;
-    }
+    /// The parts, to be rearranged; the gauge owns them.
+    [[nodiscard]] QcItemStack &parts();
 
     // --- What it shows ---
-    /// From the first to the last mark, also reversed. Finite, else logged and ignored.
+    /// From the first to the last mark, also reversed. Finite, otherwise logged and ignored.
     void setRange(double from, double to);
     [[nodiscard]] double minimum() const; ///< the smaller end of the range
     [[nodiscard]] double maximum() const;
-    /// Bands with ends that are not finite or with an invalid colour are left out.
+    /// Bands with an invalid colour or with ends that are not finite are left out.
     void setBands(const QVector<QcBand> &bands);
     void setTitle(const QString &title);
     [[nodiscard]] QString title() const;
     void setUnit(const QString &unit);
     /// Of all needles that point at the value. Invalid: the theme's.
     void setNeedleColor(const QColor &color);
-    /// Of the value as a number: 0 to 15, else the nearest.
+    /// Of the value as a number; clamped to 0 to 15.
     void setDecimals(int decimals);
-    /// The true value also outside the range, where the needle stays just beyond the end. What is not finite is no
-    /// value.
+    /// May be outside the range: the needle then stays just beyond the end. A value that is not finite clears it.
     void setValue(double value);
     void clearValue();
     [[nodiscard]] bool hasValue() const;
     [[nodiscard]] double value() const; ///< 0 without one
-    /// The extremes since some moment, in either order. What is not finite clears them.
+    /// The lowest and the highest value since some moment, in either order. What is not finite clears them.
     void setHeld(double minimum, double maximum);
     void clearHeld();
-    /// Whether the value is too old to be trusted: everything looks pale. So it does while the widget is disabled.
+    /// Whether the value is too old to be trusted: everything looks pale, as it does while the widget is disabled.
     void setStale(bool stale);
     [[nodiscard]] bool isStale() const;
     /// The time in ms in which the needle covers about two thirds of the way to a new value; 0, the default: none.
@@ -103,19 +77,14 @@ protected:
     void hideEvent(QHideEvent *event) override;
 
 private:
-    friend class QcItem;
-
-    void partChanged(const QcItem &item);
-    /// Everything anew.
+    /// Has all parts repainted.
     void renew();
     template <typename T>
     void assign(T &property, const T &value);
     void prepare() const;
     void setReading(const QcReading &reading);
     void moveNeedle();
-    void paintStill(QPainter &painter, int first, int end);
 
-    struct Part;
     struct Private;
     std::unique_ptr<Private> d;
 };

@@ -2,7 +2,7 @@
 
 #include "kit/gauge/qcitem.h"
 
-/// The glass above the other parts: a faint shade towards the rim and a sheen at the top. The radius is that of its
+/// The glass above the other parts: a faint shadow towards the rim and a gloss at the top. The radius is that of its
 /// edge.
 class QcGlassItem : public QcItem
 {

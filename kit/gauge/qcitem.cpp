@@ -1,9 +1,8 @@
 #include "kit/gauge/qcitem.h"
 
-#include "kit/gauge/qcgaugewidget.h"
-
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 QcItem::QcItem(double radius)
     : m_radius(radius)
@@ -20,6 +19,11 @@ void QcItem::setRadius(double percent)
 void QcItem::setVisible(bool visible)
 {
     assign(m_visible, visible);
+}
+
+void QcItem::setListener(std::function<void(const QcItem &item)> listener)
+{
+    m_listener = std::move(listener);
 }
 
 bool QcItem::looksDifferent(const QcCanvas &, const QcReading &, const QcReading &) const
@@ -39,6 +43,6 @@ double QcItem::neededStep(const QcCanvas &) const
 
 void QcItem::changed()
 {
-    if (m_gauge)
-        m_gauge->partChanged(*this);
+    if (m_listener)
+        m_listener(*this);
 }

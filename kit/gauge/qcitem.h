@@ -2,24 +2,26 @@
 
 #include "kit/gauge/qccanvas.h"
 
-class QcGaugeWidget;
+#include <functional>
 
 /// A part of a gauge. The gauge paints its parts in order, owns them and keeps pictures of those that do not move.
 class QcItem
 {
 public:
-    /// The radius is where the part stands, in percent of the gauge's half size; what it means is the part's affair.
+    /// The radius tells where the part is, in percent of the gauge's half size; what it refers to is up to the part.
     explicit QcItem(double radius);
     virtual ~QcItem();
     Q_DISABLE_COPY_MOVE(QcItem)
 
     [[nodiscard]] double radius() const { return m_radius; }
-    /// 0 to 100; the nearest of it is taken, what is not finite is ignored.
+    /// 0 to 100; values outside are clamped, values that are not finite are ignored.
     void setRadius(double percent);
     [[nodiscard]] bool isVisible() const { return m_visible; }
     void setVisible(bool visible);
+    /// Called after every change of the part's looks; null for a part that is in no gauge.
+    void setListener(std::function<void(const QcItem &item)> listener);
 
-    /// Whether it is painted anew with every reading. What does not move gets no say in what the reading is.
+    /// Whether it is repainted with every reading. A part that does not move is painted without a reading.
     [[nodiscard]] virtual bool isMoving() const { return false; }
     /// A moving part: whether the second reading makes it look different from the first.
     [[nodiscard]] virtual bool looksDifferent(const QcCanvas &canvas, const QcReading &before,
@@ -32,7 +34,7 @@ public:
     virtual void paint(QPainter &painter, const QcCanvas &canvas, const QcReading &reading) const = 0;
 
 protected:
-    /// Sets a property and has the part painted anew if that changes anything.
+    /// Sets a property and tells the listener if that changes anything.
     template <typename T>
     void assign(T &property, const T &value)
     {
@@ -41,13 +43,11 @@ protected:
         property = value;
         changed();
     }
-    /// Has what shows this part painted anew.
-    void changed();
 
 private:
-    friend class QcGaugeWidget;
+    void changed();
 
-    QcGaugeWidget *m_gauge = nullptr; ///< while the part is in one
+    std::function<void(const QcItem &item)> m_listener;
     double m_radius;
     bool m_visible = true;
 };

@@ -2,8 +2,8 @@
 
 #include "kit/gauge/qcitem.h"
 
-/// A line of text: one of its own, or what the gauge shows. The radius is the distance of its middle from the gauge's,
-/// in the direction of an angle.
+/// A line of text: a fixed one, or a text or the value of the gauge. The radius is the distance of its middle from the
+/// centre of the gauge, in the direction of an angle.
 class QcLabelItem : public QcItem
 {
 public:
@@ -14,11 +14,12 @@ public:
     [[nodiscard]] QString text() const { return m_text; }
     /// For Source::Text.
     void setText(const QString &text);
-    /// Degrees clockwise from the top; finite, else ignored.
+    /// Degrees clockwise from the top; ignored if not finite.
     void setAngle(double angle);
     /// Height of the font in percent.
     void setSize(double percent);
-    /// The room for the text in percent. A value is made smaller and loses decimals to fit, other texts are cut.
+    /// The room for the text in percent. A value that does not fit gets a smaller font and fewer decimals, other texts
+    /// are cut.
     void setWidth(double percent);
     /// Left out where the gauge is so small that a readable font would be far too large for it.
     void setOptional(bool optional);

@@ -21,7 +21,7 @@ constexpr double kHalfTip = 0.55;
 constexpr double kMarkerLength = 9.0;
 constexpr double kHalfMarker = 4.8;
 constexpr double kShadow = 1.2;
-constexpr double kSeenWay = 0.125; // of a device pixel: as little as makes a difference
+constexpr double kSeenWay = 0.125; // device pixels: the smallest visible movement
 constexpr int kShadowOpacity = 34; // of 255
 
 } // namespace
@@ -109,7 +109,8 @@ QColor QcNeedleItem::shownColor(const QcCanvas &canvas, const QcReading &reading
 
 bool QcNeedleItem::looksDifferent(const QcCanvas &canvas, const QcReading &before, const QcReading &after) const
 {
-    // Whole steps of the tip, not the way since the last reading: many small ones would add up unseen.
+    // Compares whole steps of the tip instead of the distance since the last reading: many small distances would add up
+    // without being painted.
     const double step = kSeenWay / canvas.ratio / std::max(1.0, canvas.length(radius()));
     const auto steps = [&](const QcReading &reading) {
         return std::round(qDegreesToRadians(angle(canvas, reading)) / step);

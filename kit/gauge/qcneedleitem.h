@@ -13,14 +13,14 @@ public:
     };
     enum class Source { Value, HeldMinimum, HeldMaximum, Own };
 
-    /// With its tip where it suits the other parts' usual radii.
+    /// With a radius that suits the default radii of the other parts.
     explicit QcNeedleItem(Source source = Source::Value, Shape shape = Shape::Needle);
     QcNeedleItem(Source source, Shape shape, double radius);
 
     [[nodiscard]] Source source() const { return m_source; }
     [[nodiscard]] Shape shape() const { return m_shape; }
 
-    /// For Source::Own; finite, else it points at nothing.
+    /// For Source::Own. A value that is not finite counts as none.
     void setOwnValue(double value);
     /// Invalid: the theme's.
     void setColor(const QColor &color);

@@ -2,8 +2,8 @@
 
 #include "kit/gauge/qcitem.h"
 
-/// The scale that all parts behind it refer to, up to the next scale: which angles the gauge's range covers and how far
-/// apart the marks are. It paints the track below bands and marks. The radius is that of its outer edge.
+/// The scale that all parts after it refer to, up to the next scale: which angles the gauge's range covers and how far
+/// apart the marks are. It paints the track under bands and marks. The radius is that of its outer edge.
 class QcScaleItem : public QcItem
 {
 public:
@@ -11,15 +11,15 @@ public:
 
     [[nodiscard]] double start() const { return m_start; }
     [[nodiscard]] double sweep() const { return m_sweep; }
-    /// Degrees clockwise from the top, where the sweep may be negative; at most a full turn, not zero. Others are
-    /// logged and ignored.
+    /// Degrees clockwise from the top. The sweep may be negative; it is at most a full turn and not zero. Other angles
+    /// are logged and ignored.
     void setAngles(double start, double sweep);
-    /// A range of its own instead of the gauge's, such as that of another unit. Needles behind it read it as well.
-    /// Finite, else logged and ignored.
+    /// A range instead of the gauge's, such as that of another unit; needles after this part use it as well. Logged and
+    /// ignored if not finite.
     void setOwnRange(double from, double to);
     void clearOwnRange();
     [[nodiscard]] double step() const { return m_step; }
-    /// Between marks with numerals; 0 chooses one by the room there is.
+    /// Between marks with numerals; 0: chosen to fit the room.
     void setStep(double step);
     [[nodiscard]] double width() const { return m_width; }
     /// Of the track, in percent; 0 paints none.

@@ -1,3 +1,5 @@
+#include "kit/gauge/qcsensorgauge.h"
+
 #include "kit/gauge/qcbackgrounditem.h"
 #include "kit/gauge/qccolorbanditem.h"
 #include "kit/gauge/qcdegreesitem.h"
@@ -12,6 +14,7 @@
 
 namespace {
 
+/// Above the middle with a positive height, below it with a negative one; all in percent.
 QcLabelItem *addLabel(QcGaugeWidget *gauge, QcLabelItem::Source source, double height, double size, double width)
 {
     auto *label = gauge->append<QcLabelItem>(source, std::abs(height), height > 0.0 ? 0.0 : 180.0);
@@ -22,7 +25,7 @@ QcLabelItem *addLabel(QcGaugeWidget *gauge, QcLabelItem::Source source, double h
 
 } // namespace
 
-QcGaugeWidget *QcGaugeWidget::createSensorGauge(QWidget *parent)
+QcGaugeWidget *qcgauge::createSensorGauge(QWidget *parent)
 {
     auto *gauge = new QcGaugeWidget(parent);
     gauge->append<QcBackgroundItem>();

@@ -10,11 +10,11 @@
 namespace {
 
 constexpr int kMostNumerals = 12;
-constexpr double kMiddle = 15.0; // percent; a needle's hub
-constexpr double kLong = 1e5;    // shorter numbers are easier to read as they are
+constexpr double kMiddle = 15.0; // percent: kept free for a needle's hub
+constexpr double kLong = 1e5;    // shorter numbers are easier to read unabridged
 constexpr double kThousand = 1e3;
 
-/// With a gap around it that keeps neighbours apart.
+/// The box with a gap around it that separates neighbours.
 QRectF withGap(const QRectF &box)
 {
     const double gap = box.height() * 0.3;
@@ -45,7 +45,7 @@ QFont QcValuesItem::font(const QcCanvas &canvas) const
     return canvas.font(m_size, QFont::Medium);
 }
 
-/// In ascending order, without those that have no room beside the ones before or that would reach the middle.
+/// In ascending order, without those that would touch an earlier one or reach the middle.
 QcValuesItem::Row QcValuesItem::row(const QcCanvas &canvas, double step, TextOf textOf) const
 {
     const QFontMetricsF metrics(font(canvas));

@@ -2,9 +2,9 @@
 
 #include "kit/gauge/qcitem.h"
 
-/// The numerals of the scale, upright, inside a circle of this radius. They never overlap, nor do they reach the
-/// middle: they make the steps of the scale as wide as they need. Long ones are shortened, such as to "150k", where
-/// they would have no room otherwise.
+/// The numerals of the scale, upright, inside a circle of this radius. They neither overlap nor reach the middle: they
+/// make the steps of the scale as wide as necessary. Long ones are shortened, for example to "150k", where there is no
+/// room for them.
 class QcValuesItem : public QcItem
 {
 public:
@@ -27,7 +27,7 @@ private:
     struct Row
     {
         QVector<Numeral> numerals;
-        bool crowded = false; ///< some are left out for want of room between them
+        bool crowded = false; ///< some are left out because there is no room between them
     };
     using TextOf = QString (*)(double value, double step, const QLocale &locale);
     [[nodiscard]] Row row(const QcCanvas &canvas, double step, TextOf textOf) const;

@@ -17,7 +17,7 @@ namespace {
 
 enum Track { kTint, kLift, kTrackCount };
 
-constexpr int kStateTime = 150;  // ms to change from one state's look to the next one's
+constexpr int kStateTime = 150;  // ms to change from the look of one state to that of another
 constexpr int kTouchHeight = 40; // pixels that a finger in a glove finds
 constexpr int kLeastWidth = 64;
 constexpr int kSidePadding = 16;
@@ -122,17 +122,17 @@ void QtMaterialAbstractButton::onReleased()
 
 bool QtMaterialAbstractButton::event(QEvent *event)
 {
-    // First the state: what a click sets off may delete the button.
+    // The state first: a slot that is called by a click may delete the button.
     if (m_state.apply(*event, isEnabled()))
         showState();
     const bool polished = event->type() == QEvent::Polish || event->type() == QEvent::StyleChange;
     const bool handled = QPushButton::event(event);
-    if (polished) // only now the style sheet's smallest height is known, which layouts prefer to minimumSizeHint()
+    if (polished) // only now the minimum height of the style sheet is known, which layouts prefer to minimumSizeHint()
         setMinimumHeight(std::max(minimumHeight(), kTouchHeight + m_margins.top() + m_margins.bottom()));
     return handled;
 }
 
-// Enter presses the button that has the focus, in a page as in a dialog.
+// Qt presses buttons with Enter in dialogs only; here it works on pages too.
 void QtMaterialAbstractButton::keyPressEvent(QKeyEvent *event)
 {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
@@ -193,7 +193,7 @@ QSize QtMaterialAbstractButton::sizeHint() const
 {
     ensurePolished();
     const QSize content = contentSize();
-    const int textHeight = labelSize().height() + QFontMetrics(labelFont()).height(); // with air above and below
+    const int textHeight = labelSize().height() + QFontMetrics(labelFont()).height(); // with space above and below
     return QSize(std::max(kLeastWidth, content.width() + 2 * kSidePadding),
                  std::max({kTouchHeight, textHeight, content.height() + kIconGap}))
         .grownBy(m_margins)

@@ -11,17 +11,17 @@
 class QtMaterialRipple;
 
 /// What the material push buttons share: a rounded surface, an icon, a text with its mnemonic, the tint of hover, focus
-/// and press, and a ripple that starts where the button is pressed. Goes wherever a QPushButton goes; a style sheet
-/// gives it its font and its smallest size, though never less than a gloved finger finds; the theme in force gives it
-/// everything else.
+/// and press, and a ripple that starts where the button is pressed. Can replace any QPushButton. The style sheet
+/// sets its font and its minimum size, though never less than a gloved finger needs; everything else comes from the
+/// current theme.
 class QtMaterialAbstractButton : public QPushButton
 {
     Q_OBJECT
-    /// The key of the theme's colour that the button is made of; "primary1" unless set.
+    /// The key of the theme's colour that the button is made of; "primary1" by default.
     Q_PROPERTY(QString colorKey READ colorKey WRITE setColorKey)
     /// Pixels.
     Q_PROPERTY(int cornerRadius READ cornerRadius WRITE setCornerRadius)
-    /// Whether the icon is painted in the colour of the text, as suits icons of one colour; true unless set.
+    /// Whether the icon is painted in the colour of the text, which suits icons of one colour; true by default.
     Q_PROPERTY(bool iconTinted READ isIconTinted WRITE setIconTinted)
     Q_PROPERTY(bool animating READ isAnimating)
 
@@ -30,7 +30,7 @@ public:
     /// A key that no theme has is logged and ignored.
     void setColorKey(const QString &key);
     [[nodiscard]] int cornerRadius() const { return m_cornerRadius; }
-    /// At least 0; never rounder than a half circle at each side.
+    /// At least 0; limited to a half circle at each side.
     void setCornerRadius(int radius);
     [[nodiscard]] bool isIconTinted() const { return m_iconTinted; }
     void setIconTinted(bool tinted);
@@ -39,7 +39,7 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:
-    /// The surface is what the margins leave.
+    /// The surface is the widget without the margins.
     QtMaterialAbstractButton(const QMargins &margins, QWidget *parent);
 
     virtual void paintSurface(QPainter &painter) const = 0;
@@ -51,9 +51,9 @@ protected:
     [[nodiscard]] int surfaceRadius() const;
     /// The button's own colour, opaque.
     [[nodiscard]] QColor baseColor() const;
-    /// 0 to 1, moving.
+    /// 0 to 1; animated.
     [[nodiscard]] qreal tint() const;
-    /// 0 at rest, 1 while hovered or pressed, moving.
+    /// 0 at rest, 1 while hovered or pressed; animated.
     [[nodiscard]] qreal lift() const;
 
     bool event(QEvent *event) override;
@@ -80,7 +80,7 @@ private:
     QtMaterialInteractionStateMachine m_state;
     QtMaterialMotion m_motion;
     QtMaterialRipple *m_ripple;
-    std::optional<QPointF> m_pressPoint; ///< none while the keyboard presses
+    std::optional<QPointF> m_pressPoint; ///< none for a press by the keyboard
     QString m_colorKey = QStringLiteral("primary1");
     int m_cornerRadius = 4;
     bool m_iconTinted = true;

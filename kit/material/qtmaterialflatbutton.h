@@ -2,7 +2,7 @@
 
 #include "kit/material/qtmaterialabstractbutton.h"
 
-/// A push button without a surface of its own, for the less important actions: coloured text that is tinted on hover,
+/// A push button without a surface, for less important actions: coloured text that is tinted on hover,
 /// focus and press. A checked one stays tinted and outlined, the default button of a dialog is outlined.
 class QtMaterialFlatButton : public QtMaterialAbstractButton
 {

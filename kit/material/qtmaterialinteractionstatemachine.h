@@ -4,20 +4,20 @@
 
 class QEvent;
 
-/// What the user is doing with a control: reads it from the events that the control gets, knows nothing of painting.
+/// What the user is doing with a control, derived from the events that the control gets. Knows nothing of painting.
 class QtMaterialInteractionStateMachine
 {
 public:
-    /// The later ones win where several apply.
+    /// If several apply, the later one wins.
     enum class State { Resting, Focused, Hovered, Pressed, Disabled };
 
     [[nodiscard]] State state() const;
-    /// Whether the focus should be shown: after a click it is not, until the keyboard is used.
+    /// Whether the focus should be shown: after a click only once the keyboard is used.
     [[nodiscard]] bool isFocusShown() const { return m_focused && m_byKeyboard && m_enabled; }
     /// How strongly the content's colour tints the surface, 0 to 1.
     [[nodiscard]] qreal tint() const;
 
-    /// Returns whether the event is one that matters. \a enabled is whether the control is enabled now.
+    /// Returns whether the event may have changed the state. \a enabled is whether the control is enabled now.
     bool apply(const QEvent &event, bool enabled);
     void setPressed(bool pressed) { m_pressed = pressed; }
 

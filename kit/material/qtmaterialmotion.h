@@ -7,25 +7,25 @@
 
 class QWidget;
 
-/// A few numbers that glide to their targets, for one widget, which is told to repaint at every step. All share one
-/// timer, which runs only while something moves in sight: on a hidden widget, and where the widget's style wants no
-/// animations, every number is at its target at once; hiding the widget ends whatever moves.
+/// A few numbers that move smoothly to their targets, for one widget, which is repainted at every step. All share one
+/// timer, which runs only while something visible moves: on a hidden widget, and if the widget's style wants no
+/// animations, every number jumps to its target; hiding the widget ends every movement.
 class QtMaterialMotion : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Belongs to the widget. All numbers begin as 0.
+    /// The widget becomes the parent. All numbers start at 0.
     QtMaterialMotion(QWidget *widget, int count);
 
     [[nodiscard]] qreal value(int index) const { return m_tracks.at(index).value; }
     [[nodiscard]] qreal target(int index) const { return m_tracks.at(index).to; }
     [[nodiscard]] bool isRunning() const { return m_timer.isActive(); }
 
-    /// Goes on from the present value. Does nothing if it is already on its way there.
+    /// Starts from the current value. Does nothing if the number is already moving there.
     void moveTo(int index, qreal target, int milliseconds);
     void jumpTo(int index, qreal value);
-    /// Everything at its target.
+    /// Moves every number to its target at once.
     void finish();
 
 signals:

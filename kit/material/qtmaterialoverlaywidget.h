@@ -2,8 +2,8 @@
 
 #include <QWidget>
 
-/// Lies over its parent and covers it exactly, however that is resized, and whichever parent it gets. Lets the mouse
-/// through to what is below unless Qt::WA_TransparentForMouseEvents is cleared. Paints nothing by itself.
+/// Lies over its parent and covers it exactly, also after the parent was resized or replaced. Lets the mouse through to
+/// what is below unless Qt::WA_TransparentForMouseEvents is cleared. Paints nothing itself.
 class QtMaterialOverlayWidget : public QWidget
 {
     Q_OBJECT

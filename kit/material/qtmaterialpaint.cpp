@@ -29,7 +29,7 @@ QPixmap shadowPixmap(const QSize &surface, int radius, int blur, qreal ratio)
     painter.setPen(Qt::NoPen);
     painter.setBrush(withOpacity(QtMaterialPalette::lightBlack(), kShadowOpacity / kShadowLayers));
     for (int layer = 0; layer < kShadowLayers; ++layer) {
-        // The outer layers lie farther apart, so that the edge fades away.
+        // The outer layers are farther apart, so that the edge fades out.
         const qreal inset = blur * 1.8 * std::sqrt(static_cast<qreal>(layer) / kShadowLayers);
         const qreal corner = std::max(0.0, radius + blur - inset);
         painter.drawRoundedRect(QRectF(whole).adjusted(inset, inset, -inset, -inset), corner, corner);
@@ -74,7 +74,7 @@ void drawShadow(QPainter &painter, const QRect &surface, int radius, Depth depth
 {
     if (surface.isEmpty())
         return;
-    // What the painter enlarges by: that of the screen, or of a picture that the widget is rendered into.
+    // The painter's scale: that of the screen, or of a picture that the widget is rendered into.
     const qreal ratio = std::clamp(painter.deviceTransform().m11(), 1.0, kLargestRatio);
     const QString key = QStringLiteral("QtMaterialShadow %1 %2 %3 %4 %5")
                             .arg(surface.width())

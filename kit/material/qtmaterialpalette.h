@@ -2,7 +2,7 @@
 
 #include <QColor>
 
-/// The named colours of the kit that themes are made of.
+/// The kit's named colours, for themes.
 namespace QtMaterialPalette {
 
 [[nodiscard]] QColor cyan700();
@@ -12,7 +12,7 @@ namespace QtMaterialPalette {
 [[nodiscard]] QColor red700(); ///< errors
 [[nodiscard]] QColor white();
 
-// Black, more and more transparent.
+// Black, increasingly transparent.
 [[nodiscard]] QColor lightBlack(); ///< secondary text and icons
 [[nodiscard]] QColor minBlack();   ///< disabled text and icons
 [[nodiscard]] QColor faintBlack(); ///< disabled surfaces and dividers

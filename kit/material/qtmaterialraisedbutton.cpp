@@ -31,7 +31,7 @@ QtMaterialRaisedButton::QtMaterialRaisedButton(const QIcon &icon, const QString 
 
 void QtMaterialRaisedButton::paintShadow(QPainter &painter) const
 {
-    // Both shadows are kept pixmaps; the way from one to the other is a matter of their opacity.
+    // Both shadows are cached pixmaps; the transition between them only changes their opacity.
     if (lift() < 1.0) {
         painter.setOpacity(1.0 - lift());
         QtMaterialPaint::drawShadow(painter, surface(), surfaceRadius(), kResting);

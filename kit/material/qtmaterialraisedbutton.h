@@ -3,8 +3,8 @@
 #include "kit/material/qtmaterialabstractbutton.h"
 
 /// A push button on a coloured surface that floats above the page and rises on hover and press, for the important
-/// actions. A checkable one has a plain surface while it is not checked. Its shadow lies within the widget: neighbours
-/// need no distance of their own.
+/// actions. A checkable one has a plain surface while it is not checked. Its shadow is inside the widget: neighbours
+/// may be placed next to it without a gap.
 class QtMaterialRaisedButton : public QtMaterialAbstractButton
 {
     Q_OBJECT

@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kSpreadTime = 350;     // ms
 constexpr int kFadeTime = 300;       // ms
-constexpr qreal kFirstSpread = 0.15; // so that even the shortest press is seen
+constexpr qreal kFirstSpread = 0.15; // so that even the shortest press is visible
 constexpr qreal kSoftEdge = 0.06;    // of the radius
 
 int spreadIndex(int wave)
@@ -114,7 +114,7 @@ void QtMaterialRipple::paintWave(QPainter &painter, int index) const
     const qreal spread = m_motion.value(spreadIndex(index));
     QColor color = m_color;
     color.setAlphaF(color.alphaF() * (1.0 - m_motion.value(fadeIndex(index))));
-    // A gradient that ends instead of a circle that is clipped: clipping to a path leaves stairs at the corners.
+    // A gradient that ends there instead of a clipped circle: clipping to a path is not anti-aliased at the corners.
     QRadialGradient wave(origin, std::max(1.0, farthestCorner(surface, origin) * spread / (1.0 - kSoftEdge)));
     wave.setColorAt(1.0 - kSoftEdge, color);
     color.setAlpha(0);

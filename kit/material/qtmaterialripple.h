@@ -15,19 +15,19 @@ class QtMaterialRipple : public QtMaterialOverlayWidget
     Q_OBJECT
 
 public:
-    static constexpr int kMostWaves = 4; ///< at a time; one more takes the place of the oldest
+    static constexpr int kMostWaves = 4; ///< at a time; another one replaces the oldest
 
     explicit QtMaterialRipple(QWidget *parent);
 
-    /// The parent's surface: what remains of it within the margins, with corners of that radius in pixels.
+    /// The parent's surface: its area without the margins, with corners of this radius in pixels.
     void setSurface(const QMargins &margins, qreal radius);
-    /// The colour's opacity is that of a wave at its strongest.
+    /// The opacity of the colour is that of a wave at its strongest.
     void setColor(const QColor &color) { m_color = color; }
     [[nodiscard]] int waveCount() const;
-    /// True while a wave spreads or fades; one that is held at its full size does not.
+    /// True while a wave spreads or fades, not while one is only held at its full size.
     [[nodiscard]] bool isAnimating() const { return m_motion.isRunning(); }
 
-    /// Begins a wave at a point of the parent. Does nothing while the parent is out of sight.
+    /// Starts a wave at a point of the parent. Does nothing while the parent is not visible.
     void press(const QPointF &origin);
     /// Lets every wave fade.
     void release();

@@ -108,7 +108,7 @@ void QtMaterialScrollBar::setAutoHide(bool autoHide)
 
 void QtMaterialScrollBar::hideIfUnneeded()
 {
-    if (isWindow()) // showing it would put it on the desktop
+    if (isWindow()) // as a top-level widget it would open a window
         return;
     const bool wanted = m_autoHide && maximum() <= minimum();
     const bool hiddenByOthers = isHidden() && testAttribute(Qt::WA_WState_ExplicitShowHide) && !m_hidByItself;
@@ -145,7 +145,7 @@ void QtMaterialScrollBar::sliderChange(SliderChange change)
     QScrollBar::sliderChange(change);
     if (change == SliderRangeChange)
         hideIfUnneeded();
-    // The pages turn until the thumb is where the finger is.
+    // Pages are turned until the thumb reaches the finger.
     if (repeatAction() != SliderNoAction && track().partAt(along(m_pressed), sliderPosition()) == Part::Thumb)
         setRepeatAction(SliderNoAction);
 }
@@ -172,7 +172,7 @@ void QtMaterialScrollBar::mousePressEvent(QMouseEvent *event)
     } else {
         const SliderAction action = part == Part::After ? SliderPageStepAdd : SliderPageStepSub;
         triggerAction(action);
-        // The first page may already have brought the thumb to the finger.
+        // The first page may already have moved the thumb to the finger.
         if (track().partAt(place, sliderPosition()) == part)
             setRepeatAction(action);
     }

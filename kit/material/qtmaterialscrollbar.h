@@ -6,9 +6,9 @@
 
 #include <QScrollBar>
 
-/// A scroll bar without arrows: a slim thumb that widens under the mouse, takes as much room in either case, and is
-/// never shorter than what a finger can take hold of. Goes wherever a QScrollBar goes, such as into
-/// QAbstractScrollArea::setVerticalScrollBar(). A click beside the thumb turns a page, a middle click takes the thumb
+/// A scroll bar without arrows: a slim thumb that widens under the mouse without the bar needing more room, and is
+/// never too short for a finger. Can replace any QScrollBar, for example with
+/// QAbstractScrollArea::setVerticalScrollBar(). A click beside the thumb turns a page, a middle click moves the thumb
 /// there.
 class QtMaterialScrollBar : public QScrollBar
 {
@@ -20,7 +20,7 @@ public:
     explicit QtMaterialScrollBar(QWidget *parent = nullptr);
     explicit QtMaterialScrollBar(Qt::Orientation orientation, QWidget *parent = nullptr);
 
-    /// Whether the bar hides itself while there is nothing to scroll; false unless set. A scroll area does that by
+    /// Whether the bar hides itself while there is nothing to scroll; false by default. A scroll area hides its bars
     /// itself.
     [[nodiscard]] bool isAutoHide() const { return m_autoHide; }
     void setAutoHide(bool autoHide);
@@ -54,8 +54,8 @@ private:
 
     QtMaterialInteractionStateMachine m_state;
     QtMaterialMotion m_motion; ///< 0 slim to 1 wide
-    int m_grip = 0;            ///< pixels from the thumb's first end to where it is held
-    QPoint m_pressed;          ///< where the mouse was last seen pressed
+    int m_grip = 0;            ///< pixels from the beginning of the thumb to where it is held
+    QPoint m_pressed;          ///< the last position of the pressed mouse
     bool m_autoHide = false;
     bool m_hidByItself = false;
 };

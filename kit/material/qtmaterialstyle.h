@@ -7,7 +7,7 @@
 
 class QtMaterialTheme;
 
-/// Where the material widgets find the theme that is in force. One for the program; use it from the GUI thread.
+/// Holds the current theme for the material widgets. There is one per program, to be used from the GUI thread.
 class QtMaterialStyle : public QObject
 {
     Q_OBJECT
@@ -16,13 +16,13 @@ public:
     [[nodiscard]] static QtMaterialStyle &instance();
     ~QtMaterialStyle() override;
 
-    /// Takes the theme, drops the one before. Null is logged and ignored.
+    /// Replaces the theme. Null is logged and ignored.
     void setTheme(std::unique_ptr<QtMaterialTheme> theme);
-    /// Black where the theme has no such colour, see QtMaterialTheme::getColor(), or as long as there is no theme.
+    /// Black if the theme has no such colour, see QtMaterialTheme::getColor(), or while there is no theme.
     [[nodiscard]] QColor themeColor(const QString &key) const;
 
 signals:
-    /// Widgets repaint on this.
+    /// Another theme applies; widgets repaint.
     void themeChanged();
 
 private:

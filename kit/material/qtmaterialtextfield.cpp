@@ -20,13 +20,9 @@ using State = QtMaterialTextFieldStateMachine::State;
 
 enum Track { kLabelTrack, kLineTrack, kTrackCount };
 
+constexpr int kInset = QtMaterialTextFieldPlaces::kInset;
 constexpr int kStateTime = 180;       // ms
-constexpr int kTouchHeight = 40;      // pixels that a finger in a glove finds
-constexpr qreal kSmall = 0.8;         // the size of label and support, of the text's
-constexpr int kInset = 4;             // pixels from the widget's edge to the text
-constexpr int kOwnInset = 2;          // of them, those that the base class adds to the margins
-constexpr int kLineRoom = 4;          // pixels below the text, the line included
-constexpr int kDefaultLength = 32767; // what QLineEdit takes unless told otherwise
+constexpr int kDefaultLength = 32767; // the default of QLineEdit
 
 } // namespace
 
@@ -84,7 +80,7 @@ void QtMaterialTextField::setErrorText(const QString &text)
 
 void QtMaterialTextField::describe()
 {
-    if (accessibleDescription() == m_description) // else someone else describes the field
+    if (accessibleDescription() == m_description) // otherwise the program set another one
         setAccessibleDescription(supportText());
     m_description = supportText();
     update();
@@ -123,78 +119,43 @@ QString QtMaterialTextField::counterText() const
 
 // --- Room ---
 
-QFont QtMaterialTextField::smallFont() const
+QtMaterialTextFieldPlaces QtMaterialTextField::places() const
 {
-    QFont result = font();
-    if (result.pixelSize() > 0)
-        result.setPixelSize(std::max(1, qRound(result.pixelSize() * kSmall)));
-    else
-        result.setPointSizeF(result.pointSizeF() * kSmall);
+    QtMaterialTextFieldPlaces result;
+    result.field = size();
+    result.direction = layoutDirection();
+    result.textHeight = fontMetrics().height();
+    result.smallFont = QtMaterialTextFieldPlaces::smaller(font());
+    result.counter = counterText();
+    result.hasLabel = !m_label.isEmpty();
+    result.hasSupport = m_supportReserved || m_counterShown || !supportText().isEmpty();
+    result.hasCross = m_clearable;
     return result;
-}
-
-int QtMaterialTextField::labelRoom() const
-{
-    return m_label.isEmpty() ? 0 : QFontMetrics(smallFont()).height();
-}
-
-int QtMaterialTextField::supportRoom() const
-{
-    const bool needed = m_supportReserved || m_counterShown || !supportText().isEmpty();
-    return needed ? QFontMetrics(smallFont()).height() + 2 : 0;
 }
 
 void QtMaterialTextField::fitRoom()
 {
-    const int textHeight = fontMetrics().height() + 2;
-    const int air = std::max(6, kTouchHeight - labelRoom() - textHeight - kLineRoom);
-    const int top = labelRoom() + air / 2;
-    const int bottom = air - air / 2 + kLineRoom + supportRoom();
-    const int end = m_clearable ? textHeight + kInset : kInset - kOwnInset;
-    const int begin = kInset - kOwnInset;
-    setTextMargins(isLeftToRight() ? begin : end, top, isLeftToRight() ? end : begin, bottom);
-
-    const int height = top + textHeight + bottom;
-    // Layouts prefer the smallest height of a style sheet to what the field says it needs.
-    if (minimumHeight() < height || minimumHeight() == m_ownMinimumHeight) {
-        m_ownMinimumHeight = height;
-        setMinimumHeight(height);
+    const QtMaterialTextFieldPlaces fitting = places();
+    setTextMargins(fitting.textMargins());
+    // Layouts prefer the minimum height of a style sheet to the field's size hint.
+    if (minimumHeight() < fitting.height() || minimumHeight() == m_ownMinimumHeight) {
+        m_ownMinimumHeight = fitting.height();
+        setMinimumHeight(m_ownMinimumHeight);
     }
     update();
 }
 
-qreal QtMaterialTextField::lineY() const
-{
-    return height() - supportRoom() - kLineRoom / 2.0;
-}
-
-QRect QtMaterialTextField::supportRect() const
-{
-    const int room = supportRoom();
-    return {kInset, height() - room, width() - 2 * kInset, room};
-}
-
-QRect QtMaterialTextField::supportTextRect() const
-{
-    const int taken = m_counterShown ? QFontMetrics(smallFont()).horizontalAdvance(counterText()) + 2 * kInset : 0;
-    return QStyle::visualRect(layoutDirection(), supportRect(), supportRect().adjusted(0, 0, -taken, 0));
-}
-
 QRect QtMaterialTextField::clearRect() const
 {
-    if (!m_clearable || text().isEmpty() || isReadOnly() || !isEnabled())
-        return {};
-    const int side = std::max(kTouchHeight, fontMetrics().height());
-    const int below = height() - supportRoom();
-    const QRect place(width() - std::min(side, width() / 2), 0, std::min(side, width() / 2), below);
-    return QStyle::visualRect(layoutDirection(), rect(), place);
+    const bool isShown = m_clearable && !text().isEmpty() && !isReadOnly() && isEnabled();
+    return isShown ? places().crossRect() : QRect();
 }
 
 // --- State ---
 
 void QtMaterialTextField::takeTheme()
 {
-    // Only a sheet of its own gets the field past the colours that the application's sheet has for line edits.
+    // Only the widget's own sheet overrides the colours that the application's sheet has for line edits.
     const auto name = [](const char *key) { return themeColor(QLatin1String(key)).name(QColor::HexArgb); };
     setStyleSheet(QStringLiteral("QtMaterialTextField{background:transparent;color:%1;selection-background-color:%2;"
                                  "selection-color:%3;}QtMaterialTextField:disabled{color:%4;}")
@@ -229,20 +190,39 @@ void QtMaterialTextField::showState()
 
 bool QtMaterialTextField::event(QEvent *event)
 {
-    if (event->type() == QEvent::ToolTip) {
-        const auto *help = static_cast<QHelpEvent *>(event);
-        const bool cut = QFontMetrics(smallFont()).horizontalAdvance(supportText()) > supportTextRect().width();
-        if (cut && supportTextRect().contains(help->pos())) {
-            QToolTip::showText(help->globalPos(), supportText(), this);
-            return true;
-        }
-    }
+    if (event->type() == QEvent::ToolTip && showWholeSupport(*static_cast<QHelpEvent *>(event)))
+        return true;
     const bool handled = QLineEdit::event(event);
-    if (event->type() == QEvent::Polish) {
+    switch (event->type()) {
+    case QEvent::Polish:
         fitRoom();
         showPlaceholder();
+        break;
+    case QEvent::Show: // an input mask may have been set, which emits no signal
+    case QEvent::FocusIn:
+    case QEvent::FocusOut:
+        showState();
+        break;
+    case QEvent::Enter: // the line is darker under the mouse
+    case QEvent::Leave:
+        update();
+        break;
+    default:
+        break;
     }
     return handled;
+}
+
+/// Shows a support text that is cut off in a tool tip. False if there is nothing to show.
+bool QtMaterialTextField::showWholeSupport(const QHelpEvent &help)
+{
+    const QtMaterialTextFieldPlaces shown = places();
+    const QRect place = shown.supportTextRect();
+    const bool isCut = QFontMetrics(shown.smallFont).horizontalAdvance(supportText()) > place.width();
+    if (!isCut || !place.contains(help.pos()))
+        return false;
+    QToolTip::showText(help.globalPos(), supportText(), this);
+    return true;
 }
 
 void QtMaterialTextField::changeEvent(QEvent *event)
@@ -264,36 +244,6 @@ void QtMaterialTextField::changeEvent(QEvent *event)
     }
 }
 
-void QtMaterialTextField::showEvent(QShowEvent *event)
-{
-    QLineEdit::showEvent(event);
-    showState(); // an input mask comes without a signal
-}
-
-void QtMaterialTextField::focusInEvent(QFocusEvent *event)
-{
-    QLineEdit::focusInEvent(event);
-    showState();
-}
-
-void QtMaterialTextField::focusOutEvent(QFocusEvent *event)
-{
-    QLineEdit::focusOutEvent(event);
-    showState();
-}
-
-void QtMaterialTextField::enterEvent(QEvent *event)
-{
-    QLineEdit::enterEvent(event);
-    update();
-}
-
-void QtMaterialTextField::leaveEvent(QEvent *event)
-{
-    QLineEdit::leaveEvent(event);
-    update();
-}
-
 void QtMaterialTextField::mousePressEvent(QMouseEvent *event)
 {
     m_clearPressed = event->button() == Qt::LeftButton && clearRect().contains(event->pos());
@@ -307,7 +257,7 @@ void QtMaterialTextField::mouseMoveEvent(QMouseEvent *event)
     const Qt::CursorShape shape = overText ? Qt::IBeamCursor : Qt::ArrowCursor;
     if (cursor().shape() != shape) {
         setCursor(shape);
-        update(); // the cross shows that it is pointed at
+        update(); // the cross is highlighted under the mouse
     }
     if (!m_clearPressed)
         QLineEdit::mouseMoveEvent(event);
@@ -351,7 +301,7 @@ void QtMaterialTextField::paintEvent(QPaintEvent *event)
     if (!m_label.isEmpty())
         paintLabel(painter);
     paintLine(painter);
-    if (supportRoom() > 0)
+    if (places().supportRoom() > 0)
         paintSupport(painter);
     if (!clearRect().isEmpty())
         paintCross(painter);
@@ -363,7 +313,7 @@ void QtMaterialTextField::paintLabel(QPainter &painter) const
     const QFontMetrics metrics = fontMetrics();
     const QMargins margins = textMargins();
     const qreal resting = (margins.top() + height() - margins.bottom() - metrics.height()) / 2.0;
-    const qreal scale = 1.0 + (kSmall - 1.0) * risen;
+    const qreal scale = 1.0 + (QtMaterialTextFieldPlaces::kSmall - 1.0) * risen;
     const int room = qRound((width() - 2 * kInset) / scale);
     const QString shown = metrics.elidedText(m_label, Qt::ElideRight, room);
     painter.save();
@@ -377,7 +327,7 @@ void QtMaterialTextField::paintLabel(QPainter &painter) const
 
 void QtMaterialTextField::paintLine(QPainter &painter) const
 {
-    const qreal y = lineY();
+    const qreal y = places().lineY();
     const qreal middle = width() / 2.0;
     const bool firm = isEnabled() && !isReadOnly();
     const bool noticed = underMouse() || m_state.state() == State::Wrong;
@@ -391,14 +341,15 @@ void QtMaterialTextField::paintLine(QPainter &painter) const
 
 void QtMaterialTextField::paintSupport(QPainter &painter) const
 {
-    painter.setFont(smallFont());
+    const QtMaterialTextFieldPlaces shown = places();
+    painter.setFont(shown.smallFont);
     const bool plain = m_state.state() == State::Focused;
     painter.setPen(plain ? themeColor(QLatin1String("primary3")) : accentColor());
     const int flags = static_cast<int>(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeading)) | Qt::AlignVCenter;
-    const QRect place = supportTextRect();
+    const QRect place = shown.supportTextRect();
     painter.drawText(place, flags, painter.fontMetrics().elidedText(supportText(), Qt::ElideRight, place.width()));
     const int end = static_cast<int>(QStyle::visualAlignment(layoutDirection(), Qt::AlignTrailing)) | Qt::AlignVCenter;
-    painter.drawText(supportRect(), end, counterText());
+    painter.drawText(shown.supportRect(), end, shown.counter);
 }
 
 void QtMaterialTextField::paintCross(QPainter &painter) const

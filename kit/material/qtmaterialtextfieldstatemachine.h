@@ -1,6 +1,6 @@
 #pragma once
 
-/// How a text field is to look, from what is known of it. Knows nothing of widgets.
+/// Decides how a text field looks. Knows nothing of widgets.
 class QtMaterialTextFieldStateMachine
 {
 public:
@@ -17,9 +17,9 @@ public:
 
     [[nodiscard]] State state() const;
     [[nodiscard]] bool isFocused() const { return m_focused && m_enabled; }
-    /// Else the label lies where the text will be.
+    /// Otherwise the label lies where the text will be.
     [[nodiscard]] bool isLabelFloating() const { return m_filled || isFocused(); }
-    /// The placeholder waits until the label is out of its way.
+    /// The placeholder is not shown while the label is in its place.
     [[nodiscard]] bool isPlaceholderShown() const { return !m_filled && (!m_labelled || isLabelFloating()); }
 
 private:

@@ -5,7 +5,7 @@
 #include <QString>
 #include <QStringList>
 
-/// The colours of the material widgets, by key. The keys are fixed: a misspelt one is reported, not stored.
+/// The colours of the material widgets, by key. The keys are fixed: a misspelt one is logged, not stored.
 class QtMaterialTheme
 {
 public:
@@ -15,7 +15,7 @@ public:
 
     /// An unknown key or an invalid colour is logged and ignored.
     void setColor(const QString &key, const QColor &color);
-    /// Black for a key that is unknown or that was given no colour yet; both are logged.
+    /// Black for a key that is unknown or has no colour yet; both are logged.
     [[nodiscard]] QColor getColor(const QString &key) const;
 
 private:

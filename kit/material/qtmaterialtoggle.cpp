@@ -124,7 +124,7 @@ bool QtMaterialToggle::event(QEvent *event)
         showState();
     const bool polished = event->type() == QEvent::Polish || event->type() == QEvent::StyleChange;
     const bool handled = QCheckBox::event(event);
-    if (polished) // only now the style sheet's smallest size is known, which layouts prefer to minimumSizeHint()
+    if (polished) // only now the minimum size of the style sheet is known, which layouts prefer to minimumSizeHint()
         setMinimumSize(minimumSize().expandedTo(touchSize()));
     return handled;
 }
@@ -148,8 +148,8 @@ void QtMaterialToggle::mouseMoveEvent(QMouseEvent *event)
 
 void QtMaterialToggle::mouseReleaseEvent(QMouseEvent *event)
 {
-    // The base class clicks if hitButton() says so, and a drag is asked there whether it changes anything. What a
-    // click sets off may delete the toggle.
+    // The base class clicks if hitButton() returns true, which for a drag it does only if the drag changes the state.
+    // A slot that is called by the click may delete the toggle.
     const QPointer<QtMaterialToggle> self(this);
     QCheckBox::mouseReleaseEvent(event);
     if (self.isNull() || event->button() != Qt::LeftButton)
@@ -172,12 +172,12 @@ bool QtMaterialToggle::hitButton(const QPoint &position) const
 {
     if (isDragged())
         return m_hand.wouldChange();
-    // Not the empty space that a wide layout leaves beside the label.
+    // Without the empty space beside the label in a wide layout.
     const QSize used(std::min(width(), sizeHint().width()), height());
     return QStyle::alignedRect(layoutDirection(), Qt::AlignLeading, used, rect()).contains(position);
 }
 
-// With signals blocked toggled() is not heard.
+// toggled() does not arrive while signals are blocked.
 void QtMaterialToggle::checkStateSet()
 {
     QCheckBox::checkStateSet();
@@ -186,7 +186,7 @@ void QtMaterialToggle::checkStateSet()
 
 void QtMaterialToggle::nextCheckState()
 {
-    m_hand.release(); // the thumb goes on from where it was dragged to
+    m_hand.release(); // the thumb moves on from where it was dragged to
     QCheckBox::nextCheckState();
 }
 

@@ -6,8 +6,8 @@
 
 #include <QCheckBox>
 
-/// A switch for something that takes effect at once, with an optional label: a check box to the program and to screen
-/// readers. Clicking, dragging the thumb, Space and Enter turn it on and off. "On" is where the line of text ends.
+/// A switch for something that takes effect at once, with an optional label: a check box for the program and for screen
+/// readers. Clicking, dragging the thumb, Space and Enter turn it on and off. "On" is at the trailing end.
 class QtMaterialToggle : public QCheckBox
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ public:
     explicit QtMaterialToggle(QWidget *parent = nullptr);
     explicit QtMaterialToggle(const QString &label, QWidget *parent = nullptr);
 
-    /// The thumb's place as it is painted, 0 (off) to 1 (on).
+    /// Where the thumb is painted, 0 (off) to 1 (on).
     [[nodiscard]] qreal thumbPosition() const { return m_motion.value(0); }
     [[nodiscard]] bool isAnimating() const { return m_motion.isRunning(); }
     [[nodiscard]] QSize sizeHint() const override;

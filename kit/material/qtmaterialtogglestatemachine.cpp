@@ -31,7 +31,7 @@ void QtMaterialToggleStateMachine::move(double position)
         return;
     m_moved = position - m_pressed;
     if (std::abs(m_moved) >= m_dragDistance)
-        m_state = Hand::Dragging; // and stays so: a hand that returns to where it began changes nothing
+        m_state = Hand::Dragging; // and stays so: a drag back to its start changes nothing
 }
 
 double QtMaterialToggleStateMachine::thumb() const

@@ -1,7 +1,7 @@
 #pragma once
 
-/// Where the thumb of a toggle is to be while it is clicked or dragged: counts in pixels towards "on", knows nothing of
-/// widgets or of the reading direction.
+/// Where the thumb of a toggle belongs while it is clicked or dragged. Positions count in pixels towards "on"; knows
+/// nothing of widgets or of the reading direction.
 class QtMaterialToggleStateMachine
 {
 public:
@@ -15,9 +15,9 @@ public:
     void move(double position);
     void release() { m_state = Hand::Away; }
 
-    /// The thumb's place, 0 (off) to 1 (on).
+    /// Where the thumb is, 0 (off) to 1 (on).
     [[nodiscard]] double thumb() const;
-    /// Whether the hand, if it let go now, would leave the toggle in the other position.
+    /// Whether releasing the mouse now would switch the toggle.
     [[nodiscard]] bool wouldChange() const;
 
 private:

@@ -3,10 +3,13 @@
 #include "kit/logging.h"
 #include "kit/material/qtmaterialpaint.h"
 #include "kit/material/qtmaterialstyle.h"
-#include "kit/small/accessibles.h"
+#include "kit/small/accessiblefactory.h"
 
+#include <QAccessibleWidget>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTextDocument>
+#include <QTextDocumentFragment>
 
 namespace {
 
@@ -20,6 +23,50 @@ QColor primary()
     return QtMaterialPaint::themeColor(QLatin1String("primary1"));
 }
 
+/// The accessible name if one was set, otherwise the text without mark-up.
+QString nameOf(const QLabel &label)
+{
+    if (!label.accessibleName().isEmpty())
+        return label.accessibleName();
+    const bool isRich =
+        label.textFormat() == Qt::RichText || (label.textFormat() == Qt::AutoText && Qt::mightBeRichText(label.text()));
+    return isRich ? QTextDocumentFragment::fromHtml(label.text()).toPlainText() : label.text();
+}
+
+/// To screen readers it is a button.
+class AccessibleClickableLabel : public QAccessibleWidget
+{
+public:
+    explicit AccessibleClickableLabel(ClickableLabel *label)
+        : QAccessibleWidget(label, QAccessible::Button)
+        , m_label(label)
+    {}
+
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Name ? nameOf(*m_label) : QAccessibleWidget::text(kind);
+    }
+
+    QStringList actionNames() const override
+    {
+        QStringList names = QAccessibleWidget::actionNames();
+        if (m_label->isEnabled())
+            names.prepend(pressAction());
+        return names;
+    }
+
+    void doAction(const QString &name) override
+    {
+        if (name == pressAction())
+            m_label->click();
+        else
+            QAccessibleWidget::doAction(name);
+    }
+
+private:
+    ClickableLabel *m_label;
+};
+
 } // namespace
 
 ClickableLabel::ClickableLabel(QWidget *parent)
@@ -29,8 +76,9 @@ ClickableLabel::ClickableLabel(QWidget *parent)
 ClickableLabel::ClickableLabel(const QString &text, QWidget *parent)
     : QLabel(parent)
 {
-    installKitAccessibility();
-    setText(text); // not by QLabel's constructor: screen readers would be told of a QLabel, and remember it
+    installAccessible<ClickableLabel, AccessibleClickableLabel>();
+    // Not in QLabel's constructor: screen readers would be told of a plain QLabel and remember it.
+    setText(text);
     setMargin(kMargin);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
@@ -84,10 +132,10 @@ void ClickableLabel::mousePressEvent(QMouseEvent *event)
 {
     m_pressed = event->button() == Qt::LeftButton;
     update();
-    event->setAccepted(m_pressed); // other buttons are for whoever lies below
+    event->setAccepted(m_pressed); // other buttons are for the widget below
 }
 
-// The second press of a quick pair is a press like any other.
+// The second press of a double click counts like any other.
 void ClickableLabel::mouseDoubleClickEvent(QMouseEvent *event)
 {
     mousePressEvent(event);

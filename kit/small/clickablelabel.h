@@ -2,8 +2,8 @@
 
 #include <QLabel>
 
-/// A label that works like a button: by mouse, by Space or Enter, and for screen readers. For a text without links of
-/// its own. Nothing comes of it while it is disabled.
+/// A label that works like a button: with the mouse, with Space or Enter, and for screen readers. Its text must not
+/// contain links. Does nothing while it is disabled.
 class ClickableLabel : public QLabel
 {
     Q_OBJECT
@@ -12,11 +12,11 @@ public:
     explicit ClickableLabel(QWidget *parent = nullptr);
     explicit ClickableLabel(const QString &text, QWidget *parent = nullptr);
 
-    /// As if it had been clicked.
+    /// Emits clicked() unless the label is disabled.
     void click();
 
 signals:
-    /// The left mouse button was pressed and released within, or Space or Enter was pressed.
+    /// The left mouse button was pressed and released inside the label, or Space or Enter was pressed.
     void clicked();
 
 protected:
@@ -30,7 +30,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
-    /// The frame that shows the focus; for those who paint the label themselves.
+    /// The frame that shows the focus; for subclasses that paint the label themselves.
     void drawFocus(QPainter &painter) const;
 
 private:

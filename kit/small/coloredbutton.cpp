@@ -17,7 +17,7 @@
 
 namespace {
 
-constexpr double kRadius = 3.0; // as the push buttons of the sheet
+constexpr double kRadius = 3.0; // like the push buttons of the style sheet
 constexpr double kOutline = 2.0;
 constexpr int kPadding = 10;
 constexpr int kTightPadding = 5;
@@ -25,7 +25,7 @@ constexpr int kSymbol = 14;      // pixels: tick or arrow
 constexpr int kSymbolMargin = 8; // from the edge
 constexpr int kSymbolGap = 5;    // to the text
 constexpr int kIconGap = 6;
-constexpr int kStripe = 4;     // that shows the colour of a disabled button
+constexpr int kStripe = 4;     // pixels: shows the colour of a disabled button
 constexpr double kPale = 0.10; // share of the colour in an unchecked button
 constexpr double kHover = 0.12;
 constexpr double kPressed = 0.25;
@@ -77,7 +77,7 @@ void ColoredButton::setPicksColor(bool picks)
     update();
 }
 
-// A colour has to be told to those who cannot see it.
+// Users who cannot see the colour hear it.
 void ColoredButton::describe()
 {
     if (m_picksColor)
@@ -91,8 +91,9 @@ void ColoredButton::onClicked()
     auto *dialog = new QColorDialog(color(), this);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setWindowTitle(tr("Farbe wählen"));
-    dialog->setStyleSheet(QStringLiteral("QPushButton {padding: 0px 14px;}")); // not this button's
-    dialog->setOption(QColorDialog::DontUseNativeDialog);                      // which speaks the computer's language
+    dialog->setStyleSheet(
+        QStringLiteral("QPushButton {padding: 0px 14px;}")); // this button's own sheet would be inherited
+    dialog->setOption(QColorDialog::DontUseNativeDialog);    // a native one is in the system's language
     connect(dialog, &QColorDialog::colorSelected, this, [this](const QColor &chosen) {
         if (chosen.isValid() && chosen != color())
             emit colorPicked(chosen);
@@ -100,7 +101,7 @@ void ColoredButton::onClicked()
     dialog->open();
 }
 
-/// What the text leaves free: the same on both sides, so that it stays in the middle.
+/// What the text leaves free, the same on both sides so that it stays centred.
 int ColoredButton::symbolRoom() const
 {
     return isCheckable() || m_picksColor ? kSymbolMargin + kSymbol + kSymbolGap : kPadding;
@@ -114,14 +115,14 @@ QSize ColoredButton::sizeHint() const
     return QPushButton::sizeHint().expandedTo({width, fontMetrics().height() + kPadding});
 }
 
-// A long name may be cut; it stays in the tool tip of whoever set it.
+// A long name may be cut; whoever sets it adds a tool tip.
 QSize ColoredButton::minimumSizeHint() const
 {
     const int width = 4 * fontMetrics().averageCharWidth() + 2 * symbolRoom();
     return {std::min(width, sizeHint().width()), sizeHint().height()};
 }
 
-// Enter presses the button that has the focus, in a page as in a dialog.
+// Qt presses buttons with Enter in dialogs only; here it works on pages too.
 void ColoredButton::keyPressEvent(QKeyEvent *event)
 {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
@@ -156,7 +157,7 @@ QString ColoredButton::elidedText(int width) const
     return fontMetrics().elidedText(text(), Qt::ElideRight, width, Qt::TextShowMnemonic);
 }
 
-/// In the middle of the button if there is room, else all that the symbol leaves.
+/// Centred in the button if there is room, otherwise in what the symbol leaves free.
 QRect ColoredButton::labelArea() const
 {
     const int icon = this->icon().isNull() ? 0 : iconSize().width() + kIconGap;
@@ -198,7 +199,7 @@ void ColoredButton::drawLabel(QPainter &painter, const QColor &color) const
     painter.drawText(area, int(Qt::AlignCenter) | Qt::TextShowMnemonic | Qt::TextSingleLine, text);
 }
 
-/// A tick on the side where reading begins, or an arrow on the other.
+/// A tick at the leading edge, or an arrow at the trailing one.
 void ColoredButton::drawSymbol(QPainter &painter, const QColor &color) const
 {
     if (!m_picksColor && !isChecked())

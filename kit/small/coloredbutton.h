@@ -3,9 +3,9 @@
 #include <QColor>
 #include <QPushButton>
 
-/// A push button filled with a colour of its own, its text black or white, whichever reads better. A checkable one is
-/// filled and ticked while checked, pale with an outline otherwise; a disabled one keeps a stripe of the colour. Font,
-/// smallest size and the disabled look come from the style sheet in force (selector "ColoredButton").
+/// A push button filled with a settable colour, its text black or white, whichever is easier to read. A checkable one
+/// is filled and ticked while checked, pale with an outline otherwise; a disabled one keeps a stripe of the colour.
+/// Font, minimum size and the disabled look come from the style sheet (selector "ColoredButton").
 class ColoredButton : public QPushButton
 {
     Q_OBJECT
@@ -29,8 +29,8 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 signals:
-    /// The user chose a colour other than the present one in the dialog. The button does not take it by itself: whoever
-    /// owns the colour decides and calls setColor().
+    /// The user chose a colour other than the current one in the dialog. The button does not apply it: the owner of the
+    /// colour decides and calls setColor().
     void colorPicked(const QColor &color);
 
 protected:

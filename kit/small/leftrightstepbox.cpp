@@ -3,55 +3,71 @@
 #include "kit/logging.h"
 #include "kit/material/qtmaterialpaint.h"
 #include "kit/material/qtmaterialstyle.h"
-#include "kit/small/accessibles.h"
+#include "kit/small/accessiblefactory.h"
+#include "kit/small/stepboxeditor.h"
 
-#include <QAccessible>
-#include <QLineEdit>
+#include <QAccessibleWidget>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QRegularExpressionValidator>
-#include <QStyle>
 #include <QWheelEvent>
 
 #include <algorithm>
 
 namespace {
 
-constexpr int kArrowWidth = 48; // pixels: hit with a glove on
-constexpr int kSmallestArrowWidth = 30;
-constexpr int kHeight = 44;
-constexpr int kSmallestHeight = 30;
-constexpr int kPadding = 8;
-constexpr double kRadius = 3.0;
-constexpr int kFirstRepeat = 400; // ms
-constexpr int kRepeat = 80;       // ms
-constexpr int kRepeatsBeforePages = 25;
 constexpr int kWheelStep = 120; // eighths of a degree
-constexpr int kMostDigits = 11; // with the sign
 
-QColor themeColor(const char *key)
+/// To screen readers it is a spin box.
+class AccessibleStepBox : public QAccessibleWidget, public QAccessibleValueInterface
 {
-    return QtMaterialPaint::themeColor(QLatin1String(key));
-}
+public:
+    explicit AccessibleStepBox(LeftRightStepBox *box)
+        : QAccessibleWidget(box, QAccessible::SpinBox)
+        , m_box(box)
+    {}
+
+    QString text(QAccessible::Text kind) const override
+    {
+        return kind == QAccessible::Value ? m_box->text() : QAccessibleWidget::text(kind);
+    }
+
+    void *interface_cast(QAccessible::InterfaceType type) override
+    {
+        if (type == QAccessible::ValueInterface)
+            return static_cast<QAccessibleValueInterface *>(this);
+        return QAccessibleWidget::interface_cast(type);
+    }
+
+    QVariant currentValue() const override { return m_box->value(); }
+    QVariant minimumValue() const override { return m_box->minimum(); }
+    QVariant maximumValue() const override { return m_box->maximum(); }
+    QVariant minimumStepSize() const override { return m_box->singleStep(); }
+    void setCurrentValue(const QVariant &value) override
+    {
+        if (m_box->isEnabled())
+            m_box->setValue(value.toInt());
+    }
+
+private:
+    LeftRightStepBox *m_box;
+};
 
 } // namespace
 
 LeftRightStepBox::LeftRightStepBox(QWidget *parent)
     : QWidget(parent)
-    , m_editor(new QLineEdit(this))
+    , m_editor(new StepBoxEditor(this))
 {
-    installKitAccessibility();
+    installAccessible<LeftRightStepBox, AccessibleStepBox>();
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    m_editor->hide();
-    m_editor->setAlignment(Qt::AlignCenter);
-    m_editor->setFrame(false);
-    m_editor->setMaxLength(kMostDigits);
-    m_editor->setValidator(new QRegularExpressionValidator(QRegularExpression(QStringLiteral("-?[0-9]*")), m_editor));
-    m_editor->installEventFilter(this);
-    connect(m_editor, &QLineEdit::editingFinished, this, &LeftRightStepBox::finishEditing);
-    connect(&m_repeat, &QTimer::timeout, this, &LeftRightStepBox::repeat);
+    connect(m_editor, &StepBoxEditor::numberEntered, this, &LeftRightStepBox::goTo);
+    connect(m_editor, &StepBoxEditor::stepKeyPressed, this, &LeftRightStepBox::stepByKey);
+    connect(&m_repeat, &HoldRepeat::due, this, [this] {
+        if (m_hovered == m_pressed) // otherwise the mouse was drawn away; it may come back
+            stepPressed(m_repeat.countStep() ? m_pageStep : m_singleStep);
+    });
     connect(&QtMaterialStyle::instance(), &QtMaterialStyle::themeChanged, this, qOverload<>(&QWidget::update));
 }
 
@@ -63,7 +79,7 @@ void LeftRightStepBox::setRange(int minimum, int maximum)
     m_maximum = maximum;
     if (isEmpty()) {
         release();
-        closeEditor();
+        m_editor->dismiss();
     }
     contentsChanged();
     setValue(m_value);
@@ -81,19 +97,19 @@ void LeftRightStepBox::setPageStep(int step)
 
 void LeftRightStepBox::setPrefix(const QString &prefix)
 {
-    m_prefix = prefix;
+    m_text.prefix = prefix;
     contentsChanged();
 }
 
 void LeftRightStepBox::setSuffix(const QString &suffix)
 {
-    m_suffix = suffix;
+    m_text.suffix = suffix;
     contentsChanged();
 }
 
 void LeftRightStepBox::setTotalShown(bool shown)
 {
-    m_totalShown = shown;
+    m_text.totalShown = shown;
     contentsChanged();
 }
 
@@ -112,24 +128,19 @@ void LeftRightStepBox::setValue(int value)
 
 void LeftRightStepBox::stepBy(int steps)
 {
-    stepByAmount(qint64(steps) * m_singleStep);
+    goTo(m_value + qint64(steps) * m_singleStep);
 }
 
-void LeftRightStepBox::stepByAmount(qint64 amount)
+/// Like setValue(), for numbers beyond those of an int.
+void LeftRightStepBox::goTo(qint64 value)
 {
     if (!isEmpty())
-        setValue(static_cast<int>(std::clamp<qint64>(m_value + amount, m_minimum, m_maximum)));
-}
-
-QString LeftRightStepBox::textFor(int value) const
-{
-    const QString number = QString::number(value);
-    return m_prefix + (m_totalShown ? number + QLatin1String(" / ") + QString::number(m_maximum) : number) + m_suffix;
+        setValue(static_cast<int>(std::clamp<qint64>(value, m_minimum, m_maximum)));
 }
 
 QString LeftRightStepBox::text() const
 {
-    return isEmpty() ? QStringLiteral("–") : textFor(m_value);
+    return isEmpty() ? QStringLiteral("–") : m_text.of(m_value, m_maximum);
 }
 
 bool LeftRightStepBox::isEditing() const
@@ -137,20 +148,20 @@ bool LeftRightStepBox::isEditing() const
     return !m_editor->isHidden();
 }
 
-int LeftRightStepBox::widestText() const
+QSize LeftRightStepBox::textSize() const
 {
     const QFontMetrics metrics = fontMetrics();
-    return std::max(metrics.horizontalAdvance(textFor(m_minimum)), metrics.horizontalAdvance(textFor(m_maximum)));
+    return {m_text.widest(metrics, m_minimum, m_maximum), metrics.height()};
 }
 
 QSize LeftRightStepBox::sizeHint() const
 {
-    return {widestText() + 2 * (kArrowWidth + kPadding), std::max(kHeight, fontMetrics().height() + kPadding)};
+    return StepBoxLook::usualSize(textSize());
 }
 
 QSize LeftRightStepBox::minimumSizeHint() const
 {
-    return {widestText() + 2 * (kSmallestArrowWidth + 2), std::max(kSmallestHeight, fontMetrics().height() + 2)};
+    return StepBoxLook::smallestSize(textSize());
 }
 
 void LeftRightStepBox::contentsChanged()
@@ -159,32 +170,14 @@ void LeftRightStepBox::contentsChanged()
     update();
 }
 
-QRect LeftRightStepBox::areaOf(Part part) const
+StepBoxLook LeftRightStepBox::look() const
 {
-    const int room = (width() - widestText()) / 2 - kPadding;
-    const int arrow = std::clamp(room, kSmallestArrowWidth, kArrowWidth);
-    QRect area;
-    if (part == Part::Previous)
-        area = {0, 0, arrow, height()};
-    else if (part == Part::Next)
-        area = {width() - arrow, 0, arrow, height()};
-    else if (part == Part::Number)
-        area = {arrow, 0, width() - 2 * arrow, height()};
-    return QStyle::visualRect(layoutDirection(), rect(), area);
+    return {rect(), layoutDirection(), textSize().width()};
 }
 
-LeftRightStepBox::Part LeftRightStepBox::partAt(const QPoint &position) const
+bool LeftRightStepBox::canStep(StepBoxPart part) const
 {
-    for (const Part part : {Part::Previous, Part::Number, Part::Next}) {
-        if (areaOf(part).contains(position))
-            return part;
-    }
-    return Part::None;
-}
-
-bool LeftRightStepBox::canStep(Part part) const
-{
-    return isEnabled() && !isEmpty() && (part == Part::Previous ? m_value > m_minimum : m_value < m_maximum);
+    return isEnabled() && !isEmpty() && (part == StepBoxPart::Previous ? m_value > m_minimum : m_value < m_maximum);
 }
 
 void LeftRightStepBox::mousePressEvent(QMouseEvent *event)
@@ -193,69 +186,81 @@ void LeftRightStepBox::mousePressEvent(QMouseEvent *event)
         event->ignore();
         return;
     }
-    finishEditing();
-    m_pressed = partAt(event->pos());
+    m_editor->finish(); // a number that was typed counts before the step
+    m_pressed = look().partAt(event->pos());
     setHovered(m_pressed);
     update();
-    if (m_pressed != Part::Previous && m_pressed != Part::Next)
+    if (m_pressed != StepBoxPart::Previous && m_pressed != StepBoxPart::Next)
         return;
-    m_repetitions = 0;
-    m_repeat.start(kFirstRepeat);
+    m_repeat.start();
     stepPressed(m_singleStep);
 }
 
 void LeftRightStepBox::stepPressed(int amount)
 {
-    stepByAmount(m_pressed == Part::Previous ? -qint64(amount) : qint64(amount));
+    goTo(m_value + (m_pressed == StepBoxPart::Previous ? -qint64(amount) : qint64(amount)));
     if (!canStep(m_pressed))
         m_repeat.stop();
-}
-
-void LeftRightStepBox::repeat()
-{
-    m_repeat.setInterval(kRepeat);
-    if (m_hovered != m_pressed)
-        return; // the mouse was drawn away; it may come back
-    ++m_repetitions;
-    stepPressed(m_repetitions > kRepeatsBeforePages ? m_pageStep : m_singleStep);
 }
 
 void LeftRightStepBox::release()
 {
     m_repeat.stop();
-    m_pressed = Part::None;
+    m_pressed = StepBoxPart::None;
     update();
 }
 
 void LeftRightStepBox::mouseMoveEvent(QMouseEvent *event)
 {
-    setHovered(partAt(event->pos()));
+    setHovered(look().partAt(event->pos()));
 }
 
 void LeftRightStepBox::mouseReleaseEvent(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton)
         return;
-    const bool isNumberClicked = m_pressed == Part::Number && partAt(event->pos()) == Part::Number;
+    const bool isNumberClicked = m_pressed == StepBoxPart::Number && look().partAt(event->pos()) == StepBoxPart::Number;
     release();
     if (isNumberClicked)
         startEditing(QString());
 }
 
-void LeftRightStepBox::setHovered(Part part)
+void LeftRightStepBox::setHovered(StepBoxPart part)
 {
     if (part == m_hovered)
         return;
     m_hovered = part;
-    setCursor(part == Part::Number && !isEmpty() ? Qt::IBeamCursor : Qt::ArrowCursor);
+    setCursor(part == StepBoxPart::Number && !isEmpty() ? Qt::IBeamCursor : Qt::ArrowCursor);
     update();
 }
 
 bool LeftRightStepBox::event(QEvent *event)
 {
-    if (event->type() == QEvent::Leave)
-        setHovered(Part::None);
-    return QWidget::event(event);
+    const bool handled = QWidget::event(event);
+    switch (event->type()) {
+    case QEvent::Leave:
+        setHovered(StepBoxPart::None);
+        break;
+    case QEvent::FocusOut:
+        m_wheelRest = 0;
+        release();
+        break;
+    case QEvent::Hide:
+    case QEvent::EnabledChange:
+        release();
+        m_editor->dismiss();
+        break;
+    case QEvent::Resize:
+        placeEditor();
+        break;
+    case QEvent::FontChange:
+    case QEvent::StyleChange:
+        contentsChanged();
+        break;
+    default:
+        break;
+    }
+    return handled;
 }
 
 void LeftRightStepBox::wheelEvent(QWheelEvent *event)
@@ -264,7 +269,8 @@ void LeftRightStepBox::wheelEvent(QWheelEvent *event)
         event->ignore(); // the page scrolls
         return;
     }
-    finishEditing();
+    m_editor->finish();
+    // Fine wheels and touch pads report a step in several events.
     m_wheelRest += event->angleDelta().y();
     stepBy(m_wheelRest / kWheelStep);
     m_wheelRest %= kWheelStep;
@@ -276,10 +282,10 @@ bool LeftRightStepBox::stepByKey(int key)
     const int rightward = layoutDirection() == Qt::RightToLeft ? -m_singleStep : m_singleStep;
     switch (key) {
     case Qt::Key_Left:
-        stepByAmount(-rightward);
+        goTo(qint64(m_value) - rightward);
         return true;
     case Qt::Key_Right:
-        stepByAmount(rightward);
+        goTo(qint64(m_value) + rightward);
         return true;
     case Qt::Key_Up:
     case Qt::Key_Down:
@@ -287,7 +293,7 @@ bool LeftRightStepBox::stepByKey(int key)
         return true;
     case Qt::Key_PageUp:
     case Qt::Key_PageDown:
-        stepByAmount(key == Qt::Key_PageUp ? m_pageStep : -m_pageStep);
+        goTo(qint64(m_value) + (key == Qt::Key_PageUp ? m_pageStep : -m_pageStep));
         return true;
     case Qt::Key_Home:
     case Qt::Key_End:
@@ -313,122 +319,28 @@ void LeftRightStepBox::keyPressEvent(QKeyEvent *event)
         QWidget::keyPressEvent(event);
 }
 
-/// With no text the present number is there to be replaced.
+/// Without a text the present number is offered to be replaced.
 void LeftRightStepBox::startEditing(const QString &text)
 {
     if (isEmpty())
         return;
-    m_editor->setText(text.isEmpty() ? QString::number(m_value) : text);
-    m_editor->setGeometry(areaOf(Part::Number).adjusted(2, 2, -2, -2));
+    placeEditor();
     m_editor->setAccessibleName(accessibleName());
-    m_editor->show();
-    m_editor->setFocus();
-    if (text.isEmpty())
-        m_editor->selectAll();
+    m_editor->open(text.isEmpty() ? QString::number(m_value) : text, text.isEmpty());
 }
 
-void LeftRightStepBox::finishEditing()
+void LeftRightStepBox::placeEditor()
 {
-    if (!isEditing())
-        return;
-    bool isNumber = false;
-    const qint64 typed = m_editor->text().toLongLong(&isNumber);
-    closeEditor();
-    if (isNumber && !isEmpty())
-        setValue(static_cast<int>(std::clamp<qint64>(typed, m_minimum, m_maximum)));
+    m_editor->setGeometry(look().areaOf(StepBoxPart::Number).adjusted(2, 2, -2, -2));
 }
 
-void LeftRightStepBox::closeEditor()
+StepBoxLook::Arrow LeftRightStepBox::arrowLook(StepBoxPart part) const
 {
-    m_editor->setText(QString()); // or losing the focus would take the number
-    if (m_editor->hasFocus())
-        setFocus();
-    m_editor->hide();
-}
-
-bool LeftRightStepBox::eventFilter(QObject *watched, QEvent *event)
-{
-    if (watched != m_editor || event->type() != QEvent::KeyPress)
-        return QWidget::eventFilter(watched, event);
-    const int key = static_cast<QKeyEvent *>(event)->key();
-    if (key == Qt::Key_Escape) {
-        closeEditor();
-        return true;
-    }
-    if (key == Qt::Key_Return || key == Qt::Key_Enter) { // not for the button that a dialog has for this key
-        finishEditing();
-        return true;
-    }
-    if (key != Qt::Key_Up && key != Qt::Key_Down && key != Qt::Key_PageUp && key != Qt::Key_PageDown)
-        return QWidget::eventFilter(watched, event); // the others move within the text
-    finishEditing();
-    return stepByKey(key);
-}
-
-void LeftRightStepBox::focusInEvent(QFocusEvent *event)
-{
-    QWidget::focusInEvent(event);
-    update();
-}
-
-void LeftRightStepBox::focusOutEvent(QFocusEvent *event)
-{
-    QWidget::focusOutEvent(event);
-    m_wheelRest = 0;
-    release();
-}
-
-void LeftRightStepBox::hideEvent(QHideEvent *event)
-{
-    QWidget::hideEvent(event);
-    release();
-    closeEditor();
-}
-
-void LeftRightStepBox::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::EnabledChange) {
-        release();
-        closeEditor();
-    } else if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
-        contentsChanged();
-    }
-    QWidget::changeEvent(event);
-}
-
-void LeftRightStepBox::resizeEvent(QResizeEvent *event)
-{
-    QWidget::resizeEvent(event);
-    m_editor->setGeometry(areaOf(Part::Number).adjusted(2, 2, -2, -2));
-}
-
-void LeftRightStepBox::drawArrow(QPainter &painter, Part part) const
-{
-    const bool isActive = canStep(part);
-    QColor fill = isActive ? themeColor("primary1") : themeColor("disabled3");
-    if (isActive && part == m_hovered)
-        fill = QtMaterialPaint::between(fill, Qt::black, m_pressed == part ? 0.3 : 0.12);
-    const QRectF area = areaOf(part);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(fill);
-    painter.drawRoundedRect(area, kRadius, kRadius);
-    const bool isLeftward = (part == Part::Previous) == (layoutDirection() == Qt::LeftToRight);
-    const double half = std::min(area.width(), area.height()) * 0.22;
-    const double tip = isLeftward ? -half * 0.55 : half * 0.55;
-    const QPointF middle = area.center();
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(isActive ? themeColor("alternateText") : themeColor("accent3"), 3.0, Qt::SolidLine,
-                        Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPolyline(
-        QVector<QPointF>{middle + QPointF(-tip, -half), middle + QPointF(tip, 0.0), middle + QPointF(-tip, half)});
-}
-
-void LeftRightStepBox::drawNumber(QPainter &painter) const
-{
-    const QRect area = areaOf(Part::Number).adjusted(2, 0, -2, 0);
-    const bool isActive = isEnabled() && !isEmpty();
-    painter.setPen(isActive ? palette().color(QPalette::WindowText) : themeColor("accent3"));
-    painter.drawText(area, Qt::AlignCenter, fontMetrics().elidedText(text(), Qt::ElideRight, area.width()));
+    if (!canStep(part))
+        return StepBoxLook::Arrow::Inactive;
+    if (part != m_hovered)
+        return StepBoxLook::Arrow::Resting;
+    return part == m_pressed ? StepBoxLook::Arrow::Pressed : StepBoxLook::Arrow::Hovered;
 }
 
 void LeftRightStepBox::paintEvent(QPaintEvent *event)
@@ -436,13 +348,17 @@ void LeftRightStepBox::paintEvent(QPaintEvent *event)
     Q_UNUSED(event)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(themeColor("border"), 1.0));
-    painter.setBrush(themeColor("canvas"));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
-    drawArrow(painter, Part::Previous);
-    drawArrow(painter, Part::Next);
-    if (!isEditing())
-        drawNumber(painter);
+    const StepBoxLook shown = look();
+    shown.drawFrame(painter);
+    for (const StepBoxPart part : {StepBoxPart::Previous, StepBoxPart::Next})
+        shown.drawArrow(painter, part, arrowLook(part));
+    if (!isEditing()) {
+        const QRect area = shown.areaOf(StepBoxPart::Number).adjusted(2, 0, -2, 0);
+        const bool isActive = isEnabled() && !isEmpty();
+        painter.setPen(isActive ? palette().color(QPalette::WindowText)
+                                : QtMaterialPaint::themeColor(QLatin1String("accent3")));
+        painter.drawText(area, Qt::AlignCenter, fontMetrics().elidedText(text(), Qt::ElideRight, area.width()));
+    }
     if (hasFocus() || isEditing())
-        QtMaterialPaint::drawFocusRing(painter, areaOf(Part::Number), kRadius, themeColor("primary1"));
+        shown.drawFocus(painter);
 }

@@ -1,14 +1,16 @@
 #pragma once
 
-#include <QTimer>
+#include "kit/small/holdrepeat.h"
+#include "kit/small/stepboxlook.h"
+
 #include <QWidget>
 
-class QLineEdit;
+class StepBoxEditor;
 
-/// A whole number between two big arrow buttons, for stepping through a list: "◀ 12 / 345 ▶". Steps by mouse (held down
-/// it goes on, later page by page), by wheel while it has the focus, and by keys: arrows, page up and down, Home, End.
-/// A click on the number or a digit key opens a field to type in; Enter takes the number, Escape drops it. Where
-/// reading begins at the right, all of it is mirrored.
+/// A whole number between two big arrow buttons, for stepping through a list: "◀ 12 / 345 ▶". Steps with the mouse (a
+/// button held down repeats, later page by page), with the wheel while it has the focus, and with the keys: arrows,
+/// page up and down, Home, End. A click on the number or a digit key opens a field to type in; Enter takes the number,
+/// Escape drops it. In a right-to-left layout the box is mirrored.
 class LeftRightStepBox : public QWidget
 {
     Q_OBJECT
@@ -23,87 +25,70 @@ public:
     [[nodiscard]] int value() const { return m_value; }
     [[nodiscard]] int minimum() const { return m_minimum; }
     [[nodiscard]] int maximum() const { return m_maximum; }
-    /// Both ends count. With a maximum below the minimum there is nothing to choose from: the box shows a dash and
-    /// looks disabled. A value that falls out of the range becomes the nearest one in it.
+    /// Both ends are included. With a maximum below the minimum there is nothing to choose from: the box shows a dash
+    /// and looks disabled. A value outside the new range is clamped to it.
     void setRange(int minimum, int maximum);
     [[nodiscard]] bool isEmpty() const { return m_maximum < m_minimum; }
 
     [[nodiscard]] int singleStep() const { return m_singleStep; }
-    [[nodiscard]] int pageStep() const { return m_pageStep; }
     /// Steps below 1 count as 1.
     void setSingleStep(int step);
     void setPageStep(int step);
 
-    /// Texts right beside the number; blanks belong to them.
+    /// Texts directly before and after the number; they include the blanks that separate them.
     void setPrefix(const QString &prefix);
     void setSuffix(const QString &suffix);
     /// Shows the maximum behind the number: "12 / 345".
     void setTotalShown(bool shown);
 
-    /// What stands between the arrows.
+    /// The text between the arrows.
     [[nodiscard]] QString text() const;
     [[nodiscard]] bool isEditing() const;
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 public slots:
-    /// Takes the nearest value of the range.
+    /// Clamped to the range.
     void setValue(int value);
-    /// So many single steps up, or down if negative; stops at the ends.
+    /// By this many single steps up, or down if negative; stops at the ends of the range.
     void stepBy(int steps);
 
 signals:
-    /// Once for every change, whoever made it.
+    /// Emitted once for every change, by the user or by the program.
     void valueChanged(int value);
 
 protected:
-    void changeEvent(QEvent *event) override;
     bool event(QEvent *event) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
-    void focusInEvent(QFocusEvent *event) override;
-    void focusOutEvent(QFocusEvent *event) override;
-    void hideEvent(QHideEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
 
 private:
-    enum class Part { None, Previous, Number, Next };
-
-    [[nodiscard]] QRect areaOf(Part part) const;
-    [[nodiscard]] Part partAt(const QPoint &position) const;
-    [[nodiscard]] bool canStep(Part part) const;
-    [[nodiscard]] QString textFor(int value) const;
-    [[nodiscard]] int widestText() const;
-    void stepByAmount(qint64 amount);
+    [[nodiscard]] StepBoxLook look() const;
+    [[nodiscard]] StepBoxLook::Arrow arrowLook(StepBoxPart part) const;
+    [[nodiscard]] QSize textSize() const;
+    [[nodiscard]] bool canStep(StepBoxPart part) const;
+    void goTo(qint64 value);
     [[nodiscard]] bool stepByKey(int key);
     void stepPressed(int amount);
-    void repeat();
     void release();
-    void setHovered(Part part);
+    void setHovered(StepBoxPart part);
     void startEditing(const QString &text);
-    void finishEditing();
-    void closeEditor();
+    void placeEditor();
     void contentsChanged();
-    void drawArrow(QPainter &painter, Part part) const;
-    void drawNumber(QPainter &painter) const;
 
     int m_value = 0;
     int m_minimum = 0;
     int m_maximum = 99;
     int m_singleStep = 1;
     int m_pageStep = 10;
-    bool m_totalShown = false;
-    QString m_prefix;
-    QString m_suffix;
-    QLineEdit *m_editor;
-    QTimer m_repeat;
-    int m_repetitions = 0;
-    int m_wheelRest = 0; ///< eighths of a degree that do not make a step yet
-    Part m_pressed = Part::None;
-    Part m_hovered = Part::None;
+    StepBoxText m_text;
+    StepBoxEditor *m_editor;
+    HoldRepeat m_repeat;
+    int m_wheelRest = 0; ///< eighths of a degree that do not add up to a step yet
+    StepBoxPart m_pressed = StepBoxPart::None;
+    StepBoxPart m_hovered = StepBoxPart::None;
 };

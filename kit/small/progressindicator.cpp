@@ -3,9 +3,9 @@
 #include "kit/logging.h"
 #include "kit/material/qtmaterialpaint.h"
 #include "kit/material/qtmaterialstyle.h"
-#include "kit/small/accessibles.h"
+#include "kit/small/accessiblefactory.h"
 
-#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QPainter>
 
 #include <algorithm>
@@ -14,7 +14,7 @@ namespace {
 
 constexpr int kInterval = 40;   // ms between two steps
 constexpr int kStep = 12;       // degrees
-constexpr int kArc = 90;        // degrees of the ring that turns
+constexpr int kArc = 90;        // degrees: length of the turning arc
 constexpr int kSixteenths = 16; // QPainter counts in sixteenths of a degree
 constexpr QSize kUsualSize(48, 48);
 constexpr QSize kSmallestSize(16, 16);
@@ -40,12 +40,58 @@ void drawPercent(QPainter &painter, const QRectF &ring, int percent, const QColo
     painter.drawText(ring, Qt::AlignCenter, QString::number(percent));
 }
 
+/// To screen readers it is a progress bar that cannot be changed; it has a value only while the percentage is known.
+class AccessibleProgress : public QAccessibleWidget, public QAccessibleValueInterface
+{
+public:
+    explicit AccessibleProgress(ProgressIndicator *indicator)
+        : QAccessibleWidget(indicator, QAccessible::ProgressBar)
+        , m_indicator(indicator)
+    {}
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.busy = m_indicator->isAnimated();
+        state.readOnly = true;
+        return state;
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        if (kind != QAccessible::Value)
+            return QAccessibleWidget::text(kind);
+        return isKnown() ? QStringLiteral("%1 %").arg(m_indicator->percent()) : QString();
+    }
+
+    void *interface_cast(QAccessible::InterfaceType type) override
+    {
+        if (type == QAccessible::ValueInterface && isKnown())
+            return static_cast<QAccessibleValueInterface *>(this);
+        return QAccessibleWidget::interface_cast(type);
+    }
+
+    QVariant currentValue() const override { return m_indicator->percent(); }
+    QVariant minimumValue() const override { return 0; }
+    QVariant maximumValue() const override { return 100; }
+    QVariant minimumStepSize() const override { return 1; }
+    void setCurrentValue(const QVariant &) override {} // read-only
+
+private:
+    [[nodiscard]] bool isKnown() const
+    {
+        return m_indicator->isAnimated() && m_indicator->percent() != ProgressIndicator::kTurning;
+    }
+
+    ProgressIndicator *m_indicator;
+};
+
 } // namespace
 
 ProgressIndicator::ProgressIndicator(QWidget *parent)
     : QWidget(parent)
 {
-    installKitAccessibility();
+    installAccessible<ProgressIndicator, AccessibleProgress>();
     setAttribute(Qt::WA_TransparentForMouseEvents);
     m_timer.setInterval(kInterval);
     connect(&m_timer, &QTimer::timeout, this, &ProgressIndicator::turn);
@@ -101,6 +147,7 @@ void ProgressIndicator::setPercent(int percent)
 
 void ProgressIndicator::updateTimer()
 {
+    // A timer that turns what nobody sees would wake the computer 25 times per second.
     const bool wanted = m_animated && m_percent == kTurning && isVisible() && !window()->isMinimized();
     if (wanted && !m_timer.isActive())
         m_timer.start();

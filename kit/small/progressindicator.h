@@ -3,8 +3,8 @@
 #include <QTimer>
 #include <QWidget>
 
-/// A small turning ring that says "at work"; or a ring that fills up, with the percentage in it. Takes its colours
-/// from the theme in force. Costs nothing while it is hidden or at rest: its timer runs only while it turns in sight.
+/// A small turning ring for work in progress, or a ring that fills up around a percentage. Takes its colours from the
+/// current theme. Costs nothing while hidden or stopped: its timer runs only while it turns and is visible.
 class ProgressIndicator : public QWidget
 {
     Q_OBJECT
@@ -19,14 +19,14 @@ public:
     [[nodiscard]] int percent() const { return m_percent; }
     /// True while the timer runs.
     [[nodiscard]] bool isTimerRunning() const { return m_timer.isActive(); }
-    /// At rest it shows nothing but keeps its place.
+    /// Also while it is stopped, when it shows nothing.
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 public slots:
     void startAnimation();
     void stopAnimation();
-    /// Takes the nearest value of 0 to 100; a negative one counts as kTurning.
+    /// Values above 100 count as 100, negative ones as kTurning.
     void setPercent(int percent);
 
 protected:

@@ -12,7 +12,7 @@
 namespace {
 
 constexpr double kRadius = ShadowFrame::kRadius;
-// A corner of the picture, and what lies between two. Both make whole device pixels at all usual resolutions.
+// Pixels of a corner of the picture, and between two corners. Both are whole device pixels at all usual resolutions.
 constexpr int kCorner = 24;
 constexpr int kMiddle = 4;
 constexpr int kSide = 2 * kCorner + kMiddle;
@@ -28,7 +28,7 @@ struct Shadow
 constexpr Shadow kLowShadow{1.0, 5.0, 0.25};
 constexpr Shadow kHighShadow{2.5, 7.5, 0.32};
 
-/// Distance of a point from a rounded rectangle's edge, negative inside.
+/// Distance of a point from the edge of a rounded rectangle; negative inside.
 double distance(const QPointF &point, const QRectF &area, double radius)
 {
     const double x = std::abs(point.x() - area.center().x()) - area.width() / 2.0 + radius;
@@ -42,7 +42,7 @@ double shade(const Shadow &shadow, double distance)
     return shadow.opacity * near * near;
 }
 
-/// The shadow and the card of the smallest size, for a device with so many pixels to one of ours.
+/// The shadow and a card of the smallest size. `ratio`: device pixels per logical pixel.
 QPixmap cardPicture(const Shadow &shadow, const QColor &fill, double ratio)
 {
     const int pixels = static_cast<int>(std::lround(kSide * ratio));
@@ -53,7 +53,7 @@ QPixmap cardPicture(const Shadow &shadow, const QColor &fill, double ratio)
         for (int x = 0; x < pixels; ++x) {
             const QPointF point((x + 0.5) / ratio, (y + 0.5) / ratio);
             const int alpha = static_cast<int>(255.0 * shade(shadow, distance(point, below, kRadius)));
-            image.setPixel(x, y, qRgba(0, 0, 0, alpha)); // black is premultiplied as it is
+            image.setPixel(x, y, qRgba(0, 0, 0, alpha)); // black needs no premultiplying
         }
     }
     image.setDevicePixelRatio(ratio);
@@ -77,7 +77,7 @@ QPixmap cachedCard(ShadowFrame::Elevation elevation, const QColor &fill, double 
     return picture;
 }
 
-/// Corners as they are, sides stretched along; the middle is of one colour.
+/// Corners are copied, sides are stretched along their length, the middle is filled with one colour.
 void drawStretched(QPainter &painter, const QRect &target, const QPixmap &picture, const QColor &fill)
 {
     const double ratio = picture.devicePixelRatio();

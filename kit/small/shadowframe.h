@@ -3,9 +3,9 @@
 #include <QColor>
 #include <QFrame>
 
-/// A card: a rounded white area with a soft shadow, around other widgets or painted content. Its contents margins keep
-/// the shadow free, so that a layout in it fills the card. The shadow is computed once for each screen resolution and
-/// stretched, so that resizing costs nothing.
+/// A card: a rounded white area with a soft shadow, around other widgets or painted content. Its contents margins
+/// leave room for the shadow, so that a layout in it fills the card. The shadow is computed once per screen resolution
+/// and stretched, so that resizing is cheap.
 class ShadowFrame : public QFrame
 {
     Q_OBJECT
@@ -16,13 +16,13 @@ public:
     enum class Elevation { Flat, Low, High };
     Q_ENUM(Elevation)
 
-    /// Pixels between the widget's edge and the card, at all sides and elevations.
+    /// Pixels between the widget's edge and the card, on all sides and at every elevation.
     static constexpr int kShadow = 10;
     static constexpr double kRadius = 4.0; ///< of the card's corners
 
     explicit ShadowFrame(QWidget *parent = nullptr);
 
-    /// Low at first. Flat has an outline instead of a shadow.
+    /// Low by default. Flat has an outline instead of a shadow.
     [[nodiscard]] Elevation elevation() const { return m_elevation; }
     void setElevation(Elevation elevation);
     /// A selected card has an outline in the theme's "primary1".
@@ -35,7 +35,7 @@ public:
     /// The card itself, without the shadow.
     [[nodiscard]] QRect cardRect() const { return cardRect(rect()); }
     [[nodiscard]] static QRect cardRect(const QRect &widget);
-    /// Paints a card with its shadow into a widget's area; for widgets of other classes that look like one.
+    /// Paints a card with its shadow into a widget's area; for other widgets that look like a card.
     static void paintCard(QPainter &painter, const QRect &widget, Elevation elevation, const QColor &fill);
 
 protected:

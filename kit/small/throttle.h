@@ -15,9 +15,10 @@ public:
 
     [[nodiscard]] bool isPending() const { return m_timer.isActive(); }
     [[nodiscard]] int interval() const { return m_interval; }
-    /// From the next request on; one that is pending keeps its time.
+    /// Applies from the next request on; a pending one keeps its time.
     void setInterval(int milliseconds);
 
+    /// Has due() emitted at the end of the interval, unless that is about to happen anyway.
     void request()
     {
         if (!m_timer.isActive())
@@ -29,6 +30,7 @@ public:
     void flush();
 
 signals:
+    /// There was at least one request.
     void due();
 
 private:

@@ -15,7 +15,7 @@ class QIODevice;
 /// What could not be taken over from a logger file.
 struct BlackBoxLosses
 {
-    int skippedLines = 0; ///< broken, overlong, or for a sensor that there is not
+    int skippedLines = 0; ///< broken, overlong, or for a sensor that does not exist
     int badValues = 0;    ///< no finite number; taken as 0
 };
 
@@ -28,7 +28,7 @@ struct BlackBoxDocument
     BlackBoxLosses losses;
 
     [[nodiscard]] int sampleCount() const { return samples[0].size(); }
-    /// False for a file without a time and without a sample: it tells of no shot.
+    /// False for a file without a time and without a sample: there was no shot.
     [[nodiscard]] bool hasMeasurement() const { return timestamp || sampleCount() > 0; }
 };
 
@@ -39,5 +39,5 @@ struct BlackBoxDocument
                                             const std::function<void(qint64 bytes)> &progress,
                                             qint64 maxBytes = std::numeric_limits<qint64>::max());
 
-/// The same for copies of a logger file, different for any two shots. Empty if it is no regular file or unreadable.
+/// Equal for copies of a logger file, different for any two shots. Empty if it is no regular file or unreadable.
 [[nodiscard]] QByteArray blackBoxFingerprint(const QString &fileName);

@@ -33,12 +33,13 @@ bool BlackBoxImport::add(const QString &fileName, const char *function)
         return false;
     apply(*document, function);
     m_files.add(QFileInfo(fileName).absoluteFilePath());
+    // Also without a new shot, as the description of the sensors may have changed.
     m_changes.project(function);
     m_changes.data(function);
     return true;
 }
 
-// Nothing if the file could not be read to its end: half a shot would pass for a whole one.
+// Nothing if the file could not be read to its end: half a shot would look like a whole one.
 std::optional<BlackBoxDocument> BlackBoxImport::read(QFile &file)
 {
     const auto task = [&]() -> std::optional<BlackBoxDocument> {

@@ -1,5 +1,7 @@
-#include "model/arrayindex.h"
 #include "model/blackbox/blackboxfile.h"
+
+#include "model/arrayindex.h"
+#include "model/blackbox/linesource.h"
 #include "model/logging.h"
 #include "model/project/samplecollector.h"
 
@@ -12,13 +14,12 @@
 
 namespace {
 
-constexpr int kMaxLine = 4096;          // bytes; what is longer is no line of the box
 constexpr int kMostComplaints = 100;    // so that a broken file does not flood the log
 constexpr int kMostSensorLines = 10000; // likewise; the box writes some thirty
 constexpr char kByteOrderMark[] = "\xEF\xBB\xBF";
 const QByteArray kSensorKey = QByteArrayLiteral("group0/sensor");
 
-/// UTF-8 if it is that, else taken byte by byte.
+/// Decodes UTF-8; anything else is taken byte by byte.
 QString toText(const QByteArray &bytes)
 {
     QTextCodec::ConverterState state;
@@ -38,47 +39,7 @@ std::optional<int> toInteger(const QByteArray &text)
     return ok ? std::optional<int>(number) : std::nullopt;
 }
 
-/// The lines of a device, without their ends. Never holds more than kMaxLine bytes of one.
-class LineSource
-{
-public:
-    LineSource(QIODevice &source, qint64 maxBytes)
-        : m_source(source)
-        , m_maxBytes(maxBytes)
-    {}
-
-    enum class Part { Line, Overlong, Rest, End };
-
-    /// Reads a line, or so much of an overlong one as the buffer holds: then come its rests.
-    [[nodiscard]] Part next()
-    {
-        const bool continues = m_open;
-        const qint64 size = m_bytesRead < m_maxBytes ? m_source.readLine(m_buffer.data(), kMaxLine + 1) : 0;
-        if (size <= 0)
-            return Part::End;
-        m_bytesRead += size;
-        m_size = static_cast<int>(size);
-        m_open = m_size == kMaxLine && m_buffer[kMaxLine - 1] != '\n';
-        while (m_size > 0 && (m_buffer[at(m_size - 1)] == '\n' || m_buffer[at(m_size - 1)] == '\r'))
-            --m_size;
-        if (continues)
-            return Part::Rest;
-        return m_open ? Part::Overlong : Part::Line;
-    }
-
-    /// Valid until the next call of next().
-    [[nodiscard]] QByteArray line() const { return QByteArray::fromRawData(m_buffer.data(), m_size); }
-    [[nodiscard]] qint64 bytesRead() const { return m_bytesRead; }
-
-private:
-    QIODevice &m_source;
-    qint64 m_maxBytes;
-    qint64 m_bytesRead = 0;
-    std::array<char, kMaxLine + 1> m_buffer; // and a terminator
-    int m_size = 0;
-    bool m_open = false; ///< the last line goes on behind the buffer
-};
-
+/// Interprets the lines of one file.
 class Reader
 {
 public:
@@ -124,6 +85,7 @@ void Reader::take(QByteArray line)
 
 bool Reader::takeMarker(const QByteArray &line)
 {
+    // Almost every line is a sample; most of those need no further look.
     if (!line.contains('['))
         return false;
     if (line.contains("[device]"))
@@ -155,7 +117,7 @@ double Reader::toNumber(const QByteArray &text)
 
 // --- Section "sensors" -----------------------------------------------------------------------------------------
 
-// A key that is not known may come from a newer box and is no loss.
+// An unknown key may come from a newer box and is not counted as a loss.
 void Reader::takeSensorLine(const QByteArray &line)
 {
     if (!line.contains('=') || ++m_sensorLines > kMostSensorLines) {
@@ -254,6 +216,7 @@ void Reader::takeDataLine(const QByteArray &line)
 
 void Reader::takeSample(const QByteArray &line)
 {
+    // Without both brackets the values are separated by blanks.
     const bool bracketed = line.startsWith("A=[") && line.contains(']');
     QByteArray list = line.mid(bracketed ? 3 : 2);
     list.replace(']', "");

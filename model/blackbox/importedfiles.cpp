@@ -17,7 +17,7 @@ void ImportedFiles::add(const QString &absolutePath)
     remember(absolutePath);
 }
 
-// A file that is gone has no fingerprint. An empty one in the set would stand for every unreadable file.
+// A file that is gone has no fingerprint. An empty one in the set would match every unreadable file.
 void ImportedFiles::remember(const QString &file)
 {
     const QByteArray fingerprint = blackBoxFingerprint(file);

@@ -4,14 +4,13 @@
 #include <QSet>
 #include <QStringList>
 
-/// The logger files that were imported, and their fingerprints, which tell them from others that came to the same place
-/// later.
+/// The logger files that were imported, and their fingerprints, which tell them from later files of the same name.
 class ImportedFiles
 {
 public:
     [[nodiscard]] QStringList files() const { return m_files; }
     void setFiles(const QStringList &files);
-    /// A file that is on the list already stays where it is on it.
+    /// A file that is already on the list keeps its place.
     void add(const QString &absolutePath);
     [[nodiscard]] QSet<QByteArray> fingerprints() const { return m_fingerprints; }
 

@@ -8,7 +8,7 @@
 
 namespace {
 
-// Between these the standard library's notation without an exponent is the one to write.
+// Between these the standard library writes the shortest number without an exponent, as QJsonDocument does.
 constexpr double kLeastPlain = 0.001;
 constexpr double kMostPlain = 9007199254740992.0; // 2^53: above it, it shows digits that are not the shortest
 
@@ -75,11 +75,11 @@ char *writeExponential(char *out, const Digits &digits)
     *out++ = exponent < 0 ? '-' : '+';
     const int size = std::abs(exponent);
     if (size < 10)
-        *out++ = '0'; // an exponent has two digits at least
+        *out++ = '0'; // an exponent has at least two digits
     return std::to_chars(out, out + 4, size).ptr;
 }
 
-// Whether the form with an exponent is the one to take for a number that is not a moderate integer.
+// Whether QJsonDocument would write a number with an exponent; moderate integers never have one.
 bool wantsExponent(const Digits &digits)
 {
     return digits.point <= -4 || digits.point > digits.count + 5;

@@ -70,6 +70,7 @@ PlainNumber readPlainNumber(const char *pos, const char *end)
 
 } // namespace
 
+// The first refill happens here, as a byte order mark is no part of the text.
 JsonReader::JsonReader(QIODevice &source, const std::function<void(qint64 bytes)> &refilled)
     : m_source(source)
     , m_refilled(refilled)
@@ -307,7 +308,7 @@ bool JsonReader::readString(bool keep)
 bool JsonReader::keepText(const char *begin, const char *end, bool keep)
 {
     if (!keep)
-        return true;
+        return true; // a skipped string may be larger than the memory
     const auto size = static_cast<int>(end - begin);
     if (m_text.size() > kLongestString - size)
         return false;

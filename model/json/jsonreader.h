@@ -71,8 +71,8 @@ private:
     const char *m_pos = nullptr;
     const char *m_end = nullptr;
     qint64 m_bytesRead = 0;
-    std::vector<bool> m_inObject; // one entry a level
-    QByteArray m_text;            // as it stands in the file
+    std::vector<bool> m_inObject; // one entry per level
+    QByteArray m_text;            // as the file has it, with its escapes
     double m_number = 0.0;
     Expected m_expected = Expected::Value;
     bool m_atEnd = false;

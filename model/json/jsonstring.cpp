@@ -38,6 +38,7 @@ QString unescapedJson(const QByteArray &escaped)
         text += QString::fromUtf8(escaped.constData() + from, mark - from);
         const char c = escaped.at(mark + 1);
         const int unit = c == 'u' ? codeUnit(escaped, mark + 2) : -1;
+        // A backslash before a character of several bytes is dropped; the bytes stay together.
         const bool isAscii = static_cast<unsigned char>(c) < 0x80;
         if (isAscii)
             text += unit >= 0 ? QChar(static_cast<ushort>(unit)) : unescaped(c);

@@ -3,5 +3,5 @@
 #include <QByteArray>
 #include <QString>
 
-/// The text that a JSON string means; `escaped` is what stands between its quotation marks.
+/// The text of a JSON string; `escaped` is what the file has between the quotation marks.
 [[nodiscard]] QString unescapedJson(const QByteArray &escaped);

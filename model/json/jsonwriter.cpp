@@ -12,6 +12,7 @@ namespace {
 
 constexpr int kIndent = 4;
 
+// Qt escapes a string only as part of a document.
 QByteArray quoted(const QString &text)
 {
     const QByteArray array = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
@@ -72,6 +73,7 @@ void JsonWriter::value(bool truth)
 
 void JsonWriter::values(const double *numbers, int count)
 {
+    // Written in place, without append(): a save spends most of its time here.
     const int longest = m_lineStart.size() + 1 + kMaxNumberLength;
     for (const double *number = numbers; number != numbers + count; ++number) {
         if (kBufferSize - m_used < longest)

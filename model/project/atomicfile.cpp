@@ -13,8 +13,8 @@
 
 namespace {
 
-/// Brings what is written to the disk bit by bit. At the end, all at once, that would take so long that the window
-/// would stand still.
+/// Brings what is written to the disk bit by bit. All at once at the end would take so long that the window would
+/// freeze.
 class SteadyFile : public QSaveFile
 {
 public:
@@ -47,7 +47,7 @@ private:
 };
 
 /// Holds on to a file that is about to be replaced. Freeing a large one takes the system so long that the window would
-/// stand still; so its space is given back bit by bit.
+/// freeze; so its space is given back bit by bit.
 class ReplacedFile
 {
 public:
@@ -76,7 +76,7 @@ public:
 private:
     static constexpr off_t kStep = off_t(4) * 1024 * 1024;
 
-    /// Neither has it another name, nor is it open anywhere else: a lease would be refused then.
+    /// True if the file has no other name and is not open anywhere else, in which case a lease would be refused.
     [[nodiscard]] bool isOnlyHere(const struct stat &file) const
     {
         return S_ISREG(file.st_mode) && file.st_nlink == 0 && ::fcntl(m_handle, F_SETLEASE, F_WRLCK) == 0

@@ -32,6 +32,7 @@ public:
         for (int i = 0; i < run.count() && !m_failed; ++i) {
             if (i > 0)
                 m_buffer[m_used++] = ';';
+            // data() for each sample: events that the pacer lets in may move the list.
             char *end = writeGermanNumber(m_buffer.data() + m_used, run.data()[i]);
             m_used = static_cast<std::size_t>(end - m_buffer.data());
             flushIfFull();

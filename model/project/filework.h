@@ -14,7 +14,7 @@ public:
 
     FileWork() { setYield({}); }
 
-    /// An empty one stands for QCoreApplication::processEvents().
+    /// An empty function means QCoreApplication::processEvents().
     void setYield(const Yield &yield);
     [[nodiscard]] const Yield &yield() const { return m_yield; }
     [[nodiscard]] bool isBusy() const { return m_busy; }

@@ -64,7 +64,7 @@ Rounded roundToDigits(double value)
         scaled = shifted(value, kDigits - 1 - ++exponent);
     auto digits = static_cast<std::uint32_t>(scaled);
     const double rest = scaled - digits;
-    digits += static_cast<std::uint32_t>(rest > 0.5); // as a sum: a branch would be foretold wrong half of the time
+    digits += static_cast<std::uint32_t>(rest > 0.5); // no branch: it would be mispredicted half of the time
     if (rest == 0.5 && reaches(value, kDigits - 1 - exponent, scaled))
         ++digits;
     if (digits < kEnd)

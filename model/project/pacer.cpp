@@ -22,5 +22,5 @@ void Pacer::look()
     if (m_sinceTurn.elapsed() < kMillisecondsPerTurn)
         return;
     m_yield(static_cast<int>(std::clamp<qint64>(m_done * 100 / m_total, 0, 100)));
-    m_sinceTurn.start();
+    m_sinceTurn.start(); // after the turn, which may have taken longer than the work
 }

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-/// Lets a long loop give the window a turn: by elapsed time, so that neither short steps nor long ones matter.
+/// Lets a long loop give the window a turn after a certain time, however long the steps of the loop are.
 class Pacer
 {
 public:

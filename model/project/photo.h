@@ -4,7 +4,7 @@
 #include <QString>
 #include <QStringList>
 
-/// Why no picture came of a file.
+/// Why a file gave no picture.
 enum class PhotoFault { None, Unreadable, NoPicture, TooLarge };
 
 struct Photo
@@ -13,12 +13,12 @@ struct Photo
     PhotoFault fault = PhotoFault::None;
 };
 
-/// The longest edge of a picture in a project, in pixels. It is to be looked at, and saved with every save.
+/// The longest edge of a picture in a project, in pixels. Enough to look at, and small enough to be saved every time.
 constexpr int kLongestPhotoEdge = 1600;
-/// A file of more pixels is refused before it is decoded: a small file can stand for gigabytes.
+/// A file of more pixels is refused before it is decoded: a small file may decode to gigabytes.
 constexpr qint64 kMostPhotoPixels = 125000000;
 
-/// Suffixes of the formats that are read, in lower case without the point.
+/// Suffixes of the formats that are read, in lower case, without the dot.
 [[nodiscard]] QStringList photoSuffixes();
 /// A picture from a regular file, upright as the camera was held, its longest edge at most kLongestPhotoEdge.
 [[nodiscard]] Photo readPhoto(const QString &fileName);

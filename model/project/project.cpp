@@ -63,6 +63,7 @@ bool Project::retranslatePhaseNames(const PhaseNames &defaults)
     bool changed = false;
     for (std::size_t phase = 0; phase < before.size(); ++phase) {
         QString &name = settings.phaseNames[phase];
+        // A name that the user chose is no longer the default one and stays.
         if (name == before[phase])
             changed = std::exchange(name, defaults[phase]) != defaults[phase] || changed;
     }

@@ -14,7 +14,7 @@
 /// The oscilloscope's view in a project file.
 struct ProjectViewData
 {
-    /// What stands under its key: nothing, no object, an object without members, or one with some.
+    /// What the file has under the key: nothing, no object, an object without members, or one with members.
     enum class Kind { Missing, NoObject, Empty, Given };
 
     Kind kind = Kind::Missing; ///< only Given is written
@@ -53,6 +53,6 @@ struct ProjectDocument
     std::optional<QVector<double>> sensorMinimum;
     std::optional<QVector<double>> sensorMaximum;
 
-    /// The work that writing the samples is; an empty measurement counts as well.
+    /// The work of writing the samples, in samples; each measurement counts as one more.
     [[nodiscard]] qint64 sampleCount() const;
 };

@@ -7,8 +7,8 @@
 
 namespace {
 
-// Stands for the fastest compression: of photos, the best one makes files little smaller, but takes several times as
-// long, while the window stands still.
+// Selects the fastest compression. The best one makes photos only a little smaller, but takes several times as long,
+// and the window is frozen meanwhile.
 constexpr int kFastPng = 80;
 
 } // namespace

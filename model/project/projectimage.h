@@ -6,7 +6,7 @@
 /// The image as PNG; empty for a null image.
 [[nodiscard]] QByteArray toPng(const QPixmap &image);
 
-/// Remembers a picture's PNG as long as the picture stays the same: making it takes a good part of a second.
+/// Remembers the PNG of a picture until the picture changes, as encoding it takes a good part of a second.
 class EncodedImage
 {
 public:
@@ -15,9 +15,9 @@ public:
     void remember(const QPixmap &image, QByteArray png);
 
 private:
-    qint64 m_key = 0; ///< of the picture; that of a null one is 0
+    qint64 m_key = 0; ///< QPixmap::cacheKey() of the picture; 0 for a null one
     QByteArray m_png;
 };
 
-/// A null image for what is no PNG and for one of more than 100 million pixels: a small file can stand for gigabytes.
+/// A null image for what is no PNG and for one of more than 100 million pixels: a small file may decode to gigabytes.
 [[nodiscard]] QPixmap fromPng(QByteArray png);

@@ -103,6 +103,7 @@ void readShots(ProjectMeta &meta, const QJsonArray &shots, const ShotChecks &che
     meta.timestamps.resize(count);
     for (std::size_t i = 0; i < count; ++i) {
         const QJsonObject shot = shots.at(static_cast<int>(i)).toObject();
+        // Another check number: the project was changed without this file, and the label belongs to another shot.
         if (shot.value(kCheckKey).toDouble(-1.0) != double(checks[i]))
             continue;
         meta.labels[i] = shot.value(kLabelKey).toString().left(ProjectMeta::kLongestLabel);

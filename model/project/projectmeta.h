@@ -41,7 +41,7 @@ struct ProjectMeta
     static constexpr int kLongestLabel = 200; ///< characters
 
     std::array<SensorMeta, kNumSensors> sensors;
-    std::vector<QString> labels;       ///< one a shot, from the first on; may be shorter than the list of shots
+    std::vector<QString> labels;       ///< one per shot, from the first on; may be shorter than the list of shots
     std::vector<QDateTime> timestamps; ///< the same; a null date-time for a shot without one
 
     /// True if there is nothing that a file would have to keep.
@@ -64,10 +64,10 @@ struct ProjectMeta
 [[nodiscard]] bool operator==(const SensorMeta &a, const SensorMeta &b);
 [[nodiscard]] bool operator==(const ProjectMeta &a, const ProjectMeta &b);
 
-/// One number a shot that tells whether it is still the shot that a label and a time stamp were written for.
+/// One number per shot, which tells whether it is still the shot that a label and a time stamp were written for.
 using ShotChecks = std::vector<quint32>;
 
-/// The name of the file that goes with a project file.
+/// The name of the file beside a project file.
 [[nodiscard]] QString metaFileName(const QString &projectFile);
 
 /// Writes the settings as JSON text: per shot its check, label and time stamp. False if the device takes less than it

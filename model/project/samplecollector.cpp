@@ -10,7 +10,7 @@
 
 namespace {
 
-// The allocator would keep freed blocks for itself, and the samples would be held twice after all.
+// Otherwise the allocator would keep the freed blocks, and the samples would take up twice their memory after all.
 void returnFreedMemory()
 {
 #ifdef __GLIBC__

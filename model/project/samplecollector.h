@@ -6,7 +6,7 @@
 #include <memory>
 #include <vector>
 
-/// Collects samples whose number is not known before, and makes a list of exactly that size of them without ever
+/// Collects samples whose number is not known in advance, and turns them into a list of exactly that size without ever
 /// holding them twice.
 class SampleCollector
 {

@@ -11,7 +11,7 @@
 class SampleRun
 {
 public:
-    /// Does not own the list, which must keep its address and at least so many samples.
+    /// Does not own the list, which must keep its address and must not become shorter.
     SampleRun(const SampleList *samples, int count)
         : m_samples(samples)
         , m_count(count)

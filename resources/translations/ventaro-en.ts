@@ -732,6 +732,61 @@ Continue?</translation>
     </message>
 </context>
 <context>
+    <name>DaysPanel</name>
+    <message>
+        <source>Tage auf der Box: %1</source>
+        <translation>Days on the box: %1</translation>
+    </message>
+    <message>
+        <source>Tage auf der Box</source>
+        <translation>Days on the box</translation>
+    </message>
+    <message>
+        <source>&amp;Liste laden</source>
+        <translation>&amp;Load list</translation>
+    </message>
+    <message>
+        <source>Die Box nach den Tagen fragen, die sie aufgezeichnet hat</source>
+        <translation>Ask the box for the days it has logged</translation>
+    </message>
+    <message>
+        <source>&amp;Alle</source>
+        <translation>&amp;All</translation>
+    </message>
+    <message>
+        <source>Alle Tage auswählen</source>
+        <translation>Select all days</translation>
+    </message>
+    <message>
+        <source>&amp;Keine</source>
+        <translation>&amp;None</translation>
+    </message>
+    <message>
+        <source>Keinen Tag auswählen</source>
+        <translation>Select no day</translation>
+    </message>
+    <message>
+        <source>&amp;Nur neue</source>
+        <translation>N&amp;ew only</translation>
+    </message>
+    <message>
+        <source>Die Tage auswählen, von denen noch nichts geladen ist</source>
+        <translation>Select the days of which nothing has been copied yet</translation>
+    </message>
+    <message>
+        <source>&amp;Holen</source>
+        <translation>Cop&amp;y</translation>
+    </message>
+    <message>
+        <source>Die Dateien der ausgewählten Tage von der Box kopieren</source>
+        <translation>Copy the files of the selected days from the box</translation>
+    </message>
+    <message>
+        <source>Aufgezeichnete Tage</source>
+        <translation>Logged days</translation>
+    </message>
+</context>
+<context>
     <name>DialogPrompts</name>
     <message>
         <source>Speichern</source>
@@ -756,6 +811,13 @@ Continue?</translation>
     <message>
         <source>Abbrechen</source>
         <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>DistributionPanel</name>
+    <message>
+        <source>Normalverteilung</source>
+        <translation>Normal distribution</translation>
     </message>
 </context>
 <context>
@@ -838,6 +900,57 @@ Continue?</translation>
     <message>
         <source>Die CSV-Datei konnte nicht gespeichert werden!</source>
         <translation>The CSV file could not be saved!</translation>
+    </message>
+</context>
+<context>
+    <name>FilesPanel</name>
+    <message>
+        <source>&amp;Importieren (%1)</source>
+        <translation>&amp;Import (%1)</translation>
+    </message>
+    <message>
+        <source>&amp;Importieren</source>
+        <translation>&amp;Import</translation>
+    </message>
+    <message>
+        <source>Dateien</source>
+        <translation>Files</translation>
+    </message>
+    <message>
+        <source>Dateien vom %1</source>
+        <translation>Files from %1</translation>
+    </message>
+    <message>
+        <source>Lokale Dateien</source>
+        <translation>Local files</translation>
+    </message>
+    <message>
+        <source>&amp;Ordner öffnen...</source>
+        <translation>&amp;Open folder...</translation>
+    </message>
+    <message>
+        <source>Dateien der Box aus einem Ordner dieses Rechners nehmen</source>
+        <translation>Use files of the box from a folder on this computer</translation>
+    </message>
+    <message>
+        <source>Die ausgewählten Dateien als Messungen in das Projekt übernehmen</source>
+        <translation>Add the selected files to the project as measurements</translation>
+    </message>
+    <message>
+        <source>Dateien des Tages</source>
+        <translation>Files of the day</translation>
+    </message>
+    <message>
+        <source>Vorschau der Messung</source>
+        <translation>Preview of the measurement</translation>
+    </message>
+    <message>
+        <source>Datei in der Vorschau</source>
+        <translation>File in the preview</translation>
+    </message>
+    <message>
+        <source>Vorige und nächste Datei des Tages ansehen</source>
+        <translation>Look at the previous and the next file of the day</translation>
     </message>
 </context>
 <context>
@@ -950,6 +1063,53 @@ Continue?</translation>
     </message>
 </context>
 <context>
+    <name>LimitsPanel</name>
+    <message>
+        <source>Cp %1</source>
+        <translation>Cp %1</translation>
+    </message>
+    <message>
+        <source>Cpk %1</source>
+        <translation>Cpk %1</translation>
+    </message>
+    <message>
+        <source>Grenzen sind gleich!</source>
+        <translation>Limits are equal!</translation>
+    </message>
+    <message>
+        <source>Untere Grenze über oberer!</source>
+        <translation>Lower limit above upper!</translation>
+    </message>
+    <message>
+        <source>Keine Grenzen</source>
+        <translation>No limits</translation>
+    </message>
+    <message>
+        <source>Außerhalb: %1 von %2</source>
+        <translation>Outside: %1 of %2</translation>
+    </message>
+    <message>
+        <source>&amp;Untere Grenze</source>
+        <translation>&amp;Lower limit</translation>
+    </message>
+    <message>
+        <source>&amp;Obere Grenze</source>
+        <translation>&amp;Upper limit</translation>
+    </message>
+    <message>
+        <source>Mit der Standardabweichung der Grundgesamtheit (geteilt durch n)</source>
+        <translation>With the population standard deviation (divided by n)</translation>
+    </message>
+    <message>
+        <source>(Obere - untere Grenze) / 6 Sigma. %1</source>
+        <translation>(Upper - lower limit) / 6 sigma. %1</translation>
+    </message>
+    <message>
+        <source>Abstand des Mittelwerts von der näheren Grenze / 3 Sigma. %1</source>
+        <translation>Distance of the mean from the nearer limit / 3 sigma. %1</translation>
+    </message>
+</context>
+<context>
     <name>MainToolBar</name>
     <message>
         <source>Werkzeugleiste</source>
@@ -961,6 +1121,43 @@ Continue?</translation>
     <message>
         <source>Der Browser konnte nicht geöffnet werden.</source>
         <translation>The browser could not be opened.</translation>
+    </message>
+</context>
+<context>
+    <name>MarkerBar</name>
+    <message>
+        <source>absolut</source>
+        <translation>absolute</translation>
+    </message>
+    <message>
+        <source>Zeiten ab dem Beginn der Messung statt Abstände der Marker</source>
+        <translation>Times from the start of the measurement instead of distances between markers</translation>
+    </message>
+    <message>
+        <source>Alle Marker löschen</source>
+        <translation>Clear all markers</translation>
+    </message>
+    <message>
+        <source>t [s]=</source>
+        <translation>t [s]=</translation>
+    </message>
+    <message>
+        <source>Klicken und dann im Diagramm auf die gewünschte Stelle tippen.
+Esc bricht ab.</source>
+        <translation>Click, then tap the desired place in the plot.
+Esc cancels.</translation>
+    </message>
+    <message>
+        <source>Marker %1 setzen</source>
+        <translation>Set marker %1</translation>
+    </message>
+    <message>
+        <source>Zeit des Markers in Sekunden; ohne &quot;absolut&quot; der Abstand zum vorigen Marker</source>
+        <translation>Time of the marker in seconds; without &quot;absolute&quot; the distance from the previous marker</translation>
+    </message>
+    <message>
+        <source>Marker %1 in Sekunden</source>
+        <translation>Marker %1 in seconds</translation>
     </message>
 </context>
 <context>
@@ -1037,6 +1234,29 @@ Continue?</translation>
     </message>
 </context>
 <context>
+    <name>OsziHead</name>
+    <message>
+        <source>Gesperrt: Bereiche, Raster, Korrekturen, Marker und Messungen sind vor Änderungen geschützt. Klicken zum Entsperren.</source>
+        <translation>Locked: ranges, grids, offsets, markers and measurements are protected against changes. Click to unlock.</translation>
+    </message>
+    <message>
+        <source>Alles kann geändert werden. Klicken zum Sperren.</source>
+        <translation>Everything can be changed. Click to lock.</translation>
+    </message>
+    <message>
+        <source>Gesperrt</source>
+        <translation>Locked</translation>
+    </message>
+    <message>
+        <source>Offen</source>
+        <translation>Unlocked</translation>
+    </message>
+    <message>
+        <source>Diagramm dieses Sensors zeigen</source>
+        <translation>Show this sensor&apos;s plot</translation>
+    </message>
+</context>
+<context>
     <name>OsziRow</name>
     <message>
         <source>%1 [%2]</source>
@@ -1109,6 +1329,103 @@ arrows move, Home and End jump, F fits the value range to the curves,
 Ctrl with the left or right arrow shows the values (with Shift in steps of ten).
 Mouse: wheel time axis, Ctrl with wheel value axis, middle button or Shift moves,
 double-click fits the value range.</translation>
+    </message>
+</context>
+<context>
+    <name>OverlayOptions</name>
+    <message>
+        <source>Ausrichten</source>
+        <translation>Align</translation>
+    </message>
+    <message>
+        <source>Schwelle in der Einheit des Sensors</source>
+        <translation>Threshold in the sensor&apos;s unit</translation>
+    </message>
+    <message>
+        <source>&amp;Mittelwert</source>
+        <translation>&amp;Mean</translation>
+    </message>
+    <message>
+        <source>Mittelwert der gezeigten Kurven</source>
+        <translation>Mean of the curves shown</translation>
+    </message>
+    <message>
+        <source>&amp;Band ±</source>
+        <translation>&amp;Band ±</translation>
+    </message>
+    <message>
+        <source>Streuung der gezeigten Kurven um ihren Mittelwert</source>
+        <translation>Scatter of the curves shown around their mean</translation>
+    </message>
+    <message>
+        <source>Breite des Bandes in Sigma</source>
+        <translation>Width of the band in sigmas</translation>
+    </message>
+    <message>
+        <source>am Beginn</source>
+        <translation>at the start</translation>
+    </message>
+    <message>
+        <source>Null bei Marker %1</source>
+        <translation>Zero at marker %1</translation>
+    </message>
+    <message>
+        <source>Schwelle steigend</source>
+        <translation>Threshold rising</translation>
+    </message>
+    <message>
+        <source>Schwelle fallend</source>
+        <translation>Threshold falling</translation>
+    </message>
+    <message>
+        <source>Woran die Kurven übereinander liegen: an ihrem Beginn, mit ihren Werten bei einem Marker, oder wo sie zum ersten Mal eine Schwelle durchlaufen</source>
+        <translation>What the curves are aligned by: their start, their values at a marker, or where they first cross a threshold</translation>
+    </message>
+</context>
+<context>
+    <name>OverlayShotList</name>
+    <message>
+        <source>Noch keine Messungen</source>
+        <translation>No measurements yet</translation>
+    </message>
+    <message>
+        <source>%1 von %2 gezeigt</source>
+        <translation>%1 of %2 shown</translation>
+    </message>
+    <message>
+        <source>&amp;Referenz aufheben</source>
+        <translation>Clear &amp;reference</translation>
+    </message>
+    <message>
+        <source>Als &amp;Referenz</source>
+        <translation>As &amp;reference</translation>
+    </message>
+    <message>
+        <source>%1 ohne Durchgang</source>
+        <translation>%1 without crossing</translation>
+    </message>
+    <message>
+        <source>%1 leer</source>
+        <translation>%1 empty</translation>
+    </message>
+    <message>
+        <source>%1 zu kurz</source>
+        <translation>%1 too short</translation>
+    </message>
+    <message>
+        <source>&amp;Alle zeigen</source>
+        <translation>Show &amp;all</translation>
+    </message>
+    <message>
+        <source>&amp;Keine zeigen</source>
+        <translation>Show &amp;none</translation>
+    </message>
+</context>
+<context>
+    <name>OverlayTable</name>
+    <message>
+        <source>Schüsse der Überlagerung</source>
+        <translation>Shots of the overlay</translation>
     </message>
 </context>
 <context>
@@ -1332,6 +1649,25 @@ double-click fits the value range.</translation>
     </message>
 </context>
 <context>
+    <name>QuantityChoice</name>
+    <message>
+        <source>Größe</source>
+        <translation>Size</translation>
+    </message>
+    <message>
+        <source>Dargestellte Größe</source>
+        <translation>Displayed quantity</translation>
+    </message>
+    <message>
+        <source>&amp;Spalten...</source>
+        <translation>&amp;Columns...</translation>
+    </message>
+    <message>
+        <source>Größen der Tabelle wählen</source>
+        <translation>Choose the quantities of the table</translation>
+    </message>
+</context>
+<context>
     <name>QuantityPicker</name>
     <message>
         <source>Wert</source>
@@ -1448,6 +1784,28 @@ double-click fits the value range.</translation>
     </message>
 </context>
 <context>
+    <name>RuntimeBoxPlots</name>
+    <message>
+        <source>Start [s]</source>
+        <translation>Start [s]</translation>
+    </message>
+    <message>
+        <source>Dauer [s]</source>
+        <translation>Duration [s]</translation>
+    </message>
+    <message>
+        <source>Stop [s]</source>
+        <translation>Stop [s]</translation>
+    </message>
+</context>
+<context>
+    <name>RuntimeTable</name>
+    <message>
+        <source>Laufzeiten der Schüsse</source>
+        <translation>Run times of the shots</translation>
+    </message>
+</context>
+<context>
     <name>RuntimeTableModel</name>
     <message>
         <source>Sigma</source>
@@ -1484,6 +1842,21 @@ double-click fits the value range.</translation>
     <message>
         <source>Pause [s]</source>
         <translation>Pause [s]</translation>
+    </message>
+</context>
+<context>
+    <name>SamplingBox</name>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>Abtastrate</source>
+        <translation>Sampling period</translation>
+    </message>
+    <message>
+        <source>Zeit zwischen zwei Messwerten; wählbar, solange die Box verbunden ist</source>
+        <translation>Time between two samples; selectable while the box is connected</translation>
     </message>
 </context>
 <context>
@@ -1587,6 +1960,41 @@ double-click fits the value range.</translation>
     </message>
 </context>
 <context>
+    <name>SensorSide</name>
+    <message>
+        <source>Sensoren</source>
+        <translation>Sensors</translation>
+    </message>
+    <message>
+        <source>&amp;Bearbeiten...</source>
+        <translation>&amp;Edit...</translation>
+    </message>
+    <message>
+        <source>Name, Farbe und Grenzen des gewählten Sensors (Eingabetaste)</source>
+        <translation>Name, colour and limits of the selected sensor (Enter)</translation>
+    </message>
+    <message>
+        <source>&amp;Min/Max neu</source>
+        <translation>Reset &amp;min/max</translation>
+    </message>
+    <message>
+        <source>Minimum und Maximum aller Sensoren neu beginnen</source>
+        <translation>Reset minimum and maximum of all sensors</translation>
+    </message>
+    <message>
+        <source>Umbenennen (F2)</source>
+        <translation>Rename (F2)</translation>
+    </message>
+    <message>
+        <source>Bearbeiten...</source>
+        <translation>Edit...</translation>
+    </message>
+    <message>
+        <source>Minimum und Maximum neu beginnen</source>
+        <translation>Reset minimum and maximum</translation>
+    </message>
+</context>
+<context>
     <name>SensorTile</name>
     <message>
         <source>Linear</source>
@@ -1669,6 +2077,69 @@ Enter: edit</translation>
     </message>
 </context>
 <context>
+    <name>ShotBar</name>
+    <message>
+        <source>Dargestellt werden die Messungen 1 bis %1. Alle weiteren werden aufgezeichnet und gespeichert, aber nicht gezeichnet.</source>
+        <translation>Measurements 1 to %1 are displayed. All further ones are recorded and saved, but not drawn.</translation>
+    </message>
+    <message>
+        <source>Messungen (%1 gezeigt)</source>
+        <translation>Measurements (%1 shown)</translation>
+    </message>
+    <message>
+        <source>Messungen</source>
+        <translation>Measurements</translation>
+    </message>
+    <message>
+        <source>Angezeigt</source>
+        <translation>Displayed</translation>
+    </message>
+    <message>
+        <source>alle</source>
+        <translation>all</translation>
+    </message>
+    <message>
+        <source>Alle Messungen zeigen</source>
+        <translation>Show all measurements</translation>
+    </message>
+    <message>
+        <source>Nummern und Bereiche, durch Komma getrennt: 1-3,5 zeigt die Messungen 1, 2, 3 und 5.</source>
+        <translation>Numbers and ranges, separated by commas: 1-3,5 shows measurements 1, 2, 3 and 5.</translation>
+    </message>
+    <message>
+        <source>Angezeigte Messungen</source>
+        <translation>Displayed measurements</translation>
+    </message>
+    <message>
+        <source>Markiert</source>
+        <translation>Highlight</translation>
+    </message>
+    <message>
+        <source>Nummer der hervorgehobenen Messung; 0 hebt keine hervor</source>
+        <translation>Number of the highlighted measurement; 0 highlights none</translation>
+    </message>
+    <message>
+        <source>Markierte Messung</source>
+        <translation>Highlighted measurement</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Nummern und Bereiche in aufsteigender Folge, durch Komma getrennt: 1-3,5 löscht die Messungen 1, 2, 3 und 5.</source>
+        <translation>Numbers and ranges in ascending order, separated by commas: 1-3,5 deletes measurements 1, 2, 3 and 5.</translation>
+    </message>
+    <message>
+        <source>Zu löschende Messungen</source>
+        <translation>Measurements to delete</translation>
+    </message>
+    <message>
+        <source>Diese Messungen löschen</source>
+        <translation>Delete these measurements</translation>
+    </message>
+</context>
+<context>
     <name>ShotPreview</name>
     <message>
         <source>Die Datei kann nicht gelesen werden.</source>
@@ -1728,117 +2199,6 @@ Identification of this computer:
     </message>
 </context>
 <context>
-    <name>TabBlackBox</name>
-    <message>
-        <source>&amp;Importieren (%1)</source>
-        <translation>&amp;Import (%1)</translation>
-    </message>
-    <message>
-        <source>&amp;Importieren</source>
-        <translation>&amp;Import</translation>
-    </message>
-    <message>
-        <source>Tage auf der Box: %1</source>
-        <translation>Days on the box: %1</translation>
-    </message>
-    <message>
-        <source>Tage auf der Box</source>
-        <translation>Days on the box</translation>
-    </message>
-    <message>
-        <source>Dateien</source>
-        <translation>Files</translation>
-    </message>
-    <message>
-        <source>Dateien vom %1</source>
-        <translation>Files from %1</translation>
-    </message>
-    <message>
-        <source>Lokale Dateien</source>
-        <translation>Local files</translation>
-    </message>
-    <message>
-        <source>%1 von %2</source>
-        <translation>%1 of %2</translation>
-    </message>
-    <message>
-        <source>&amp;Liste laden</source>
-        <translation>&amp;Load list</translation>
-    </message>
-    <message>
-        <source>Die Box nach den Tagen fragen, die sie aufgezeichnet hat</source>
-        <translation>Ask the box for the days it has logged</translation>
-    </message>
-    <message>
-        <source>&amp;Alle</source>
-        <translation>&amp;All</translation>
-    </message>
-    <message>
-        <source>Alle Tage auswählen</source>
-        <translation>Select all days</translation>
-    </message>
-    <message>
-        <source>&amp;Keine</source>
-        <translation>&amp;None</translation>
-    </message>
-    <message>
-        <source>Keinen Tag auswählen</source>
-        <translation>Select no day</translation>
-    </message>
-    <message>
-        <source>&amp;Nur neue</source>
-        <translation>N&amp;ew only</translation>
-    </message>
-    <message>
-        <source>Die Tage auswählen, von denen noch nichts geladen ist</source>
-        <translation>Select the days of which nothing has been copied yet</translation>
-    </message>
-    <message>
-        <source>&amp;Holen</source>
-        <translation>Cop&amp;y</translation>
-    </message>
-    <message>
-        <source>Die Dateien der ausgewählten Tage von der Box kopieren</source>
-        <translation>Copy the files of the selected days from the box</translation>
-    </message>
-    <message>
-        <source>&amp;Ordner öffnen...</source>
-        <translation>&amp;Open folder...</translation>
-    </message>
-    <message>
-        <source>Dateien der Box aus einem Ordner dieses Rechners nehmen</source>
-        <translation>Use files of the box from a folder on this computer</translation>
-    </message>
-    <message>
-        <source>Die ausgewählten Dateien als Messungen in das Projekt übernehmen</source>
-        <translation>Add the selected files to the project as measurements</translation>
-    </message>
-    <message>
-        <source>Aufgezeichnete Tage</source>
-        <translation>Logged days</translation>
-    </message>
-    <message>
-        <source>Dateien des Tages</source>
-        <translation>Files of the day</translation>
-    </message>
-    <message>
-        <source>Vorschau der Messung</source>
-        <translation>Preview of the measurement</translation>
-    </message>
-    <message>
-        <source>Fortschritt der Übertragung</source>
-        <translation>Progress of the transfer</translation>
-    </message>
-    <message>
-        <source>Datei in der Vorschau</source>
-        <translation>File in the preview</translation>
-    </message>
-    <message>
-        <source>Vorige und nächste Datei des Tages ansehen</source>
-        <translation>Look at the previous and the next file of the day</translation>
-    </message>
-</context>
-<context>
     <name>TabDataLogger</name>
     <message>
         <source>&amp;Leeren</source>
@@ -1877,200 +2237,14 @@ Identification of this computer:
     </message>
 </context>
 <context>
-    <name>TabEvaluationOverlay</name>
-    <message>
-        <source>Noch keine Messungen</source>
-        <translation>No measurements yet</translation>
-    </message>
-    <message>
-        <source>%1 von %2 gezeigt</source>
-        <translation>%1 of %2 shown</translation>
-    </message>
-    <message>
-        <source>&amp;Referenz aufheben</source>
-        <translation>Clear &amp;reference</translation>
-    </message>
-    <message>
-        <source>Als &amp;Referenz</source>
-        <translation>As &amp;reference</translation>
-    </message>
-    <message>
-        <source>%1 ohne Durchgang</source>
-        <translation>%1 without crossing</translation>
-    </message>
-    <message>
-        <source>%1 leer</source>
-        <translation>%1 empty</translation>
-    </message>
-    <message>
-        <source>%1 zu kurz</source>
-        <translation>%1 too short</translation>
-    </message>
-    <message>
-        <source>Ausrichten</source>
-        <translation>Align</translation>
-    </message>
-    <message>
-        <source>Schwelle in der Einheit des Sensors</source>
-        <translation>Threshold in the sensor&apos;s unit</translation>
-    </message>
-    <message>
-        <source>&amp;Mittelwert</source>
-        <translation>&amp;Mean</translation>
-    </message>
-    <message>
-        <source>Mittelwert der gezeigten Kurven</source>
-        <translation>Mean of the curves shown</translation>
-    </message>
-    <message>
-        <source>&amp;Band ±</source>
-        <translation>&amp;Band ±</translation>
-    </message>
-    <message>
-        <source>Streuung der gezeigten Kurven um ihren Mittelwert</source>
-        <translation>Scatter of the curves shown around their mean</translation>
-    </message>
-    <message>
-        <source>&amp;Alle zeigen</source>
-        <translation>Show &amp;all</translation>
-    </message>
-    <message>
-        <source>&amp;Keine zeigen</source>
-        <translation>Show &amp;none</translation>
-    </message>
-    <message>
-        <source>Schüsse der Überlagerung</source>
-        <translation>Shots of the overlay</translation>
-    </message>
-    <message>
-        <source>am Beginn</source>
-        <translation>at the start</translation>
-    </message>
-    <message>
-        <source>Null bei Marker %1</source>
-        <translation>Zero at marker %1</translation>
-    </message>
-    <message>
-        <source>Schwelle steigend</source>
-        <translation>Threshold rising</translation>
-    </message>
-    <message>
-        <source>Schwelle fallend</source>
-        <translation>Threshold falling</translation>
-    </message>
-    <message>
-        <source>Woran die Kurven übereinander liegen: an ihrem Beginn, mit ihren Werten bei einem Marker, oder wo sie zum ersten Mal eine Schwelle durchlaufen</source>
-        <translation>What the curves are aligned by: their start, their values at a marker, or where they first cross a threshold</translation>
-    </message>
-    <message>
-        <source>Breite des Bandes in Sigma</source>
-        <translation>Width of the band in sigmas</translation>
-    </message>
-</context>
-<context>
-    <name>TabEvaluationRuntime</name>
-    <message>
-        <source>Startschwelle</source>
-        <translation>Start threshold</translation>
-    </message>
-    <message>
-        <source>Stoppschwelle</source>
-        <translation>Stop threshold</translation>
-    </message>
-    <message>
-        <source>Start [s]</source>
-        <translation>Start [s]</translation>
-    </message>
-    <message>
-        <source>Dauer [s]</source>
-        <translation>Duration [s]</translation>
-    </message>
-    <message>
-        <source>Stop [s]</source>
-        <translation>Stop [s]</translation>
-    </message>
-    <message>
-        <source>Laufzeiten der Schüsse</source>
-        <translation>Run times of the shots</translation>
-    </message>
-</context>
-<context>
     <name>TabEvaluationValues</name>
     <message>
         <source>%1 [%2]</source>
         <translation>%1 [%2]</translation>
     </message>
     <message>
-        <source>Cp %1</source>
-        <translation>Cp %1</translation>
-    </message>
-    <message>
-        <source>Cpk %1</source>
-        <translation>Cpk %1</translation>
-    </message>
-    <message>
-        <source>Grenzen sind gleich!</source>
-        <translation>Limits are equal!</translation>
-    </message>
-    <message>
-        <source>Untere Grenze über oberer!</source>
-        <translation>Lower limit above upper!</translation>
-    </message>
-    <message>
-        <source>Keine Grenzen</source>
-        <translation>No limits</translation>
-    </message>
-    <message>
-        <source>Außerhalb: %1 von %2</source>
-        <translation>Outside: %1 of %2</translation>
-    </message>
-    <message>
-        <source>Größe</source>
-        <translation>Quantity</translation>
-    </message>
-    <message>
-        <source>Dargestellte Größe</source>
-        <translation>Displayed quantity</translation>
-    </message>
-    <message>
-        <source>&amp;Spalten...</source>
-        <translation>&amp;Columns...</translation>
-    </message>
-    <message>
-        <source>Größen der Tabelle wählen</source>
-        <translation>Choose the quantities of the table</translation>
-    </message>
-    <message>
-        <source>&amp;Untere Grenze</source>
-        <translation>&amp;Lower limit</translation>
-    </message>
-    <message>
-        <source>&amp;Obere Grenze</source>
-        <translation>&amp;Upper limit</translation>
-    </message>
-    <message>
-        <source>Werte der Schüsse</source>
-        <translation>Values of the shots</translation>
-    </message>
-    <message>
         <source>Verlauf über die Schüsse</source>
         <translation>Trend over the shots</translation>
-    </message>
-    <message>
-        <source>Normalverteilung</source>
-        <translation>Normal distribution</translation>
-    </message>
-    <message>
-        <source>Mit der Standardabweichung der Grundgesamtheit (geteilt durch n)</source>
-        <translation>With the population standard deviation (divided by n)</translation>
-    </message>
-    <message>
-        <source>(Obere - untere Grenze) / 6 Sigma. %1</source>
-        <translation>(Upper - lower limit) / 6 sigma. %1</translation>
-    </message>
-    <message>
-        <source>Abstand des Mittelwerts von der näheren Grenze / 3 Sigma. %1</source>
-        <translation>Distance of the mean from the nearer limit / 3 sigma. %1</translation>
     </message>
 </context>
 <context>
@@ -2078,201 +2252,6 @@ Identification of this computer:
     <message>
         <source>Prozessüberwachung für Spritzgießwerkzeuge</source>
         <translation>Process monitoring for injection moulds</translation>
-    </message>
-</context>
-<context>
-    <name>TabOszilloscope</name>
-    <message>
-        <source>%1 ms</source>
-        <translation>%1 ms</translation>
-    </message>
-    <message>
-        <source>Dargestellt werden die Messungen 1 bis %1. Alle weiteren werden aufgezeichnet und gespeichert, aber nicht gezeichnet.</source>
-        <translation>Measurements 1 to %1 are displayed. All further ones are recorded and saved, but not drawn.</translation>
-    </message>
-    <message>
-        <source>Messungen (%1 gezeigt)</source>
-        <translation>Measurements (%1 shown)</translation>
-    </message>
-    <message>
-        <source>Messungen</source>
-        <translation>Measurements</translation>
-    </message>
-    <message>
-        <source>Gesperrt: Bereiche, Raster, Korrekturen, Marker und Messungen sind vor Änderungen geschützt. Klicken zum Entsperren.</source>
-        <translation>Locked: ranges, grids, offsets, markers and measurements are protected against changes. Click to unlock.</translation>
-    </message>
-    <message>
-        <source>Alles kann geändert werden. Klicken zum Sperren.</source>
-        <translation>Everything can be changed. Click to lock.</translation>
-    </message>
-    <message>
-        <source>Gesperrt</source>
-        <translation>Locked</translation>
-    </message>
-    <message>
-        <source>Offen</source>
-        <translation>Unlocked</translation>
-    </message>
-    <message>
-        <source>Diagramm dieses Sensors zeigen</source>
-        <translation>Show this sensor&apos;s plot</translation>
-    </message>
-    <message>
-        <source>Zoom</source>
-        <translation>Zoom</translation>
-    </message>
-    <message>
-        <source>Zeitachse dehnen (im Diagramm: Mausrad, + und -)</source>
-        <translation>Stretch the time axis (in the plot: mouse wheel, + and -)</translation>
-    </message>
-    <message>
-        <source>Zoom der Zeitachse</source>
-        <translation>Zoom of the time axis</translation>
-    </message>
-    <message>
-        <source>Zeitachse verschieben (im Diagramm: Pfeiltasten, Pos1 und Ende).
-Ganz rechts folgt die Ansicht den neuesten Werten.</source>
-        <translation>Move the time axis (in the plot: arrow keys, Home and End).
-At the far right the view follows the newest values.</translation>
-    </message>
-    <message>
-        <source>Zeitachse verschieben</source>
-        <translation>Move the time axis</translation>
-    </message>
-    <message>
-        <source>Raster</source>
-        <translation>Grid</translation>
-    </message>
-    <message>
-        <source>auto</source>
-        <translation>auto</translation>
-    </message>
-    <message>
-        <source>Abstand der senkrechten Rasterlinien automatisch wählen</source>
-        <translation>Choose the spacing of the vertical grid lines automatically</translation>
-    </message>
-    <message>
-        <source> ms</source>
-        <translation> ms</translation>
-    </message>
-    <message>
-        <source>Abstand der senkrechten Rasterlinien</source>
-        <translation>Spacing of the vertical grid lines</translation>
-    </message>
-    <message>
-        <source>Raster der Zeitachse</source>
-        <translation>Grid of the time axis</translation>
-    </message>
-    <message>
-        <source>y Korr.</source>
-        <translation>y corr.</translation>
-    </message>
-    <message>
-        <source>Jede Kurve so verschieben, dass sie zu dieser Zeit durch null geht</source>
-        <translation>Shift every curve so that it passes through zero at this time</translation>
-    </message>
-    <message>
-        <source>y Korrektur</source>
-        <translation>y correction</translation>
-    </message>
-    <message>
-        <source>Zeit, zu der jede Kurve durch null geht</source>
-        <translation>Time at which every curve passes through zero</translation>
-    </message>
-    <message>
-        <source>Zeit der y Korrektur</source>
-        <translation>Time of the y correction</translation>
-    </message>
-    <message>
-        <source>Abtastrate</source>
-        <translation>Sampling period</translation>
-    </message>
-    <message>
-        <source>Zeit zwischen zwei Messwerten; wählbar, solange die Box verbunden ist</source>
-        <translation>Time between two samples; selectable while the box is connected</translation>
-    </message>
-    <message>
-        <source>t [s]=</source>
-        <translation>t [s]=</translation>
-    </message>
-    <message>
-        <source>Klicken und dann im Diagramm auf die gewünschte Stelle tippen.
-Esc bricht ab.</source>
-        <translation>Click, then tap the desired place in the plot.
-Esc cancels.</translation>
-    </message>
-    <message>
-        <source>Marker %1 setzen</source>
-        <translation>Set marker %1</translation>
-    </message>
-    <message>
-        <source>Zeit des Markers in Sekunden; ohne &quot;absolut&quot; der Abstand zum vorigen Marker</source>
-        <translation>Time of the marker in seconds; without &quot;absolute&quot; the distance from the previous marker</translation>
-    </message>
-    <message>
-        <source>Marker %1 in Sekunden</source>
-        <translation>Marker %1 in seconds</translation>
-    </message>
-    <message>
-        <source>absolut</source>
-        <translation>absolute</translation>
-    </message>
-    <message>
-        <source>Zeiten ab dem Beginn der Messung statt Abstände der Marker</source>
-        <translation>Times from the start of the measurement instead of distances between markers</translation>
-    </message>
-    <message>
-        <source>Alle Marker löschen</source>
-        <translation>Clear all markers</translation>
-    </message>
-    <message>
-        <source>Angezeigt</source>
-        <translation>Displayed</translation>
-    </message>
-    <message>
-        <source>alle</source>
-        <translation>all</translation>
-    </message>
-    <message>
-        <source>Alle Messungen zeigen</source>
-        <translation>Show all measurements</translation>
-    </message>
-    <message>
-        <source>Nummern und Bereiche, durch Komma getrennt: 1-3,5 zeigt die Messungen 1, 2, 3 und 5.</source>
-        <translation>Numbers and ranges, separated by commas: 1-3,5 shows measurements 1, 2, 3 and 5.</translation>
-    </message>
-    <message>
-        <source>Angezeigte Messungen</source>
-        <translation>Displayed measurements</translation>
-    </message>
-    <message>
-        <source>Markiert</source>
-        <translation>Highlight</translation>
-    </message>
-    <message>
-        <source>Nummer der hervorgehobenen Messung; 0 hebt keine hervor</source>
-        <translation>Number of the highlighted measurement; 0 highlights none</translation>
-    </message>
-    <message>
-        <source>Markierte Messung</source>
-        <translation>Highlighted measurement</translation>
-    </message>
-    <message>
-        <source>Löschen</source>
-        <translation>Delete</translation>
-    </message>
-    <message>
-        <source>Nummern und Bereiche in aufsteigender Folge, durch Komma getrennt: 1-3,5 löscht die Messungen 1, 2, 3 und 5.</source>
-        <translation>Numbers and ranges in ascending order, separated by commas: 1-3,5 deletes measurements 1, 2, 3 and 5.</translation>
-    </message>
-    <message>
-        <source>Zu löschende Messungen</source>
-        <translation>Measurements to delete</translation>
-    </message>
-    <message>
-        <source>Diese Messungen löschen</source>
-        <translation>Delete these measurements</translation>
     </message>
 </context>
 <context>
@@ -2321,38 +2300,6 @@ Esc cancels.</translation>
 Links die Sensoren ankreuzen, die gezeigt werden sollen.</source>
         <translation>No sensor selected.
 Tick the sensors to be shown on the left.</translation>
-    </message>
-    <message>
-        <source>Sensoren</source>
-        <translation>Sensors</translation>
-    </message>
-    <message>
-        <source>&amp;Bearbeiten...</source>
-        <translation>&amp;Edit...</translation>
-    </message>
-    <message>
-        <source>Name, Farbe und Grenzen des gewählten Sensors (Eingabetaste)</source>
-        <translation>Name, colour and limits of the selected sensor (Enter)</translation>
-    </message>
-    <message>
-        <source>&amp;Min/Max neu</source>
-        <translation>Reset &amp;min/max</translation>
-    </message>
-    <message>
-        <source>Minimum und Maximum aller Sensoren neu beginnen</source>
-        <translation>Reset minimum and maximum of all sensors</translation>
-    </message>
-    <message>
-        <source>Umbenennen (F2)</source>
-        <translation>Rename (F2)</translation>
-    </message>
-    <message>
-        <source>Bearbeiten...</source>
-        <translation>Edit...</translation>
-    </message>
-    <message>
-        <source>Minimum und Maximum neu beginnen</source>
-        <translation>Reset minimum and maximum</translation>
     </message>
 </context>
 <context>
@@ -2409,6 +2356,77 @@ Arrow up and down: earlier lines</translation>
     <message>
         <source>Im &amp;Browser öffnen</source>
         <translation>Open in &amp;browser</translation>
+    </message>
+</context>
+<context>
+    <name>ThresholdFields</name>
+    <message>
+        <source>Startschwelle</source>
+        <translation>Start threshold</translation>
+    </message>
+    <message>
+        <source>Stoppschwelle</source>
+        <translation>Stop threshold</translation>
+    </message>
+</context>
+<context>
+    <name>TimeAxisBar</name>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Zeitachse dehnen (im Diagramm: Mausrad, + und -)</source>
+        <translation>Stretch the time axis (in the plot: mouse wheel, + and -)</translation>
+    </message>
+    <message>
+        <source>Zoom der Zeitachse</source>
+        <translation>Zoom of the time axis</translation>
+    </message>
+    <message>
+        <source>Zeitachse verschieben (im Diagramm: Pfeiltasten, Pos1 und Ende).
+Ganz rechts folgt die Ansicht den neuesten Werten.</source>
+        <translation>Move the time axis (in the plot: arrow keys, Home and End).
+At the far right the view follows the newest values.</translation>
+    </message>
+    <message>
+        <source>Zeitachse verschieben</source>
+        <translation>Move the time axis</translation>
+    </message>
+    <message>
+        <source>Raster</source>
+        <translation>Grid</translation>
+    </message>
+    <message>
+        <source>auto</source>
+        <translation>auto</translation>
+    </message>
+    <message>
+        <source>Abstand der senkrechten Rasterlinien automatisch wählen</source>
+        <translation>Choose the spacing of the vertical grid lines automatically</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>Abstand der senkrechten Rasterlinien</source>
+        <translation>Spacing of the vertical grid lines</translation>
+    </message>
+    <message>
+        <source>Raster der Zeitachse</source>
+        <translation>Grid of the time axis</translation>
+    </message>
+</context>
+<context>
+    <name>TransferBar</name>
+    <message>
+        <source>%1 von %2</source>
+        <translation>%1 of %2</translation>
+    </message>
+    <message>
+        <source>Fortschritt der Übertragung</source>
+        <translation>Progress of the transfer</translation>
     </message>
 </context>
 <context>
@@ -2491,6 +2509,13 @@ Arrow up and down: earlier lines</translation>
     <message>
         <source>Abbrechen</source>
         <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>ValuesTable</name>
+    <message>
+        <source>Werte der Schüsse</source>
+        <translation>Values of the shots</translation>
     </message>
 </context>
 <context>
@@ -2682,6 +2707,33 @@ Arrow up and down: earlier lines</translation>
     <message>
         <source>Aufzeichnung starten</source>
         <translation>Start recording</translation>
+    </message>
+</context>
+<context>
+    <name>YCorrectionBox</name>
+    <message>
+        <source>y Korr.</source>
+        <translation>y corr.</translation>
+    </message>
+    <message>
+        <source>Jede Kurve so verschieben, dass sie zu dieser Zeit durch null geht</source>
+        <translation>Shift every curve so that it passes through zero at this time</translation>
+    </message>
+    <message>
+        <source>y Korrektur</source>
+        <translation>y correction</translation>
+    </message>
+    <message>
+        <source> ms</source>
+        <translation> ms</translation>
+    </message>
+    <message>
+        <source>Zeit, zu der jede Kurve durch null geht</source>
+        <translation>Time at which every curve passes through zero</translation>
+    </message>
+    <message>
+        <source>Zeit der y Korrektur</source>
+        <translation>Time of the y correction</translation>
     </message>
 </context>
 </TS>

@@ -10,7 +10,7 @@
 #include <QCoreApplication>
 #include <QtTest>
 
-/// The real model, window and controller; dialogs answered from a script; no box unless a test brings one.
+/// The real model, window and controller; dialogs are answered from a script. There is no box unless a test adds one.
 struct Bench
 {
     explicit Bench(const ControllerOptions &options = {})

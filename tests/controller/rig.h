@@ -35,7 +35,7 @@ struct Rig
         return QTest::qWaitFor([this] { return bench.model.isConnected() && !isWaitingForDescriptions(); });
     }
 
-    /// At a period that keeps tests short.
+    /// Connects and chooses a period that keeps tests short.
     [[nodiscard]] bool connectQuickly()
     {
         if (!connectToBox())
@@ -58,7 +58,7 @@ struct Rig
         return QTest::qWaitFor([this] { return bench.controller.isRecordingRunning(); });
     }
 
-    /// Waits for so many samples, stops, and waits until the last one is there.
+    /// Waits for this number of samples, stops, and waits until the last one has arrived.
     [[nodiscard]] bool stopAfter(int samples)
     {
         const bool enough = QTest::qWaitFor([&] { return sent.size() >= samples; });

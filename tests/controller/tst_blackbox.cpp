@@ -16,7 +16,7 @@ struct Files
         QDir().mkpath(QFileInfo(file).path());
         return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() ? file.fileName() : QString();
     }
-    /// A shot whose samples all are the number.
+    /// A shot whose samples all have this value.
     [[nodiscard]] QString writeShot(int number, int samples = 3)
     {
         const QByteArray value = QByteArray::number(number);
@@ -119,7 +119,7 @@ private slots:
         QCOMPARE(bench.firstSamples(), (QVector<double>{7.0, 1.0, 2.0}));
     }
 
-    /// A run that the box starts while files are being read begins behind them.
+    /// A run that the box starts while files are being read comes after their shots.
     void linesWaitMeanwhile()
     {
         Files files;
@@ -171,7 +171,7 @@ private slots:
         bool turned = false;
         QTimer::singleShot(0, &bench.view, [&] { turned = shown.size() < names.size(); });
         import(bench, names);
-        QVERIFY(turned); // the event loop, before the end
+        QVERIFY(turned); // the event loop ran before the import was over
         QCOMPARE(shown.value(3), "3 von 300"_s);
         QVERIFY(progress->text().isEmpty());
         QCOMPARE(bench.shots(), 300);

@@ -60,9 +60,12 @@ private slots:
     {
         Bench bench;
         bench.recordShots(3);
+        bench.model.setProjectModifiedFlag(false);
         bench.prompts->answers = {QMessageBox::Yes};
+        QSignalSpy fileState(&bench.model, &Model::fileStateChanged);
         const LogCapture log;
         bench.controller.onTabOszi_deleteMeasurements("1,1-2-3,2"_s);
+        QCOMPARE(fileState.count(), 1); // the project is modified, and the window says so all the same
         QVERIFY(log.contains("numRemoved=1 (part=1"_s));
         QVERIFY(log.contains("syntax error in range!!  (range=1,2,3)"_s));
         QVERIFY(bench.model.signalsBlocked());
@@ -86,7 +89,7 @@ private slots:
         bench.say("0;4;4;4;4;4");
         QCOMPARE(bench.samples(0, 1), (QVector<double>{3, 4}));
         bench.controller.onTabOszi_deleteMeasurements("2"_s);
-        bench.say("0;5;5;5;5;5"); // the shot in progress is gone: the rest is a shot of its own
+        bench.say("0;5;5;5;5;5"); // the shot in progress is gone: the rest becomes a separate shot
         bench.say("0;6;6;6;6;6");
         QCOMPARE(bench.firstSamples(), (QVector<double>{2, 5}));
         QCOMPARE(bench.samples(0, 1), (QVector<double>{5, 6}));

@@ -47,7 +47,7 @@ private slots:
     void refusedThenAnotherAddress()
     {
         Rig rig;
-        rig.box.reboot(); // for a while nobody listens
+        rig.box.reboot(); // nobody listens for a while
         rig.bench.prompts->addresses = {"127.0.0.2"_s, QString()};
         emit rig.bench.view.connectDisconnect();
         QTRY_COMPARE(rig.bench.prompts->addressDialogs, 2);
@@ -124,7 +124,7 @@ private slots:
         BoxOptions mute;
         mute.silent = true; // a sample line behind it would end the line before a slow program has looked
         rig.box.setOptions(mute);
-        (void)rig.box.sendRaw(QByteArray(2 * 1024 * 1024, 'x')); // may be cut off by the program hanging up
+        (void)rig.box.sendRaw(QByteArray(2 * 1024 * 1024, 'x')); // may be cut off when the program drops the link
         QTRY_COMPARE(rig.bench.prompts->addressDialogs, 1);
         QVERIFY(!rig.bench.model.isConnected());
         QVERIFY(!rig.bench.controller.isRecordingRunning());
@@ -191,7 +191,7 @@ void TestDisturbances::loseLinkWhile(const QByteArray &state, Rig &rig)
         emit bench.view.quit();
 }
 
-/// The user was told once and the day goes on.
+/// The user was told once, and the program works with the next link.
 void TestDisturbances::expectRecovery(Rig &rig)
 {
     Bench &bench = rig.bench;

@@ -60,7 +60,7 @@ QByteArray encoded(QSize size, const char *format)
     return buffer.data();
 }
 
-/// Held upright by a camera that stores lines as they lie on its sensor.
+/// As a camera held upright stores a picture: unturned, with a mark that says so.
 QByteArray turned(QByteArray jpeg)
 {
     const QByteArray orientation = QByteArray::fromHex("ffe10022457869660000"
@@ -71,7 +71,7 @@ QByteArray turned(QByteArray jpeg)
     return jpeg.insert(2, orientation);
 }
 
-/// A picture of next to no bytes that says it is of so many pixels.
+/// A picture of a few bytes that claims to have this size.
 QByteArray swollen(quint32 width, quint32 height)
 {
     QByteArray png = encoded(QSize(1, 1), "PNG");

@@ -32,7 +32,7 @@ private slots:
         bench.say("run=1");
         QCOMPARE(bench.shots(), 1);
         bench.say("0;1;1;1;1;1");
-        bench.say("run=1"); // without a stop, but with data: a shot of its own
+        bench.say("run=1"); // without a stop, but with data: another shot
         QCOMPARE(bench.shots(), 2);
     }
 
@@ -49,7 +49,7 @@ private slots:
 
     void clockEcho_data()
     {
-        // clock: 40 before
+        // clock: 40 before; -1: unchanged
         columns<QByteArray, int>("line", "clock");
         row("plain", "t=250"_ba, 250);
         row("white space", "t= 5 "_ba, 5);

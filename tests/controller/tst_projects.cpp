@@ -207,7 +207,7 @@ private slots:
         bench.prompts->saveNames = {saveName};
         bool ranOn = false;
         QTimer::singleShot(0, &bench.view, [&] {
-            bench.view.close(); // is a wish to quit
+            bench.view.close(); // only asks to quit
             QTimer::singleShot(100, &bench.view, [&] {
                 ranOn = true;
                 QCoreApplication::quit();

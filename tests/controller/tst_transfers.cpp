@@ -103,7 +103,7 @@ private slots:
     void stopsWithoutAFolder()
     {
         Transfers transfers(kFetches);
-        writeFile(transfers.target(), {}); // in its way
+        writeFile(transfers.target(), {}); // a file where the folder belongs
         transfers.click("buttonFetch");
         QCOMPARE(transfers.titles(), QStringList("Problem"_s));
         QVERIFY(transfers.tool.arguments().isEmpty());

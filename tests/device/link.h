@@ -11,7 +11,7 @@
 #include <functional>
 #include <memory>
 
-// A connector, a server that it is connected to, and what the connector said.
+// A connector, a server that it is connected to, and what the connector reported.
 class Link
 {
 public:

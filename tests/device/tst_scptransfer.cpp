@@ -11,7 +11,7 @@ namespace {
 const QString kDay = "dir-20240305"_s;
 const QString kHost = "127.0.0.1"_s;
 
-/// A transfer with short waits and all that it told.
+/// A transfer with short waits, and everything that it reported.
 struct Rig
 {
     explicit Rig(const QByteArray &script)

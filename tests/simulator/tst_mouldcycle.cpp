@@ -1,4 +1,4 @@
-#include "device/protocol/messages.h"
+#include "device/protocol/descriptions.h"
 #include "simulator/boxtexts.h"
 #include "simulator/mouldcycle.h"
 #include "tests/support/literals.h"

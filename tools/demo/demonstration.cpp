@@ -93,7 +93,7 @@ void Demonstration::connectToBox()
 {
     m_dialogs.expect({QStringLiteral("project-received"), QStringLiteral("Ja")});
     trigger("actionConnect");
-    savePicture(&m_view, QStringLiteral("connecting")); // at once: on this machine it takes no time
+    savePicture(&m_view, QStringLiteral("connecting")); // at once: a local connection is established immediately
     waitFor([&] { return m_model.isConnected(); }, QStringLiteral("connection"));
     waitFor([&] { return !m_model.projectData().name.isEmpty(); }, QStringLiteral("project description"));
     check(m_model.sensorDescription().sensorGroup(0).numSensors() == kNumSensors, QStringLiteral("sensor description"));
@@ -133,7 +133,7 @@ void Demonstration::recordShots()
 void Demonstration::recordSlowShot()
 {
     BoxOptions options = m_box.options();
-    options.burst = options.burst / 2; // the rest comes in real time
+    options.burst = options.burst / 2; // the rest arrives in real time
     m_box.setOptions(options);
     trigger("actionStartRecording");
     waitFor([&] { return m_controller.isRecordingRunning() && samplesOfNewestShot() > options.burst + 20; },
@@ -199,7 +199,7 @@ void Demonstration::calibrate()
     trigger("actionCalibrate");
     check(m_model.offset(2) == -m_model.latestValue(0, 2), QStringLiteral("calibration"));
     for (int sensor = 0; sensor < kNumSensors; ++sensor)
-        m_model.setOffset(sensor, 0.0); // curves at their real height make the better pictures
+        m_model.setOffset(sensor, 0.0); // the pictures show the curves at their real height
 }
 
 void Demonstration::showTabs()

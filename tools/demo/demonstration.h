@@ -12,8 +12,8 @@
 
 #include <functional>
 
-/// A day with the program in half a minute: the real window with its real dialogs, driven through a simulated box,
-/// leaves pictures, a project and its exports in a folder and checks what it leaves.
+/// A typical day's work in half a minute: drives the real window and its real dialogs with a simulated box, leaves
+/// pictures, a project and its exports in a folder, and checks these files.
 class Demonstration : public QObject
 {
     Q_OBJECT
@@ -22,7 +22,7 @@ public:
     /// The box must be listening.
     Demonstration(BoxSimulator &box, const QDir &folder);
 
-    /// What went wrong, for a human; empty: nothing.
+    /// What went wrong, in words; empty if nothing did.
     [[nodiscard]] QStringList run();
 
 private:
@@ -60,5 +60,5 @@ private:
     int m_pictures = 0;
 };
 
-/// What differs between two projects, all samples compared bit for bit; empty: nothing.
+/// What differs between two projects, all samples compared bit by bit; empty if nothing does.
 [[nodiscard]] QString difference(const Model &a, const Model &b);

@@ -10,9 +10,8 @@
 class QFileDialog;
 class QWidget;
 
-/// Answers the program's real dialogs, one after the other, as a user with a list in hand would: takes a picture of
-/// each and presses the button, or types the file name, that the list says. A dialog that the list does not hold is
-/// closed and reported.
+/// Answers the program's real dialogs one after the other according to a list: takes a picture of each, then presses
+/// the button or types the file name from the list. A dialog that is not in the list is closed and reported.
 class DialogDriver : public QObject
 {
     Q_OBJECT
@@ -30,7 +29,7 @@ public:
     void expect(const Answer &answer) { m_answers.push_back(answer); }
     /// True if every expected dialog came and no other did.
     [[nodiscard]] bool isDone() const { return m_answers.empty() && m_surprises.isEmpty(); }
-    /// What went otherwise than expected.
+    /// What was not as expected.
     [[nodiscard]] QStringList surprises() const { return m_surprises; }
 
 signals:
@@ -46,5 +45,5 @@ private:
     std::deque<Answer> m_answers;
     QStringList m_surprises;
     QTimer m_timer;
-    QWidget *m_seen = nullptr; ///< compared only
+    QWidget *m_seen = nullptr; ///< only compared: the dialog may be deleted
 };

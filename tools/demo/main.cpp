@@ -12,7 +12,7 @@
 
 namespace {
 
-/// A message handler has no other way to its file.
+/// A message handler cannot be given its file in any other way.
 QFile &logFile()
 {
     static QFile file;
@@ -25,7 +25,8 @@ void writeLog(QtMsgType, const QMessageLogContext &context, const QString &text)
         logFile().write((QLatin1String(context.category) + QLatin1String(": ") + text + QLatin1Char('\n')).toUtf8());
 }
 
-/// Files of an earlier demonstration would be asked about before they are overwritten, and could pass for new ones.
+/// Removes the files of an earlier demonstration: the program would ask before overwriting them, and they could be
+/// mistaken for new ones.
 void removeEarlierRun(QDir folder)
 {
     const QStringList left = folder.entryList(
@@ -55,9 +56,9 @@ int demonstrate(const QDir &folder)
 
 int main(int argc, char **argv)
 {
-    const QTemporaryDir settings; // leaves the user's own alone
+    const QTemporaryDir settings; // not the user's own settings
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
-    // Off-screen displays claim 100 dots an inch, which would make every picture larger by a twenty-fourth.
+    // The offscreen platform reports 100 dots per inch, which would enlarge every picture by 4 %.
     if (!qEnvironmentVariableIsSet("QT_FONT_DPI"))
         qputenv("QT_FONT_DPI", "96");
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);

@@ -108,11 +108,11 @@ void GalleryPage::replaceByPicture(QWidget *sample)
 
 QPixmap GalleryPage::picture()
 {
-    resize(sizeHint()); // show() by itself keeps to a part of the screen
+    resize(sizeHint()); // show() alone would limit it to a part of the screen
     show();
     QApplication::setActiveWindow(this);
     wait(50);
-    resize(sizeHint()); // now that the sheet's smallest sizes are known
+    resize(sizeHint()); // again, now that the minimum sizes of the style sheet are known
     for (const Forced &forced : m_forced) {
         force(forced);
         if (forced.state == State::Focused) {

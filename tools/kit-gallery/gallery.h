@@ -12,20 +12,20 @@ class GalleryPage : public QWidget
     Q_OBJECT
 
 public:
-    /// How the last sample added is to look in a picture; in the window the user makes it look so.
+    /// The state in which the last sample is shown in a picture; in the window it depends on the user.
     enum class State { Normal, Hovered, Pressed, Focused };
 
-    /// The name is the class and, in lower case, the picture's file name.
+    /// The name is that of the class and, in lower case, of the picture file.
     explicit GalleryPage(const QString &name, QWidget *parent = nullptr);
 
     [[nodiscard]] QString name() const { return m_name; }
 
-    /// Begins a row.
+    /// Starts a row.
     void addRow(const QString &title);
-    /// Adds a sample to the last row; the page takes it over.
+    /// Adds a sample to the last row; the page owns it.
     void addSample(const QString &caption, QWidget *sample, State state = State::Normal);
 
-    /// The page with every sample in its state. Lets time pass, so that changes that take time are over.
+    /// The page with every sample in its state. Processes events until all animations are over.
     [[nodiscard]] QPixmap picture();
 
 private:
@@ -45,5 +45,5 @@ private:
     QList<Forced> m_forced;
 };
 
-/// All pages, without a parent; whoever asks owns them.
+/// All pages, without a parent; the caller owns them.
 [[nodiscard]] QList<GalleryPage *> createPages();

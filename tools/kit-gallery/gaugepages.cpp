@@ -10,6 +10,7 @@
 #include "kit/gauge/qclabelitem.h"
 #include "kit/gauge/qcneedleitem.h"
 #include "kit/gauge/qcscaleitem.h"
+#include "kit/gauge/qcsensorgauge.h"
 #include "kit/gauge/qcvaluesitem.h"
 #include "tools/kit-gallery/gallery.h"
 
@@ -17,7 +18,7 @@ namespace {
 
 constexpr int kSize = 210; // pixels
 
-/// What a part needs to have something to show.
+/// Gives a gauge the values that its parts need to have something to show.
 QcGaugeWidget *prepared(QcGaugeWidget *gauge, int size)
 {
     gauge->setFixedSize(size, size);
@@ -32,7 +33,7 @@ QcGaugeWidget *prepared(QcGaugeWidget *gauge, int size)
 
 QcGaugeWidget *createGauge(int size = kSize)
 {
-    return prepared(QcGaugeWidget::createSensorGauge(), size);
+    return prepared(qcgauge::createSensorGauge(), size);
 }
 
 QcGaugeWidget *createGauge(double value, int size = kSize)
@@ -49,7 +50,7 @@ QcGaugeWidget *createGauge(double value, double from, double to, int size)
     return gauge;
 }
 
-/// On a face with a scale, which the others refer to.
+/// A gauge with one part on a face with a scale, which all parts refer to.
 template <typename Item, typename... Arguments>
 void addPart(GalleryPage &page, const char *name, Arguments... arguments)
 {

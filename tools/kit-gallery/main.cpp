@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr int kBestCompression = 0; // of a PNG: least quality for least size, without loss
+constexpr int kBestCompression = 0; // of a PNG, which is lossless: 0 means the smallest file
 
 /// Renders each page into a PNG of its name. False if one could not be written.
 bool writePictures(const QDir &folder)
@@ -26,7 +26,7 @@ bool writePictures(const QDir &folder)
     for (GalleryPage *page : createPages()) {
         const std::unique_ptr<GalleryPage> owner(page);
         const QString file = folder.filePath(QStringLiteral("kit-%1.png").arg(page->name().toLower()));
-        // Without transparency it is smaller.
+        // Files without transparency are smaller.
         if (!page->picture().toImage().convertToFormat(QImage::Format_RGB888).save(file, "PNG", kBestCompression)) {
             std::fprintf(stderr, "cannot write %s\n", qPrintable(file));
             return false;
@@ -35,7 +35,7 @@ bool writePictures(const QDir &folder)
     return true;
 }
 
-/// The names of the pages beside the chosen one.
+/// A window with the list of the pages beside the chosen one.
 std::unique_ptr<QWidget> createWindow()
 {
     auto window = std::make_unique<QWidget>();

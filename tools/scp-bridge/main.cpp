@@ -28,7 +28,7 @@ int fail(const QString &text)
     return 1;
 }
 
-/// The arguments byte by byte. Those of the process are wiped, so that a list of processes does not show the password.
+/// The arguments byte by byte. The process's own copy is wiped, so that a list of processes does not show the password.
 QStringList takeArguments(int count, char **values)
 {
     QStringList arguments;
@@ -39,7 +39,7 @@ QStringList takeArguments(int count, char **values)
     return arguments;
 }
 
-/// 0 if the environment names something that is no port.
+/// 0 if the environment variable is not a port.
 int portFromEnvironment()
 {
     if (!qEnvironmentVariableIsSet("VENTARO_SCP_PORT"))

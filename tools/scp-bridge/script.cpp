@@ -9,7 +9,7 @@ namespace {
 
 constexpr int kConnectTimeout = 10;     // s
 constexpr int kAliveInterval = 5;       // s between questions to a silent server
-constexpr int kMaxUnansweredAlives = 2; // then the connection counts as lost
+constexpr int kMaxUnansweredAlives = 2; // after that the connection counts as lost
 
 QString unquoted(const QString &text)
 {
@@ -17,7 +17,7 @@ QString unquoted(const QString &text)
     return quoted ? text.mid(1, text.size() - 2) : text;
 }
 
-/// Splits at blanks outside of quotation marks, and takes those away.
+/// Splits at blanks outside of quotation marks, and removes the quotation marks.
 std::optional<QStringList> splitQuoted(const QString &text)
 {
     QStringList parts;
@@ -43,7 +43,7 @@ std::optional<QStringList> splitQuoted(const QString &text)
     return quoted ? std::nullopt : std::make_optional(parts);
 }
 
-/// The options at the front of the words are taken off.
+/// Removes the options at the beginning of the words.
 QStringList takeOptions(QStringList &words)
 {
     QStringList options;
@@ -85,7 +85,7 @@ QString moveFile(const QString &rest, TransferScript &script)
     return script.source.trimmed().isEmpty() || !hasTarget ? QStringLiteral("a file is missing") : QString();
 }
 
-/// A path as one word of a batch line that stands for nothing but itself.
+/// A path as one word of a batch line, without any special meaning.
 QString batchWord(const QString &path)
 {
     QString word = QStringLiteral("\"");
@@ -173,7 +173,7 @@ QString sftpBatch(const TransferScript &script)
 QStringList sftpArguments(const TransferScript &script, int port)
 {
     QStringList arguments{QStringLiteral("-F"), QStringLiteral("none"), QStringLiteral("-P"), QString::number(port)};
-    QStringList options{QStringLiteral("BatchMode=no"), // "-b" alone would forbid to ask for the password
+    QStringList options{QStringLiteral("BatchMode=no"), // "-b" alone would forbid asking for the password
                         QStringLiteral("ConnectTimeout=%1").arg(kConnectTimeout),
                         QStringLiteral("ServerAliveInterval=%1").arg(kAliveInterval),
                         QStringLiteral("ServerAliveCountMax=%1").arg(kMaxUnansweredAlives),

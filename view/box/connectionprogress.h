@@ -6,8 +6,8 @@ class QLabel;
 class QPushButton;
 class QShortcut;
 
-/// The panel shown while connecting: centred on its window, 100 pixels high, half the window's width. A widget of
-/// the window, not a window, so that it stays centred and blocks nothing.
+/// The panel shown while connecting: centred on its window, 100 pixels high, half the window's width. A child of
+/// the window rather than a window, so that it stays centred and blocks nothing.
 class ConnectionProgress : public QFrame
 {
     Q_OBJECT

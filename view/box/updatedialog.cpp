@@ -101,7 +101,7 @@ void UpdateDialog::createWidgets()
 
 void UpdateDialog::layOut()
 {
-    // On the frame and not on the dialog, whose message boxes have a look of their own.
+    // On the frame, not on the dialog: message boxes that open over it would inherit the sheet.
     m_mainFrame->setStyleSheet(QStringLiteral("QFrame#mainFrame {background-color: %1; border: 3px solid %2;}"
                                               "QPushButton {font-size: 20px; min-height: 50px; min-width: 130px;}")
                                    .arg(theme::colorBackground, theme::colorPrimary));

@@ -10,10 +10,10 @@ class QLabel;
 class QLayout;
 class QPushButton;
 
-/// Picks a firmware archive, puts it onto the box and restarts the box. Modal; closed by the user only. What goes wrong
-/// stands in the two result labels: the upper one is for the upload, the lower one for the restart. Each step enables
-/// the next one. While the upload runs, "Abbrechen" ends it; while the dialog waits for a connection, it cannot be
-/// closed.
+/// Picks a firmware archive, puts it onto the box and restarts the box. Modal; closed by the user only. Failures
+/// are shown in the two result labels: the upper one is for the upload, the lower one for the restart. Each step
+/// enables the next one. While the upload runs, "Abbrechen" ends it; while the dialog waits for a connection, it cannot
+/// be closed.
 class UpdateDialog : public QDialog
 {
     Q_OBJECT

@@ -10,8 +10,8 @@ void commitInputOf(const QWidget *window)
         box->interpretText();
     if (!field || !field->hasFocus())
         return;
-    // Fields, and editors in tables, take over their text when they lose the focus. The latter are gone then, and the
-    // table is what the keys go on with.
+    // Fields, and editors in tables, take over their text when they lose the focus. An editor is
+    // destroyed by that; its table gets the focus then.
     const QPointer<QWidget> table = field->parentWidget();
     field->clearFocus();
     if (QWidget *next = field && field->isVisible() ? field.data() : table.data())

@@ -13,7 +13,7 @@ namespace tabstyle {
 [[nodiscard]] QString windowSheet();
 /// A framed text field in "Courier New".
 [[nodiscard]] QString fixedPitchSheet();
-/// Makes a label a heading: bold, primary colour, of so many pixels.
+/// Makes a label a heading: bold, primary colour, height in pixels.
 void makeHeading(QLabel *label, int pixels = 22);
 /// A hint in small grey type that wraps.
 void makeHint(QLabel *label);

@@ -25,7 +25,7 @@ public:
     [[nodiscard]] virtual QString openFolder(const QString &title, const QString &folder) = 0;
     /// The reconnect dialog; nothing if it was rejected. The answer looks like an IPv4 address or a host name.
     [[nodiscard]] virtual std::optional<QString> askAddress(const QString &current) = 0;
-    /// What askAddress() lets through; who has no use for it ignores it.
+    /// Decides which texts askAddress() accepts; an implementation may ignore it.
     // NOLINTNEXTLINE(performance-unnecessary-value-param): who has use for it keeps it
     virtual void setAddressValidator(std::function<bool(const QString &)> /*isValid*/) {}
 };

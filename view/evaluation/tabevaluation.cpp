@@ -132,6 +132,7 @@ void TabEvaluation::onModel_projectChanged()
 {
     for (int sensor = 0; sensor < kNumSensors; ++sensor) {
         const SensorMeta &meta = m_model->projectMeta().sensors[static_cast<std::size_t>(sensor)];
+        // Only if different: the page searches all shots again for new ones.
         if (meta.startThreshold != m_runtimePage->startThreshold(sensor)
             || meta.stopThreshold != m_runtimePage->stopThreshold(sensor))
             m_runtimePage->setThresholds(sensor, meta.startThreshold, meta.stopThreshold);

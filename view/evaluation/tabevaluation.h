@@ -14,7 +14,7 @@ class TabEvaluationRuntime;
 class TabEvaluationValues;
 
 /// The tab "Auswertung": a row of buttons and the page that the chosen one opens. The pages follow the model by
-/// themselves; the tab keeps the thresholds of the runtime page where the project keeps them.
+/// themselves; the tab copies the thresholds between the runtime page and the project.
 class TabEvaluation : public QWidget
 {
     Q_OBJECT
@@ -28,7 +28,7 @@ public:
     /// Not owned; nullptr changes nothing.
     void setModel(Model *model);
     [[nodiscard]] Page currentPage() const;
-    /// Nothing happens for a page that does not exist.
+    /// A page that does not exist is ignored.
     void showPage(Page page);
 
 protected:

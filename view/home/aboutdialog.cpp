@@ -119,7 +119,7 @@ QWidget *AboutDialog::createLicences()
     m_licence->setReadOnly(true);
     m_licence->setTabChangesFocus(true);
     m_licence->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    m_licence->setLineWrapMode(QPlainTextEdit::NoWrap); // the lines of the texts are broken by hand
+    m_licence->setLineWrapMode(QPlainTextEdit::NoWrap); // the texts contain their own line breaks
     m_licence->setStyleSheet(tabstyle::fixedPitchSheet() + QStringLiteral("QPlainTextEdit {font-size: 14px;}"));
     auto *grid = new QGridLayout(page);
     grid->setContentsMargins(0, 12, 0, 0);
@@ -226,7 +226,7 @@ void AboutDialog::retranslateUi()
     m_copy->setToolTip(tr("Kopiert die Versionen als Text für eine Anfrage beim Hersteller"));
     m_close->setText(tr("&Schließen"));
     showCopied(false);
-    m_copy->setMinimumWidth(m_copy->sizeHint().width()); // stays as wide while it tells of the copy
+    m_copy->setMinimumWidth(m_copy->sizeHint().width()); // keeps its width while it shows the shorter "copied"
     showVersions();
     showLicences();
 }

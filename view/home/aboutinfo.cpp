@@ -17,7 +17,7 @@ struct Texts
 
 QString boxVersion(const Model &model, const QString &version)
 {
-    // Without a hardware version the model's firmware version is only what it starts with.
+    // Without a hardware version no box was described yet: the firmware version is the model's initial value.
     if (model.hardwareVersion().isEmpty() || version.isEmpty())
         return model.isConnected() ? Texts::tr("unbekannt") : Texts::tr("nicht verbunden");
     return model.isConnected() ? version : Texts::tr("%1 (zuletzt bekannt, nicht verbunden)").arg(version);

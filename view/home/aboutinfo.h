@@ -5,7 +5,7 @@
 
 class Model;
 
-/// What a person who gives support has to know about a program and its box.
+/// One of the facts about program and box that support asks for.
 struct AboutFact
 {
     QString name;
@@ -16,7 +16,7 @@ struct AboutFact
 /// connected one, else the last that are known.
 [[nodiscard]] QVector<AboutFact> aboutFacts(const Model &model);
 
-/// The facts as plain text, one a line.
+/// The facts as plain text, one per line.
 [[nodiscard]] QString aboutText(const QVector<AboutFact> &facts);
 
 /// Something that the program is made of, and its licence.
@@ -24,7 +24,7 @@ struct AboutLicence
 {
     QString name;
     QString summary;
-    QString text; ///< whole
+    QString text; ///< in full
 };
 
 /// From the resources, in the language in use but for the texts of the licences.

@@ -116,13 +116,13 @@ void BoxStateCard::placeFacts(bool stacked)
     }
 }
 
-void BoxStateCard::showState(const Model &model, const BoxLink &link)
+void BoxStateCard::showState(const Model &model, const LinkState &link)
 {
     showLink(model.isConnected(), link);
     showFacts(factTexts(model, link));
 }
 
-void BoxStateCard::showLink(bool connected, const BoxLink &link)
+void BoxStateCard::showLink(bool connected, const LinkState &link)
 {
     QString text = tr("Nicht verbunden");
     QString color = theme::colorMedium;
@@ -167,7 +167,7 @@ BoxStateCard::Texts BoxStateCard::factNames()
 }
 
 /// An empty text leaves the fact out.
-BoxStateCard::Texts BoxStateCard::factTexts(const Model &model, const BoxLink &link)
+BoxStateCard::Texts BoxStateCard::factTexts(const Model &model, const LinkState &link)
 {
     const bool connected = model.isConnected();
     const int shots = model.numChannels(0);
@@ -178,7 +178,7 @@ BoxStateCard::Texts BoxStateCard::factTexts(const Model &model, const BoxLink &l
                                               : QStringLiteral("Mesotra");
     texts[Name] = connected ? groupNames(model.deviceDescription()) : QString();
     texts[Hardware] = connected ? orUnknown(model.hardwareVersion()) : kUnknown;
-    // Without a hardware version the model's firmware version is only what it starts with.
+    // Without a hardware version no box was described yet: the firmware version is the model's initial value.
     texts[Firmware] = texts[Hardware] == kUnknown ? kUnknown : orUnknown(model.firmwareVersion());
     texts[Period] = tr("%1 ms").arg(QLocale().toString(model.clock()));
     texts[Sensors] = QLocale().toString(sensorCount(model.sensorDescription()));

@@ -10,7 +10,7 @@ class QHBoxLayout;
 class QLabel;
 
 /// What the window knows of the link beyond the model.
-struct BoxLink
+struct LinkState
 {
     QString address; ///< of the box that is or would be connected
     bool isConnecting = false;
@@ -27,8 +27,8 @@ public:
     explicit BoxStateCard(QWidget *parent = nullptr);
 
     /// Shows the state as it is now. Cheap enough for every update of the start page.
-    void showState(const Model &model, const BoxLink &link);
-    /// Whether the values stand below their names instead of beside them.
+    void showState(const Model &model, const LinkState &link);
+    /// Whether the values are below their names instead of beside them.
     void setStacked(bool stacked);
 
 private:
@@ -38,9 +38,9 @@ private:
     [[nodiscard]] QHBoxLayout *createHead();
     void createFact(int index);
     void placeFacts(bool stacked);
-    void showLink(bool connected, const BoxLink &link);
+    void showLink(bool connected, const LinkState &link);
     void showFacts(const Texts &values);
-    [[nodiscard]] static Texts factTexts(const Model &model, const BoxLink &link);
+    [[nodiscard]] static Texts factTexts(const Model &model, const LinkState &link);
     [[nodiscard]] static Texts factNames();
 
     QGridLayout *m_grid = nullptr;

@@ -51,7 +51,7 @@ void RecentButton::setEntry(const QString &title, const QString &detail, const Q
     setAccessibleDescription(remark.isEmpty() ? detail : detail + QLatin1String(", ") + remark);
     m_detail = detail;
     m_remark = remark;
-    // Or a layout could press the button down to the smallest height that the application's sheet gives push buttons.
+    // The application's sheet gives push buttons a smaller minimum height; a layout would shrink the button to it.
     setStyleSheet(QStringLiteral("QPushButton {min-height: %1px;}").arg(sizeHint().height()));
     updateGeometry();
     update();
@@ -125,7 +125,7 @@ void RecentButton::paintTexts(QPainter &painter, QRect room) const
     painter.setFont(smallFont());
     painter.setPen(faint);
     const int wantedWidth = m_remark.isEmpty() ? 0 : smallMetrics.horizontalAdvance(m_remark) + kGap;
-    const int remarkWidth = wantedWidth > line.width() / 2 ? 0 : wantedWidth; // the title has more to say
+    const int remarkWidth = wantedWidth > line.width() / 2 ? 0 : wantedWidth; // the title matters more
     if (remarkWidth > 0)
         painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, m_remark);
     if (!m_detail.isEmpty()) {

@@ -3,7 +3,7 @@
 #include <QPushButton>
 
 /// One entry of a list of what was used last: a bold title, below it in small grey type a detail, at the right of the
-/// title a remark. What does not fit is left out in the middle; the tool tip is the owner's business.
+/// title a remark. What does not fit is left out in the middle; the owner sets the tool tip.
 class RecentButton : public QPushButton
 {
     Q_OBJECT

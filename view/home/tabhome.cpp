@@ -91,7 +91,7 @@ void TabHome::arrange(int width)
 void TabHome::setTiny(bool isTiny)
 {
     m_isTiny = isTiny;
-    const int edge = isTiny ? 0 : kMargin - ShadowFrame::kShadow; // the cards keep a distance of their own
+    const int edge = isTiny ? 0 : kMargin - ShadowFrame::kShadow; // the cards have their own margin for the shadow
     m_pageColumn->setContentsMargins(edge, HomeCard::kGap, edge, edge);
     for (HomeCard *card : {static_cast<HomeCard *>(m_boxCard), m_stateCard, static_cast<HomeCard *>(m_projectCard)})
         card->setTiny(isTiny);

@@ -56,7 +56,7 @@ private:
     void retranslateUi();
 
     const Model *m_model = nullptr;
-    BoxLink m_link;
+    LinkState m_link;
     QLabel *m_logo = nullptr;
     QLabel *m_subtitle = nullptr;
     BoxCard *m_boxCard = nullptr;

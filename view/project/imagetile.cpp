@@ -142,7 +142,7 @@ void ImageTile::paste()
         refuse();
 }
 
-/// Files first: what a file manager copies comes with a picture of its icon on some desktops.
+/// Files first: on some desktops a copied file comes with a picture of its icon.
 bool ImageTile::take(const QMimeData *source)
 {
     if (!source)
@@ -151,7 +151,7 @@ bool ImageTile::take(const QMimeData *source)
     const QImage image = files.isEmpty() ? qvariant_cast<QImage>(source->imageData()) : QImage();
     if (files.isEmpty() && image.isNull())
         return false;
-    // Later: whoever drags waits for the end of the drop, and must not wait for the answer to a question.
+    // Queued: the program that the picture comes from waits for the end of the drop, and a question may follow.
     const auto give = [this, files, image] {
         if (files.isEmpty())
             emit imageGiven(image);
@@ -193,7 +193,7 @@ void ImageTile::contextMenuEvent(QContextMenuEvent *event)
                                   auto slot) {
         const QColor tint = isEnabled ? theme::qColorPrimary : theme::qColorMedium;
         QAction *action = menu->addAction(actionIcon(QLatin1String(icon), tint), text);
-        action->setShortcut(key); // to be read; the picture takes these keys itself
+        action->setShortcut(key); // only shown in the menu; keyPressEvent() handles these keys
         action->setShortcutContext(Qt::WidgetShortcut);
         action->setEnabled(isEnabled);
         connect(action, &QAction::triggered, this, slot);
@@ -210,7 +210,7 @@ void ImageTile::contextMenuEvent(QContextMenuEvent *event)
 
 void ImageTile::dragEnterEvent(QDragEnterEvent *event)
 {
-    if (QApplication::activeModalWidget()) { // a question would stand on top of the open dialog
+    if (QApplication::activeModalWidget()) { // a question would open on top of the dialog
         event->ignore();
         return;
     }

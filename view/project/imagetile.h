@@ -12,9 +12,9 @@ class QMimeData;
 class QPushButton;
 class TilePicture;
 
-/// One picture of the project on a card. Shows it and tells what the user wants; the picture changes with setPicture()
-/// only. A click, Space or Enter looks for a file while there is no picture, and enlarges it when there is one; files
-/// and pictures can be dropped and pasted, the picture can be copied.
+/// One picture of the project on a card. Shows it and reports what the user wants; only setPicture() changes the
+/// picture. A click, Space or Enter looks for a file while there is no picture, and enlarges it when there is one;
+/// files and pictures can be dropped and pasted, the picture can be copied.
 class ImageTile : public ShadowFrame
 {
     Q_OBJECT

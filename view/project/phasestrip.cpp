@@ -16,7 +16,7 @@
 namespace {
 
 constexpr int kLongestName = 60; // characters
-constexpr int kGap = 20;         // pixels between two phases, in the middle of which a marker stands
+constexpr int kGap = 20;         // pixels between two phases, with a marker in the middle
 constexpr int kBand = 6;         // pixels, height of a phase's colour
 constexpr int kTint = 24;        // of 255
 

@@ -28,7 +28,7 @@ constexpr int kNumberWidth = 236; // pixels
 enum Row { Name, Number, User, Date, Customer, Force, InjectionTime, PressTime, Pressure, NumRows };
 constexpr std::size_t kNumTexts = Customer + 1;
 
-/// A field that was not edited keeps the value it stands for, which may be finer than what it can show.
+/// A field that was not edited keeps its value, which may have more digits than the field shows.
 template <typename T>
 void takeIfEdited(T &value, const T &before, const T &now)
 {
@@ -36,7 +36,7 @@ void takeIfEdited(T &value, const T &before, const T &now)
         value = now;
 }
 
-/// Values from a file may lie outside what is sensible to type: the range then grows, the value is not bent.
+/// A value from a file may be outside the range for typing: the range is extended, the value stays as it is.
 template <typename SpinBox, typename T>
 void setAnyValue(SpinBox *box, T value)
 {
@@ -228,7 +228,7 @@ ProjectData ProjectForm::data() const
     return result;
 }
 
-/// The wheel scrolls the page; a number that lies under the pointer by chance must not change with it.
+/// The wheel scrolls the page; a number that happens to be under the pointer must not change.
 bool ProjectForm::eventFilter(QObject *watched, QEvent *event)
 {
     const auto *box = qobject_cast<const QWidget *>(watched);

@@ -15,9 +15,9 @@ public:
     explicit ProjectForm(QWidget *parent = nullptr);
     ~ProjectForm() override;
 
-    /// Fills the fields; emits nothing. Numbers outside the range offered for typing are shown all the same.
+    /// Fills the fields; emits nothing. Numbers outside the range offered for typing are shown as they are.
     void setData(const ProjectData &data);
-    /// Whether the names stand above their fields instead of beside them.
+    /// Whether the names are above their fields instead of beside them.
     void setStacked(bool stacked);
     /// What was set, with what the user edited since. A field that was not edited keeps its value exactly, even
     /// where it shows fewer digits.

@@ -17,7 +17,7 @@ struct Place
     int columns;
 };
 
-/// Two wide ones above three: what is photographed is mostly wider than high.
+/// Two wide ones above three: most photos are wider than high.
 Place placeOf(int image)
 {
     return image < 2 ? Place{0, 3 * image, 3} : Place{1, 2 * (image - 2), 2};

@@ -17,7 +17,7 @@ public:
 
     /// Pictures from the model; emits nothing.
     void showFrom(const Model &model);
-    /// Whether the pictures stand one below the other.
+    /// Whether the pictures are below each other.
     void setNarrow(bool narrow);
 
 signals:

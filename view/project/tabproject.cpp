@@ -77,7 +77,7 @@ void TabProject::Private::createWidgets(QWidget *parent)
     createDanger(parent);
 }
 
-/// Set apart, so that nobody gets there by habit.
+/// Set apart from the rest, so that nobody presses the button out of habit.
 void TabProject::Private::createDanger(QWidget *parent)
 {
     danger = new QFrame(parent);
@@ -131,7 +131,7 @@ void TabProject::Private::arrange(int width)
     columns->setDirection(direction(kNarrowPage));
     phases->setDirection(direction(kNarrowStrip));
     dangerRow->setDirection(direction(kNarrowStrip));
-    warning->setWordWrap(width < kNarrowStrip); // else the page would not become lower than it likes to be
+    warning->setWordWrap(width < kNarrowStrip); // only then: a label that wraps keeps the page from getting low
     images->setNarrow(width < kNarrowImages);
     images->setMinimumHeight(width < kNarrowPage ? images->sizeHint().height() : 0);
     if (tiny != (width < kTinyPage))

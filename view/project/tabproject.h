@@ -9,7 +9,7 @@
 class Model;
 
 /// The tab "Projekt": the project's descriptive record, its pictures, its comment, its phase names, and the deletion of
-/// all data. Everything is told as it is typed.
+/// all data. Every change is reported as it is typed.
 class TabProject : public QWidget
 {
     Q_OBJECT

@@ -5,7 +5,7 @@
 
 class QLineEdit;
 
-/// Fields for texts of a bounded length that programs and users change in turn.
+/// Fields for texts of limited length that both the program and the user change.
 namespace textfield {
 
 /// Shows a text, if it is another one, without moving the cursor further than it must. The user can type up to

@@ -16,9 +16,9 @@ public:
 
     void setPicture(const QPixmap &picture);
     [[nodiscard]] const QPixmap &picture() const { return m_picture; }
-    /// How something that is held over the tile, or was given to it, is received.
+    /// How the tile reacts to what is dragged over it or was dropped on it.
     void setDrop(Drop drop);
-    /// What is read where there is no picture, where one can be dropped, and where something else was.
+    /// The texts without a picture, while a picture is dragged over the tile, and after something else was dropped.
     void setTexts(const QString &invitation, const QString &welcome, const QString &refusal);
 
     [[nodiscard]] QSize sizeHint() const override;

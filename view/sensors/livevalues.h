@@ -17,24 +17,24 @@ struct HeldRange
     }
 };
 
-/// The newest sample line, and what was held since the last reset. Keeps nothing else, so that it costs the same
-/// however long the box sends.
+/// The newest sample line, and what was held since the last reset. Keeps nothing else, so that its size does not
+/// grow while the box sends.
 class LiveValues
 {
 public:
-    /// A value counts as fresh for three sampling periods, but at least for so many milliseconds.
+    /// A value is fresh for three sampling periods, but at least for this many milliseconds.
     static constexpr qint64 kShortestFreshness = 1000;
 
-    /// `period`: the sampling period of the box. Both it and `now` in milliseconds, `now` of any clock that only goes
-    /// forward; a value that is not finite counts as 0.
+    /// `period` (the sampling period of the box) and `now` (of any clock that only goes forward) are in milliseconds. A
+    /// value that is not finite counts as 0.
     void add(const std::array<double, kNumSensors> &values, qint64 now, int period);
     /// The next value of the channel begins a new range.
     void resetHeld(int channel);
-    /// Nothing more will come for now: what there is stays, but does not count as fresh.
+    /// No more values are expected: the latest ones stay, but are no longer fresh.
     void expire() { m_fresh = false; }
 
     [[nodiscard]] bool isEmpty() const { return !m_any; }
-    /// Nothing before the first sample or for a channel outside 0 to 4.
+    /// None before the first sample or for a channel outside 0 to 4.
     [[nodiscard]] std::optional<double> latest(int channel) const;
     [[nodiscard]] std::optional<HeldRange> held(int channel) const;
     [[nodiscard]] bool isFresh(qint64 now) const;

@@ -34,7 +34,7 @@ QChar signOf(int number)
 
 } // namespace
 
-// Each entry: a sign whether the sensor is shown, one for the kind, then the key.
+// Each entry: one character for whether the sensor is shown, one for the kind, then the key.
 SensorChoices::SensorChoices()
 {
     const QStringList kept = settings().value(choicesKey()).toStringList();

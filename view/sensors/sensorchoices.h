@@ -8,24 +8,24 @@
 enum class DisplayKind { Linear, Round, Bar, Digital };
 constexpr int kNumDisplayKinds = 4;
 
-/// What the user chose for sensors, by their keys: kept in the program's settings across runs.
+/// What the user chose for each sensor, by its key; kept in the program's settings.
 class SensorChoices
 {
 public:
-    /// Old choices beyond so many are forgotten.
+    /// If there are more, the oldest are forgotten.
     static constexpr int kMostKept = 200;
 
-    /// Reads what was kept.
+    /// Reads the settings.
     SensorChoices();
 
     [[nodiscard]] bool isShown(const QString &key, bool otherwise) const;
     [[nodiscard]] DisplayKind kind(const QString &key) const;
     void setShown(const QString &key, bool shown);
     void setKind(const QString &key, DisplayKind kind);
-    /// After a renaming: what was chosen stays with the sensor.
+    /// After a sensor was renamed: it keeps its choices.
     void copy(const QString &from, const QString &to);
 
-    /// Pixels of the sensor tree; 0 if none were kept.
+    /// Width of the sensor tree in pixels; 0 if none is stored.
     [[nodiscard]] static int treeWidth();
     static void setTreeWidth(int pixels);
 

@@ -130,7 +130,7 @@ QString SensorDialog::complaint() const
         return tr("Bitte einen Namen eingeben.");
     if (limits.lower && limits.upper && *limits.lower >= *limits.upper)
         return tr("Die untere Grenze muss kleiner als die obere sein.");
-    // What would not come back as it was entered.
+    // To the model such numbers mean "no limit": they would not come back as entered.
     if (!(sensorLimits(limits.minimum(), limits.maximum()) == limits))
         return tr("Grenzen liegen zwischen -100000 und 100000.");
     return {};
@@ -146,12 +146,12 @@ void SensorDialog::check()
 SensorInfo SensorDialog::sensor() const
 {
     SensorInfo edited = m_before;
-    if (m_name->text() != m_before.name) { // a sensor without a name of its own keeps that unless it gets one
+    if (m_name->text() != m_before.name) { // the name that is shown for an unnamed sensor is not taken as a name
         edited.ownName = m_name->text().simplified();
         edited.name = edited.ownName;
     }
     edited.color = m_color;
-    if (!(enteredLimits() == m_shownLimits)) // the fields round
+    if (!(enteredLimits() == m_shownLimits)) // the fields round: untouched limits stay exact
         edited.limits = enteredLimits();
     return edited;
 }

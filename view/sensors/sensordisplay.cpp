@@ -11,10 +11,10 @@
 
 namespace {
 
-constexpr double kSmallestFooter = 14.0; // pixels of its type
+constexpr double kSmallestFooter = 14.0; // pixels: font size
 constexpr double kLargestFooter = 26.0;
-constexpr double kUnitSize = 0.45; // of the digits
-constexpr double kGap = 0.18;      // between digits and unit, of the digits' size
+constexpr double kUnitSize = 0.45; // of the size of the digits
+constexpr double kGap = 0.18;      // between digits and unit, of the size of the digits
 constexpr int kWithoutScale = 2;   // decimals
 
 const QColor kStaleColor(0x9E, 0x9E, 0x9E);
@@ -102,7 +102,7 @@ void SensorDisplay::paintEvent(QPaintEvent * /*event*/)
 void SensorDisplay::renderFace()
 {
     const double ratio = devicePixelRatioF();
-    // Rounded up: what the picture left free would stay black.
+    // Rounded up: an area that the picture does not cover would stay black.
     m_picture = QPixmap(std::max(1, qCeil(width() * ratio)), std::max(1, qCeil(height() * ratio)));
     m_picture.setDevicePixelRatio(ratio);
     m_picture.fill(theme::qColorBackground);
@@ -133,7 +133,8 @@ QString SensorDisplay::widestValue(const QFont &font) const
     return widest;
 }
 
-/// The digits stand at the right of a place that is wide enough for every value of the scale: the unit never moves.
+/// The digits are right-aligned in a place that is wide enough for every value of the scale, so that the unit never
+/// moves.
 void SensorDisplay::paintValue(QPainter &painter, const QRectF &area) const
 {
     if (area.height() < 8)
@@ -142,7 +143,7 @@ void SensorDisplay::paintValue(QPainter &painter, const QRectF &area) const
     double size = area.height() * 0.82;
     QFont digits = sized(font(), 100, true);
     const QFont small = sized(font(), 100 * kUnitSize, false);
-    const double place = widthOf(digits, widestValue(digits)); // all in hundredths of the digits' size
+    const double place = widthOf(digits, widestValue(digits)); // measured at 100 pixels, scaled below
     const double unitPlace = unit.isEmpty() ? 0.0 : 100 * kGap + widthOf(small, unit);
     size = std::min(size, 100.0 * area.width() / std::max(1.0, place + unitPlace));
     const double scale = size / 100;
@@ -173,7 +174,7 @@ void SensorDisplay::paintFooter(QPainter &painter, const QRectF &area) const
     const double statusWidth = isWrong ? metrics.horizontalAdvance(status) + 1.5 * sign : 0.0;
     painter.setPen(theme::qColorDark);
     const QString held = heldText(m_reading.held, valueDecimals());
-    // Where there is no room for both, what is wrong matters more.
+    // If there is no room for both, the warning is more important.
     if (metrics.horizontalAdvance(held) + statusWidth + sign <= area.width())
         painter.drawText(area, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, held);
     if (!isWrong)

@@ -1,15 +1,12 @@
 #pragma once
 
-#include "view/sensors/sensorchoices.h"
 #include "view/sensors/sensorreading.h"
 
 #include <QPixmap>
 #include <QWidget>
 
-#include <memory>
-
-/// Shows the reading of one sensor: a figure of its kind, digits with the unit, and below the held values and what is
-/// wrong, if something is. What stays the same is painted once for each size; a new reading repaints the rest.
+/// Shows the reading of one sensor: a figure of its kind, digits with the unit, and below them the held values and a
+/// warning if there is one. What stays the same is painted once per size; a new reading repaints the rest.
 class SensorDisplay : public QWidget
 {
     Q_OBJECT
@@ -31,8 +28,6 @@ public:
 
     explicit SensorDisplay(QWidget *parent = nullptr);
 
-    [[nodiscard]] static std::unique_ptr<SensorDisplay> create(DisplayKind kind);
-
     void setFace(const Face &face);
     [[nodiscard]] const Face &face() const { return m_face; }
     void setReading(const SensorReading &reading);
@@ -41,7 +36,7 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:
-    /// The places of the three parts, from the top or beside each other; any may be empty.
+    /// The places of the three parts, above or beside each other; any of them may be empty.
     struct Places
     {
         QRectF value;
@@ -52,9 +47,9 @@ protected:
     [[nodiscard]] virtual Places places() const = 0;
     /// The figure without a reading. Nothing is painted while the scale is not known.
     virtual void paintFigure(QPainter &painter, const QRectF &area) const = 0;
-    /// Only with a value.
+    /// Only called with a value.
     virtual void paintPointer(QPainter &painter, const QRectF &area) const = 0;
-    /// After either changed; the face or the places, if `isFace`, otherwise the reading.
+    /// Called after a change: of the face or the places if `isFace`, otherwise of the reading.
     virtual void follow(bool isFace);
 
     [[nodiscard]] double footerHeight() const;

@@ -32,7 +32,7 @@ SensorInfo describe(const Model &model, int groupIndex, int sensor)
     info.unit = group.sensorUnit(sensor).simplified();
     info.color = colorOf(info, model, group);
     info.limits = sensorLimits(group.sensorMinimum(sensor), group.sensorMaximum(sensor));
-    // As the oscilloscope and the evaluation show them: what was calibrated stands at zero here too.
+    // As in the oscilloscope and the evaluation: a calibrated sensor shows zero here too.
     info.offset = info.channel >= 0 ? model.offset(info.channel) : 0.0;
     return info;
 }
@@ -55,7 +55,7 @@ bool SensorList::isDescribed() const
 
 QString sensorKey(const QString &name, int n)
 {
-    return n == 0 ? name : QStringLiteral("%1\t%2").arg(name).arg(n + 1); // no name holds a tabulator
+    return n == 0 ? name : QStringLiteral("%1\t%2").arg(name).arg(n + 1); // no name contains a tab
 }
 
 SensorList listSensors(const Model &model)
@@ -70,7 +70,7 @@ SensorList listSensors(const Model &model)
                             list.sensors.size(), group.numSensors()});
         for (int sensor = 0; sensor < group.numSensors(); ++sensor) {
             SensorInfo info = describe(model, i, sensor);
-            // Without a name the place tells sensors apart, whatever the language.
+            // Sensors without a name are told apart by their position, independent of the language.
             const QString base = info.ownName.isEmpty() ? QStringLiteral("#%1").arg(sensor + 1) : info.ownName;
             info.key = sensorKey(base, seen[base]++);
             list.sensors.append(info);

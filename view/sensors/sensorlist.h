@@ -13,7 +13,7 @@ struct SensorInfo
     int group = 0;
     int sensor = 0;   ///< within the group
     int channel = -1; ///< 0 to 4: where its values come from; -1: the box sends none for it
-    QString key;      ///< what its settings are remembered under: its name, made unique
+    QString key;      ///< identifies its settings: its name, made unique
     QString ownName;  ///< as described or typed; may be empty
     QString name;     ///< never empty
     QString unit;
@@ -22,7 +22,7 @@ struct SensorInfo
     double offset = 0.0; ///< added to every value that is shown
 
     [[nodiscard]] bool operator==(const SensorInfo &other) const;
-    /// Only those of the first group have a name and a colour of their own in the model.
+    /// Only sensors of the first group have a name and a colour in the model that can be changed.
     [[nodiscard]] bool canRename() const { return group == 0; }
     [[nodiscard]] bool canColor() const { return channel >= 0; }
 };
@@ -52,8 +52,8 @@ struct SensorList
     [[nodiscard]] bool isDescribed() const;
 };
 
-/// Texts in the language in use.
+/// Texts in the current language.
 [[nodiscard]] SensorList listSensors(const Model &model);
 
-/// The key of a sensor that is the n-th (from 0) of this name.
+/// The key of the n-th sensor (from 0) with this name.
 [[nodiscard]] QString sensorKey(const QString &name, int n);

@@ -8,28 +8,28 @@
 
 enum class SensorStatus { NoValue, Stale, Inside, Below, Above };
 
-/// What a sensor shows at one moment; its values with the sensor's offset.
+/// What is shown of a sensor at one moment; its values include the sensor's offset.
 struct SensorReading
 {
     SensorStatus status = SensorStatus::NoValue;
-    double value = 0.0;   ///< without meaning where there is no value, like the next
-    double readOut = 0.0; ///< what the digits say: the value, but not renewed faster than they can be read
+    double value = 0.0;   ///< undefined without a value, like the next
+    double readOut = 0.0; ///< for the digits: the value, updated no faster than they can be read
     std::optional<HeldRange> held;
 
     [[nodiscard]] bool hasValue() const { return status != SensorStatus::NoValue; }
     [[nodiscard]] bool isOutside() const { return status == SensorStatus::Below || status == SensorStatus::Above; }
 };
 
-/// A stale value is not judged by the limits: nobody knows what holds now.
+/// A stale value is not compared with the limits: the current one is unknown.
 [[nodiscard]] SensorStatus sensorStatus(const std::optional<double> &value, bool isFresh, const SensorLimits &limits);
 
-/// In the language in use.
+/// In the current language.
 [[nodiscard]] QString statusText(SensorStatus status);
 [[nodiscard]] QColor statusColor(SensorStatus status);
-/// Told apart by shape, not by colour alone: disc, ring, line, and triangles that point where the value went.
+/// Different in shape, not only in colour: disc, ring, line, and triangles that point to where the value is.
 [[nodiscard]] QPixmap statusPicture(SensorStatus status, int size, double devicePixelRatio);
 
-/// "min 1,2   max 3,4"; dashes for what is not held.
+/// "min 1,2   max 3,4"; dashes if nothing is held.
 [[nodiscard]] QString heldText(const std::optional<HeldRange> &held, int decimals);
-/// The value, its unit and what is to be said about it, for screen readers and tool tips.
+/// The value, its unit and its status in words, for screen readers and tool tips.
 [[nodiscard]] QString readingText(const SensorReading &reading, const QString &unit, int decimals);

@@ -11,7 +11,7 @@ constexpr double kMargin = 0.1;      // of the range between the limits, shown b
 constexpr double kTargetSteps = 12;  // on a scale; not all of them get a label
 constexpr double kLeastAround = 2.0; // on both sides of a value that has not moved yet
 constexpr int kMostDecimals = 6;
-constexpr double kSmallestStep = 1e-6; // of which labels can tell
+constexpr double kSmallestStep = 1e-6; // that labels can show
 constexpr double kLargestPlain = 1e7;
 constexpr int kExponentDigits = 5;
 
@@ -26,13 +26,13 @@ double niceStep(double step)
     return 10.0 * power;
 }
 
-/// Decimals that tell apart numbers a fraction of `unit` from each other.
+/// The number of decimals that shows differences of a fraction of `unit`.
 int decimalsFor(double unit)
 {
     return std::clamp(-static_cast<int>(std::floor(std::log10(unit) + 1e-9)), 0, kMostDecimals);
 }
 
-/// What is shown at least, before the ends are rounded to labels.
+/// What has to be shown, before the ends are rounded to labels.
 HeldRange wantedRange(const SensorLimits &limits, const std::optional<HeldRange> &held)
 {
     if (limits.lower && limits.upper) {
@@ -44,7 +44,7 @@ HeldRange wantedRange(const SensorLimits &limits, const std::optional<HeldRange>
                                  : HeldRange{std::min(0.0, limit), std::max(0.0, limit)};
     const double span = range.maximum - range.minimum;
     const double margin = limits.isAny() ? kMargin * span : 0.0;
-    // A value that has not moved yet stands in the middle of a range of its own size.
+    // A value that has not changed yet is shown in the middle of a range of its own size.
     const double around = span > 0.0 ? margin : std::max(kLeastAround, 0.1 * std::abs(limit));
     return {range.minimum - around, range.maximum + around};
 }
@@ -88,7 +88,7 @@ SensorScale sensorScale(const SensorLimits &limits, const std::optional<HeldRang
     scale.step = niceStep(span / kTargetSteps);
     scale.low = std::floor(wanted.minimum / scale.step + 1e-9) * scale.step;
     scale.high = std::ceil(wanted.maximum / scale.step - 1e-9) * scale.step;
-    if (!std::isfinite(scale.high - scale.low)) // only now, by rounding
+    if (!std::isfinite(scale.high - scale.low)) // can only happen by the rounding above
         return {};
     scale.labelDecimals = decimalsFor(scale.step);
     scale.valueDecimals = decimalsFor((scale.high - scale.low) / 300.0);

@@ -6,17 +6,17 @@
 
 #include <optional>
 
-/// What a sensor's value should keep to; none where no limit is set. If there are both, lower < upper.
+/// The limits of a sensor's value, each of them optional. If there are both, lower < upper.
 struct SensorLimits
 {
-    /// What the model holds for a limit that is not set.
+    /// What the model stores for a limit that is not set.
     static constexpr double kNoLower = -100000.0;
     static constexpr double kNoUpper = 100000.0;
 
     std::optional<double> lower;
     std::optional<double> upper;
 
-    /// As the model holds them.
+    /// As the model stores them.
     [[nodiscard]] double minimum() const { return lower.value_or(kNoLower); }
     [[nodiscard]] double maximum() const { return upper.value_or(kNoUpper); }
     [[nodiscard]] bool isAny() const { return lower || upper; }
@@ -41,9 +41,9 @@ struct SensorScale
     int labelDecimals = 0;
     int valueDecimals = 2;
 
-    /// False as long as nothing tells which values to expect.
+    /// False while nothing is known about the values to expect.
     [[nodiscard]] bool isKnown() const { return high > low; }
-    /// 0 at the low end, 1 at the high one; values beyond are taken for the end itself.
+    /// 0 at the low end, 1 at the high one; clamped outside.
     [[nodiscard]] double fraction(double value) const;
     [[nodiscard]] int numSteps() const;
     [[nodiscard]] bool operator==(const SensorScale &other) const
@@ -53,10 +53,10 @@ struct SensorScale
     [[nodiscard]] bool operator!=(const SensorScale &other) const { return !(*this == other); }
 };
 
-/// A little more than the limits, so that what is outside shows; an end without a limit follows the held values.
+/// A little wider than the limits, so that values outside are visible; an end without a limit follows the held values.
 /// Without limits and values the scale is not known.
 [[nodiscard]] SensorScale sensorScale(const SensorLimits &limits, const std::optional<HeldRange> &held);
 
-/// The value with always the same number of decimals, so that the digits stand still; in the language in use. Very
-/// large numbers are written with an exponent.
+/// The value with a fixed number of decimals, so that the digits do not jump; in the current language. Very large
+/// numbers are written with an exponent.
 [[nodiscard]] QString sensorValueText(double value, int decimals);

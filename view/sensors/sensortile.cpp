@@ -2,6 +2,10 @@
 
 #include "app/theme.h"
 #include "view/common/actionicon.h"
+#include "view/sensors/bardisplay.h"
+#include "view/sensors/digitaldisplay.h"
+#include "view/sensors/lineardisplay.h"
+#include "view/sensors/rounddisplay.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -36,6 +40,21 @@ QString kindIcon(DisplayKind kind)
         return QStringLiteral("display-digital.png");
     }
     return {};
+}
+
+SensorDisplay *newDisplay(DisplayKind kind, QWidget *parent)
+{
+    switch (kind) {
+    case DisplayKind::Linear:
+        return new LinearDisplay(parent);
+    case DisplayKind::Bar:
+        return new BarDisplay(parent);
+    case DisplayKind::Digital:
+        return new DigitalDisplay(parent);
+    case DisplayKind::Round:
+        break;
+    }
+    return new RoundDisplay(parent);
 }
 
 QString buttonSheet()
@@ -134,8 +153,7 @@ void SensorTile::setKind(DisplayKind kind)
         return;
     m_kind = kind;
     const SensorDisplay *before = m_display;
-    m_display = SensorDisplay::create(kind).release();
-    m_display->setParent(this);
+    m_display = newDisplay(kind, this);
     m_display->setObjectName(QStringLiteral("sensorDisplay"));
     if (before) {
         m_display->setFace(before->face());
@@ -155,7 +173,7 @@ void SensorTile::showKind()
 
 void SensorTile::setReading(const SensorReading &reading)
 {
-    // Judged by the scale in force: an end without a limit follows what is held.
+    // The scale may change with every reading: an end without a limit follows the held values.
     m_display->setFace({sensorScale(m_sensor.limits, reading.held), m_sensor.limits, m_sensor.color, m_sensor.unit});
     m_display->setReading(reading);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kit/small/shadowframe.h"
+#include "view/sensors/sensorchoices.h"
 #include "view/sensors/sensordisplay.h"
 #include "view/sensors/sensorlist.h"
 
@@ -28,11 +29,12 @@ public:
     [[nodiscard]] DisplayKind kind() const { return m_kind; }
     void setReading(const SensorReading &reading);
     [[nodiscard]] SensorDisplay *display() const { return m_display; }
-    /// Only changes the button and its tip; whoever shows the tile gives it the room.
+    /// Changes the button, its tool tip and the size of the name; the owner of the tile gives it the room.
     void setEnlarged(bool enlarged);
-    /// What a screen reader says; apart from setReading(), since nobody listens to twenty values a second.
+    /// Updates the text for screen readers; separate from setReading() because nobody can listen to 20 values per
+    /// second.
     void describeReading();
-    /// Itself and its buttons, in the order of the tabulator key.
+    /// The tile and its buttons, in the order of the Tab key.
     [[nodiscard]] QVector<QWidget *> tabOrder();
 
 signals:

@@ -7,13 +7,13 @@
 
 namespace {
 
-constexpr int kRowHeight = 40; // pixels: to be hit with gloves
+constexpr int kRowHeight = 40; // pixels: large enough for gloves
 constexpr int kSwatchSize = 18;
 constexpr int kSwatchGap = 6; // between check mark and swatch
 constexpr int kStatusSize = 20;
 constexpr int kLongestName = 100;
 
-// Indices of sensors carry the number of their group, from 1; those of groups 0.
+// The internal id of a sensor's index is the number of its group, from 1; that of a group's index is 0.
 constexpr quintptr kGroupId = 0;
 
 QIcon swatchIcon(const QColor &color)
@@ -239,7 +239,7 @@ QVariant SensorTreeModel::icon(const Row &row, int column) const
 QVariant SensorTreeModel::foreground(const Row &row, int column)
 {
     if (column != ValueColumn || row.status == SensorStatus::Inside)
-        return {}; // the usual one
+        return {}; // the default
     return statusColor(row.status);
 }
 
@@ -262,7 +262,7 @@ QString SensorTreeModel::toolTip(int sensor, int column) const
     const QString tip = info.canRename()
                             ? tr("%1\nF2 oder Doppelklick: umbenennen\nEingabetaste: bearbeiten").arg(info.name)
                             : info.name;
-    return Qt::convertFromPlainText(tip); // a name may hold what looks like a tag
+    return Qt::convertFromPlainText(tip); // a name may contain what looks like a tag
 }
 
 Qt::CheckState SensorTreeModel::groupState(int group) const

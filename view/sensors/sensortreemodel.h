@@ -8,9 +8,9 @@
 
 #include <array>
 
-/// The sensors below their groups: name with check mark and colour, latest value, unit, status. Sensors are counted
-/// through all groups. Announces only cells that really changed, and starts anew only when another set of sensors is
-/// described, so that selection and open branches survive.
+/// The sensors below their groups: name with check mark and colour, latest value, unit, status. Sensors are numbered
+/// across all groups. Announces only cells that really changed, and is reset only when another set of sensors is
+/// described, so that the selection and open branches survive.
 class SensorTreeModel : public QAbstractItemModel
 {
     Q_OBJECT
@@ -23,13 +23,13 @@ public:
     /// Of the swatches and status signs, for the view.
     [[nodiscard]] static QSize iconSize();
 
-    /// Check marks begin as not set; values as none.
+    /// Without check marks and values at first.
     void setSensors(const SensorList &list);
     [[nodiscard]] const SensorList &sensors() const { return m_list; }
     void setShown(int sensor, bool shown);
     [[nodiscard]] bool isShown(int sensor) const;
     void setReading(int sensor, const QString &value, SensorStatus status);
-    /// Texts in the language in use.
+    /// Texts in the current language.
     void retranslate();
 
     /// -1 for a group or nothing.
@@ -46,9 +46,9 @@ public:
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 signals:
-    /// The user set or cleared a check mark; it is set already.
+    /// The user set or cleared a check mark; the model has it already.
     void shownChanged(int sensor, bool shown);
-    /// The user typed another name; the list still holds the one before.
+    /// The user typed another name; the list still has the old one.
     void renamed(int sensor, const QString &name);
 
 private:
@@ -74,5 +74,5 @@ private:
     SensorList m_list;
     QVector<Row> m_rows;
     std::array<QIcon, 5> m_statusIcons;
-    QIcon m_gap; ///< keeps a group's name off its check mark
+    QIcon m_gap; ///< separates a group's name from its check mark
 };

@@ -24,6 +24,11 @@ QColor outsideColor()
     return {0xEF, 0x53, 0x50};
 }
 
+QColor troughColor()
+{
+    return {0xE4, 0xE7, 0xEB};
+}
+
 StraightScale::StraightScale(const SensorScale &scale, const QRectF &line, bool isUpright)
     : m_scale(scale)
     , m_line(line)
@@ -75,7 +80,7 @@ int StraightScale::labelStride(const QPainter &painter) const
 
 void StraightScale::paintTicks(QPainter &painter, double begin, double length) const
 {
-    const auto first = std::llround(m_scale.low / m_scale.step); // steps from zero, which gets a label if it is there
+    const auto first = std::llround(m_scale.low / m_scale.step); // counted from zero, so that zero gets a label
     const int stride = labelStride(painter);
     painter.setPen(QPen(theme::qColorDark, kTickWidth));
     for (int i = 0; i <= m_scale.numSteps(); ++i) {

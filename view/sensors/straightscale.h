@@ -9,7 +9,7 @@ class QFont;
 class QPainter;
 
 /// A straight scale from left to right, or from the bottom up where there is more height than width. Lengths across it
-/// count from its line: positive towards the labels, negative towards the pointer.
+/// are measured from its line: positive towards the labels, negative towards the pointer.
 class StraightScale
 {
 public:
@@ -20,7 +20,7 @@ public:
     /// Between two values, and between two lengths across.
     [[nodiscard]] QRectF stripe(double from, double to, double begin, double end) const;
 
-    /// What is inside the limits green, what is outside red; nothing without limits.
+    /// Green inside the limits, red outside; nothing without limits.
     void paintBands(QPainter &painter, const SensorLimits &limits, double begin, double end) const;
     /// Long ticks with their numbers at as many steps as there is room for, short ones at the others.
     void paintTicks(QPainter &painter, double begin, double length) const;
@@ -28,7 +28,7 @@ public:
     [[nodiscard]] static double widestLabel(const QFont &font, const SensorScale &scale);
 
 private:
-    /// Every how many steps there is a label: 1, 2, 5, 10, ...
+    /// The number of steps from one label to the next: 1, 2, 5, 10, ...
     [[nodiscard]] int labelStride(const QPainter &painter) const;
     void paintLabel(QPainter &painter, double value, double across) const;
 
@@ -37,6 +37,7 @@ private:
     bool m_isUpright;
 };
 
-/// The colours of the ranges inside and outside of limits.
+/// The colours of the ranges inside and outside of limits, and of a scale below them.
 [[nodiscard]] QColor insideColor();
 [[nodiscard]] QColor outsideColor();
+[[nodiscard]] QColor troughColor();

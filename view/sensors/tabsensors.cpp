@@ -1,390 +1,318 @@
 #include "view/sensors/tabsensors.h"
 
+#include "kit/small/shadowframe.h"
 #include "model/model.h"
-#include "view/common/logging.h"
-#include "view/sensors/sensortile.h"
+#include "view/sensors/sensoreditor.h"
+#include "view/sensors/sensorside.h"
 #include "view/sensors/sensortreemodel.h"
-#include "view/sensors/tabsensors_p.h"
-#include "view/sensors/tilegrid.h"
+#include "view/sensors/tilepage.h"
 
 #include <QEvent>
+#include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QLabel>
-#include <QStackedWidget>
-#include <QTreeView>
+#include <QSplitter>
 
-#include <algorithm>
+#include <utility>
 
 namespace {
 
-constexpr int kRepaintInterval = 50; // ms: 20 times a second
-constexpr int kStatusInterval = 250; // digits could not be read faster
+constexpr int kRepaintInterval = 50;   // ms: 20 times a second
+constexpr int kStatusInterval = 250;   // ms: digits could not be read if they changed faster
+constexpr int kDefaultSideWidth = 440; // pixels
+constexpr int kNarrowestPage = 700;
+constexpr int kHandleWidth = 8;
+constexpr int kEdge = 12;
+
+SensorValues::PerChannel lastRecorded(const Model &model)
+{
+    SensorValues::PerChannel values;
+    for (int channel = 0; channel < kNumSensors; ++channel) {
+        const SampleList *newest = model.measurement(channel, model.numChannels(channel) - 1);
+        if (newest && !newest->isEmpty())
+            values.at(static_cast<std::size_t>(channel)) = newest->constLast();
+    }
+    return values;
+}
 
 } // namespace
 
-TabSensors::Private::Private(TabSensors *tab)
-    : q(tab)
-    , now([this] { return elapsed.elapsed(); })
-{
-    elapsed.start();
-}
-
-void TabSensors::Private::createTimers()
-{
-    repaintTimer.setSingleShot(true);
-    repaintTimer.setTimerType(Qt::PreciseTimer); // a coarse one would be early now and then
-    repaintTimer.setInterval(kRepaintInterval);
-    statusTimer.setInterval(kStatusInterval);
-    connect(&repaintTimer, &QTimer::timeout, q, [this] { refreshTiles(); });
-    connect(&statusTimer, &QTimer::timeout, q, [this] { checkFreshness(); });
-}
-
 TabSensors::TabSensors(QWidget *parent)
     : QWidget(parent)
-    , d(std::make_unique<Private>(this))
+    , m_repaint(kRepaintInterval, Qt::PreciseTimer) // a coarse timer would fire early now and then
 {
-    d->build();
-    d->retranslateUi();
+    m_statusTimer.setInterval(kStatusInterval);
+    layOut();
+    m_sensors = &m_side->sensors();
+    m_editor = new SensorEditor(*m_sensors, m_choices, this);
+    connectParts();
+    showHint();
 }
 
-TabSensors::~TabSensors() = default;
+void TabSensors::layOut()
+{
+    m_splitter = new QSplitter(this);
+    m_splitter->setObjectName(QStringLiteral("sensorSplitter"));
+    m_splitter->setHandleWidth(kHandleWidth);
+    m_splitter->setChildrenCollapsible(false);
+    m_side = new SensorSide(m_splitter);
+    m_splitter->addWidget(m_side);
+    m_page = new TilePage(m_splitter);
+    m_splitter->addWidget(m_page);
+    m_splitter->setStretchFactor(0, 0);
+    m_splitter->setStretchFactor(1, 1);
+    auto *layout = new QHBoxLayout(this);
+    // Less where the cards have their shadows.
+    layout->setContentsMargins(kEdge, kEdge - ShadowFrame::kShadow, kEdge - ShadowFrame::kShadow,
+                               kEdge - ShadowFrame::kShadow);
+    layout->addWidget(m_splitter);
+    const int kept = SensorChoices::treeWidth();
+    const int width = kept >= SensorSide::kNarrowest ? kept : kDefaultSideWidth;
+    m_splitter->setSizes({width, 3 * width});
+}
+
+void TabSensors::connectParts()
+{
+    connect(&m_repaint, &Throttle::due, this, &TabSensors::refreshTiles);
+    connect(&m_statusTimer, &QTimer::timeout, this, &TabSensors::checkFreshness);
+    connect(m_splitter, &QSplitter::splitterMoved, this, [this] {
+        if (m_splitter->orientation() == Qt::Horizontal)
+            SensorChoices::setTreeWidth(m_splitter->sizes().constFirst());
+    });
+    connect(m_sensors, &SensorTreeModel::shownChanged, this, [this](int sensor, bool shown) {
+        m_choices.setShown(allSensors().at(sensor).key, shown);
+        showTiles();
+    });
+    connect(m_sensors, &SensorTreeModel::renamed, m_editor, &SensorEditor::rename);
+    connect(m_side, &SensorSide::editRequested, this, [this](int sensor) {
+        if (m_model && !m_model->isBusy()) // the sensors may have changed by the time the dialog is closed
+            m_editor->openDialog(sensor);
+    });
+    connect(m_side, &SensorSide::resetRequested, this, &TabSensors::resetHeld);
+    connect(m_side, &SensorSide::resetAllRequested, this, [this] {
+        m_values.resetAllHeld();
+        refresh();
+    });
+    connect(m_page, &TilePage::kindChosen, this, [this](int sensor, DisplayKind kind) {
+        m_choices.setKind(allSensors().at(sensor).key, kind);
+        m_page->setKind(sensor, kind);
+    });
+    connect(m_page, &TilePage::resetRequested, this, &TabSensors::resetHeld);
+    connect(m_page, &TilePage::enlargedChanged, m_side, &QWidget::setHidden);
+    connect(m_editor, &SensorEditor::nameEdited, this, &TabSensors::sensorNameEdited);
+    connect(m_editor, &SensorEditor::colorEdited, this, &TabSensors::sensorColorEdited);
+    connect(m_editor, &SensorEditor::limitsEdited, this, &TabSensors::sensorLimitsEdited);
+}
 
 void TabSensors::setModel(Model *model)
 {
-    d->model = model;
-    connect(model, &Model::appStateChanged, this, [this] { d->followLink(); });
+    m_model = model;
+    connect(model, &Model::appStateChanged, this, &TabSensors::followLink);
     updateDescription();
     updateValues();
 }
 
 void TabSensors::setTimeSource(std::function<qint64()> now)
 {
-    d->now = std::move(now);
+    m_values.setTimeSource(std::move(now));
 }
 
 // --- Which sensors ---------------------------------------------------------------------------------------------
 
-void TabSensors::updateDescription()
+const QVector<SensorInfo> &TabSensors::allSensors() const
 {
-    if (!d->model)
-        return;
-    const SensorList list = listSensors(*d->model);
-    if (!(list == d->sensors->sensors()))
-        d->showSensors(list);
+    return m_sensors->sensors().sensors;
 }
 
-void TabSensors::Private::showSensors(const SensorList &list)
+void TabSensors::updateDescription()
 {
-    sensors->setSensors(list);
-    showChecks();
+    if (!m_model)
+        return;
+    const SensorList list = listSensors(*m_model);
+    if (!(list == m_sensors->sensors()))
+        showSensors(list);
+}
+
+void TabSensors::showSensors(const SensorList &list)
+{
+    m_sensors->setSensors(list);
+    for (int i = 0; i < allSensors().size(); ++i) {
+        const SensorInfo &sensor = allSensors().at(i);
+        m_sensors->setShown(i, m_choices.isShown(sensor.key, sensor.channel >= 0));
+    }
     showTiles();
     refresh();
 }
 
-void TabSensors::Private::showChecks()
+void TabSensors::showTiles()
 {
-    const QVector<SensorInfo> &all = sensors->sensors().sensors;
-    for (int i = 0; i < all.size(); ++i)
-        sensors->setShown(i, choices.isShown(all.at(i).key, all.at(i).channel >= 0));
-}
-
-void TabSensors::Private::showTiles()
-{
-    const int count = sensors->sensors().sensors.size();
-    QVector<SensorTile *> unused = tiles.mid(std::min(count, tiles.size()));
-    tiles.resize(count);
-    QVector<QWidget *> shown;
-    for (int i = 0; i < count; ++i) {
-        if (!sensors->isShown(i)) {
-            unused.append(std::exchange(tiles[i], nullptr));
-            continue;
-        }
-        if (!tiles.at(i))
-            tiles[i] = createTile(i);
-        fitTile(i);
-        shown.append(tiles.at(i));
+    QVector<TilePage::Content> contents;
+    for (int i = 0; i < allSensors().size(); ++i) {
+        const SensorInfo &sensor = allSensors().at(i);
+        if (m_sensors->isShown(i))
+            contents.append({i, sensor, m_choices.kind(sensor.key), m_values.reading(sensor)});
     }
-    grid->setTiles(shown);
-    for (SensorTile *tile : qAsConst(unused)) {
-        if (tile)
-            tile->deleteLater(); // its own button may be at work
-    }
-    orderTabs();
+    m_page->setTiles(contents);
     showHint();
-    enlarge(static_cast<SensorTile *>(grid->enlarged()));
 }
 
-SensorTile *TabSensors::Private::createTile(int index)
+void TabSensors::showHint()
 {
-    auto *tile = new SensorTile(grid);
-    tile->setObjectName(QStringLiteral("sensorTile%1").arg(index + 1));
-    connect(tile, &SensorTile::kindChosen, q, [this, index](DisplayKind kind) {
-        choices.setKind(sensors->sensors().sensors.at(index).key, kind);
-        tiles.at(index)->setKind(kind);
-    });
-    connect(tile, &SensorTile::resetRequested, q, [this, index] { resetHeld(index); });
-    connect(tile, &SensorTile::enlargeToggled, q, [this, tile] { enlarge(grid->enlarged() == tile ? nullptr : tile); });
-    connect(tile, &SensorTile::focusMoved, q, [this, tile](int key) {
-        if (QWidget *next = grid->neighbour(tile, key))
-            next->setFocus(Qt::TabFocusReason);
-    });
-    return tile;
+    m_page->setHint(hintText());
 }
 
-void TabSensors::Private::fitTile(int index)
+QString TabSensors::hintText() const
 {
-    const SensorInfo &sensor = sensors->sensors().sensors.at(index);
-    SensorTile *tile = tiles.at(index);
-    tile->setSensor(sensor);
-    tile->setKind(choices.kind(sensor.key));
-    tile->setReading(readingOf(sensor));
-    tile->describeReading();
-}
-
-void TabSensors::Private::orderTabs() const
-{
-    QWidget *before = nullptr;
-    for (QWidget *tile : grid->tiles()) {
-        const QVector<QWidget *> order = static_cast<SensorTile *>(tile)->tabOrder();
-        for (QWidget *next : order) {
-            if (before)
-                setTabOrder(before, next);
-            before = next;
-        }
-    }
-}
-
-void TabSensors::Private::showHint()
-{
-    const QString text = hintText();
-    hint->setText(text);
-    pages->setCurrentWidget(text.isEmpty() ? tilePage : hint);
-}
-
-QString TabSensors::Private::hintText() const
-{
-    const SensorList &list = sensors->sensors();
-    const bool anyValue =
-        !live.isEmpty() || std::any_of(recorded.cbegin(), recorded.cend(), [](const auto &value) { return !!value; });
-    const bool isConnected = model && model->isConnected();
-    if (list.sensors.isEmpty() || !(list.isDescribed() || anyValue || isConnected))
-        return TabSensors::tr("Noch keine Sensoren bekannt – bitte verbinden.");
-    if (grid->tiles().isEmpty())
-        return TabSensors::tr("Kein Sensor ausgewählt.\nLinks die Sensoren ankreuzen, die gezeigt werden sollen.");
+    const bool isConnected = m_model && m_model->isConnected();
+    if (allSensors().isEmpty() || !(m_sensors->sensors().isDescribed() || m_values.isAny() || isConnected))
+        return tr("Noch keine Sensoren bekannt – bitte verbinden.");
+    if (!m_page->hasTiles())
+        return tr("Kein Sensor ausgewählt.\nLinks die Sensoren ankreuzen, die gezeigt werden sollen.");
     return {};
-}
-
-void TabSensors::Private::enlarge(SensorTile *tile)
-{
-    auto *before = static_cast<SensorTile *>(grid->enlarged());
-    if (before && before != tile)
-        before->setEnlarged(false);
-    grid->setEnlarged(tile);
-    side->setVisible(!tile);
-    if (tile)
-        tile->setEnlarged(true);
-    if (tile && before != tile)
-        tile->setFocus(Qt::OtherFocusReason);
 }
 
 // --- Values ----------------------------------------------------------------------------------------------------
 
 void TabSensors::addSample(const std::array<double, kNumSensors> &values, int period)
 {
-    const bool isFirst = d->live.isEmpty();
-    d->live.add(values, d->now(), period);
+    const bool isFirst = !m_values.isLive();
+    m_values.addSample(values, period);
     if (!isVisible())
         return;
     if (isFirst)
-        d->showHint();
-    d->scheduleTiles();
-    if (!d->statusTimer.isActive()) {
-        d->statusTimer.start();
-        d->readOutAnew();
+        showHint();
+    scheduleTiles();
+    if (!m_statusTimer.isActive()) { // the first value for some time is shown at once
+        m_statusTimer.start();
+        m_values.updateReadOut();
     }
 }
 
 void TabSensors::forgetLiveValues()
 {
-    d->live = {};
+    m_values.forgetLive();
     updateValues();
-    d->showHint();
-    d->refresh();
+    showHint();
+    refresh();
 }
 
 void TabSensors::updateValues()
 {
-    if (!d->model || !d->live.isEmpty())
+    if (!m_model || m_values.isLive() || !m_values.setRecorded(lastRecorded(*m_model)))
         return;
-    const auto before = d->recorded;
-    for (int i = 0; i < kNumSensors; ++i) {
-        const SampleList *newest = d->model->measurement(i, d->model->numChannels(i) - 1);
-        d->recorded.at(static_cast<std::size_t>(i)) =
-            newest && !newest->isEmpty() ? std::optional<double>(newest->constLast()) : std::nullopt;
-    }
-    if (d->recorded == before)
-        return;
-    d->showHint();
-    d->refresh();
+    showHint();
+    refresh();
 }
 
-/// What a link that is down has sent last says nothing about now, however slow the box was.
-void TabSensors::Private::followLink()
+// What a link that is down sent last says nothing about now, however slow the box was.
+void TabSensors::followLink()
 {
-    if (!model->isConnected() && isFresh()) {
-        live.expire();
+    if (!m_model->isConnected() && m_values.isFresh()) {
+        m_values.expire();
         refresh();
     }
     showHint();
 }
 
-bool TabSensors::Private::isFresh() const
+// A minimised window is not repainted with every sample; it is brought up to date once the values are no longer fresh.
+void TabSensors::scheduleTiles()
 {
-    return live.isFresh(now());
+    if (!window()->isMinimized())
+        m_repaint.request();
 }
 
-std::optional<double> TabSensors::Private::valueOf(int channel) const
+void TabSensors::refreshTiles()
 {
-    return live.isEmpty() ? recorded.at(static_cast<std::size_t>(channel)) : live.latest(channel);
-}
-
-/// Digits that run with every repaint could not be read, and those of the tree and of a tile are to be the same.
-void TabSensors::Private::readOutAnew()
-{
-    for (int channel = 0; channel < kNumSensors; ++channel)
-        readOut.at(static_cast<std::size_t>(channel)) = valueOf(channel);
-}
-
-SensorReading TabSensors::Private::readingOf(const SensorInfo &sensor) const
-{
-    SensorReading reading;
-    if (sensor.channel < 0)
-        return reading;
-    const auto place = static_cast<std::size_t>(sensor.channel);
-    std::optional<double> value = valueOf(sensor.channel);
-    if (value)
-        value = *value + sensor.offset;
-    reading.status = sensorStatus(value, isFresh(), sensor.limits);
-    reading.value = value.value_or(0.0);
-    reading.readOut = readOut.at(place) ? *readOut.at(place) + sensor.offset : reading.value;
-    reading.held = live.held(sensor.channel);
-    if (reading.held)
-        reading.held = HeldRange{reading.held->minimum + sensor.offset, reading.held->maximum + sensor.offset};
-    return reading;
-}
-
-/// Not more often than 20 times a second, whoever asks. A minimised window is brought up to date at last when the
-/// values are no longer fresh.
-void TabSensors::Private::scheduleTiles()
-{
-    if (!repaintTimer.isActive() && !q->window()->isMinimized())
-        repaintTimer.start();
-}
-
-void TabSensors::Private::refreshTiles()
-{
-    const QVector<SensorInfo> &all = sensors->sensors().sensors;
-    for (int i = 0; i < all.size(); ++i) {
-        if (SensorTile *tile = tiles.at(i))
-            tile->setReading(readingOf(all.at(i)));
+    for (int i = 0; i < allSensors().size(); ++i) {
+        if (m_sensors->isShown(i))
+            m_page->setReading(i, m_values.reading(allSensors().at(i)));
     }
 }
 
-void TabSensors::Private::refreshTree()
+void TabSensors::refreshTree()
 {
-    const QVector<SensorInfo> &all = sensors->sensors().sensors;
-    for (int i = 0; i < all.size(); ++i) {
-        const SensorReading reading = readingOf(all.at(i));
-        const SensorScale scale = sensorScale(all.at(i).limits, reading.held);
+    for (int i = 0; i < allSensors().size(); ++i) {
+        const SensorInfo &sensor = allSensors().at(i);
+        const SensorReading reading = m_values.reading(sensor);
+        const SensorScale scale = sensorScale(sensor.limits, reading.held);
         const QString text =
             reading.hasValue() ? sensorValueText(reading.readOut, scale.valueDecimals) : QStringLiteral("–");
-        sensors->setReading(i, text, reading.status);
-        if (tiles.at(i))
-            tiles.at(i)->describeReading();
+        m_sensors->setReading(i, text, reading.status);
+        m_page->describeReading(i);
     }
 }
 
-void TabSensors::Private::refresh()
+void TabSensors::refresh()
 {
-    readOutAnew();
+    m_values.updateReadOut();
     refreshTiles();
     refreshTree();
 }
 
-void TabSensors::Private::checkFreshness()
+void TabSensors::checkFreshness()
 {
-    if (isFresh()) {
-        readOutAnew();
+    if (m_values.isFresh()) {
+        m_values.updateReadOut();
         refreshTree();
         scheduleTiles();
         return;
     }
-    statusTimer.stop();
+    m_statusTimer.stop();
     refresh();
 }
 
-void TabSensors::Private::resetHeld(int index)
+void TabSensors::resetHeld(int sensor)
 {
-    if (index < 0)
-        return;
-    live.resetHeld(sensors->sensors().sensors.at(index).channel);
-    refresh();
-}
-
-void TabSensors::Private::resetAll()
-{
-    for (int channel = 0; channel < kNumSensors; ++channel)
-        live.resetHeld(channel);
+    m_values.resetHeld(allSensors().at(sensor).channel);
     refresh();
 }
 
 // --- Events ----------------------------------------------------------------------------------------------------
 
-void TabSensors::showEvent(QShowEvent *event)
+/// Side by side there must be room for the tree and one tile.
+void TabSensors::fitToWidth(int width)
 {
-    QWidget::showEvent(event);
-    d->showHint();
-    d->refresh();
-    if (d->isFresh())
-        d->statusTimer.start();
+    const Qt::Orientation fitting = width < kNarrowestPage ? Qt::Vertical : Qt::Horizontal;
+    if (m_splitter->orientation() == fitting)
+        return;
+    m_splitter->setOrientation(fitting);
+    m_side->setMinimumWidth(fitting == Qt::Horizontal ? SensorSide::kNarrowest : 0);
 }
 
 void TabSensors::resizeEvent(QResizeEvent *event)
 {
-    d->fitToWidth(width());
+    fitToWidth(width());
     QWidget::resizeEvent(event);
+}
+
+void TabSensors::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    showHint();
+    refresh();
+    if (m_values.isFresh())
+        m_statusTimer.start();
 }
 
 void TabSensors::hideEvent(QHideEvent *event)
 {
-    d->repaintTimer.stop();
-    d->statusTimer.stop();
+    m_repaint.cancel();
+    m_statusTimer.stop();
     QWidget::hideEvent(event);
 }
 
 void TabSensors::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Escape && d->grid->enlarged())
-        d->enlarge(nullptr);
-    else
+    const bool isTaken = event->key() == Qt::Key_Escape && m_page->shrink();
+    if (!isTaken)
         QWidget::keyPressEvent(event);
-}
-
-bool TabSensors::eventFilter(QObject *watched, QEvent *event)
-{
-    if (watched == d->tree && event->type() == QEvent::Resize)
-        d->fitSide();
-    if (watched == d->tree && event->type() == QEvent::KeyPress && d->handleTreeKey(*static_cast<QKeyEvent *>(event)))
-        return true;
-    return QWidget::eventFilter(watched, event);
 }
 
 void TabSensors::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) {
-        updateDescription(); // names that stand in for missing ones
-        d->retranslateUi();
-        d->refresh();
+        updateDescription(); // the texts for sensors without a name
+        showHint();
+        refresh();
     }
     QWidget::changeEvent(event);
 }

@@ -7,17 +7,17 @@
 
 namespace {
 
-constexpr int kGap = 0; // pixels; the cards bring their shadows
+constexpr int kGap = 0; // pixels; the shadows of the cards separate them
 constexpr int kLowestTile = 190;
 constexpr int kNarrowestTile = 250;
-constexpr double kShape = 1.35; // width of a display against its height
+constexpr double kShape = 1.35; // width to height ratio of a display
 
 int rowsFor(int count, int columns)
 {
     return (count + columns - 1) / columns;
 }
 
-/// How large a display of the best shape gets in a tile.
+/// How large a display with the ideal shape gets in a tile.
 double fitOf(int count, int columns, const QSize &area)
 {
     const double width = static_cast<double>(area.width()) / columns;
@@ -35,7 +35,7 @@ int bestColumns(int count, const QSize &area)
     return best;
 }
 
-/// The part `index` of a length that is cut into so many parts with gaps between them.
+/// Begin and length of part `index` of a length that is divided into `parts` with gaps between them.
 QPair<int, int> part(int index, int parts, int length, int gap)
 {
     const int begin = static_cast<int>(static_cast<qint64>(index) * (length + gap) / parts);
@@ -43,7 +43,7 @@ QPair<int, int> part(int index, int parts, int length, int gap)
     return {begin, std::max(1, end - begin)};
 }
 
-/// From one tile to another, as an arrow key sees it.
+/// The way from one tile to another along the direction of an arrow key, in pixels.
 struct Way
 {
     int ahead;
@@ -110,7 +110,7 @@ void TileGrid::setEnlarged(QWidget *tile)
     place();
 }
 
-/// Too many tiles for the page make the grid taller than what shows it, which then scrolls.
+/// With too many tiles for the page the grid becomes taller than its scroll area.
 void TileGrid::keepReadable()
 {
     const int shown = m_enlarged ? 1 : m_tiles.size();

@@ -4,12 +4,12 @@
 #include <QVector>
 #include <QWidget>
 
-/// Where so many tiles stand in an area: in rows that fill it, of a shape as close to a display's as possible. The rows
-/// differ by one tile at most; the shorter ones come last and have wider tiles.
+/// The places of `count` tiles in an area: in rows that fill it, each tile as close to the shape of a display as
+/// possible. The rows differ by one tile at most; the shorter ones come last and have wider tiles.
 [[nodiscard]] QVector<QRect> tilePlaces(int count, const QSize &area, int gap);
 
-/// Shows widgets side by side, or one of them alone. The widgets belong to it as children only while they are shown
-/// here; whoever deletes one takes it out before.
+/// Shows widgets side by side, or one of them alone. They become its children; before one is deleted,
+/// setTiles() has to be called without it.
 class TileGrid : public QWidget
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ public:
 
     void setTiles(const QVector<QWidget *> &tiles);
     [[nodiscard]] const QVector<QWidget *> &tiles() const { return m_tiles; }
-    /// Null or a stranger: all.
+    /// Null, or a widget that is not shown here: shows all.
     void setEnlarged(QWidget *tile);
     [[nodiscard]] QWidget *enlarged() const { return m_enlarged; }
     /// The neighbour in the direction of an arrow key; null at the edge.

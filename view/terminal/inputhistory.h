@@ -11,7 +11,8 @@ public:
     static constexpr int kMaximum = 100;
 
     void add(const QString &line);
-    /// The line before; at the oldest that one again. The text given is what is typed now: it comes back at the end.
+    /// The line before; at the oldest one that one again. `typed` is the text in the field; it is returned after the
+    /// newest line.
     [[nodiscard]] QString previous(const QString &typed);
     [[nodiscard]] QString next(const QString &typed);
 

@@ -10,7 +10,7 @@ namespace {
 constexpr int kLongestInterval = 1000;
 // Showing text may take a tenth of the time at most.
 constexpr int kIntervalPerCost = 10;
-// Appending to a full field costs five times as much for each line as filling it anew, since it drops the oldest
+// Appending to a full field costs five times as much for each line as refilling it, since it drops the oldest
 // lines one by one.
 constexpr int kCostOfAppending = 5;
 
@@ -55,12 +55,12 @@ void StreamEdit::flush()
     if (lines * kCostOfAppending < maximumBlockCount())
         appendPlainText(text);
     else
-        fillAnew(text, lines);
+        refill(text, lines);
     const int interval = static_cast<int>(cost.elapsed()) * kIntervalPerCost;
     m_throttle.setInterval(std::clamp(interval, kShortestInterval, kLongestInterval));
 }
 
-void StreamEdit::fillAnew(const QString &text, int lines)
+void StreamEdit::refill(const QString &text, int lines)
 {
     QScrollBar *bar = verticalScrollBar();
     const int position = bar->value();

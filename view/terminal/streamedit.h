@@ -36,7 +36,7 @@ protected:
 
 private:
     void startFlush();
-    void fillAnew(const QString &text, int lines);
+    void refill(const QString &text, int lines);
 
     Source m_source;
     Throttle m_throttle{kShortestInterval};

@@ -28,7 +28,7 @@ struct LoggedSample
     std::array<double, kNumSensors> values{};
 };
 
-/// As wide as its name, but gives way to its neighbours and shortens the name then.
+/// As wide as its name; where there is too little room it shrinks and shortens the name.
 class NameBox : public QCheckBox
 {
 public:

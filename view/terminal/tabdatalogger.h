@@ -8,7 +8,7 @@
 #include <array>
 #include <memory>
 
-/// The tab "Datenlogger": one line of text a sample, with a column for every sensor that is checked. Keeps the
+/// The tab "Datenlogger": one line of text per sample, with a column for every sensor that is checked. Keeps the
 /// newest kMaximumLines lines. Nothing is written, and a sample costs next to nothing, while no sensor is checked.
 class TabDataLogger : public QWidget
 {
@@ -32,7 +32,7 @@ public:
 
 signals:
     void clearRequested();
-    /// The columns changed, so that what follows needs a headline of its own.
+    /// The columns changed, so that the following lines need a new headline.
     void headlineRequested();
 
 protected:

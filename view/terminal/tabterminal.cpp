@@ -19,7 +19,7 @@
 
 namespace {
 
-constexpr int kLongestInput = 1000; // characters; the box reads no longer line
+constexpr int kLongestInput = 1000; // characters; the box does not read longer lines
 
 struct TerminalLine
 {
@@ -27,7 +27,7 @@ struct TerminalLine
     bool sent = false;
 };
 
-/// Control characters would break the line or vanish: they get the symbols that Unicode has for them.
+/// Control characters would break the line or be invisible; Unicode has a symbol for each.
 void appendVisible(QString &target, const QString &line)
 {
     constexpr ushort kControlPictures = 0x2400;

@@ -33,7 +33,7 @@ struct AnswerText
     const char *text;
 };
 
-// In the order in which they stand in a box.
+// In the order in which a box shows them.
 constexpr AnswerText kAnswers[] = {
     {QMessageBox::Save, QT_TRANSLATE_NOOP("DialogPrompts", "Speichern")},
     {QMessageBox::Discard, QT_TRANSLATE_NOOP("DialogPrompts", "Verwerfen")},

@@ -92,7 +92,7 @@ void MainToolBar::addSpacer() const
 
 void MainToolBar::addIconButton(QAction *action, const QString &icon)
 {
-    // The bar is dark and the menu is white, so the action's own icon cannot serve both.
+    // The bar is dark and the menu is white: one icon of the action cannot serve both.
     auto *button = new QToolButton(m_bar);
     button->setIcon(actionIcon(icon, theme::qColorBackground));
     button->setIconSize(m_bar->iconSize());

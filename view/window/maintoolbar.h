@@ -36,9 +36,10 @@ private:
     void addIconButton(QAction *action, const QString &icon);
     void addSpacer() const;
     void setCompact(bool compact);
-    /// The buttons whose text changes keep the room of the longest, so that none moves away under the pointer.
+    /// The buttons whose text changes stay as wide as their longest text needs, so that none moves away under the
+    /// pointer.
     void holdWidths() const;
-    /// What a button shows as an icon alone gets its text as accessible name.
+    /// Buttons that show only an icon get the text of their action as accessible name.
     void nameIconButtons() const;
 
     QMainWindow *m_window;

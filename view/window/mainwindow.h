@@ -5,7 +5,8 @@
 #include <QMainWindow>
 
 /// The main window as its parts see it: the signals for what the user wants, and the operations that a part carries out
-/// step by step through the window, which logs each. View is what there is of it.
+/// through the window so that each step is logged. Keeps parts and View from including each other; View is the only
+/// implementation.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT

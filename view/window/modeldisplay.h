@@ -8,8 +8,8 @@
 class Model;
 class StatusDisplay;
 
-/// Brings the pages up to date with the model, as seldom as nobody notices. The evaluation and the oscilloscope follow
-/// the model by themselves, the oscilloscope also on demand.
+/// Keeps the pages up to date with the model, bundling changes that arrive in quick succession. The evaluation and the
+/// oscilloscope follow the model themselves; the oscilloscope can also be told to.
 class ModelDisplay : public QObject
 {
     Q_OBJECT

@@ -21,9 +21,8 @@ namespace {
 const QLatin1String kBuiltIn("de");
 const QLatin1String kPrefix("ventaro");
 
-/// Widgets keep the locale that was the default when they were made, and what is painted is not painted again by
-/// itself.
-void showNumbersAnew()
+/// Widgets keep the locale that was the default when they were created, and nothing repaints them on a change.
+void refreshNumbers()
 {
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows)
@@ -131,7 +130,7 @@ void MultiLanguageUtils::loadLanguage(const QString &code)
     QLocale::setDefault(QLocale(code));
     installQtTexts(code);
     switchTranslator(m_translator, QStringLiteral("%1-%2.qm").arg(kPrefix, code));
-    showNumbersAnew();
+    refreshNumbers();
 }
 
 void MultiLanguageUtils::switchTranslator(QTranslator &translator, const QString &fileName)

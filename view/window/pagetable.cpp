@@ -38,7 +38,7 @@ QWidget *create(Pages &pages)
     return page;
 }
 
-// A page's number is its place here. Further pages only need a line.
+// A page's number is its position here. A new page needs one line here and a pointer in Pages.
 constexpr Row kRows[] = {
     {"tabHome", QT_TRANSLATE_NOOP("PageTable", "Home"), false, create<&Pages::home>},
     {"tabProject", QT_TRANSLATE_NOOP("PageTable", "Projekt"), false, create<&Pages::project>},

@@ -40,13 +40,14 @@ bool ProjectDrop::take(QDropEvent *event)
     const QString file = draggedProject(*event->mimeData());
     if (file.isEmpty())
         return false;
-    // Never a move: the file manager would then remove its file. Behind an open dialog nothing can be opened.
+    // Never a move: the file manager would then remove its file. While a dialog is open no project can be opened.
     if (!(event->possibleActions() & Qt::CopyAction) || QApplication::activeModalWidget()) {
         event->ignore();
         return true;
     }
     event->setDropAction(Qt::CopyAction);
     event->accept();
+    // Opening may ask a question; the program that the file comes from must not wait for the answer.
     if (event->type() == QEvent::Drop)
         QTimer::singleShot(0, this, [this, file] { emit dropped(file); });
     return true;

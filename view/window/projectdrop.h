@@ -21,7 +21,7 @@ public:
     explicit ProjectDrop(QWidget *window);
 
 signals:
-    /// After the drop is over for whoever dragged the file, so that questions may be asked.
+    /// Emitted when the drop is finished for the program that the file came from, so that questions may be asked.
     void dropped(const QString &fileName);
 
 protected:

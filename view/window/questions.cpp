@@ -21,7 +21,7 @@ Answer Questions::oneAtATime(Answer refusal, Question question)
     m_asking = true;
     const Answer answer = question();
     m_asking = false;
-    // Later: whoever asked must get the answer before the next box opens.
+    // Not now: the caller must get its answer before the next box opens.
     if (!m_waiting.isEmpty())
         QTimer::singleShot(0, this, &Questions::showWaitingMessage);
     return answer;

@@ -16,7 +16,7 @@ constexpr int kLongestFileText = 420;          // pixels
 constexpr int kProtectedTime = 10000;          // ms, of a message without an end
 const QLatin1String kModifiedColor("#B45309"); // can be read on the bar's grey
 
-/// What is written from right to left must not take along what follows it.
+/// A name written from right to left must not reverse the text that follows it.
 QString isolated(const QString &name)
 {
     constexpr QChar kFromLeft(0x200E);
@@ -62,7 +62,7 @@ void StatusDisplay::showDemo(bool running)
     m_demo->setVisible(running);
 }
 
-/// A tip under the moving pointer would wipe out what the program has to say.
+/// The status tip of whatever is under the pointer would replace a message of the program.
 bool StatusDisplay::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::StatusTip && m_messageTimer.isActive())
@@ -101,7 +101,7 @@ void StatusDisplay::refreshFile()
         return;
     m_file->setText(text);
     m_file->setToolTip(tip);
-    // A bold type is wider; it comes with the text, so that the bar is laid out once.
+    // Bold type is wider; setting it together with the text makes the bar lay out its widgets once.
     m_file->setStyleSheet(m_model->isProjectModified()
                               ? QStringLiteral("QLabel {font-weight: bold; color: %1;}").arg(kModifiedColor)
                               : QString());

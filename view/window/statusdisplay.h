@@ -9,7 +9,7 @@ class QMainWindow;
 class QStatusBar;
 
 /// The window's status bar: messages of the program, at the right a mark while the demonstration runs, and the
-/// project's file with what becomes of it. Follows the file by itself.
+/// project's file and whether it is modified. Updates the file by itself.
 class StatusDisplay : public QObject
 {
     Q_OBJECT

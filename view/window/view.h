@@ -88,10 +88,10 @@ public:
     /// Takes over what is being typed into a field that waits for the end of the input.
     void commitInput();
 
-    /// What a sample line holds, recorded or not, of a box that measures every so many milliseconds; cheap enough for
-    /// every line.
+    /// What a sample line holds, recorded or not, of a box that takes one sample per period, in milliseconds; cheap
+    /// enough for every line.
     void showLiveValues(const std::array<double, kNumSensors> &values, int period);
-    /// What came so far does not go with the sensors that are known now.
+    /// The values so far do not belong to the sensors that are known now.
     void forgetLiveValues();
 
     // --- Live text of terminal and data logger; both cheap enough for every line ---

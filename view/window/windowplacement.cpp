@@ -7,9 +7,9 @@
 
 namespace {
 
-constexpr int kTitleBarHeight = 30; // what it really is nobody knows before the window is shown
+constexpr int kTitleBarHeight = 30; // a guess; the real one is known once the window is shown
 
-constexpr int kFarthest = 100000; // pixels; beyond this no settings file is to be believed
+constexpr int kFarthest = 100000; // pixels; a position farther away is a damaged settings file
 
 QPoint believable(QPoint position)
 {
@@ -47,6 +47,7 @@ WindowPlacement placedOnScreens(const WindowPlacement &stored, const QVector<QRe
         return sharedArea(a, frame) < sharedArea(b, frame);
     });
     placed.size = placed.size.boundedTo(screen.size() - titleBar);
+    // A window that was on a monitor that is now missing starts at the default place.
     if (sharedArea(screen, frame) == 0)
         placed.position = screen.topLeft() + WindowPlacement().position;
     const QPoint last =

@@ -1,4 +1,6 @@
+#include "device/protocol/descriptions.h"
 #include "device/protocol/messages.h"
+#include "device/protocol/sampleline.h"
 #include "tests/support/literals.h"
 #include "tests/support/rows.h"
 
@@ -111,7 +113,7 @@ private slots:
         row("Arabic digit", QString(QChar(0x0663)));
     }
 
-    // The line feed, which stands behind the last field only, must make no difference either.
+    // The line feed, which follows the last field only, must make no difference either.
     void convertsFieldsLikeToDouble()
     {
         QFETCH(QString, field);

@@ -1,8 +1,9 @@
-#include "kit/gauge/qcaccessible.h"
+#include "kit/gauge/qcannouncer.h"
 #include "kit/gauge/qcdegreesitem.h"
 #include "kit/gauge/qcgaugewidget.h"
 #include "kit/gauge/qcneedleitem.h"
 #include "kit/gauge/qcscaleitem.h"
+#include "kit/gauge/qcsensorgauge.h"
 #include "kit/material/qtmaterialstyle.h"
 #include "kit/material/qtmaterialtheme.h"
 
@@ -43,7 +44,7 @@ void useTheme(const QColor &needle)
     QtMaterialStyle::instance().setTheme(std::move(theme));
 }
 
-/// Notes when it is painted.
+/// Records when it is painted.
 class NotingItem : public QcItem
 {
 public:
@@ -114,9 +115,10 @@ void TestQcGaugeWidget::stillPartsAreKept_data()
     row("impossible bands", QString(), [nan](ScaledGauge &gauge) {
         gauge.setBands({{0.0, nan, Qt::red}, {0.0, 9.0, QColor()}});
     });
-    row("needle", QString(), [](ScaledGauge &gauge) { gauge.find<QcNeedleItem>()->setColor(Qt::red); });
-    row("part below", QStringLiteral("b"), [](ScaledGauge &gauge) { gauge.find<QcDegreesItem>()->setLength(9.0); });
-    row("another step", all, [](ScaledGauge &gauge) { gauge.find<QcScaleItem>()->setStep(25.0); });
+    row("needle", QString(), [](ScaledGauge &gauge) { gauge.parts().find<QcNeedleItem>()->setColor(Qt::red); });
+    row("part below", QStringLiteral("b"),
+        [](ScaledGauge &gauge) { gauge.parts().find<QcDegreesItem>()->setLength(9.0); });
+    row("another step", all, [](ScaledGauge &gauge) { gauge.parts().find<QcScaleItem>()->setStep(25.0); });
     row("range", all, [](ScaledGauge &gauge) { gauge.setRange(0.0, 99.0); });
     row("bands", all, [](ScaledGauge &gauge) { gauge.setBands({{50.0, 60.0, Qt::red}}); });
     row("size", all, [](ScaledGauge &gauge) { gauge.resize(210, 200); });
@@ -161,24 +163,24 @@ void TestQcGaugeWidget::partsArePaintedInOrder()
     };
     for (const char name : {'a', 'b', 'c', 'd'})
         gauge.append<NotingItem>(QLatin1Char(name), notes);
-    gauge.movePart(0, 2);
+    gauge.parts().move(0, 2);
     QCOMPARE(order(), QStringLiteral("bcad"));
-    gauge.movePart(3, 0);
-    gauge.movePart(4, 0); // no such part
+    gauge.parts().move(3, 0);
+    gauge.parts().move(4, 0); // no such part
     QCOMPARE(order(), QStringLiteral("dbca"));
-    std::unique_ptr<QcItem> taken = gauge.takePart(1);
-    taken->setVisible(false); // reaches no gauge
-    QVERIFY(!gauge.takePart(3) && !gauge.part(-1));
-    gauge.insertPart(99, std::move(taken));
+    std::unique_ptr<QcItem> taken = gauge.parts().take(1);
+    taken->setVisible(false); // no longer affects the gauge
+    QVERIFY(!gauge.parts().take(3) && !gauge.parts().at(-1));
+    gauge.parts().insert(99, std::move(taken));
     QCOMPARE(order(), QStringLiteral("dca"));
-    gauge.part(3)->setVisible(true);
-    gauge.removePart(0);
+    gauge.parts().at(3)->setVisible(true);
+    gauge.parts().remove(0);
     QCOMPARE(order(), QStringLiteral("cab"));
 }
 
 void TestQcGaugeWidget::valueRepaintsLittle()
 {
-    const std::unique_ptr<QcGaugeWidget> gauge(QcGaugeWidget::createSensorGauge());
+    const std::unique_ptr<QcGaugeWidget> gauge(qcgauge::createSensorGauge());
     gauge->resize(300, 300);
     gauge->setValue(52.0);
     gauge->show();
@@ -194,10 +196,10 @@ void TestQcGaugeWidget::valueRepaintsLittle()
     QVERIFY(!painted.region.contains(QPoint(60, 150)));  // numerals on the left
     QVERIFY(!painted.region.contains(QPoint(240, 150))); // and right
     painted.region = QRegion();
-    gauge->setValue(53.001); // nobody could tell the difference
+    gauge->setValue(53.001); // too small a difference to be visible
     QCoreApplication::processEvents();
     QVERIFY(painted.region.isEmpty());
-    for (int i = 1; i < 200; ++i) // but all together
+    for (int i = 1; i < 200; ++i) // but all of them together make one
         gauge->setValue(53.001 + i * 0.001);
     QTRY_VERIFY(painted.region.contains(QPoint(150, 60)));
 }
@@ -220,7 +222,7 @@ void TestQcGaugeWidget::needleIsWhereTheValueIs()
     QFETCH(double, value);
     QFETCH(double, angle);
     QFETCH(bool, colored);
-    const std::unique_ptr<QcGaugeWidget> gauge(QcGaugeWidget::createSensorGauge());
+    const std::unique_ptr<QcGaugeWidget> gauge(qcgauge::createSensorGauge());
     gauge->resize(320, 300);
     gauge->setValue(10.0);
     (void)gauge->grab();
@@ -249,7 +251,7 @@ void TestQcGaugeWidget::scaleHoldsForThePartsBehindIt()
     QCOMPARE(gauge.canvas(1).step, 1.0);
     QCOMPARE(gauge.canvas(3).scale.to, 145.0);
     QCOMPARE(gauge.canvas(3).step, 20.0);
-    gauge.removePart(2);
+    gauge.parts().remove(2);
     QCOMPARE(gauge.canvas(2).scale.to, 10.0);
 }
 
@@ -272,10 +274,10 @@ void TestQcGaugeWidget::marksHaveRoom()
     QFETCH(double, to);
     QFETCH(double, least);
     QFETCH(double, most);
-    const std::unique_ptr<QcGaugeWidget> gauge(QcGaugeWidget::createSensorGauge());
+    const std::unique_ptr<QcGaugeWidget> gauge(qcgauge::createSensorGauge());
     gauge->resize(size, size);
     gauge->setRange(0.0, to);
-    const double step = gauge->canvas(gauge->partCount() - 1).step;
+    const double step = gauge->canvas(gauge->parts().count() - 1).step;
     QVERIFY2(step >= least && step <= most, qPrintable(QString::number(step)));
     QVERIFY(!gauge->grab().isNull());
 }
@@ -290,7 +292,7 @@ void TestQcGaugeWidget::needleMovesOnlyInSight()
     gauge.setValue(90.0);
     QVERIFY(!gauge.isOnTheWay()); // no damping
     gauge.setDamping(40);
-    gauge.setValue(1e300); // off the scale, but the needle has only that much way
+    gauge.setValue(1e300); // far off the scale, but the needle moves only to the end
     QVERIFY(gauge.isOnTheWay() && gauge.reading().shown == 90.0);
     QTRY_VERIFY(!gauge.isOnTheWay());
     QCOMPARE(gauge.reading().shown, 1e300);
@@ -353,7 +355,7 @@ void TestQcGaugeWidget::announcesSparingly()
         announcer.changed();
     }
     QCOMPARE(told, QStringList(QStringLiteral("1,0")));
-    QTRY_COMPARE(told.size(), 2); // the last one, when the pause is over
+    QTRY_COMPARE(told.size(), 2); // the last value, when the pause is over
     announcer.changed();
     QCOMPARE(told.last(), QStringLiteral("50,0"));
 }

@@ -118,7 +118,7 @@ private slots:
         QVERIFY(!bar->isVisible());
         bar->setRange(0, 10);
         QVERIFY(bar->isVisible());
-        bar->hide(); // someone else's wish
+        bar->hide(); // hidden by the program
         bar->setRange(0, 0);
         bar->setRange(0, 10);
         QVERIFY(!bar->isVisible());
@@ -126,7 +126,7 @@ private slots:
         lonely.setAutoHide(true);
         lonely.setRange(0, 0);
         lonely.setRange(0, 10);
-        QVERIFY(!lonely.isVisible()); // no window of its own
+        QVERIFY(!lonely.isVisible()); // it must not open a window
     }
 
     void widensInSightOnly()

@@ -47,7 +47,7 @@ private slots:
     void labelMovesOnlyInSight()
     {
         QtMaterialTextField field("Name"_s);
-        field.setFocusPolicy(Qt::NoFocus); // else the window that comes up gives it the focus
+        field.setFocusPolicy(Qt::NoFocus); // otherwise the window gives it the focus when it is shown
         field.setText("x"_s);
         QVERIFY(!field.isAnimating()); // not shown yet
         field.show();
@@ -83,7 +83,7 @@ private slots:
         field.setErrorText(QString());
         QCOMPARE(reader->text(QAccessible::Description), "vier Zahlen"_s);
 
-        field.setAccessibleName("Adresse der Messbox"_s); // what others set stays
+        field.setAccessibleName("Adresse der Messbox"_s); // a name set by the program is kept
         field.setAccessibleDescription("eigene"_s);
         field.setLabel("IP"_s);
         field.setErrorText("zu kurz"_s);
@@ -130,7 +130,7 @@ private slots:
         field.setErrorText("falsch"_s);
         QVERIFY(field.sizeHint().height() > bare + 8);
         field.setErrorText(QString());
-        QCOMPARE(field.minimumHeight(), bare); // gives back what it took
+        QCOMPARE(field.minimumHeight(), bare); // releases the height that it reserved
         qApp->setStyleSheet("QWidget{font-size:60px;} QLineEdit{min-height:3px;}"_s);
         field.ensurePolished();
         QVERIFY(field.minimumHeight() > 60);

@@ -40,7 +40,7 @@ private slots:
         row("half transparent", QColor(0, 0, 0, 60));
     }
 
-    // Checked and unchecked differ at a glance, whatever the colour, and text stands apart from its ground.
+    // Checked and unchecked buttons look different in every colour, and the text has enough contrast.
     void buttonIsReadable()
     {
         QFETCH(QColor, color);

@@ -154,7 +154,7 @@ private slots:
         QCOMPARE(document.losses.skippedLines, given && !time.isValid() ? 1 : 0);
     }
 
-    void longLinesCostNothing()
+    void longLinesCostNoMemory()
     {
         constexpr qint64 kSize = 64 * 1024 * 1024;
         QBuffer device;
@@ -171,7 +171,7 @@ private slots:
         QVERIFY2(longestStep <= 65536, qPrintable(QString::number(longestStep))); // the window gets its turns meanwhile
     }
 
-    void stopsWhereItIsTold()
+    void stopsAtTheByteLimit()
     {
         QBuffer buffer;
         buffer.setData(kSample.repeated(1000));
@@ -203,7 +203,7 @@ private slots:
         QVERIFY(!model.timestamp(0).isValid());
         QCOMPARE(model.blackBoxLosses().skippedLines, 1);
         QCOMPARE(model.blackBoxLosses().badValues, 1);
-        QVERIFY(model.addBlackBoxFile(file)); // asked for twice
+        QVERIFY(model.addBlackBoxFile(file)); // a second time
         QCOMPARE(model.numChannels(4), 3);
         QCOMPARE(model.fileList(), QStringList{file});
         QCOMPARE(model.blackBoxLosses().skippedLines, 1);
@@ -242,7 +242,7 @@ private slots:
         QCOMPARE(model.numChannels(0), 0);
         QVERIFY(model.fileList().isEmpty());
         QCOMPARE(project.count(), 0);
-        model.setFileList({name}); // of earlier; that it is unreadable now makes it no known one
+        model.setFileList({name}); // imported earlier; as it cannot be read now, it has no fingerprint
         QVERIFY(model.importedFiles().isEmpty());
     }
 

@@ -1,5 +1,6 @@
 #include "model/model.h"
 #include "model/project/atomicfile.h"
+#include "model/project/filework.h"
 #include "tests/support/files.h"
 #include "tests/support/literals.h"
 #include "tests/support/logcapture.h"
@@ -187,7 +188,9 @@ private slots:
         for (rlim_t limit : {rlim_t(0), rlim_t(1), rlim_t(65536), size / 2, size - 5000, size - 1}) {
             const rlimit low{limit, before.rlim_max};
             QCOMPARE(setrlimit(RLIMIT_FSIZE, &low), 0);
-            const bool saved = model.save(file) || (limit < 1000 && Model(QString()).save(file)); // buffered to its end
+            const bool saved =
+                model.save(file)
+                || (limit < 1000 && Model(QString()).save(file)); // a small project is only written at the end
             QCOMPARE(setrlimit(RLIMIT_FSIZE, &before), 0);
             QVERIFY(!saved);
             QCOMPARE(contentOf(file), old);
@@ -241,6 +244,20 @@ private slots:
         QVERIFY(reader.readAll() == content);
     }
 
+    void survivesALackOfMemory()
+    {
+        FileWork work;
+        const LogCapture log;
+        const auto task = [&work]() -> std::optional<int> {
+            if (work.isBusy())
+                throw std::bad_alloc();
+            return 1;
+        };
+        QVERIFY(!work.run(task, "open"));
+        QVERIFY(log.contains("open ERROR: out of memory!"_s));
+        QVERIFY(!work.isBusy() && !work.refuses("open"));
+    }
+
     void refusesSecondTaskWhileBusy()
     {
         Model model{QString()};
@@ -280,7 +297,7 @@ private slots:
         });
         QVERIFY(model.save(path("during.vnt")));
         QCOMPARE(contentOf(path("during.vnt")), contentOf(path("before.vnt")));
-        QVERIFY(model.isProjectModified()); // the file lacks what has come since
+        QVERIFY(model.isProjectModified()); // the file lacks what has arrived since
         QCOMPARE(model.measurement(4, 1)->constLast(), 1e6);
         model.setYield([](int) {});
         QVERIFY(model.save(path("during.vnt")));

@@ -219,6 +219,19 @@ private slots:
         QCOMPARE(QJsonDocument(found).toJson(QJsonDocument::Compact), written);
     }
 
+    /// Somebody else's list may have grown, and keeps its samples; the document's own list is handed over.
+    void runsGiveTheirSamples()
+    {
+        SampleList list{1.0, 2.0};
+        SampleRun borrowed(&list, list.size());
+        list.append(3.0);
+        QCOMPARE(*borrowed.take(), (SampleList{1.0, 2.0}));
+        QCOMPARE(list.size(), 3);
+        SampleRun owned(list);
+        const double *samples = owned.data();
+        QCOMPARE(owned.take()->constData(), samples);
+    }
+
     void reportsAFullDevice()
     {
         const QVector<SampleList> samples{randomDoubles(30000, 5)};

@@ -90,10 +90,10 @@ private slots:
         model.clearData();
         addShots(model, 2);
         QCOMPARE(model.shotLabel(0), QString());
-        QCOMPARE(model.projectMeta().sensors[1].startThreshold, 12.5); // settings are no data
+        QCOMPARE(model.projectMeta().sensors[1].startThreshold, 12.5); // settings are not data: clearing keeps them
     }
 
-    // The project was written by something that knows nothing of the file beside it.
+    // Another program has written the project and knows nothing of the file beside it.
     void labelsOfOtherShotsAreNotTaken()
     {
         Model model{QString()};
@@ -112,7 +112,7 @@ private slots:
         QCOMPARE(opened.projectMeta().sensors[1].startThreshold, 12.5);
     }
 
-    void aBadFileKeepsNothingFromOpening_data()
+    void opensDespiteABadMetaFile_data()
     {
         columns<QByteArray>("text");
         row("no JSON", QByteArray("\xFF\x00garbage", 9));
@@ -122,7 +122,7 @@ private slots:
         row("huge", QByteArray(static_cast<int>(kLargestMeta) + 1, ' '));
     }
 
-    void aBadFileKeepsNothingFromOpening()
+    void opensDespiteABadMetaFile()
     {
         QFETCH(QByteArray, text);
         Model model{QString()};
@@ -151,7 +151,7 @@ private slots:
         QCOMPARE(model.numChannels(0), 3);
     }
 
-    void aFailedWriteIsTold()
+    void reportsAFailedWrite()
     {
         Model model{QString()};
         fill(model);
@@ -191,7 +191,7 @@ private slots:
         QVERIFY(!meta->timestamps[0].isValid());
     }
 
-    void aShortWriteIsNoticed()
+    void noticesAShortWrite()
     {
         FailDevice device(20);
         QVERIFY(!writeProjectMeta(device, ProjectMeta(), {1, 2}));

@@ -176,7 +176,7 @@ private slots:
         const auto seconds = static_cast<double>(clock.elapsed()) / 1000.0;
         QVERIFY2(counter.count > 0 && counter.count <= 20 * seconds + 1,
                  qPrintable("%1 in %2 s"_s.arg(counter.count).arg(seconds)));
-        QTRY_COMPARE(bench.tile(1)->display()->reading().value, 0.5); // the last one is not left out
+        QTRY_COMPARE(bench.tile(1)->display()->reading().value, 0.5); // the last sample is not lost
         QTRY_COMPARE(bench.tile(1)->display()->reading().readOut, 0.5);
     }
 
@@ -200,10 +200,10 @@ private slots:
         bench.sample({5.0, 0, 0, 0, 0}, clock);
         QTRY_COMPARE(bench.status(), SensorStatus::Inside);
         bench.time += wait;
-        QTest::qWait(300); // the tab looks four times a second
+        QTest::qWait(300); // the tab checks four times per second
         QTEST(bench.status() == SensorStatus::Stale, "stale");
         QCOMPARE(bench.tile(1)->display()->reading().value, 5.0);
-        bench.sample({11.0, 0, 0, 0, 0}); // a new connection goes on
+        bench.sample({11.0, 0, 0, 0, 0}); // a new connection
         QTRY_COMPARE(bench.status(), SensorStatus::Above);
     }
 
@@ -282,7 +282,7 @@ private slots:
         const double shade = 1e-9 * (scale.high - scale.low);
         QVERIFY(scale.low <= limits.lower.value_or(heldMinimum) + shade);
         QVERIFY(scale.high >= limits.upper.value_or(heldMaximum) - shade);
-        QVERIFY(!limits.upper || scale.high > *limits.upper); // what is outside shows
+        QVERIFY(!limits.upper || scale.high > *limits.upper); // values outside are visible
         QVERIFY(scale.numSteps() >= 5 && scale.numSteps() <= 15);
         // The labels are exact, and a hundredth of the range shows.
         QCOMPARE(QLocale().toDouble(sensorValueText(scale.low, scale.labelDecimals)), scale.low);
@@ -305,7 +305,7 @@ private slots:
         QCOMPARE(model.color(2), QColor(Qt::magenta));
         QCOMPARE(model.osziMaximum(2), 60.0);
         emit view.tabSensors()->sensorLimitsEdited(0, 2, -5.0, SensorLimits::kNoUpper);
-        QCOMPARE(model.osziMaximum(2), 60.0); // nobody could see a curve in that range
+        QCOMPARE(model.osziMaximum(2), 60.0); // no curve would be visible in that range
         QTRY_COMPARE(tree->sensors().sensors.at(2).name, "Kern zug"_s);
         QVERIFY(!tree->sensors().sensors.at(2).limits.upper);
         auto *rows = view.tabSensors()->findChild<QTreeView *>();
@@ -318,7 +318,7 @@ private slots:
         QTRY_COMPARE(tree->sensors().sensors.at(2).name, "Schieber"_s);
         QCOMPARE(model.sensorDescription().sensorGroup(0).sensorMinimum(2), -5.0); // left alone
         QVERIFY(containsLabel(view.tabOszi(), "Schieber"_s));
-        // What was chosen for the sensor went with its name.
+        // The choices for the sensor were kept under its new name.
         QCOMPARE(view.tabSensors()->findChild<SensorTile *>("sensorTile3"_s)->kind(), DisplayKind::Bar);
     }
 
@@ -386,7 +386,7 @@ private slots:
         editor->setText("Werkzeug"_s);
         QTest::keyClick(editor, Qt::Key_Return);
         QTRY_COMPARE(renamed.count(), 1);
-        QVERIFY(!bench.tab.findChild<SensorDialog *>()); // which the same key would open
+        QVERIFY(!bench.tab.findChild<SensorDialog *>()); // the same key opens the dialog elsewhere
     }
 };
 

@@ -103,7 +103,7 @@ void fill(TabBlackBox &tab, Model &model, const QDir &folder)
     tab.setResult("9 Messungen importiert, 3 Zeilen übersprungen, 1 Datei nicht lesbar"_s);
 }
 
-/// What was used last, with names as long as they come and projects that are gone.
+/// Recent projects and addresses, with very long names and files that do not exist any more.
 void rememberMuch(View &view)
 {
     const QDir here(QCoreApplication::applicationDirPath());

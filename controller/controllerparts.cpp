@@ -1,0 +1,136 @@
+#include "controller/controllerparts.h"
+
+#include "app/theme.h"
+#include "controller/controlleroptions.h"
+#include "device/scptransfer.h"
+#include "view/oscilloscope/taboszilloscope.h"
+#include "view/project/tabproject.h"
+#include "view/sensors/tabsensors.h"
+#include "view/window/view.h"
+
+ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptions &options)
+    : connector(options.port)
+    , demoBox(options.demoProgram, options.demoStartTimeout)
+    , occupancy(view, model)
+    , questions(occupancy)
+    , progress(view, model)
+    , display(view)
+    , edits(model)
+    , recorder(model, edits, connector, display)
+    , lines(connector, model,
+            [this, &view](const QString &line) {
+                view.terminalReceived(line);
+                dispatch.dispatch(line);
+            })
+    , link({view, model, occupancy}, connector, demoBox, questions, recorder, options.deviceAddress)
+    , demo({view, model, occupancy}, demoBox, link, questions)
+    , descriptions(view, model, connector, edits, recorder,
+                   {options.deviceDescriptionTimeout, options.sensorDescriptionTimeout})
+    , period({view, model, occupancy}, connector, edits, recorder)
+    , offer({view, model, occupancy}, questions, lines, edits)
+    , transfers({view, model, occupancy})
+    , firmware({view, model, occupancy}, connector, link, demo, options.restartWait)
+    , recording({view, model, occupancy}, recorder, link)
+    , deletion({view, model, occupancy}, edits, recorder)
+    , tabEdits(view, model, edits)
+    , files({view, model, occupancy}, progress, lines, edits)
+    , pictures({view, model, occupancy}, edits)
+    , loggerList({view, model, occupancy}, link)
+    , loggerFetch({view, model, occupancy}, connector, demo, transfers, options.temporaryDirectory)
+    , loggerImport({view, model, occupancy}, progress, lines, edits, recorder)
+{
+    setUpTransfers(options);
+    handleMessages();
+    connectLink(view);
+    connectFiles();
+    connectView(view);
+    connectTabs(view);
+}
+
+ControllerParts::~ControllerParts()
+{
+    // The last signals of the socket and the process must not find parts that are gone.
+    QObject::disconnect(&connector, nullptr, nullptr, nullptr);
+    QObject::disconnect(&demoBox, nullptr, nullptr, nullptr);
+}
+
+void ControllerParts::setUpTransfers(const ControllerOptions &options)
+{
+    connector.scp().setOptions(
+        {options.scpToolFile, theme::deviceUser, theme::devicePassword, options.deviceAddress, options.scpTimeouts});
+    transfers.attach(connector.scp());
+}
+
+void ControllerParts::handleMessages()
+{
+    dispatch.setHandler(MessageKind::RunStarted, [this](const QString &) { recorder.started(); });
+    dispatch.setHandler(MessageKind::RunStopped, [this](const QString &) { recorder.stopped(); });
+    dispatch.setHandler(MessageKind::ClockEcho, [this](const QString &message) { period.takeEcho(message); });
+    dispatch.setHandler(MessageKind::ListBegin, [this](const QString &) { loggerList.begin(); });
+    dispatch.setHandler(MessageKind::ListEnd, [this](const QString &) { loggerList.finish(); });
+    dispatch.setHandler(MessageKind::Other, [this](const QString &message) { loggerList.take(message); });
+}
+
+/// Receivers of the same signal are called in the order of these lines.
+void ControllerParts::connectLink(View &view)
+{
+    QObject::connect(&connector, &MesotraConnector::written, &view, &View::terminalSent);
+    QObject::connect(&connector, &MesotraConnector::error, &link, &BoxLink::onError);
+    QObject::connect(&link, &BoxLink::established, &demo, &DemoLink::showState);
+    QObject::connect(&link, &BoxLink::established, &period, &SamplingPeriod::begin);
+    QObject::connect(&link, &BoxLink::established, &descriptions, &BoxDescriptions::request);
+    // What the box sent before the end of the link comes first.
+    QObject::connect(&link, &BoxLink::closing, &link, [this] { lines.flush(); });
+    QObject::connect(&link, &BoxLink::closing, &descriptions, &BoxDescriptions::stopWaiting);
+    QObject::connect(&link, &BoxLink::closing, &loggerList, &LoggerList::reset);
+    QObject::connect(&link, &BoxLink::left, &demo, &DemoLink::stop);
+    QObject::connect(&link, &BoxLink::demoLost, &demo, [this] { demo.onFailed(DemoBox::End::Ended); });
+    QObject::connect(&demoBox, &DemoBox::listening, &demo, &DemoLink::onListening);
+    QObject::connect(&demoBox, &DemoBox::failed, &demo, &DemoLink::onFailed);
+    QObject::connect(&descriptions, &BoxDescriptions::projectReceived, &descriptions,
+                     [this](const ReceivedProject &project) { offer.receive(project); });
+    QObject::connect(&period, &SamplingPeriod::boxPeriodChanged, &period, [this](int ms) { display.setPeriod(ms); });
+}
+
+void ControllerParts::connectFiles()
+{
+    QObject::connect(&files, &ProjectFiles::boxGivenUp, &link, &BoxLink::leave);
+    QObject::connect(&files, &ProjectFiles::cleared, &descriptions, &BoxDescriptions::describeAgain);
+    QObject::connect(&files, &ProjectFiles::measurementsReplaced, &files, [this] { recorder.forgetSeries(); });
+    QObject::connect(&files, &ProjectFiles::shown, &files, [this] { recorder.announceRunning(); });
+    QObject::connect(&files, &ProjectFiles::shown, &period, &SamplingPeriod::matchProject);
+    QObject::connect(&files, &ProjectFiles::quitting, &files, [this] { recorder.requestStop(); });
+}
+
+void ControllerParts::connectView(View &view)
+{
+    QObject::connect(&view, &View::openProjectFile, &files, &ProjectFiles::openNamed);
+    QObject::connect(&view, &View::startStopDemo, &demo, &DemoLink::toggle);
+    QObject::connect(&view, &View::connectToAddress, &link, &BoxLink::connectToAddress);
+    QObject::connect(&view, &View::terminalSend, &link, &BoxLink::sendTerminalLine);
+    QObject::connect(&view, &View::about, &view, &View::showAbout);
+    // The progress shown is that of an attempt to connect or of a fetch; the other one ignores this.
+    QObject::connect(&view, &View::progressCancelled, &link, &BoxLink::giveUp);
+    QObject::connect(&view, &View::progressCancelled, &link, [this] { loggerFetch.cancel(); });
+}
+
+void ControllerParts::connectTabs(View &view)
+{
+    const TabProject *project = view.tabProject();
+    QObject::connect(project, &TabProject::commentChanged, &tabEdits, &TabEdits::takeComment);
+    QObject::connect(project, &TabProject::imageButtonClicked, &pictures, &ProjectPictures::choose);
+    QObject::connect(project, &TabProject::imageDeleteClicked, &pictures, &ProjectPictures::remove);
+    QObject::connect(project, &TabProject::imageSaveClicked, &pictures, &ProjectPictures::save);
+    QObject::connect(project, &TabProject::imageFilesGiven, &pictures, &ProjectPictures::takeFiles);
+    QObject::connect(project, &TabProject::imageGiven, &pictures, &ProjectPictures::take);
+
+    const TabOszilloscope *oszi = view.tabOszi();
+    QObject::connect(oszi, &TabOszilloscope::offsetEdited, &tabEdits, &TabEdits::setOffset);
+    QObject::connect(oszi, &TabOszilloscope::rangeEdited, &tabEdits, &TabEdits::markRangeEdited);
+    QObject::connect(oszi, &TabOszilloscope::samplingPeriodChosen, &period, &SamplingPeriod::choose);
+
+    const TabSensors *sensors = view.tabSensors();
+    QObject::connect(sensors, &TabSensors::sensorNameEdited, &tabEdits, &TabEdits::setSensorName);
+    QObject::connect(sensors, &TabSensors::sensorColorEdited, &tabEdits, &TabEdits::setSensorColor);
+    QObject::connect(sensors, &TabSensors::sensorLimitsEdited, &tabEdits, &TabEdits::setSensorLimits);
+}

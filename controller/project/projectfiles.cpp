@@ -1,0 +1,238 @@
+#include "controller/project/projectfiles.h"
+
+#include "controller/logging.h"
+#include "controller/occupancy.h"
+#include "controller/project/fileprogress.h"
+#include "controller/recording/linehold.h"
+#include "controller/recording/projectedits.h"
+#include "model/model.h"
+#include "view/home/tabhome.h"
+#include "view/window/view.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+namespace {
+
+const QLatin1String kProjectSuffix(".vnt");
+
+QString projectFilter()
+{
+    return ProjectFiles::tr("Ventaro Dateien (*.vnt)");
+}
+
+} // namespace
+
+ProjectFiles::ProjectFiles(const Desk &desk, FileProgress &progress, LineQueue &lines, ProjectEdits &edits)
+    : m_view(desk.view)
+    , m_model(desk.model)
+    , m_occupancy(desk.occupancy)
+    , m_progress(progress)
+    , m_lines(lines)
+    , m_edits(edits)
+{
+    if (!m_model.currentFile().isEmpty())
+        m_view.rememberProject(m_model.currentFile());
+}
+
+// --- New and open ---
+
+void ProjectFiles::newProject()
+{
+    if (m_occupancy.refuseWhileOccupied())
+        return;
+    m_view.commitInput();
+    if (m_model.isProjectModified()) {
+        const bool save = m_occupancy.ask([this] { return m_view.askToSave(); });
+        if (save && !saveUnsavedChanges())
+            return;
+        if (!save)
+            emit boxGivenUp();
+    }
+    m_model.blockSignals(false);
+    m_model.clear();
+    emit cleared();
+    m_model.setProjectModifiedFlag(false);
+    emit measurementsReplaced();
+    m_view.reset();
+    if (!m_model.isConnected())
+        m_view.forgetLiveValues();
+    m_view.setConnected(m_model.isConnected());
+    emit shown();
+}
+
+/// True if the user's changes are in a file afterwards; if not, whatever was about to replace them must not happen.
+bool ProjectFiles::saveUnsavedChanges()
+{
+    m_saved = false;
+    emit m_view.saveProject(); // as if the user had asked for it; ends in save()
+    return m_saved;
+}
+
+void ProjectFiles::open()
+{
+    if (m_occupancy.refuseWhileOccupied())
+        return;
+    m_view.commitInput();
+    const QString fileName =
+        m_occupancy.ask([this] { return m_view.askOpenFile(tr("Projekt öffnen"), projectFilter()); });
+    if (fileName.isEmpty()) {
+        qCDebug(lcController) << " filename is empty!";
+        return;
+    }
+    replaceWith(fileName);
+}
+
+void ProjectFiles::openNamed(const QString &fileName)
+{
+    qCDebug(lcController) << Q_FUNC_INFO << fileName;
+    if (m_occupancy.refuseWhileOccupied())
+        return;
+    m_view.commitInput();
+    replaceWith(fileName);
+}
+
+void ProjectFiles::replaceWith(const QString &fileName)
+{
+    if (m_model.isProjectModified() && m_occupancy.ask([this] { return m_view.askToSave(); }) && !saveUnsavedChanges())
+        return;
+    const quint64 structure = m_model.structureRevision();
+    const bool opened = load(fileName);
+    if (opened)
+        m_edits.dropKept(); // they were meant for the project that is gone
+    else
+        m_edits.applyKept();
+    // A failed attempt leaves them alone, and then a recording continues in its shot.
+    if (m_model.structureRevision() != structure)
+        emit measurementsReplaced();
+    showOpened(fileName, opened);
+}
+
+bool ProjectFiles::load(const QString &fileName)
+{
+    const ProgressScope progress(m_progress, tr("Loading..."));
+    const LineHold hold(m_lines);
+    return m_model.open(fileName);
+}
+
+void ProjectFiles::showOpened(const QString &fileName, bool opened)
+{
+    if (opened && !m_model.isConnected())
+        m_view.forgetLiveValues();
+    m_view.setConnected(m_model.isConnected());
+    emit shown();
+    m_view.tabHome()->refreshRecentProjects(); // the file may be gone
+    if (opened)
+        m_view.rememberProject(m_model.currentFile());
+    else
+        warn(tr("Cannot open file %1 !.").arg(fileName));
+}
+
+// --- Save ---
+
+void ProjectFiles::save()
+{
+    m_saved = false;
+    const QString fileName = m_model.currentFile();
+    if (fileName.isEmpty()) {
+        saveAs();
+        return;
+    }
+    if (m_occupancy.refuseWhileOccupied())
+        return;
+    m_view.commitInput();
+    m_saved = saveTo(fileName);
+}
+
+void ProjectFiles::saveAs()
+{
+    m_saved = false;
+    if (m_occupancy.refuseWhileOccupied())
+        return;
+    m_view.commitInput();
+    const QString fileName = askFileToSave();
+    if (!fileName.isEmpty())
+        m_saved = saveTo(fileName);
+}
+
+/// Empty: cancelled.
+QString ProjectFiles::askFileToSave()
+{
+    const QString title = tr("Projekt speichern");
+    QString fileName = m_occupancy.ask([&] { return m_view.askSaveFile(title, projectFilter()); });
+    if (fileName.isEmpty() || fileName.endsWith(kProjectSuffix, Qt::CaseInsensitive))
+        return fileName;
+    fileName += kProjectSuffix; // or the file dialog would not show it
+    if (!QFileInfo::exists(fileName))
+        return fileName;
+    // The file dialog could only ask about the name as it was typed.
+    const QString question = tr("Die Datei \"%1\" ist schon vorhanden. Überschreiben?").arg(fileName);
+    return m_occupancy.ask([&] { return m_view.askYesNo(title, question); }) ? fileName : QString();
+}
+
+bool ProjectFiles::saveTo(const QString &fileName)
+{
+    bool saved = false;
+    {
+        const ProgressScope progress(m_progress, tr("Saving..."));
+        const LineHold hold(m_lines);
+        saved = m_model.save(fileName);
+    }
+    m_edits.applyKept();
+    if (saved)
+        showSaved(fileName);
+    else
+        warn(tr("Das Projekt konnte nicht gespeichert werden!"));
+    return saved;
+}
+
+void ProjectFiles::showSaved(const QString &fileName)
+{
+    if (!m_model.isProjectMetaSaved())
+        warn(tr("Das Projekt ist gespeichert, aber Grenzen, Schwellen, Bezeichnungen und "
+                "Zeitstempel der Auswertung konnten nicht gespeichert werden!"));
+    m_view.rememberProject(m_model.currentFile());
+    m_view.showStatus(tr("Projekt gespeichert: %1").arg(fileName));
+}
+
+void ProjectFiles::warn(const QString &text)
+{
+    m_occupancy.ask([&] { m_view.showWarning(text, tr("Problem")); });
+}
+
+// --- Quit ---
+
+void ProjectFiles::quit()
+{
+    if (m_occupancy.refuseWhileOccupied())
+        return;
+    m_view.commitInput();
+    if (!confirmQuit())
+        return;
+    emit quitting();
+    m_view.reset();
+    emit boxGivenUp();
+    m_view.writeSettings();
+    QCoreApplication::quit();
+}
+
+bool ProjectFiles::confirmQuit()
+{
+    qCDebug(lcController).noquote().nospace() << Q_FUNC_INFO << " modelChanged=" << m_model.isProjectModified();
+    if (!m_model.isProjectModified() && !m_occupancy.ask([this] { return m_view.askToQuit(); }))
+        return false;
+    // Samples that came in while that question was up are worth the other one.
+    return !m_model.isProjectModified() || confirmLosingChanges();
+}
+
+bool ProjectFiles::confirmLosingChanges()
+{
+    switch (m_occupancy.ask([this] { return m_view.askToSaveAndQuit(); })) {
+    case QMessageBox::Save: // which may leave changes that were made meanwhile
+        return saveUnsavedChanges() && (!m_model.isProjectModified() || confirmQuit());
+    case QMessageBox::Discard:
+        return true;
+    default:
+        return false;
+    }
+}

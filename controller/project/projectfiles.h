@@ -1,0 +1,61 @@
+#pragma once
+
+#include "controller/desk.h"
+
+#include <QObject>
+
+class FileProgress;
+class LineQueue;
+class ProjectEdits;
+
+/// New, open, save and quit: everything that replaces the project or writes it to its file, with the questions about
+/// unsaved changes.
+class ProjectFiles : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// All references must outlive the files. The project that is open already is remembered as a recent one.
+    ProjectFiles(const Desk &desk, FileProgress &progress, LineQueue &lines, ProjectEdits &edits);
+
+    void newProject();
+    void open();
+    /// The file was named without a dialog; unsaved changes are asked about all the same.
+    void openNamed(const QString &fileName);
+    /// Under the current name, or as saveAs() if there is none.
+    void save();
+    void saveAs();
+    void quit();
+
+signals:
+    /// The user is leaving what was recorded with the box that is connected.
+    void boxGivenUp();
+    /// The model has been cleared for a new project.
+    void cleared();
+    /// The measurements in the model are not those from before.
+    void measurementsReplaced();
+    /// Another project came in, or the attempt failed; the window shows the state of the device again.
+    void shown();
+    /// The program is about to end.
+    void quitting();
+
+private:
+    [[nodiscard]] bool saveUnsavedChanges();
+    void replaceWith(const QString &fileName);
+    [[nodiscard]] bool load(const QString &fileName);
+    void showOpened(const QString &fileName, bool opened);
+    [[nodiscard]] QString askFileToSave();
+    [[nodiscard]] bool saveTo(const QString &fileName);
+    void showSaved(const QString &fileName);
+    void warn(const QString &text);
+    [[nodiscard]] bool confirmQuit();
+    [[nodiscard]] bool confirmLosingChanges();
+
+    View &m_view;
+    Model &m_model;
+    Occupancy &m_occupancy;
+    FileProgress &m_progress;
+    LineQueue &m_lines;
+    ProjectEdits &m_edits;
+    bool m_saved = false; // how the last save ended
+};

@@ -1,0 +1,181 @@
+#include "controller/project/projectpictures.h"
+
+#include "controller/logging.h"
+#include "controller/occupancy.h"
+#include "controller/recording/projectedits.h"
+#include "controller/waitcursor.h"
+#include "model/model.h"
+#include "model/project/photo.h"
+#include "model/project/projectimage.h"
+#include "view/window/view.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QPixmap>
+#include <QSaveFile>
+
+#include <array>
+
+namespace {
+
+using Deletion = void (View::*)();
+constexpr std::array<Deletion, Model::kNumImages> kDeletions{&View::deleteImage0Confimed, &View::deleteImage1Confimed,
+                                                             &View::deleteImage2Confimed, &View::deleteImage3Confimed,
+                                                             &View::deleteImage4Confimed};
+const QLatin1String kPictureSuffix(".png");
+
+QString pictureFilter()
+{
+    QStringList patterns;
+    const QStringList suffixes = photoSuffixes();
+    for (const QString &suffix : suffixes)
+        patterns += QLatin1String("*.") + suffix;
+    return ProjectPictures::tr("Bilder (%1)").arg(patterns.join(QLatin1Char(' ')));
+}
+
+QString faultText(PhotoFault fault, const QString &file)
+{
+    const QString name = QDir::toNativeSeparators(file);
+    switch (fault) {
+    case PhotoFault::Unreadable:
+        return ProjectPictures::tr("Die Datei \"%1\" konnte nicht gelesen werden!").arg(name);
+    case PhotoFault::TooLarge:
+        return ProjectPictures::tr("Das Bild \"%1\" ist zu groß: Es hat mehr als %2 Millionen Bildpunkte!")
+            .arg(name, QString::number(kMostPhotoPixels / 1000000));
+    default:
+        return ProjectPictures::tr("Die Datei \"%1\" enthält kein Bild, das gelesen werden kann!").arg(name);
+    }
+}
+
+/// The file is whole, or as it was.
+bool writePicture(const QPixmap &picture, const QString &fileName)
+{
+    const WaitCursor cursor;
+    QSaveFile file(fileName);
+    return file.open(QIODevice::WriteOnly) && file.write(toPng(picture)) > 0 && file.commit();
+}
+
+} // namespace
+
+ProjectPictures::ProjectPictures(const Desk &desk, ProjectEdits &edits)
+    : m_view(desk.view)
+    , m_model(desk.model)
+    , m_occupancy(desk.occupancy)
+    , m_edits(edits)
+{}
+
+// --- Pictures come in ---
+
+void ProjectPictures::choose(int image)
+{
+    qCDebug(lcController) << Q_FUNC_INFO << image;
+    if (m_occupancy.refuseWhileOccupied())
+        return;
+    const QString file = m_occupancy.ask([this] { return m_view.askOpenFile(tr("Bild auswählen"), pictureFilter()); });
+    if (!file.isEmpty())
+        (void)takeFile(image, file); // whoever chose it has been told of a failure
+}
+
+void ProjectPictures::takeFiles(int image, const QStringList &files)
+{
+    qCDebug(lcController) << Q_FUNC_INFO << image << files;
+    if (m_occupancy.refuseWhileOccupied() || files.isEmpty() || !mayReplace(image))
+        return;
+    if (!takeFile(image, files.constFirst()))
+        return;
+    const int taken = takeIntoFreeTiles(files, 1);
+    if (taken > 0 && taken < files.size())
+        m_view.showStatus(
+            tr("Nur %1 von %2 Bildern übernommen, mehr Plätze sind nicht frei.").arg(taken).arg(files.size()));
+}
+
+/// How many files are taken afterwards; 0 if one of them failed, of which the user has been told.
+int ProjectPictures::takeIntoFreeTiles(const QStringList &files, int taken)
+{
+    for (int image = 0; image < Model::kNumImages && taken < files.size(); ++image) {
+        if (!m_model.image(image).isNull())
+            continue;
+        if (!takeFile(image, files.at(taken)))
+            return 0;
+        ++taken;
+    }
+    return taken;
+}
+
+void ProjectPictures::take(int image, const QImage &picture)
+{
+    qCDebug(lcController) << Q_FUNC_INFO << image << picture.size();
+    if (m_occupancy.refuseWhileOccupied() || picture.isNull() || !mayReplace(image))
+        return;
+    set(image, QPixmap::fromImage(fittedPhoto(picture)));
+}
+
+/// Whoever chooses a file in a dialog has decided; what is dropped or pasted may have missed its tile.
+bool ProjectPictures::mayReplace(int image)
+{
+    if (m_model.image(image).isNull())
+        return true;
+    const QString question = tr("Bild %1 wird durch ein anderes ersetzt.\nFortfahren?").arg(image + 1);
+    return m_occupancy.ask([&] { return m_view.askYesNo(tr("Bild ersetzen"), question); });
+}
+
+bool ProjectPictures::takeFile(int image, const QString &file)
+{
+    Photo photo;
+    {
+        const WaitCursor cursor; // a large photo takes a moment
+        photo = readPhoto(file);
+    }
+    if (photo.fault == PhotoFault::None)
+        set(image, QPixmap::fromImage(photo.image));
+    else
+        m_occupancy.ask([&] { m_view.showWarning(faultText(photo.fault, file), tr("Problem")); });
+    return photo.fault == PhotoFault::None;
+}
+
+void ProjectPictures::set(int image, const QPixmap &picture)
+{
+    m_edits.apply([this, image, picture] { m_model.setImage(image, picture); });
+}
+
+// --- Pictures go ---
+
+void ProjectPictures::remove(int image)
+{
+    qCDebug(lcController) << Q_FUNC_INFO << image;
+    if (m_occupancy.refuseWhileOccupied() || m_model.image(image).isNull())
+        return;
+    const QString question = tr("Bild %1 wird aus dem Projekt gelöscht.\nFortfahren?").arg(image + 1);
+    if (!m_occupancy.ask([&] { return m_view.askYesNo(tr("Bild löschen"), question); }))
+        return;
+    m_model.blockSignals(false);
+    (m_view.*kDeletions.at(static_cast<std::size_t>(image)))();
+}
+
+void ProjectPictures::save(int image)
+{
+    qCDebug(lcController) << Q_FUNC_INFO << image;
+    const QPixmap picture = m_model.image(image);
+    if (m_occupancy.refuseWhileOccupied() || picture.isNull())
+        return;
+    const QString file = askFileToSave();
+    if (file.isEmpty())
+        return;
+    if (writePicture(picture, file))
+        m_view.showStatus(tr("Bild gespeichert: %1").arg(file));
+    else
+        m_occupancy.ask([this] { m_view.showWarning(tr("Das Bild konnte nicht gespeichert werden!"), tr("Problem")); });
+}
+
+/// Empty: cancelled.
+QString ProjectPictures::askFileToSave()
+{
+    const QString title = tr("Bild speichern");
+    QString file = m_occupancy.ask([&] { return m_view.askSaveFile(title, tr("PNG-Bild (*.png)")); });
+    if (file.isEmpty() || file.endsWith(kPictureSuffix, Qt::CaseInsensitive))
+        return file;
+    file += kPictureSuffix;
+    const QString question = tr("Die Datei \"%1\" ist schon vorhanden. Überschreiben?").arg(file);
+    const bool mayWrite = !QFileInfo::exists(file) || m_occupancy.ask([&] { return m_view.askYesNo(title, question); });
+    return mayWrite ? file : QString();
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QObject>
+
+class QColor;
+class QWidget;
+class SensorChoices;
+class SensorTreeModel;
+struct SensorInfo;
+
+/// Lets the user change name, colour and limits of a sensor. Changes are emitted as signals; they become
+/// visible once the model has them.
+class SensorEditor : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// All must outlive the editor. The choices follow a sensor that gets another name.
+    SensorEditor(const SensorTreeModel &sensors, SensorChoices &choices, QWidget *parent);
+
+    /// Opens the dialog for a sensor.
+    void openDialog(int sensor);
+    void rename(int sensor, const QString &name);
+
+signals:
+    void nameEdited(int sensor, const QString &name);
+    void colorEdited(int sensor, const QColor &color);
+    /// SensorLimits::kNoLower and kNoUpper for a limit that is not set.
+    void limitsEdited(int group, int sensor, double minimum, double maximum);
+
+private:
+    void applyEdit(const SensorInfo &before, const SensorInfo &after);
+    void keepChoices(const SensorInfo &before, const QString &name);
+
+    const SensorTreeModel &m_sensors;
+    SensorChoices &m_choices;
+    QWidget *m_parent; ///< of dialogs
+};
