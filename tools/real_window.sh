@@ -109,14 +109,19 @@ dots() { # logical pixels of the screen to dots
 }
 
 start_screen() {
-    background "$work/xvfb.txt" Xvfb -displayfd 1 -screen 0 "$(dots "${size%x*}")x$(dots "${size#*x}")x24" -dpi 96 \
-        -nolisten tcp
-    wait_for grep -qs '^[0-9]' "$work/xvfb.txt"
+    # A reset, at the end of what happens to be the only client, would break connections that are being made.
+    background "$work/xvfb.txt" Xvfb -noreset -displayfd 1 -screen 0 "$(dots "${size%x*}")x$(dots "${size#*x}")x24" \
+        -dpi 96 -nolisten tcp
+    wait_for has_display
     DISPLAY=:$(grep -m 1 '^[0-9]' "$work/xvfb.txt")
     export DISPLAY
     background "$work/openbox.txt" openbox --config-file /etc/xdg/openbox/rc.xml
     xdotool mousemove 0 0 # or widgets in the middle look hovered over
     wait_for manages_windows
+}
+
+has_display() { # its number is complete with the line's end
+    [ -s "$work/xvfb.txt" ] && [ "$(wc -l <"$work/xvfb.txt")" -gt 0 ]
 }
 
 manages_windows() {
