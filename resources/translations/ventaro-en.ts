@@ -189,6 +189,90 @@
     </message>
 </context>
 <context>
+    <name>BoxDescriptions</name>
+    <message>
+        <source>Namen und Grenzen der Sensoren kommen jetzt von der Box.</source>
+        <translation>The names and limits of the sensors now come from the box.</translation>
+    </message>
+</context>
+<context>
+    <name>BoxLink</name>
+    <message>
+        <source>Keine Verbindung zur Mesotra Hardware.</source>
+        <translation>No connection to the Mesotra hardware.</translation>
+    </message>
+    <message>
+        <source>Verbinden ...</source>
+        <translation>Connecting ...</translation>
+    </message>
+    <message>
+        <source>Keine gültige Adresse: %1</source>
+        <translation>Not a valid address: %1</translation>
+    </message>
+    <message>
+        <source>Ventaro ist mit %1 verbunden.</source>
+        <translation>Ventaro is connected to %1.</translation>
+    </message>
+    <message>
+        <source>Die Demo wird beendet. Mit %1 verbinden?</source>
+        <translation>The demo will end. Connect to %1?</translation>
+    </message>
+    <message>
+        <source>Die Verbindung zu %1 wird getrennt. Mit %2 verbinden?</source>
+        <translation>The connection to %1 will be closed. Connect to %2?</translation>
+    </message>
+    <message>
+        <source>Verbinden</source>
+        <translation>Connect</translation>
+    </message>
+    <message>
+        <source>Verbinden mit %1 ...</source>
+        <translation>Connecting to %1 ...</translation>
+    </message>
+    <message>
+        <source>Verbindungsaufbau abgebrochen.</source>
+        <translation>Connection attempt cancelled.</translation>
+    </message>
+    <message>
+        <source>Die Demo läuft.</source>
+        <translation>The demo is running.</translation>
+    </message>
+    <message>
+        <source>Verbunden mit %1.</source>
+        <translation>Connected to %1.</translation>
+    </message>
+    <message>
+        <source>Verbindung getrennt, Aufnahme beendet. Alle Daten sind erhalten.</source>
+        <translation>Disconnected, recording ended. All data has been kept.</translation>
+    </message>
+    <message>
+        <source>Verbindung getrennt.</source>
+        <translation>Disconnected.</translation>
+    </message>
+    <message>
+        <source>Die Mesotra Box startet neu. Verbinden mit %1 ...</source>
+        <translation>The Mesotra box is restarting. Connecting to %1 ...</translation>
+    </message>
+    <message>
+        <source>Die Mesotra Hardware ist nicht mehr erreichbar.</source>
+        <translation>The Mesotra hardware can no longer be reached.</translation>
+    </message>
+    <message>
+        <source>Die Mesotra Hardware wurde nicht gefunden! Bitte IP-Adresse überprüfen!</source>
+        <translation>The Mesotra hardware was not found! Please check the IP address!</translation>
+    </message>
+    <message>
+        <source>Die Verbindung wurde abgelehnt!
+(Die IP-Adresse wurde jedoch gefunden.)</source>
+        <translation>The connection was refused!
+(The IP address was found, however.)</translation>
+    </message>
+    <message>
+        <source>Netzwerk Fehler</source>
+        <translation>Network error</translation>
+    </message>
+</context>
+<context>
     <name>BoxStateCard</name>
     <message>
         <source>Nicht verbunden</source>
@@ -279,363 +363,6 @@
     <message>
         <source>Verbindungsaufbau</source>
         <translation>Connection</translation>
-    </message>
-</context>
-<context>
-    <name>Controller</name>
-    <message>
-        <source>Saving...</source>
-        <translation>Saving...</translation>
-    </message>
-    <message>
-        <source>Bitte warten, bis der laufende Vorgang beendet ist.</source>
-        <translation>Please wait until the current operation has finished.</translation>
-    </message>
-    <message>
-        <source>Verbinden ...</source>
-        <translation>Connecting ...</translation>
-    </message>
-    <message>
-        <source>Verbindungsaufbau abgebrochen.</source>
-        <translation>Connection attempt cancelled.</translation>
-    </message>
-    <message>
-        <source>Die Abtastrate lässt sich nicht ändern, solange eine Aufzeichnung läuft.</source>
-        <translation>The sampling period cannot be changed while a recording is running.</translation>
-    </message>
-    <message>
-        <source>Die vorhandenen Messungen erhalten die Zeitachse der neuen Abtastrate. Fortfahren?</source>
-        <translation>The existing measurements will take on the time axis of the new sampling period. Continue?</translation>
-    </message>
-    <message>
-        <source>Abtastrate ändern</source>
-        <translation>Change sampling period</translation>
-    </message>
-    <message>
-        <source>Achtung: Das Projekt ist mit %1 ms je Wert aufgezeichnet, die Box misst mit %2 ms.</source>
-        <translation>Attention: the project was recorded at %1 ms per value, the box samples at %2 ms.</translation>
-    </message>
-    <message>
-        <source>Verbindung getrennt, Aufnahme beendet. Alle Daten sind erhalten.</source>
-        <translation>Disconnected, recording ended. All data has been kept.</translation>
-    </message>
-    <message>
-        <source>Verbindung getrennt.</source>
-        <translation>Disconnected.</translation>
-    </message>
-    <message>
-        <source>Die Mesotra Hardware ist nicht mehr erreichbar.</source>
-        <translation>The Mesotra hardware can no longer be reached.</translation>
-    </message>
-    <message>
-        <source>Die Mesotra Hardware wurde nicht gefunden! Bitte IP-Adresse überprüfen!</source>
-        <translation>The Mesotra hardware was not found! Please check the IP address!</translation>
-    </message>
-    <message>
-        <source>Die Verbindung wurde abgelehnt!
-(Die IP-Adresse wurde jedoch gefunden.)</source>
-        <translation>The connection was refused!
-(The IP address was found, however.)</translation>
-    </message>
-    <message>
-        <source>Netzwerk Fehler</source>
-        <translation>Network error</translation>
-    </message>
-    <message>
-        <source>Keine gültige Adresse: %1</source>
-        <translation>Not a valid address: %1</translation>
-    </message>
-    <message>
-        <source>Verbinden mit %1 ...</source>
-        <translation>Connecting to %1 ...</translation>
-    </message>
-    <message>
-        <source>Soll die aktuelle Projektbeschreibung durch die empfangenen Daten überschrieben werden?</source>
-        <translation>Overwrite the current project description with the data received?</translation>
-    </message>
-    <message>
-        <source>Projektbeschreibung empfangen</source>
-        <translation>Project description received</translation>
-    </message>
-    <message>
-        <source>Keine Verbindung zur Mesotra Hardware.</source>
-        <translation>No connection to the Mesotra hardware.</translation>
-    </message>
-    <message>
-        <source>Ventaro Dateien (*.vnt)</source>
-        <translation>Ventaro files (*.vnt)</translation>
-    </message>
-    <message>
-        <source>Projekt öffnen</source>
-        <translation>Open project</translation>
-    </message>
-    <message>
-        <source>Loading...</source>
-        <translation>Loading...</translation>
-    </message>
-    <message>
-        <source>Cannot open file %1 !.</source>
-        <translation>Cannot open file %1!</translation>
-    </message>
-    <message>
-        <source>Problem</source>
-        <translation>Problem</translation>
-    </message>
-    <message>
-        <source>Projekt speichern</source>
-        <translation>Save project</translation>
-    </message>
-    <message>
-        <source>Die Datei &quot;%1&quot; ist schon vorhanden. Überschreiben?</source>
-        <translation>The file &quot;%1&quot; already exists. Overwrite it?</translation>
-    </message>
-    <message>
-        <source>Das Projekt ist gespeichert, aber Grenzen, Schwellen, Bezeichnungen und Zeitstempel der Auswertung konnten nicht gespeichert werden!</source>
-        <translation>The project has been saved, but the limits, thresholds, labels and time stamps of the evaluation could not be saved!</translation>
-    </message>
-    <message>
-        <source>Projekt gespeichert: %1</source>
-        <translation>Project saved: %1</translation>
-    </message>
-    <message>
-        <source>Das Projekt konnte nicht gespeichert werden!</source>
-        <translation>The project could not be saved!</translation>
-    </message>
-    <message>
-        <source>Die Sensoren werden kalibriert.</source>
-        <translation>The sensors are being calibrated.</translation>
-    </message>
-    <message>
-        <source>Kalibrierung</source>
-        <translation>Calibration</translation>
-    </message>
-    <message>
-        <source>Folgende Datensätze werden gelöscht:
-</source>
-        <translation>The following records will be deleted:
-</translation>
-    </message>
-    <message>
-        <source>Daten löschen</source>
-        <translation>Delete data</translation>
-    </message>
-    <message>
-        <source>Fehler im Bereich &quot;%1&quot;: ab dort wurde nichts gelöscht.</source>
-        <translation>Error in the range &quot;%1&quot;: nothing was deleted from there on.</translation>
-    </message>
-    <message>
-        <source>Der Ordner %1 kann nicht angelegt werden.</source>
-        <translation>The folder %1 cannot be created.</translation>
-    </message>
-    <message>
-        <source>Dateien übertragen...</source>
-        <translation>Transferring files...</translation>
-    </message>
-    <message>
-        <source>%1 von %2 Tagen übertragen.</source>
-        <translation>%1 of %2 days transferred.</translation>
-    </message>
-    <message>
-        <source>Ordner mit BlackBox-Dateien auswählen</source>
-        <translation>Choose a folder with BlackBox files</translation>
-    </message>
-    <message>
-        <source>Keine BlackBox-Dateien (*.bb) in %1</source>
-        <translation>No BlackBox files (*.bb) in %1</translation>
-    </message>
-    <message>
-        <source>Die Mesotra Box startet neu. Verbinden mit %1 ...</source>
-        <translation>The Mesotra box is restarting. Connecting to %1 ...</translation>
-    </message>
-    <message>
-        <source>1 Messung importiert</source>
-        <translation>1 measurement imported</translation>
-    </message>
-    <message>
-        <source>%1 Messungen importiert</source>
-        <translation>%1 measurements imported</translation>
-    </message>
-    <message>
-        <source>1 Zeile übersprungen</source>
-        <translation>1 line skipped</translation>
-    </message>
-    <message>
-        <source>%1 Zeilen übersprungen</source>
-        <translation>%1 lines skipped</translation>
-    </message>
-    <message>
-        <source>1 Wert war nicht lesbar und ist jetzt 0</source>
-        <translation>1 value was unreadable and is now 0</translation>
-    </message>
-    <message>
-        <source>%1 Werte waren nicht lesbar und sind jetzt 0</source>
-        <translation>%1 values were unreadable and are now 0</translation>
-    </message>
-    <message>
-        <source>1 Datei nicht lesbar</source>
-        <translation>1 file unreadable</translation>
-    </message>
-    <message>
-        <source>%1 Dateien nicht lesbar</source>
-        <translation>%1 files unreadable</translation>
-    </message>
-    <message>
-        <source>Diese Dateien konnten nicht gelesen werden:</source>
-        <translation>These files could not be read:</translation>
-    </message>
-    <message>
-        <source>Importieren...</source>
-        <translation>Importing...</translation>
-    </message>
-    <message>
-        <source>Während einer Aufzeichnung kann nichts importiert werden.
-Bitte beenden Sie zuerst die Aufzeichnung.</source>
-        <translation>Nothing can be imported while a recording is running.
-Please stop the recording first.</translation>
-    </message>
-    <message>
-        <source>BlackBox</source>
-        <translation>BlackBox</translation>
-    </message>
-    <message>
-        <source>Eine der Dateien ist schon in diesem Projekt.
-Noch einmal importieren?</source>
-        <translation>One of the files is already in this project.
-Import it again?</translation>
-    </message>
-    <message>
-        <source>%1 der Dateien sind schon in diesem Projekt.
-Noch einmal importieren?</source>
-        <translation>%1 of the files are already in this project.
-Import them again?</translation>
-    </message>
-    <message>
-        <source>Ventaro ist mit %1 verbunden.</source>
-        <translation>Ventaro is connected to %1.</translation>
-    </message>
-    <message>
-        <source>Die Demo wird beendet. Mit %1 verbinden?</source>
-        <translation>The demo will end. Connect to %1?</translation>
-    </message>
-    <message>
-        <source>Die Verbindung zu %1 wird getrennt. Mit %2 verbinden?</source>
-        <translation>The connection to %1 will be closed. Connect to %2?</translation>
-    </message>
-    <message>
-        <source>Verbinden</source>
-        <translation>Connect</translation>
-    </message>
-    <message>
-        <source>Die Demo wird gestartet ...</source>
-        <translation>Starting the demo ...</translation>
-    </message>
-    <message>
-        <source>Die Verbindung zur Box wird getrennt.</source>
-        <translation>The connection to the box will be closed.</translation>
-    </message>
-    <message>
-        <source>Was in der Demo aufgezeichnet wird, kommt in das geöffnete Projekt.</source>
-        <translation>What is recorded in the demo is added to the open project.</translation>
-    </message>
-    <message>
-        <source>Demo starten?</source>
-        <translation>Start the demo?</translation>
-    </message>
-    <message>
-        <source>Demo</source>
-        <translation>Demo</translation>
-    </message>
-    <message>
-        <source>Die Demo ist beendet.</source>
-        <translation>The demo has ended.</translation>
-    </message>
-    <message>
-        <source>Das ist in der Demo nicht möglich: Die simulierte Box hat keinen Speicher.</source>
-        <translation>Not possible in the demo: the simulated box has no storage.</translation>
-    </message>
-    <message>
-        <source>Bilder (%1)</source>
-        <translation>Pictures (%1)</translation>
-    </message>
-    <message>
-        <source>Die Datei &quot;%1&quot; konnte nicht gelesen werden!</source>
-        <translation>The file &quot;%1&quot; could not be read!</translation>
-    </message>
-    <message>
-        <source>Das Bild &quot;%1&quot; ist zu groß: Es hat mehr als %2 Millionen Bildpunkte!</source>
-        <translation>The picture &quot;%1&quot; is too large: it has more than %2 million pixels!</translation>
-    </message>
-    <message>
-        <source>Die Datei &quot;%1&quot; enthält kein Bild, das gelesen werden kann!</source>
-        <translation>The file &quot;%1&quot; holds no picture that can be read!</translation>
-    </message>
-    <message>
-        <source>Bild auswählen</source>
-        <translation>Choose a picture</translation>
-    </message>
-    <message>
-        <source>Nur %1 von %2 Bildern übernommen, mehr Plätze sind nicht frei.</source>
-        <translation>Only %1 of %2 pictures added; there is no room for more.</translation>
-    </message>
-    <message>
-        <source>Bild %1 wird aus dem Projekt gelöscht.
-Fortfahren?</source>
-        <translation>Picture %1 will be deleted from the project.
-Continue?</translation>
-    </message>
-    <message>
-        <source>Bild löschen</source>
-        <translation>Delete picture</translation>
-    </message>
-    <message>
-        <source>Bild %1 wird durch ein anderes ersetzt.
-Fortfahren?</source>
-        <translation>Picture %1 will be replaced by another one.
-Continue?</translation>
-    </message>
-    <message>
-        <source>Bild ersetzen</source>
-        <translation>Replace picture</translation>
-    </message>
-    <message>
-        <source>Die Demo ist nicht möglich: Der Simulator lässt sich nicht starten.</source>
-        <translation>The demo cannot run: the simulator does not start.</translation>
-    </message>
-    <message>
-        <source>Die Demo ist nicht möglich: Der Simulator antwortet nicht.</source>
-        <translation>The demo cannot run: the simulator does not respond.</translation>
-    </message>
-    <message>
-        <source>Die Demo ist beendet: Der Simulator läuft nicht mehr.</source>
-        <translation>The demo has ended: the simulator is no longer running.</translation>
-    </message>
-    <message>
-        <source>Die Demo läuft.</source>
-        <translation>The demo is running.</translation>
-    </message>
-    <message>
-        <source>Verbunden mit %1.</source>
-        <translation>Connected to %1.</translation>
-    </message>
-    <message>
-        <source>Namen und Grenzen der Sensoren kommen jetzt von der Box.</source>
-        <translation>The names and limits of the sensors now come from the box.</translation>
-    </message>
-    <message>
-        <source>Bild speichern</source>
-        <translation>Save picture</translation>
-    </message>
-    <message>
-        <source>PNG-Bild (*.png)</source>
-        <translation>PNG picture (*.png)</translation>
-    </message>
-    <message>
-        <source>Bild gespeichert: %1</source>
-        <translation>Picture saved: %1</translation>
-    </message>
-    <message>
-        <source>Das Bild konnte nicht gespeichert werden!</source>
-        <translation>The picture could not be saved!</translation>
     </message>
 </context>
 <context>
@@ -787,6 +514,49 @@ Continue?</translation>
     </message>
 </context>
 <context>
+    <name>DemoLink</name>
+    <message>
+        <source>Die Demo ist nicht möglich: Der Simulator lässt sich nicht starten.</source>
+        <translation>The demo cannot run: the simulator does not start.</translation>
+    </message>
+    <message>
+        <source>Die Demo ist nicht möglich: Der Simulator antwortet nicht.</source>
+        <translation>The demo cannot run: the simulator does not respond.</translation>
+    </message>
+    <message>
+        <source>Die Demo ist beendet: Der Simulator läuft nicht mehr.</source>
+        <translation>The demo has ended: the simulator is no longer running.</translation>
+    </message>
+    <message>
+        <source>Die Demo wird gestartet ...</source>
+        <translation>Starting the demo ...</translation>
+    </message>
+    <message>
+        <source>Die Verbindung zur Box wird getrennt.</source>
+        <translation>The connection to the box will be closed.</translation>
+    </message>
+    <message>
+        <source>Was in der Demo aufgezeichnet wird, kommt in das geöffnete Projekt.</source>
+        <translation>What is recorded in the demo is added to the open project.</translation>
+    </message>
+    <message>
+        <source>Demo starten?</source>
+        <translation>Start the demo?</translation>
+    </message>
+    <message>
+        <source>Demo</source>
+        <translation>Demo</translation>
+    </message>
+    <message>
+        <source>Die Demo ist beendet.</source>
+        <translation>The demo has ended.</translation>
+    </message>
+    <message>
+        <source>Das ist in der Demo nicht möglich: Die simulierte Box hat keinen Speicher.</source>
+        <translation>Not possible in the demo: the simulated box has no storage.</translation>
+    </message>
+</context>
+<context>
     <name>DialogPrompts</name>
     <message>
         <source>Speichern</source>
@@ -900,6 +670,13 @@ Continue?</translation>
     <message>
         <source>Die CSV-Datei konnte nicht gespeichert werden!</source>
         <translation>The CSV file could not be saved!</translation>
+    </message>
+</context>
+<context>
+    <name>FileProgress</name>
+    <message>
+        <source>Saving...</source>
+        <translation>Saving...</translation>
     </message>
 </context>
 <context>
@@ -1063,6 +840,45 @@ Continue?</translation>
     </message>
 </context>
 <context>
+    <name>ImportSummary</name>
+    <message>
+        <source>1 Messung importiert</source>
+        <translation>1 measurement imported</translation>
+    </message>
+    <message>
+        <source>%1 Messungen importiert</source>
+        <translation>%1 measurements imported</translation>
+    </message>
+    <message>
+        <source>1 Zeile übersprungen</source>
+        <translation>1 line skipped</translation>
+    </message>
+    <message>
+        <source>%1 Zeilen übersprungen</source>
+        <translation>%1 lines skipped</translation>
+    </message>
+    <message>
+        <source>1 Wert war nicht lesbar und ist jetzt 0</source>
+        <translation>1 value was unreadable and is now 0</translation>
+    </message>
+    <message>
+        <source>%1 Werte waren nicht lesbar und sind jetzt 0</source>
+        <translation>%1 values were unreadable and are now 0</translation>
+    </message>
+    <message>
+        <source>1 Datei nicht lesbar</source>
+        <translation>1 file unreadable</translation>
+    </message>
+    <message>
+        <source>%1 Dateien nicht lesbar</source>
+        <translation>%1 files unreadable</translation>
+    </message>
+    <message>
+        <source>Diese Dateien konnten nicht gelesen werden:</source>
+        <translation>These files could not be read:</translation>
+    </message>
+</context>
+<context>
     <name>LimitsPanel</name>
     <message>
         <source>Cp %1</source>
@@ -1107,6 +923,66 @@ Continue?</translation>
     <message>
         <source>Abstand des Mittelwerts von der näheren Grenze / 3 Sigma. %1</source>
         <translation>Distance of the mean from the nearer limit / 3 sigma. %1</translation>
+    </message>
+</context>
+<context>
+    <name>LoggerFetch</name>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Der Ordner %1 kann nicht angelegt werden.</source>
+        <translation>The folder %1 cannot be created.</translation>
+    </message>
+    <message>
+        <source>Dateien übertragen...</source>
+        <translation>Transferring files...</translation>
+    </message>
+    <message>
+        <source>%1 von %2 Tagen übertragen.</source>
+        <translation>%1 of %2 days transferred.</translation>
+    </message>
+    <message>
+        <source>Ordner mit BlackBox-Dateien auswählen</source>
+        <translation>Choose a folder with BlackBox files</translation>
+    </message>
+    <message>
+        <source>Keine BlackBox-Dateien (*.bb) in %1</source>
+        <translation>No BlackBox files (*.bb) in %1</translation>
+    </message>
+</context>
+<context>
+    <name>LoggerImport</name>
+    <message>
+        <source>Während einer Aufzeichnung kann nichts importiert werden.
+Bitte beenden Sie zuerst die Aufzeichnung.</source>
+        <translation>Nothing can be imported while a recording is running.
+Please stop the recording first.</translation>
+    </message>
+    <message>
+        <source>BlackBox</source>
+        <translation>BlackBox</translation>
+    </message>
+    <message>
+        <source>Eine der Dateien ist schon in diesem Projekt.
+Noch einmal importieren?</source>
+        <translation>One of the files is already in this project.
+Import it again?</translation>
+    </message>
+    <message>
+        <source>%1 der Dateien sind schon in diesem Projekt.
+Noch einmal importieren?</source>
+        <translation>%1 of the files are already in this project.
+Import them again?</translation>
+    </message>
+    <message>
+        <source>Importieren...</source>
+        <translation>Importing...</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
     </message>
 </context>
 <context>
@@ -1158,6 +1034,23 @@ Esc cancels.</translation>
     <message>
         <source>Marker %1 in Sekunden</source>
         <translation>Marker %1 in seconds</translation>
+    </message>
+</context>
+<context>
+    <name>MeasurementDeletion</name>
+    <message>
+        <source>Folgende Datensätze werden gelöscht:
+</source>
+        <translation>The following records will be deleted:
+</translation>
+    </message>
+    <message>
+        <source>Daten löschen</source>
+        <translation>Delete data</translation>
+    </message>
+    <message>
+        <source>Fehler im Bereich &quot;%1&quot;: ab dort wurde nichts gelöscht.</source>
+        <translation>Error in the range &quot;%1&quot;: nothing was deleted from there on.</translation>
     </message>
 </context>
 <context>
@@ -1231,6 +1124,13 @@ Esc cancels.</translation>
     <message>
         <source>Box-Plot</source>
         <translation>Box plot</translation>
+    </message>
+</context>
+<context>
+    <name>Occupancy</name>
+    <message>
+        <source>Bitte warten, bis der laufende Vorgang beendet ist.</source>
+        <translation>Please wait until the current operation has finished.</translation>
     </message>
 </context>
 <context>
@@ -1561,6 +1461,49 @@ double-click fits the value range.</translation>
     </message>
 </context>
 <context>
+    <name>ProjectFiles</name>
+    <message>
+        <source>Ventaro Dateien (*.vnt)</source>
+        <translation>Ventaro files (*.vnt)</translation>
+    </message>
+    <message>
+        <source>Projekt öffnen</source>
+        <translation>Open project</translation>
+    </message>
+    <message>
+        <source>Loading...</source>
+        <translation>Loading...</translation>
+    </message>
+    <message>
+        <source>Cannot open file %1 !.</source>
+        <translation>Cannot open file %1!</translation>
+    </message>
+    <message>
+        <source>Projekt speichern</source>
+        <translation>Save project</translation>
+    </message>
+    <message>
+        <source>Saving...</source>
+        <translation>Saving...</translation>
+    </message>
+    <message>
+        <source>Das Projekt konnte nicht gespeichert werden!</source>
+        <translation>The project could not be saved!</translation>
+    </message>
+    <message>
+        <source>Das Projekt ist gespeichert, aber Grenzen, Schwellen, Bezeichnungen und Zeitstempel der Auswertung konnten nicht gespeichert werden!</source>
+        <translation>The project has been saved, but the limits, thresholds, labels and time stamps of the evaluation could not be saved!</translation>
+    </message>
+    <message>
+        <source>Projekt gespeichert: %1</source>
+        <translation>Project saved: %1</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+</context>
+<context>
     <name>ProjectForm</name>
     <message>
         <source>&amp;Projekt:</source>
@@ -1631,6 +1574,84 @@ double-click fits the value range.</translation>
     </message>
 </context>
 <context>
+    <name>ProjectOffer</name>
+    <message>
+        <source>Soll die aktuelle Projektbeschreibung durch die empfangenen Daten überschrieben werden?</source>
+        <translation>Overwrite the current project description with the data received?</translation>
+    </message>
+    <message>
+        <source>Projektbeschreibung empfangen</source>
+        <translation>Project description received</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectPictures</name>
+    <message>
+        <source>Bilder (%1)</source>
+        <translation>Pictures (%1)</translation>
+    </message>
+    <message>
+        <source>Die Datei &quot;%1&quot; konnte nicht gelesen werden!</source>
+        <translation>The file &quot;%1&quot; could not be read!</translation>
+    </message>
+    <message>
+        <source>Das Bild &quot;%1&quot; ist zu groß: Es hat mehr als %2 Millionen Bildpunkte!</source>
+        <translation>The picture &quot;%1&quot; is too large: it has more than %2 million pixels!</translation>
+    </message>
+    <message>
+        <source>Die Datei &quot;%1&quot; enthält kein Bild, das gelesen werden kann!</source>
+        <translation>The file &quot;%1&quot; holds no picture that can be read!</translation>
+    </message>
+    <message>
+        <source>Bild auswählen</source>
+        <translation>Choose a picture</translation>
+    </message>
+    <message>
+        <source>Nur %1 von %2 Bildern übernommen, mehr Plätze sind nicht frei.</source>
+        <translation>Only %1 of %2 pictures added; there is no room for more.</translation>
+    </message>
+    <message>
+        <source>Bild %1 wird durch ein anderes ersetzt.
+Fortfahren?</source>
+        <translation>Picture %1 will be replaced by another one.
+Continue?</translation>
+    </message>
+    <message>
+        <source>Bild ersetzen</source>
+        <translation>Replace picture</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Bild %1 wird aus dem Projekt gelöscht.
+Fortfahren?</source>
+        <translation>Picture %1 will be deleted from the project.
+Continue?</translation>
+    </message>
+    <message>
+        <source>Bild löschen</source>
+        <translation>Delete picture</translation>
+    </message>
+    <message>
+        <source>Bild gespeichert: %1</source>
+        <translation>Picture saved: %1</translation>
+    </message>
+    <message>
+        <source>Das Bild konnte nicht gespeichert werden!</source>
+        <translation>The picture could not be saved!</translation>
+    </message>
+    <message>
+        <source>Bild speichern</source>
+        <translation>Save picture</translation>
+    </message>
+    <message>
+        <source>PNG-Bild (*.png)</source>
+        <translation>PNG picture (*.png)</translation>
+    </message>
+</context>
+<context>
     <name>QcAttitudeMeter</name>
     <message>
         <source>Querneigung %1°, Längsneigung %2°</source>
@@ -1652,7 +1673,7 @@ double-click fits the value range.</translation>
     <name>QuantityChoice</name>
     <message>
         <source>Größe</source>
-        <translation>Size</translation>
+        <translation>Quantity</translation>
     </message>
     <message>
         <source>Dargestellte Größe</source>
@@ -1784,6 +1805,17 @@ double-click fits the value range.</translation>
     </message>
 </context>
 <context>
+    <name>RecordingActions</name>
+    <message>
+        <source>Die Sensoren werden kalibriert.</source>
+        <translation>The sensors are being calibrated.</translation>
+    </message>
+    <message>
+        <source>Kalibrierung</source>
+        <translation>Calibration</translation>
+    </message>
+</context>
+<context>
     <name>RuntimeBoxPlots</name>
     <message>
         <source>Start [s]</source>
@@ -1857,6 +1889,25 @@ double-click fits the value range.</translation>
     <message>
         <source>Zeit zwischen zwei Messwerten; wählbar, solange die Box verbunden ist</source>
         <translation>Time between two samples; selectable while the box is connected</translation>
+    </message>
+</context>
+<context>
+    <name>SamplingPeriod</name>
+    <message>
+        <source>Die Abtastrate lässt sich nicht ändern, solange eine Aufzeichnung läuft.</source>
+        <translation>The sampling period cannot be changed while a recording is running.</translation>
+    </message>
+    <message>
+        <source>Die vorhandenen Messungen erhalten die Zeitachse der neuen Abtastrate. Fortfahren?</source>
+        <translation>The existing measurements will take on the time axis of the new sampling period. Continue?</translation>
+    </message>
+    <message>
+        <source>Abtastrate ändern</source>
+        <translation>Change sampling period</translation>
+    </message>
+    <message>
+        <source>Achtung: Das Projekt ist mit %1 ms je Wert aufgezeichnet, die Box misst mit %2 ms.</source>
+        <translation>Attention: the project was recorded at %1 ms per value, the box samples at %2 ms.</translation>
     </message>
 </context>
 <context>
