@@ -31,7 +31,7 @@ constexpr int kSamplesPerShot = 600;
 constexpr int kLinesPerRun = 100000;
 constexpr int kLiveLines = 3000; // one a millisecond
 
-/// Sends sample lines on demand from a thread of its own: as fast as the socket takes them, or one a millisecond.
+/// Sends sample lines on demand from a separate thread: as fast as the socket takes them, or one per millisecond.
 class LineSource
 {
 public:

@@ -7,7 +7,7 @@
 
 namespace {
 
-// How often to look whether what makes questions wait is over, in ms.
+// Interval in ms between two checks whether the waiting questions may be asked.
 constexpr int kRetryInterval = 20;
 
 } // namespace

@@ -82,7 +82,7 @@ void ModelChanges::noteOrEmit(bool Noted::*change, void (ModelChanges::*changed)
         emit(this->*changed)();
 }
 
-// Every receiver has let go of the samples by now, unless it has not been told yet.
+// Receivers re-point in their slots, so nothing points at removed samples now, unless the signal was held back.
 void ModelChanges::discardRemoved()
 {
     if (m_scopes == 0 && !m_model.signalsBlocked())
@@ -93,6 +93,6 @@ ModelChanges::Noted ModelChanges::closeScope()
 {
     if (--m_scopes > 0)
         return {};
-    m_model.blockSignals(false); // not what they were before: whoever blocked them may be gone
+    m_model.blockSignals(false); // unconditionally: a deletion may have left them blocked
     return std::exchange(m_noted, {});
 }

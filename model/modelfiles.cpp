@@ -61,7 +61,7 @@ bool ModelFiles::open(const QString &fileName, const char *function)
     }
     apply(*opened, QFileInfo(fileName).absoluteFilePath(), function);
     m_changes.opened(function);
-    // Receivers may have set it, as if the user had changed what they have just been told of.
+    // Receivers may have set it: to them, opening looks like a change.
     m_editor.setProjectModifiedFlag(false);
     qCDebug(lcModel) << function << " END";
     return true;

@@ -45,7 +45,7 @@ void OsziPage::layOut()
     layout->addWidget(m_head);
     layout->addWidget(m_rows, 1);
     layout->addWidget(m_axis);
-    // Lines of their own, so that a wide window does not break in the middle of the controls of the measurements.
+    // Separate lines, so that a wide window does not break in the middle of the controls of the measurements.
     layout->addWidget(m_markers);
     layout->addWidget(m_shots);
 }
@@ -133,7 +133,7 @@ void OsziPage::setModel(Model *model)
 
 void OsziPage::takeSlots()
 {
-    // Pointing has shown all curves; the offsets of the slots stay, but belong to other measurements now.
+    // Pointing the slots shows all curves and keeps the channel offsets, which were those of other measurements.
     m_filter.reapply();
     m_yCorrection.applyIfOn();
     m_shots->showCount(m_pointer.measurementCount());

@@ -74,13 +74,13 @@ void ModelDisplay::refreshData()
         m_pages.home->updateFromModel();
     else if (shown == m_pages.sensors)
         m_pages.sensors->updateValues();
-    // The model is silent while its signals are blocked; the file may have become a modified one meanwhile.
+    // The mark may have changed without a signal while the model's signals were blocked.
     m_status.refreshFile();
 }
 
 void ModelDisplay::noteProjectChange()
 {
-    // At once: an edit made in between would write the fields of the previous project into the model.
+    // Not throttled: an edit made in between would write the fields of the previous project into the model.
     m_pages.project->updateFromModel();
     m_project.request();
 }
