@@ -42,5 +42,5 @@ void DeferredQuestions::askNext()
     // Taken out first: while it is being asked, another one of its kind may come in.
     const std::function<void()> ask = std::exchange(*next, nullptr);
     ask();
-    m_timer.start(0);
+    m_timer.start(0); // there may be one of another kind
 }

@@ -16,7 +16,7 @@ ModelChanges::Silence::Silence(ModelChanges &changes)
 
 ModelChanges::Silence::~Silence()
 {
-    m_changes.m_noted = m_before;
+    m_changes.m_noted = m_before; // without what was noted meanwhile
     (void)m_changes.closeScope(); // nothing is left to announce
 }
 
@@ -63,6 +63,7 @@ void ModelChanges::fileState()
 
 void ModelChanges::opened(const char *function)
 {
+    // Not by project() and data(), whose log lines have another text.
     countOne();
     qCDebug(lcModel) << function << "emitting projectChanged()";
     noteOrEmit(&Noted::project, &ModelChanges::projectChanged);

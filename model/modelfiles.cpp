@@ -50,6 +50,7 @@ bool ModelFiles::open(const QString &fileName, const char *function)
     if (m_work.refuses(function))
         return false;
     QFile file(fileName);
+    // Only regular files: opening a FIFO would block.
     if (!QFileInfo(fileName).isFile() || !file.open(QIODevice::ReadOnly)) {
         qCDebug(lcModel).noquote().nospace() << function << " could not open file:" << fileName;
         return false;

@@ -55,7 +55,7 @@ void OsziPage::connectRows()
     connect(m_rows, &OsziRows::rangeMoved, this, [this](int position) { m_ranges.store(position); });
     connect(m_head, &OsziHead::sensorToggled, this, [this](int position, bool shown) {
         m_rows->setRowShown(position, shown);
-        m_axis->refreshExtent();
+        m_axis->refreshExtent(); // another row may be the topmost one, which decides what fits
     });
     connect(m_head, &OsziHead::lockToggled, this, &OsziPage::setLocked);
     connect(&m_pointer, &SlotPointer::slotsPointed, this, &OsziPage::takeSlots);
@@ -107,7 +107,7 @@ void OsziPage::releasePointer()
 void OsziPage::setLocked(bool locked)
 {
     if (locked)
-        m_markers->disarm();
+        m_markers->disarm(); // the next click in a plot would still place it
     updateEnabled();
 }
 
@@ -184,6 +184,6 @@ void OsziPage::setClock(int clock, int largestGrid)
     m_axis->setClock(clock, largestGrid);
     m_rows->setClockGrid(m_axis->clockGrid());
     m_sampling->showPeriod(clock);
-    showMarkers();
+    showMarkers(); // kept as samples, shown in seconds
     m_yCorrection.applyIfOn();
 }
