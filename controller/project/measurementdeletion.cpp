@@ -39,9 +39,8 @@ void MeasurementDeletion::deleteRange(const QString &range)
     // Not a ChangeScope: if the range is malformed, they stay blocked.
     m_desk.model.blockSignals(true);
     const Result result = removeParts(range);
-    m_desk.model.blockSignals(false);
     if (result.removed > 0)
-        m_edits.markModified(); // the window title has to learn of this, whatever became of the rest
+        m_edits.markModified();
     if (result.complete)
         finish();
     else
@@ -88,6 +87,7 @@ int MeasurementDeletion::remove(qint64 first, qint64 count)
 
 void MeasurementDeletion::finish()
 {
+    m_desk.model.blockSignals(false);
     m_desk.model.emitDataChanged();
     m_desk.view.tabOszi()->clearDeletionField();
 }
@@ -96,7 +96,6 @@ void MeasurementDeletion::finish()
 /// re-pointed here; the removed samples live on until a change is announced again, for whoever else points at them.
 void MeasurementDeletion::breakOff(const QString &range)
 {
-    m_desk.model.blockSignals(true);
     m_desk.view.tabOszi()->pointSlotsAtModel();
     m_desk.view.showStatus(tr("Fehler im Bereich \"%1\": ab dort wurde nichts gelöscht.").arg(range));
 }

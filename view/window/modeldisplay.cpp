@@ -74,8 +74,6 @@ void ModelDisplay::refreshData()
         m_pages.home->updateFromModel();
     else if (shown == m_pages.sensors)
         m_pages.sensors->updateValues();
-    // The model is silent while its signals are blocked; the file may have become a modified one meanwhile.
-    m_status.refreshFile();
 }
 
 void ModelDisplay::noteProjectChange()
