@@ -41,7 +41,7 @@ void MeasurementDeletion::deleteRange(const QString &range)
     const Result result = removeParts(range);
     m_desk.model.blockSignals(false);
     if (result.removed > 0)
-        m_edits.markModified(); // the window title has to learn of this, whatever became of the rest
+        m_edits.markModified(); // the status bar has to learn of this, whatever became of the rest
     if (result.complete)
         finish();
     else
