@@ -40,7 +40,7 @@ void MeasurementDeletion::deleteRange(const QString &range)
     m_desk.model.blockSignals(true);
     const Result result = removeParts(range);
     if (result.removed > 0)
-        m_edits.markModified();
+        m_edits.markModified(); // the status bar has to learn of this, whatever became of the rest
     if (result.complete)
         finish();
     else
