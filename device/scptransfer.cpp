@@ -8,11 +8,6 @@
 
 namespace {
 
-struct ScpTexts
-{
-    Q_DECLARE_TR_FUNCTIONS(Scp)
-};
-
 constexpr int kRuleLength = 64;
 
 void logResult(const ScpResult &result)

@@ -47,7 +47,7 @@ Model::Model(const QString &fileToOpen, QObject *parent)
     , m_import(*m_editor, m_project, m_changes, m_work)
 {
     qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " fileToOpen=" << fileToOpen;
-    // The parts know nothing of blocked signals: a model whose signals are blocked stops them here.
+    // The parts announce without regard to blocked signals: a model whose signals are blocked stops them here.
     connect(&m_changes, &ModelChanges::appStateChanged, this, &Model::appStateChanged);
     connect(&m_changes, &ModelChanges::projectChanged, this, &Model::projectChanged);
     connect(&m_changes, &ModelChanges::dataChanged, this, &Model::dataChanged);

@@ -205,7 +205,7 @@ signals:
     void projectChanged();
     void dataChanged();
     void viewDataChanged();
-    /// The name of the project's file or its modified mark has changed.
+    /// The name of the project's file or its modified mark has changed. Arrives even if the signals are blocked.
     void fileStateChanged();
 
 private:

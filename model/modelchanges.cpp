@@ -56,9 +56,12 @@ void ModelChanges::viewData()
     noteOrEmit(&Noted::viewData, &ModelChanges::viewDataChanged);
 }
 
+// Whoever blocks the signals of the data must not leave a window that takes a saved project for a modified one.
 void ModelChanges::fileState()
 {
+    const bool blocked = m_model.blockSignals(false);
     noteOrEmit(&Noted::fileState, &ModelChanges::fileStateChanged);
+    m_model.blockSignals(blocked);
 }
 
 void ModelChanges::opened(const char *function)

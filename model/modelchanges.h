@@ -44,7 +44,7 @@ public:
     void projectIf(bool changed, const char *function);
     void data(const char *function);
     void viewData();  ///< writes no log line
-    void fileState(); ///< writes no log line
+    void fileState(); ///< writes no log line; arrives even if the model's signals are blocked
     /// Everything but the state of the application, as after a project was opened.
     void opened(const char *function);
 

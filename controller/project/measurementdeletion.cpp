@@ -39,7 +39,6 @@ void MeasurementDeletion::deleteRange(const QString &range)
     // Not a ChangeScope: after a malformed part the signals stay blocked, see breakOff().
     m_desk.model.blockSignals(true);
     const Result result = removeParts(range);
-    m_desk.model.blockSignals(false);
     if (result.removed > 0)
         m_edits.markModified(); // also if a later part is malformed
     if (result.complete)
@@ -88,6 +87,7 @@ int MeasurementDeletion::remove(qint64 first, qint64 count)
 
 void MeasurementDeletion::finish()
 {
+    m_desk.model.blockSignals(false);
     m_desk.model.emitDataChanged();
     m_desk.view.tabOszi()->clearDeletionField();
 }
@@ -96,7 +96,6 @@ void MeasurementDeletion::finish()
 /// re-pointed here; the removed samples are kept until the next announced change, as other plots may point at them.
 void MeasurementDeletion::breakOff(const QString &range)
 {
-    m_desk.model.blockSignals(true);
     m_desk.view.tabOszi()->pointSlotsAtModel();
     m_desk.view.showStatus(tr("Fehler im Bereich \"%1\": ab dort wurde nichts gelöscht.").arg(range));
 }

@@ -2,14 +2,7 @@
 
 #include "device/protocol/scpcommand.h"
 
-#include <QCoreApplication>
-
 namespace {
-
-struct ScpTexts
-{
-    Q_DECLARE_TR_FUNCTIONS(Scp)
-};
 
 ScpMessage notStarted(const QString &commandLine, const QString &errorText)
 {

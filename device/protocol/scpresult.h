@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 #include <optional>
@@ -24,6 +25,12 @@ struct ScpResult
     QString standardError;
 
     [[nodiscard]] bool isSuccess() const { return end == End::Exited && exitCode == 0; }
+};
+
+/// Translates what the user is told about transfers.
+struct ScpTexts
+{
+    Q_DECLARE_TR_FUNCTIONS(Scp)
 };
 
 /// A message box for the user.

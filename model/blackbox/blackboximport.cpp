@@ -28,7 +28,7 @@ bool BlackBoxImport::add(const QString &fileName, const char *function)
         qCDebug(lcModel).noquote().nospace() << function << " ERROR: could not open file:" << fileName;
         return false;
     }
-    std::optional<BlackBoxDocument> document = read(file);
+    std::optional<BlackBoxDocument> document = read(file, function);
     if (!document)
         return false;
     apply(*document, function);
@@ -40,7 +40,7 @@ bool BlackBoxImport::add(const QString &fileName, const char *function)
 }
 
 // Nothing if the file could not be read to its end: half a shot would look like a whole one.
-std::optional<BlackBoxDocument> BlackBoxImport::read(QFile &file)
+std::optional<BlackBoxDocument> BlackBoxImport::read(QFile &file, const char *function)
 {
     const auto task = [&]() -> std::optional<BlackBoxDocument> {
         Pacer pacer(m_work.yield(), file.size());
@@ -51,10 +51,10 @@ std::optional<BlackBoxDocument> BlackBoxImport::read(QFile &file)
         });
         if (file.error() == QFileDevice::NoError)
             return document;
-        qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " ERROR: could not read file:" << file.fileName();
+        qCDebug(lcModel).noquote().nospace() << function << " ERROR: could not read file:" << file.fileName();
         return {};
     };
-    return m_work.run(task, Q_FUNC_INFO);
+    return m_work.run(task, function);
 }
 
 void BlackBoxImport::apply(BlackBoxDocument &document, const char *function)

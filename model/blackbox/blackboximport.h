@@ -27,7 +27,7 @@ public:
     [[nodiscard]] ImportedFiles &files() { return m_files; }
 
 private:
-    [[nodiscard]] std::optional<BlackBoxDocument> read(QFile &file);
+    [[nodiscard]] std::optional<BlackBoxDocument> read(QFile &file, const char *function);
     void apply(BlackBoxDocument &document, const char *function);
 
     ProjectEditor &m_editor;

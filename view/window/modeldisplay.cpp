@@ -74,8 +74,6 @@ void ModelDisplay::refreshData()
         m_pages.home->updateFromModel();
     else if (shown == m_pages.sensors)
         m_pages.sensors->updateValues();
-    // The mark may have changed without a signal while the model's signals were blocked.
-    m_status.refreshFile();
 }
 
 void ModelDisplay::noteProjectChange()

@@ -93,6 +93,12 @@ QString StatusDisplay::fileText() const
 
 void StatusDisplay::refreshFile()
 {
+    const QString sheet = m_model->isProjectModified()
+                              ? QStringLiteral("QLabel {font-weight: bold; color: %1;}").arg(kModifiedColor)
+                              : QString();
+    if (sheet != m_file->styleSheet())
+        m_file->setStyleSheet(sheet);
+    m_file->ensurePolished(); // the text is shortened to what fits, and bold type is wider
     const QString file = m_model->currentFile();
     const QString text = fileText();
     // A name may hold what looks like a tag.
@@ -101,8 +107,4 @@ void StatusDisplay::refreshFile()
         return;
     m_file->setText(text);
     m_file->setToolTip(tip);
-    // Bold type is wider; setting it together with the text makes the bar lay out its widgets once.
-    m_file->setStyleSheet(m_model->isProjectModified()
-                              ? QStringLiteral("QLabel {font-weight: bold; color: %1;}").arg(kModifiedColor)
-                              : QString());
 }

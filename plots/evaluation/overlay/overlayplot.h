@@ -27,7 +27,6 @@ public:
     void setMean(const MeanBand *mean, bool showsMean, double sigmas);
     [[nodiscard]] const Reference &reference() const { return m_reference; }
     [[nodiscard]] bool showsMean() const { return m_mean && m_showsMean; }
-    [[nodiscard]] double bandSigmas() const { return m_mean ? m_sigmas : 0.0; }
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -297,6 +297,19 @@ private slots:
         QCOMPARE(label->text(), "deckel.vnt – gespeichert"_s);
     }
 
+    void longFileNameIsShortenedInItsOwnFont()
+    {
+        Bench bench;
+        const auto *label = bench.view->findChild<QLabel *>("labelProjectFile"_s);
+        bench.model.setCurrentFile("/daten/"_s + QString(100, QLatin1Char('m')) + ".vnt"_s);
+        for (const bool modified : {true, false, true}) {
+            bench.model.setProjectModifiedFlag(modified);
+            label->ensurePolished();
+            const int width = label->fontMetrics().horizontalAdvance(label->text());
+            QVERIFY2(width > 380 && width <= 420, qPrintable(QString::number(width)));
+        }
+    }
+
     void editInTheProjectTabIsNotLost()
     {
         Bench bench;
