@@ -134,7 +134,7 @@ bool QtMaterialScrollBar::event(QEvent *event)
     if (m_state.apply(*event, isEnabled()))
         showState();
     const bool handled = QScrollBar::event(event);
-    // The base class and styles set it, but beside the thumb the bar is transparent.
+    // The base class sets it and styles may, but beside the thumb the bar is transparent.
     if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange)
         setAttribute(Qt::WA_OpaquePaintEvent, false);
     else if (event->type() == QEvent::ParentChange)

@@ -48,7 +48,7 @@ void ConnectionProgress::showText(const QString &text)
     m_label->setToolTip(Qt::convertFromPlainText(text));
     centre();
     show();
-    raise(); // above what the window has got since
+    raise(); // above widgets that the window has got since
 }
 
 void ConnectionProgress::centre()
