@@ -75,7 +75,7 @@ void prepareApplication(QApplication &application)
 {
     QGuiApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QGuiApplication::setDesktopFileName(QStringLiteral("de.tarnwald.ventaro")); // finds the icon under Wayland
-    // The built-in texts are German, and so are the numbers beside them, whatever the computer speaks.
+    // The built-in texts are German, so numbers are formatted in German too, whatever the locale of the computer.
     QLocale::setDefault(QLocale(QLocale::German));
     loadFonts();
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));

@@ -1,4 +1,4 @@
-// Sample lines a second from a socket to the screen: connector, controller and model with the whole window shown and
+// Sample lines per second from a socket to the screen: connector, controller and model with the whole window shown and
 // a thousand shots stored.
 
 #include "app/startup.h"
@@ -29,9 +29,9 @@ namespace {
 constexpr int kShots = 1000;
 constexpr int kSamplesPerShot = 600;
 constexpr int kLinesPerRun = 100000;
-constexpr int kLiveLines = 3000; // one a millisecond
+constexpr int kLiveLines = 3000; // one per millisecond
 
-/// Sends sample lines on demand from a thread of its own: as fast as the socket takes them, or one a millisecond.
+/// Sends sample lines on demand from a separate thread: as fast as the socket takes them, or one per millisecond.
 class LineSource
 {
 public:

@@ -22,6 +22,7 @@ Controller::~Controller()
     qCDebug(lcController) << Q_FUNC_INFO;
 }
 
+// Here and below only what is logged under a name of this class; ControllerParts connects the rest.
 void Controller::connectActions(const View &view)
 {
     connect(&view, &View::newProject, this, &Controller::onNewProject);

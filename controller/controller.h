@@ -51,7 +51,7 @@ public slots:
     void onOpenProject();
     void onSaveProject();
     void onSaveProjectAs();
-    /// The window shows the tab by itself; a list that the box can give is requested.
+    /// The window switches to the tab itself; this requests the list if the box can send it.
     void onImportBlackBox();
     void onFirmwareUpdate();
     void onActionConnect();

@@ -19,7 +19,7 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     , recorder(model, edits, connector, display)
     , lines(connector, model,
             [this, &view](const QString &line) {
-                view.terminalReceived(line);
+                view.terminalReceived(line); // when its turn comes, like its effect
                 dispatch.dispatch(line);
             })
     , link({view, model, occupancy}, connector, demoBox, questions, recorder, options.deviceAddress)
@@ -71,7 +71,8 @@ void ControllerParts::handleMessages()
     dispatch.setHandler(MessageKind::Other, [this](const QString &message) { loggerList.take(message); });
 }
 
-/// Receivers of the same signal are called in the order of these lines.
+/// Receivers of the same signal are called in the order of these lines. Parts that are no QObjects are called by a
+/// lambda in the context of one that is.
 void ControllerParts::connectLink(View &view)
 {
     QObject::connect(&connector, &MesotraConnector::written, &view, &View::terminalSent);

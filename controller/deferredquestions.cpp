@@ -7,7 +7,7 @@
 
 namespace {
 
-// How often to look whether what makes questions wait is over, in ms.
+// Interval in ms between two checks whether the waiting questions may be asked.
 constexpr int kRetryInterval = 20;
 
 } // namespace
@@ -42,5 +42,5 @@ void DeferredQuestions::askNext()
     // Taken out first: while it is being asked, another one of its kind may come in.
     const std::function<void()> ask = std::exchange(*next, nullptr);
     ask();
-    m_timer.start(0);
+    m_timer.start(0); // there may be one of another kind
 }

@@ -25,5 +25,5 @@ void RecordingDisplay::sampleTaken(const std::array<double, kNumSensors> &values
 
 void RecordingDisplay::scaleChanged()
 {
-    m_view.forgetLiveValues(); // they were too large or too small by a factor of 1000
+    m_view.forgetLiveValues(); // off by a factor of 1000
 }

@@ -13,7 +13,7 @@ class DemoBox : public QObject
     Q_OBJECT
 
 public:
-    /// Why there is no simulator any more.
+    /// Why the simulator is not running.
     enum class End { NotStarted, NotListening, Ended };
     Q_ENUM(End)
 

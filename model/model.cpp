@@ -222,13 +222,14 @@ void Model::setSensorDescription(const SensorDescription &description)
 {
     qCDebug(lcModel) << Q_FUNC_INFO << description.numSensorGroups();
     m_project.settings.sensors = description;
-    m_changes.countOne();
+    m_changes.countOne(); // no signal, but a file being written is out of date
 }
 
 void Model::setDeviceDescription(const DeviceDescription &description)
 {
     qCDebug(lcModel) << Q_FUNC_INFO << description.hardwareVersion << description.firmwareVersion;
     m_deviceDescription = description;
+    // The project file keeps the versions of the box that it was recorded with.
     m_project.settings.hardwareVersion = description.hardwareVersion;
     m_project.settings.firmwareVersion = description.firmwareVersion;
     m_changes.countOne();

@@ -185,7 +185,7 @@ public:
     /// False if the last save() wrote the project, but not the file beside it.
     [[nodiscard]] bool isProjectMetaSaved() const { return m_files.isMetaSaved(); }
     [[nodiscard]] bool saveCsv(const QString &fileName);
-    /// Appends what a logger file of the box recorded as one measurement, unless the file tells of none, and takes over
+    /// Appends what a logger file of the box recorded as one measurement, unless the file holds none, and takes over
     /// what it says about the sensors. Puts the file on the fileList(). False if it is no regular file or cannot be
     /// read.
     [[nodiscard]] bool addBlackBoxFile(const QString &fileName);

@@ -16,7 +16,7 @@ ModelChanges::Silence::Silence(ModelChanges &changes)
 
 ModelChanges::Silence::~Silence()
 {
-    m_changes.m_noted = m_before;
+    m_changes.m_noted = m_before; // without what was noted meanwhile
     (void)m_changes.closeScope(); // nothing is left to announce
 }
 
@@ -66,6 +66,7 @@ void ModelChanges::fileState()
 
 void ModelChanges::opened(const char *function)
 {
+    // Not by project() and data(), whose log lines have another text.
     countOne();
     qCDebug(lcModel) << function << "emitting projectChanged()";
     noteOrEmit(&Noted::project, &ModelChanges::projectChanged);
@@ -85,7 +86,7 @@ void ModelChanges::noteOrEmit(bool Noted::*change, void (ModelChanges::*changed)
         emit(this->*changed)();
 }
 
-// Every receiver has let go of the samples by now, unless it has not been told yet.
+// Receivers re-point in their slots, so nothing points at removed samples now, unless the signal was held back.
 void ModelChanges::discardRemoved()
 {
     if (m_scopes == 0 && !m_model.signalsBlocked())
@@ -96,6 +97,6 @@ ModelChanges::Noted ModelChanges::closeScope()
 {
     if (--m_scopes > 0)
         return {};
-    m_model.blockSignals(false); // not what they were before: whoever blocked them may be gone
+    m_model.blockSignals(false); // unconditionally: a deletion may have left them blocked
     return std::exchange(m_noted, {});
 }

@@ -50,6 +50,7 @@ bool ModelFiles::open(const QString &fileName, const char *function)
     if (m_work.refuses(function))
         return false;
     QFile file(fileName);
+    // Only regular files: opening a FIFO would block.
     if (!QFileInfo(fileName).isFile() || !file.open(QIODevice::ReadOnly)) {
         qCDebug(lcModel).noquote().nospace() << function << " could not open file:" << fileName;
         return false;
@@ -61,7 +62,7 @@ bool ModelFiles::open(const QString &fileName, const char *function)
     }
     apply(*opened, QFileInfo(fileName).absoluteFilePath(), function);
     m_changes.opened(function);
-    // Receivers may have set it, as if the user had changed what they have just been told of.
+    // Receivers may have set it: to them, opening looks like a change.
     m_editor.setProjectModifiedFlag(false);
     qCDebug(lcModel) << function << " END";
     return true;

@@ -20,6 +20,7 @@ bool isUnc(const QString &path)
 
 bool isNetworkFileSystem(const QByteArray &type)
 {
+    // autofs is none itself, but touching its folder may mount one.
     static const char *const kTypes[] = {"nfs",       "nfs4",        "cifs",        "smb3",           "smbfs", "afs",
                                          "9p",        "ceph",        "autofs",      "fuse.sshfs",     "davfs", "ncpfs",
                                          "glusterfs", "fuse.davfs2", "fuse.rclone", "fuse.gvfsd-fuse"};

@@ -104,7 +104,7 @@ void ShotStore::setChannel(int sensor, Channel channel)
     old = std::move(channel);
     m_ids[at(sensor)].resize(old.size());
     for (quint64 &id : m_ids[at(sensor)])
-        id = ++m_lastId;
+        id = ++m_lastId; // never one that a replaced measurement had
     countStructureChange();
 }
 

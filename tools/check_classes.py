@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 """Checks that classes, files and folders stay small and that no includes go in a circle.
 
-Reports every class with too many methods, data members or .cpp files, every function, file or folder that is too long,
-and every circle of includes, and exits with 1 if there is one. Exceptions are listed below with their reasons; one that
-is no longer needed is reported too. The sources are parsed by universal-ctags.
+Reports every class with too many methods, data members or .cpp files, or whose .cpp file is not beside its header, every
+function, file or folder that is too long, and every circle of includes, and exits with 1 if there is one. Exceptions are
+listed below with their reasons; one that is no longer needed is reported too. The sources are parsed by universal-ctags.
 
     check_classes.py [ROOT] [--table]
 
@@ -12,6 +12,7 @@ With --table the largest classes and folders are printed as well.
 
 import argparse
 import json
+import posixpath
 import shutil
 import subprocess
 import sys
@@ -45,8 +46,9 @@ CLASS_KINDS = {"class", "struct", "union"}
 CTAGS = [
     *("ctags", "--options=NONE", "--languages=C++", "--langmap=C++:.h.cpp", "--sort=no", "--output-format=json"),
     *("--fields=+neKZapS", "--fields-C++=+{properties}", "--kinds-C++=+ph", "--extras=+r", "-D", "Q_OBJECT="),
-    # Without the replacement ctags misses the first signal of a class.
-    *("-D", "Q_PROPERTY(x)=", "-D", "signals=public", "-L", "-", "-f", "-"),
+    # Without these replacements ctags misses the first signal of a class.
+    *("-D", "Q_PROPERTY(x)=", "-D", "signals=public", "-D", "Q_SIGNALS=public", "-D", "Q_SLOTS="),
+    *("-L", "-", "-f", "-"),
 ]
 
 
@@ -95,7 +97,7 @@ def owners(tags):
     """Maps the qualified name of each class to that of the class that it counts for: mostly itself.
 
     A nested class that is defined outside of its class (struct X::Private), or is called Private, holds the state of
-    its class under another name.
+    its class under another name; so does a class XPrivate beside X.
     """
     definitions = {qualified(tag): tag for tag in tags if tag["kind"] in CLASS_KINDS}
     result = {}
@@ -103,7 +105,8 @@ def owners(tags):
         outer = definitions.get(tag.get("scope"))
         is_inside = outer and outer["path"] == tag["path"] and outer["line"] <= tag["line"] <= outer["end"]
         hides_state = outer and (not is_inside or tag["name"] == "Private")
-        result[name] = tag["scope"] if hides_state else name
+        holder = name[:-len("Private")] if name.endswith("Private") else ""
+        result[name] = tag["scope"] if hides_state else holder if holder in definitions else name
     return result
 
 
@@ -145,6 +148,8 @@ def class_faults(classes):
         if len(entry.implementations) > IMPLEMENTATION_FILES:
             names = ", ".join(sorted(entry.implementations))
             yield entry.name, "files", f"{place} {len(entry.implementations)} .cpp files (at most 1): {names}"
+        elif any(unit_of(path) != unit_of(entry.path) for path in entry.implementations):
+            yield entry.name, "place", f"{place} its functions in {min(entry.implementations)}, not beside its header"
 
 
 def function_faults(tags):
@@ -160,7 +165,7 @@ def file_faults(root, files, classes):
     face_files = {entry.path for entry in classes.values() if entry.name in FACES}
     face_files |= {path for entry in classes.values() if entry.name in FACES for path in entry.implementations}
     for path in files:
-        lines = (root / path).read_bytes().count(b"\n")
+        lines = len((root / path).read_bytes().splitlines())
         limit = FACE_LINES if path in face_files else FILE_LINES
         if lines > limit:
             yield path, "lines", f"{path}: file has {lines} lines (at most {limit}{' in a face' * (path in face_files)})"
@@ -188,7 +193,7 @@ def read_includes(tags, files):
     for tag in tags:
         if tag["kind"] != "header":
             continue
-        beside = f"{tag['path'].rpartition('/')[0]}/{tag['name']}"
+        beside = posixpath.normpath(f"{tag['path'].rpartition('/')[0]}/{tag['name']}")
         target = next((path for path in (tag["name"], beside) if path in known), None)
         if target and unit_of(target) != unit_of(tag["path"]):
             result[unit_of(tag["path"])].add(unit_of(target))

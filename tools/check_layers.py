@@ -127,6 +127,8 @@ def crosses_features(path, quoted):
 
 def check_include(path, layer, quoted, system, layer_of, headers):
     """What is wrong with one include of a layer's file, or nothing."""
+    if system in layer_of or system.split("/")[0] in PROGRAM_FOLDERS:
+        quoted = system  # the project's own file, although in angle brackets
     if quoted:
         if quoted.split("/")[0] in PROGRAM_FOLDERS:
             return f"includes {quoted}, which belongs to no layer"
@@ -148,6 +150,8 @@ def check_include(path, layer, quoted, system, layer_of, headers):
 
 def check_files(root, layer_of, headers):
     for path, layer in sorted(layer_of.items()):
+        if path.rpartition("/")[0] in FEATURES:
+            yield f"{path}: belongs to no feature, so that it could join features"
         file = root / path
         if not file.is_file():
             yield f"{path}: listed by {layer}, but not there"

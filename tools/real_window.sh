@@ -19,7 +19,8 @@
 #   wait_for COMMAND...        waits until a command succeeds
 #   picture NAME               saves the active window's content as NAME.png, once it no longer changes
 #   wait_end                   waits until the program has ended; fails if it did not end with 0
-# Variables: output (the folder of pictures), scale, address (of the simulator), and "$@", the arguments.
+# Variables: output (the folder of pictures), scale, address (of the simulator), log (the file of messages), log_lines
+# (how many of its lines wait_log has passed), and "$@", the arguments.
 set -euo pipefail
 
 usage() {

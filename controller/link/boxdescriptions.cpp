@@ -60,7 +60,7 @@ void BoxDescriptions::takeSensors(const QString &message)
     m_sensorTimer.stop();
     m_recorder.setValuesInThousandths(false);
     const SensorDescription before = m_model.sensorDescription();
-    SensorDescription description = before; // colours are not the box's business
+    SensorDescription description = before; // the box does not describe colours
     applySensorDescription(parseSensorDescription(message), description);
     m_model.blockSignals(false);
     // A project without a file or any edit contains nothing to lose: connecting alone must not lead to questions.
@@ -78,7 +78,7 @@ void BoxDescriptions::takeSensors(const QString &message)
 void BoxDescriptions::describeAgain()
 {
     if (!m_model.isConnected())
-        return; // those of a box that is gone would be wrong for the next one
+        return; // descriptions of the previous box would be wrong for the next one
     if (m_device)
         m_model.setDeviceDescription(*m_device);
     if (m_sensors)

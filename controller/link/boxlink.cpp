@@ -82,7 +82,7 @@ void BoxLink::toggle()
 void BoxLink::disconnectBox()
 {
     m_connector.stopMeasurement();
-    m_recorder.stopped(); // its echo will not arrive any more
+    m_recorder.stopped(); // the echo will no longer arrive
     leave();
 }
 
@@ -236,7 +236,7 @@ void BoxLink::retryAfterRestart()
 
 void BoxLink::reportError(QAbstractSocket::SocketError error)
 {
-    if (!m_occupancy.isUnderWay(Task::Fetch)) // whose progress is shown
+    if (!m_occupancy.isUnderWay(Task::Fetch)) // otherwise the progress shown is that of the fetch
         m_view.hideProgress();
     if (!m_occupancy.mayInterrupt()) {
         m_questions.put(Question::LinkError, [this, error] { emit failed(error); });
@@ -269,7 +269,7 @@ void BoxLink::offerReconnect()
         m_wanted = false;
         return;
     }
-    // The dialog lets no other one through; a script of a test could.
+    // The dialog accepts valid addresses only; prompts scripted by a test may not.
     if (!isValidHostAddress(*address)) {
         m_view.showStatus(tr("Keine gültige Adresse: %1").arg(*address));
         return;

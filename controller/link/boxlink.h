@@ -42,7 +42,7 @@ public:
     // --- For other parts ---
     /// Stops the recording and ends the link.
     void disconnectBox();
-    /// Ends the link or the attempt; its errors are of no interest any more.
+    /// Ends the link or the attempt; errors of it are no longer reported.
     void leave();
     /// Ends the link if there is one, otherwise the attempt that may be under way.
     void leaveForAnother();

@@ -15,7 +15,7 @@ public:
 
     /// The box has been told to restart.
     void begin() { m_since.start(); }
-    /// It is back, or nobody waits for it any more.
+    /// It is back, or nobody waits for it any longer.
     void end() { m_since.invalidate(); }
     /// True if the error only says that the box is not back yet.
     [[nodiscard]] bool explains(QAbstractSocket::SocketError error) const;

@@ -51,7 +51,7 @@ void DemoLink::toggle()
     showState();
 }
 
-/// Asks before a link is given up, and before simulated shots get among others.
+/// Asks before a link is given up, and before simulated shots are mixed with real ones.
 bool DemoLink::mayStart()
 {
     QStringList reasons;

@@ -20,7 +20,7 @@ public:
     /// The user starts or ends the demonstration.
     void toggle();
     void onListening(quint16 port);
-    /// The simulator did not start or is gone, or the link to it is.
+    /// The simulator did not start, or it or the link to it ended.
     void onFailed(DemoBox::End end);
     /// Ends the simulator; every end of the link is the end of the demonstration.
     void stop();

@@ -51,7 +51,7 @@ void SamplingPeriod::choose(const QString &label)
         m_desk.view.showStatus(tr("Die Abtastrate lässt sich nicht ändern, solange eine Aufzeichnung läuft."));
         return;
     }
-    // A project has one period for all its measurements: those stored would be drawn over another time.
+    // A project has one period for all its measurements: the time axis of the existing ones would change too.
     const QString question = tr("Die vorhandenen Messungen erhalten die Zeitachse der neuen Abtastrate. Fortfahren?");
     if (m_desk.model.numChannels(0) > 0
         && !m_desk.occupancy.ask([&] { return m_desk.view.askYesNo(tr("Abtastrate ändern"), question); }))

@@ -5,7 +5,7 @@
 #include <QCoreApplication>
 #include <QStringList>
 
-/// What an import of logger files has brought so far, and the words for it.
+/// The result of an import of logger files so far, and the messages about it.
 class ImportSummary
 {
     Q_DECLARE_TR_FUNCTIONS(ImportSummary)

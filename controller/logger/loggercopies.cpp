@@ -24,7 +24,7 @@ bool copyOver(const QFileInfo &source, const QString &target)
     (void)QFile::remove(target); // if that fails, so does the next step
     const bool replaced = QFile::rename(part, target);
     if (!replaced)
-        (void)QFile::remove(part); // nothing half done stays
+        (void)QFile::remove(part); // leave no partial copy behind
     return replaced;
 }
 

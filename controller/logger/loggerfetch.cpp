@@ -88,7 +88,7 @@ QStringList LoggerFetch::fetch(const QStringList &dates, const QDir &target)
     return fetched;
 }
 
-/// False if the next day cannot go better.
+/// False if fetching the next day would fail in the same way.
 bool LoggerFetch::fetchDay(const QString &date, const QDir &target, QStringList &fetched)
 {
     const QString directory = blackBoxDirectory(date).value_or(QString());

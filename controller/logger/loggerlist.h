@@ -18,7 +18,7 @@ public:
     LoggerList(const Desk &desk, BoxLink &link);
 
     void request();
-    /// Asks for a list that the box can give now, without a word if it cannot.
+    /// Asks for the list if the box can send it now; otherwise does nothing, without a message.
     void requestIfPossible();
 
     // --- Lines of the box ---
@@ -26,7 +26,7 @@ public:
     /// Ignored outside a block.
     void take(const QString &message);
     void finish();
-    /// The link is gone: so is a block that has not ended.
+    /// The link has ended: drops an incomplete block.
     void reset();
 
 private:

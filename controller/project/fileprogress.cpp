@@ -7,7 +7,7 @@
 
 namespace {
 
-// How often to look whether an export is over, whose end nobody reports, in ms.
+// Interval in ms between two checks whether an export is over: nothing reports its end.
 constexpr int kIdleCheck = 200;
 
 } // namespace

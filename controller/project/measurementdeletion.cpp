@@ -36,11 +36,11 @@ void MeasurementDeletion::deleteRange(const QString &range)
     const QString question = tr("Folgende Datensätze werden gelöscht:\n") + range;
     if (!m_desk.occupancy.ask([&] { return m_desk.view.askYesNo(tr("Daten löschen"), question); }))
         return;
-    // Not a ChangeScope: if the range is malformed, they stay blocked.
+    // Not a ChangeScope: after a malformed part the signals stay blocked, see breakOff().
     m_desk.model.blockSignals(true);
     const Result result = removeParts(range);
     if (result.removed > 0)
-        m_edits.markModified(); // the status bar has to learn of this, whatever became of the rest
+        m_edits.markModified(); // also if a later part is malformed
     if (result.complete)
         finish();
     else
@@ -92,8 +92,8 @@ void MeasurementDeletion::finish()
     m_desk.view.tabOszi()->clearDeletionField();
 }
 
-/// Nobody is told, and the model's signals stay blocked until the next action or sample opens them. The curves are
-/// re-pointed here; the removed samples live on until a change is announced again, for whoever else points at them.
+/// Announces nothing, and the model's signals stay blocked until the next action or sample opens them. The curves are
+/// re-pointed here; the removed samples are kept until the next announced change, as other plots may point at them.
 void MeasurementDeletion::breakOff(const QString &range)
 {
     m_desk.view.tabOszi()->pointSlotsAtModel();

@@ -16,8 +16,8 @@ public:
     /// All references must outlive the deletion.
     MeasurementDeletion(const Desk &desk, ProjectEdits &edits, Recorder &recorder);
 
-    /// Such as "1-3,5", numbers as shown to the user. A part that is malformed ends the deletion: what came before it
-    /// stays deleted and the model's signals stay blocked.
+    /// Such as "1-3,5", numbers as shown to the user. A malformed part ends the deletion: the parts before it
+    /// stay deleted and the model's signals stay blocked.
     void deleteRange(const QString &range);
     void deleteAll();
 

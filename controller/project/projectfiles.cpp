@@ -213,14 +213,14 @@ bool ProjectFiles::confirmQuit()
     qCDebug(lcController).noquote().nospace() << Q_FUNC_INFO << " modelChanged=" << m_model.isProjectModified();
     if (!m_model.isProjectModified() && !m_occupancy.ask([this] { return m_view.askToQuit(); }))
         return false;
-    // Samples that came in while that question was up are worth the other one.
+    // Samples may have come in while that question was open; then the other question has to be asked too.
     return !m_model.isProjectModified() || confirmLosingChanges();
 }
 
 bool ProjectFiles::confirmLosingChanges()
 {
     switch (m_occupancy.ask([this] { return m_view.askToSaveAndQuit(); })) {
-    case QMessageBox::Save: // which may leave changes that were made meanwhile
+    case QMessageBox::Save: // changes made during the save are still unsaved
         return saveUnsavedChanges() && (!m_model.isProjectModified() || confirmQuit());
     case QMessageBox::Discard:
         return true;

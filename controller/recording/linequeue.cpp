@@ -7,7 +7,7 @@
 
 namespace {
 
-// How often to look whether the model has finished with its file, in ms.
+// Interval in ms between two checks whether the model has finished with its file.
 constexpr int kRetryInterval = 20;
 
 } // namespace

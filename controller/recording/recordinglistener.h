@@ -12,7 +12,7 @@ public:
     virtual ~RecordingListener() = default;
     Q_DISABLE_COPY_MOVE(RecordingListener)
 
-    /// After every echo of a start or stop, also if it changed nothing.
+    /// After every echo of a start or stop, even if it changed nothing.
     virtual void recordingRunning(bool running) { Q_UNUSED(running) }
     /// The model has a new measurement of each sensor, which dataChanged() has not announced yet.
     virtual void measurementBegun() {}
@@ -23,6 +23,6 @@ public:
         Q_UNUSED(values)
         Q_UNUSED(seconds)
     }
-    /// Values are taken as thousandths from now on, or no longer: earlier ones were off by a factor of 1000.
+    /// From now on values are taken as thousandths, or no longer are: earlier ones were off by a factor of 1000.
     virtual void scaleChanged() {}
 };

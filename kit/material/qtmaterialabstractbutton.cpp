@@ -138,7 +138,7 @@ void QtMaterialAbstractButton::keyPressEvent(QKeyEvent *event)
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (!enter)
         QPushButton::keyPressEvent(event);
-    else if (!event->isAutoRepeat())
+    else if (!event->isAutoRepeat()) // a key that is held down clicks once
         click();
 }
 
@@ -150,7 +150,7 @@ void QtMaterialAbstractButton::mousePressEvent(QMouseEvent *event)
 
 void QtMaterialAbstractButton::mouseReleaseEvent(QMouseEvent *event)
 {
-    m_pressPoint.reset();
+    m_pressPoint.reset(); // the next press may come from the keyboard
     QPushButton::mouseReleaseEvent(event);
 }
 
@@ -244,6 +244,7 @@ void QtMaterialAbstractButton::paintIcon(QPainter &painter, const QRect &place) 
         icon().paint(&painter, place, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled, state);
         return;
     }
+    // In a separate pixmap: on the button, the composition would replace what is painted already.
     const qreal ratio = devicePixelRatioF();
     QPixmap picture(place.size() * ratio);
     picture.setDevicePixelRatio(ratio);

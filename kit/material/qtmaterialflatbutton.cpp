@@ -32,6 +32,7 @@ void QtMaterialFlatButton::paintSurface(QPainter &painter) const
     painter.setPen(isChecked() ? contentColor() : QtMaterialPaint::themeColor(QLatin1String("accent3")));
     if (isChecked())
         painter.setBrush(QtMaterialPaint::withOpacity(contentColor(), kCheckedTint));
+    // Half a pixel inwards: the outline is centred on its path and stays sharp.
     painter.drawRoundedRect(QRectF(surface()).adjusted(0.5, 0.5, -0.5, -0.5), surfaceRadius(), surfaceRadius());
 }
 

@@ -61,6 +61,7 @@ void QtMaterialInteractionStateMachine::takeFocus(const QEvent &event)
 {
     m_focused = true;
     const Qt::FocusReason reason = static_cast<const QFocusEvent &>(event).reason();
+    // Back from another window or a menu, the focus is shown or not as it was before.
     if (reason == Qt::MouseFocusReason)
         m_byKeyboard = false;
     else if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)

@@ -62,7 +62,7 @@ void QtMaterialRipple::press(const QPointF &origin)
     const int index = m_next;
     m_next = (m_next + 1) % kMostWaves;
     m_waves[static_cast<size_t>(index)] = {origin, Phase::Held};
-    m_motion.jumpTo(fadeIndex(index), 0.0);
+    m_motion.jumpTo(fadeIndex(index), 0.0); // an older wave may have left it faded
     m_motion.jumpTo(spreadIndex(index), kFirstSpread);
     m_motion.moveTo(spreadIndex(index), 1.0, kSpreadTime);
 }

@@ -111,6 +111,7 @@ void QtMaterialScrollBar::hideIfUnneeded()
     if (isWindow()) // as a top-level widget it would open a window
         return;
     const bool wanted = m_autoHide && maximum() <= minimum();
+    // Who hid the bar has to show it again.
     const bool hiddenByOthers = isHidden() && testAttribute(Qt::WA_WState_ExplicitShowHide) && !m_hidByItself;
     if (wanted == m_hidByItself || hiddenByOthers)
         return;
@@ -133,6 +134,7 @@ bool QtMaterialScrollBar::event(QEvent *event)
     if (m_state.apply(*event, isEnabled()))
         showState();
     const bool handled = QScrollBar::event(event);
+    // The base class and styles set it, but beside the thumb the bar is transparent.
     if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange)
         setAttribute(Qt::WA_OpaquePaintEvent, false);
     else if (event->type() == QEvent::ParentChange)

@@ -18,7 +18,7 @@ public:
     /// All of them must outlive this.
     BlackBoxImport(ProjectEditor &editor, Project &project, ModelChanges &changes, FileWork &work);
 
-    /// Appends the shot of a file, unless it tells of none, takes over what it says about the sensors and puts it on
+    /// Appends the shot of a file, unless it holds none, takes over what it says about the sensors and puts it on
     /// the list of files. False if it is no regular file or cannot be read. `function` is the one that log lines name.
     [[nodiscard]] bool add(const QString &fileName, const char *function);
     /// What the last add() could not take over.

@@ -7,7 +7,7 @@ class QString;
 class SensorDescription;
 
 /// The changes of a project that are logged and announced one by one. What reads files makes its changes through them,
-/// so that the log tells of each.
+/// so that each of them is logged.
 class ProjectEditor
 {
 public:
@@ -26,6 +26,6 @@ public:
 
 protected:
     ProjectEditor() = default;
-    ~ProjectEditor() = default; // nobody owns one as such
+    ~ProjectEditor() = default; // not deleted through this interface
     Q_DISABLE_COPY_MOVE(ProjectEditor)
 };

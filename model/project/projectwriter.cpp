@@ -10,7 +10,7 @@ namespace {
 
 using namespace projectkeys;
 
-// After each of these a single measurement looks at the clock.
+// Samples of a measurement that are written before the pacer checks the clock.
 constexpr int kSamplesAtOnce = 512;
 
 void writeValue(JsonWriter &json, int number)

@@ -37,7 +37,7 @@ void NormalBoxWidget::createLayout()
         grid->addWidget(m_captions[index], i % kRows, 3 * (i / kRows));
         grid->addWidget(m_figures[index], i % kRows, 3 * (i / kRows) + 1);
     }
-    grid->setColumnMinimumWidth(2, 12);
+    grid->setColumnMinimumWidth(2, 12); // an empty column keeps the two pairs apart
     grid->setColumnStretch(1, 1);
     grid->setColumnStretch(4, 1);
     m_boxPlot->setFixedHeight(60);

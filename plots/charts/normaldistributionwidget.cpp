@@ -81,7 +81,7 @@ void drawCurve(QPainter &painter, const BellArea &area, statistics::Moments mome
     painter.setPen(QPen(color, 3));
     if (std::isfinite(statistics::density(moments.mean, moments)))
         painter.drawPolyline(bell(area, moments));
-    else
+    else // all values are equal
         painter.drawLine(area.centre(), area.base, area.centre(), area.top);
 }
 

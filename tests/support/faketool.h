@@ -28,7 +28,7 @@ public:
         tool.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
     [[nodiscard]] QString file() const { return path("winscp.com"); }
-    /// One line a run.
+    /// One line per run.
     [[nodiscard]] QStringList arguments() const { return lines("arguments"); }
     [[nodiscard]] QStringList folders() const { return lines("folders"); }
     [[nodiscard]] bool isRunning() const

@@ -9,7 +9,7 @@ void columns(Names... names)
     (QTest::addColumn<Types>(names), ...);
 }
 
-/// One row of it; a plain literal stands for a QString.
+/// One row of it; a plain literal becomes a QString.
 template <typename... Values>
 void row(const char *name, const Values &...values)
 {

@@ -14,7 +14,7 @@
 #include <csignal>
 #include <unistd.h>
 
-/// The box's side of a file transfer: an SSH server on this machine with an account of its own, which sees nothing but
+/// The box's side of a file transfer: an SSH server on this machine with a separate account, which sees nothing but
 /// a folder of the test. Neither accounts nor settings of the machine are changed: who exists is told to the server
 /// alone. Link crypt.
 class SshServer

@@ -63,7 +63,7 @@ SOUND = {
     "kit/list.h": "#pragma once\n",
     "kit/helper.cpp": '#include "kit/helper.h"\n' + function(40),
     "kit/long.cpp": "\n" * 500,
-    "model/model.cpp": "void Model::method1() {}\n" + "\n" * 349,
+    "app/faces.cpp": "void Model::method1() {}\n" + "\n" * 349,
     "tests/tst_dial.cpp": f"class Dial {{ {methods(50)} }};\nvoid Dial::method1() {{}}\n",
     **{f"plots/file{number}.h": "" for number in range(45)},
 }
@@ -72,9 +72,18 @@ SOUND = {
 FAULTS = {
     "methods": ({"kit/dial.h": widget("void method();")}, "kit/dial.h: class Dial has 41 methods (at most 40)"),
     "signals": ({"kit/dial.h": widget("signals: void sent();")}, "class Dial has 41 methods"),
+    "signals without the keyword": (
+        {"kit/knob.h": f"class Knob : public QObject {{\nQ_OBJECT\nQ_SIGNALS:\n{methods(41)} }};"},
+        "class Knob has 41 methods",
+    ),
     "slots": ({"kit/dial.h": widget("private slots: void take();")}, "class Dial has 41 methods"),
     "private struct inside": (
-        {"kit/dial.h": widget(), "kit/knob.h": f"class Knob {{ struct Private {{ {methods(41)} }}; }};"},
+        {"kit/knob.h": f"class Knob {{ struct Private {{ {methods(41)} }}; }};"},
+        "kit/knob.h: class Knob has 41 methods",
+    ),
+    "private class beside": (
+        {"kit/knob.h": "class KnobPrivate;\nclass Knob { KnobPrivate *d; void turn(); };",
+         "kit/knob.cpp": f"class KnobPrivate {{ {methods(40)} }};"},
         "kit/knob.h: class Knob has 41 methods",
     ),
     "nested struct": (
@@ -98,17 +107,25 @@ FAULTS = {
         {"kit/dial_paint.cpp": "void Dial::Private::method1() {}"},
         "class Dial has 2 .cpp files",
     ),
+    ".cpp of another class": (
+        {"kit/knob.h": "class Knob { void turn(); };", "kit/helper.cpp": "void Knob::turn() {}\n"},
+        "kit/knob.h: class Knob has its functions in kit/helper.cpp, not beside its header",
+    ),
     "long function": ({"kit/helper.cpp": function(41)}, "kit/helper.cpp: function f has 41 lines (at most 40)"),
     "long test function": ({"tests/tst_dial.cpp": function(41)}, "tests/tst_dial.cpp: function f has 41 lines"),
-    "long file": ({"kit/long.cpp": "\n" * 501}, "kit/long.cpp: file has 501 lines (at most 500)"),
+    "long file": ({"kit/long.cpp": "\n" * 500 + "int last;"}, "kit/long.cpp: file has 501 lines (at most 500)"),
     "long face": (
-        {"model/model.cpp": "void Model::method1() {}\n" + "\n" * 350},
-        "model/model.cpp: file has 351 lines (at most 350 in a face)",
+        {"app/faces.cpp": "void Model::method1() {}\n" + "\n" * 350},
+        "app/faces.cpp: file has 351 lines (at most 350 in a face)",
     ),
     "long header of a face": ({"app/faces.h": FACES + "\n" * 351}, "(at most 350 in a face)"),
     "full folder": ({"plots/one.cpp": ""}, "plots: folder holds 46 files (at most 45)"),
     "headers in a circle": (
         {"kit/list.h": '#include "kit/helper.h"\n'},
+        "includes go in a circle: kit/helper -> kit/list -> kit/helper",
+    ),
+    "circle by way of the folder above": (
+        {"kit/list.h": '#include "../kit/helper.h"\n'},
         "includes go in a circle: kit/helper -> kit/list -> kit/helper",
     ),
     "circle by way of a .cpp": (

@@ -33,6 +33,12 @@ FAULTS = {
     "sideways": ("view/window/view.h", '#  include "device/link.h"\n', "view/window/view.h: (ventaro_view) includes device/link.h"),
     "another feature": ("view/box/updatedialog.cpp", '#include "view/window/view.h"\n', "view/window/view.h of another feature"),
     "from the common folder": ("view/common/look.h", '#include "view/window/view.h"\n', "view/window/view.h of another feature"),
+    "beside the features": (
+        "view/CMakeLists.txt",
+        "ventaro_layer(ventaro_view SOURCES all.h window/view.h box/updatedialog.cpp box/updatedialog.h common/look.h)",
+        "view/all.h: belongs to no feature",
+    ),
+    "upwards in angle brackets": ("model/value.cpp", "#include <model/model.h>\n", "(ventaro_types) includes model/model.h"),
     "widget in the model": ("model/model.h", "#include <QWidget>\n", "includes <QWidget> of Qt Widgets"),
     "widget by module": ("model/model.h", "#include <QtWidgets/QLabel>\n", "of Qt Widgets"),
     "socket in the view": ("view/window/view.h", "#include <QTcpSocket>\n", "of Qt Network"),

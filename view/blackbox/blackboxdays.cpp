@@ -129,6 +129,7 @@ int BlackBoxDays::setFiles(const QDate &date, const QStringList &absoluteFiles)
         endInsertRows();
     }
     const QVector<BlackBoxFile> before = m_days.at(row).files;
+    // A fetched day is complete, while each local folder adds to those opened before.
     QVector<BlackBoxFile> files = date.isValid() ? QVector<BlackBoxFile>() : before;
     for (const QString &path : absoluteFiles) {
         const QByteArray fingerprint = blackBoxFingerprint(path);

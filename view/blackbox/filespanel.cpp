@@ -40,7 +40,7 @@ void FilesPanel::createLayout()
     m_step = new LeftRightStepBox(this);
     m_step->setObjectName(QStringLiteral("stepBoxFile"));
     m_step->setTotalShown(true);
-    m_step->setRange(1, 0);
+    m_step->setRange(1, 0); // nothing to step through yet
     m_step->setMinimumWidth(kStepBoxWidth);
     m_import = new QtMaterialRaisedButton(this);
     m_import->setObjectName(QStringLiteral("buttonImport"));

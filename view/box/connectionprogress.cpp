@@ -22,8 +22,8 @@ ConnectionProgress::ConnectionProgress(QWidget *window)
     m_label = new QLabel(this);
     m_label->setObjectName(QStringLiteral("labelProgress"));
     m_label->setTextFormat(Qt::PlainText);
-    m_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    auto *indicator = new ProgressIndicator(this); // how long it takes is not known
+    m_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long text must not widen the panel
+    auto *indicator = new ProgressIndicator(this);                        // how long it takes is not known
     indicator->setFixedSize(indicator->sizeHint());
     indicator->startAnimation();
     m_cancel = new QtMaterialFlatButton(this);
@@ -48,7 +48,7 @@ void ConnectionProgress::showText(const QString &text)
     m_label->setToolTip(Qt::convertFromPlainText(text));
     centre();
     show();
-    raise();
+    raise(); // above what the window has got since
 }
 
 void ConnectionProgress::centre()

@@ -35,7 +35,7 @@ IPAddressDialog::IPAddressDialog(const QString &current, Validator isValid, QWid
     m_edit->setObjectName(QStringLiteral("lineEditAddress"));
     m_edit->setMaxLength(kLongestAddress);
     m_edit->setAccessibleName(label->text());
-    m_edit->setSupportReserved(true);
+    m_edit->setSupportReserved(true); // the error text must not move the buttons
     m_edit->setClearable(true);
     m_edit->selectAll();
     label->setBuddy(m_edit);

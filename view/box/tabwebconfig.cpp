@@ -13,7 +13,7 @@ QUrl boxPageUrl(const QString &address)
 {
     QUrl url;
     url.setScheme(QStringLiteral("http"));
-    url.setHost(address.trimmed(), QUrl::StrictMode);
+    url.setHost(address.trimmed(), QUrl::StrictMode); // stays empty if the text is no host
     return url.host().isEmpty() ? QUrl() : url;
 }
 

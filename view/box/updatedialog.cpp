@@ -33,7 +33,7 @@ public:
         : QLabel(parent)
     {
         setTextFormat(Qt::PlainText);
-        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // or a long path would widen the dialog
     }
 
 protected:
@@ -176,6 +176,7 @@ void UpdateDialog::onUpload()
     qCDebug(lcView) << Q_FUNC_INFO;
     if (isBusy() || m_fileName.isEmpty())
         return;
+    // The transfer runs an event loop, in which the dialog repaints and "Abbrechen" works.
     setUpload(Upload::Running);
     setUpload(m_connector->transferUpdateFile(m_fileName) ? Upload::Done : Upload::Failed);
 }
@@ -208,7 +209,7 @@ bool UpdateDialog::waitForConnection()
     QEventLoop loop;
     QTimer::singleShot(m_restartWait, Qt::PreciseTimer, &loop, &QEventLoop::quit);
     loop.exec();
-    return clock.elapsed() >= m_restartWait;
+    return clock.elapsed() >= m_restartWait; // the end of the program ends every event loop early
 }
 
 void UpdateDialog::reject()

@@ -56,7 +56,7 @@ void TabEvaluation::createButtons()
         button->setCheckable(true);
         button->setAutoDefault(false);
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-        button->hide();
+        button->hide(); // until its page is added
         group->addButton(button, page);
         row->addWidget(button);
         m_buttons[static_cast<std::size_t>(page)] = button;

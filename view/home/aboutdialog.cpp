@@ -71,7 +71,7 @@ AboutDialog::AboutDialog(const Model *model, QWidget *parent)
     m_copiedTimer.setInterval(kCopiedTime);
     connect(&m_copiedTimer, &QTimer::timeout, this, [this] { showCopied(false); });
     connect(m_model, &Model::appStateChanged, this, &AboutDialog::showVersions);
-    connect(m_model, &Model::projectChanged, this, &AboutDialog::showVersions);
+    connect(m_model, &Model::projectChanged, this, &AboutDialog::showVersions); // the box has described itself
     retranslateUi();
     m_licences->setCurrentRow(0);
     m_close->setFocus();
@@ -167,6 +167,7 @@ void AboutDialog::showVersions()
             label->setStyleSheet(QStringLiteral("QLabel {font-weight: bold;}"));
         }
         m_facts->addWidget(label, index / 2, index % 2, Qt::AlignTop);
+        // The room that is left goes below the last fact.
         m_facts->setRowStretch(index / 2 + 1, 1);
         m_facts->setRowStretch(index / 2, 0);
         m_factLabels.append(label);

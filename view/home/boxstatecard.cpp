@@ -39,6 +39,7 @@ QString orUnknown(const QString &text)
     return text.trimmed().isEmpty() ? kUnknown : text;
 }
 
+/// The card is refreshed with every update of the page; an equal text must not cause a layout.
 void setTextOf(QLabel *label, const QString &text)
 {
     if (label->text() != text)
@@ -90,7 +91,7 @@ void BoxStateCard::createFact(int index)
     value->setObjectName(QStringLiteral("labelHomeFact%1").arg(index + 1));
     value->setTextFormat(Qt::PlainText);
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    value->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    value->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long name must not widen the page
     value->setStyleSheet(QStringLiteral("QLabel {font-weight: bold; min-height: 24px;}"));
     m_names[static_cast<std::size_t>(index)] = name;
     m_values[static_cast<std::size_t>(index)] = value;
@@ -172,7 +173,7 @@ BoxStateCard::Texts BoxStateCard::factTexts(const Model &model, const LinkState 
     const bool connected = model.isConnected();
     const int shots = model.numChannels(0);
     Texts texts;
-    texts[Address] = link.isDemo ? QString() : orUnknown(link.address);
+    texts[Address] = link.isDemo ? QString() : orUnknown(link.address); // not the simulator's 127.0.0.1
     texts[Device] = !connected                ? kUnknown
                     : model.mesotraType() > 0 ? tr("Mesotra, Typ %1").arg(model.mesotraType())
                                               : QStringLiteral("Mesotra");

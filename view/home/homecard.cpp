@@ -10,7 +10,7 @@ namespace {
 
 constexpr int kSpacing = 20;
 
-/// Replaces the whole sheet: sheets set one after the other would not add up.
+/// Replaces the whole sheet: setStyleSheet() does not add to the earlier one.
 void setButtonTiny(QPushButton *button, bool tiny)
 {
     const QString tinySheet = QStringLiteral("QPushButton {font-size: 16px; min-height: 52px; padding: 4px 8px;}");

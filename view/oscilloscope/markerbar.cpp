@@ -19,7 +19,7 @@
 
 namespace {
 
-constexpr int kLargestSeconds = std::numeric_limits<int>::max() / 1000;
+constexpr int kLargestSeconds = std::numeric_limits<int>::max() / 1000; // markers are set in milliseconds
 constexpr int kDecimals = 4; // three would round 1.2345 s in the box, and downwards
 
 } // namespace
@@ -133,6 +133,7 @@ void MarkerBar::pointAt(int sample)
     if (m_armed < 0)
         return;
     m_placed = true;
+    // Reported as it would be typed: from the marker before unless times are absolute.
     const bool fromMarkerBefore = !isAbsolute() && m_armed > 0;
     const int before = fromMarkerBefore ? m_samples.at(static_cast<std::size_t>(m_armed - 1)) : 0;
     report(m_armed, timeaxis::toMilliseconds(std::max(sample - std::max(before, 0), 0), m_clock));

@@ -45,7 +45,7 @@ void OsziPage::layOut()
     layout->addWidget(m_head);
     layout->addWidget(m_rows, 1);
     layout->addWidget(m_axis);
-    // Lines of their own, so that a wide window does not break in the middle of the controls of the measurements.
+    // Separate lines, so that a wide window does not break in the middle of the controls of the measurements.
     layout->addWidget(m_markers);
     layout->addWidget(m_shots);
 }
@@ -55,7 +55,7 @@ void OsziPage::connectRows()
     connect(m_rows, &OsziRows::rangeMoved, this, [this](int position) { m_ranges.store(position); });
     connect(m_head, &OsziHead::sensorToggled, this, [this](int position, bool shown) {
         m_rows->setRowShown(position, shown);
-        m_axis->refreshExtent();
+        m_axis->refreshExtent(); // another row may be the topmost one, which decides what fits
     });
     connect(m_head, &OsziHead::lockToggled, this, &OsziPage::setLocked);
     connect(&m_pointer, &SlotPointer::slotsPointed, this, &OsziPage::takeSlots);
@@ -107,7 +107,7 @@ void OsziPage::releasePointer()
 void OsziPage::setLocked(bool locked)
 {
     if (locked)
-        m_markers->disarm();
+        m_markers->disarm(); // the next click in a plot would still place it
     updateEnabled();
 }
 
@@ -133,7 +133,7 @@ void OsziPage::setModel(Model *model)
 
 void OsziPage::takeSlots()
 {
-    // Pointing has shown all curves; the offsets of the slots stay, but belong to other measurements now.
+    // Pointing the slots shows all curves and keeps the channel offsets, which were those of other measurements.
     m_filter.reapply();
     m_yCorrection.applyIfOn();
     m_shots->showCount(m_pointer.measurementCount());
@@ -184,6 +184,6 @@ void OsziPage::setClock(int clock, int largestGrid)
     m_axis->setClock(clock, largestGrid);
     m_rows->setClockGrid(m_axis->clockGrid());
     m_sampling->showPeriod(clock);
-    showMarkers();
+    showMarkers(); // kept as samples, shown in seconds
     m_yCorrection.applyIfOn();
 }

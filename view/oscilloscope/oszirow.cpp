@@ -183,7 +183,7 @@ bool OsziRow::setLimits(ValueSpan limits)
     }
     const ValueSpan shown{std::clamp(span().minimum, limits.minimum, limits.maximum),
                           std::clamp(span().maximum, limits.minimum, limits.maximum)};
-    return setSpan(valueaxis::isShowable(shown) ? shown : limits);
+    return setSpan(valueaxis::isShowable(shown) ? shown : limits); // the range may have been outside the limits
 }
 
 void OsziRow::showOffset(double offset)
@@ -213,7 +213,7 @@ void OsziRow::updateTitle()
     const QString look =
         m_plot->hasFocus() ? QStringLiteral("color: white; background-color: %1;") : QStringLiteral("color: %1;");
     const QString sheet = look.arg(m_color.name());
-    if (m_title->styleSheet() != sheet)
+    if (m_title->styleSheet() != sheet) // each new sheet polishes the label again
         m_title->setStyleSheet(sheet);
     m_plot->setAccessibleName(m_title->text());
 }

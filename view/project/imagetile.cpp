@@ -42,7 +42,7 @@ bool hasPicture(const QMimeData &data)
     return data.hasImage() || !pictureFiles(data).isEmpty();
 }
 
-/// A project file is for the window, which opens it.
+/// A project file is left to the window, which opens it.
 bool isProjectFile(const QMimeData &data)
 {
     const QList<QUrl> urls = data.urls();

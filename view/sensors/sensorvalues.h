@@ -27,7 +27,7 @@ public:
     void addSample(const std::array<double, kNumSensors> &values, int period);
     /// As if the box had sent nothing yet; what was held is forgotten too.
     void forgetLive();
-    /// The box sends nothing any more: its values stay, but are no longer fresh.
+    /// The box has stopped sending: its values stay, but are no longer fresh.
     void expire() { m_live.expire(); }
     /// Takes the last recorded values. False if they are the same as before.
     bool setRecorded(const PerChannel &values);

@@ -50,6 +50,7 @@ protected:
     void changeEvent(QEvent *event) override
     {
         QCheckBox::changeEvent(event);
+        // The style sheet sets another font than the constructor saw.
         if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
             setMaximumWidth(sizeHint().width());
     }
@@ -68,7 +69,7 @@ protected:
 
 struct TabDataLogger::Private
 {
-    RingBuffer<LoggedSample> pending{TabDataLogger::kMaximumLines};
+    RingBuffer<LoggedSample> pending{TabDataLogger::kMaximumLines}; // the field would drop older lines anyway
     std::array<NameBox *, kNumSensors> boxes{};
     LoggerColumns columns{};
     bool anyColumn = false;
@@ -154,7 +155,7 @@ bool TabDataLogger::isAnySensorChecked() const
 
 void TabDataLogger::writeHeadline()
 {
-    d->edit->flush();
+    d->edit->flush(); // samples that were taken before come above the headline
     d->edit->appendPlainText(loggerHeadlineText(d->columns));
 }
 

@@ -44,7 +44,7 @@ void appendVisible(QString &target, const QString &line)
 
 struct TabTerminal::Private
 {
-    RingBuffer<TerminalLine> pending{TabTerminal::kMaximumLines};
+    RingBuffer<TerminalLine> pending{TabTerminal::kMaximumLines}; // the field would drop older lines anyway
     InputHistory history;
     StreamEdit *edit = nullptr;
     QtMaterialTextField *input = nullptr;
@@ -108,6 +108,7 @@ TabTerminal::TabTerminal(QWidget *parent)
     d->clear = new QtMaterialFlatButton(this);
     d->clear->setObjectName(QStringLiteral("buttonClearTerminal"));
     d->layOut(this);
+    // In the order of use: the text above the input was created first.
     setTabOrder(d->input, d->send);
     setTabOrder(d->send, d->clear);
     setTabOrder(d->clear, d->edit);

@@ -41,7 +41,7 @@ void Exports::saveTerminal() const
     QFile file(fileName);
     const bool saved = file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text)
                        && writeTerminal(file, m_pages.terminal->plainText(), QDateTime::currentDateTime())
-                       && file.flush();
+                       && file.flush(); // a full disk shows only now
     if (saved)
         return;
     qCDebug(lcView) << "Error saving terminal content!";

@@ -59,7 +59,7 @@ void LinkDisplay::showRecording(bool running)
     m_actions.showRecording(running); // after the state, which brings the icon of a recording that is not running
     m_window->setActionState(Actions::Calibrate, ActionState::Normal);
     m_pages.home->setRecording(running);
-    if (started && m_pages.logger->isAnySensorChecked())
+    if (started && m_pages.logger->isAnySensorChecked()) // each recording has its headline
         emit m_window->loggerHeadline();
 }
 
@@ -96,7 +96,7 @@ bool LinkDisplay::isProgressShown() const
 
 void LinkDisplay::cancelProgress()
 {
-    m_window->hideProgress();
+    m_window->hideProgress(); // by way of the window, which logs it
     emit m_window->progressCancelled();
 }
 

@@ -78,7 +78,7 @@ void ModelDisplay::refreshData()
 
 void ModelDisplay::noteProjectChange()
 {
-    // At once: an edit made in between would write the fields of the previous project into the model.
+    // Not throttled: an edit made in between would write the fields of the previous project into the model.
     m_pages.project->updateFromModel();
     m_project.request();
 }

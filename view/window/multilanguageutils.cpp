@@ -135,6 +135,7 @@ void MultiLanguageUtils::loadLanguage(const QString &code)
 
 void MultiLanguageUtils::switchTranslator(QTranslator &translator, const QString &fileName)
 {
+    // Even if the next file cannot be loaded: the built-in texts are better than those of a third language.
     QCoreApplication::removeTranslator(&translator);
     qCDebug(lcView).noquote() << "Loading translator file" << fileName;
     if (!translator.load(fileName, m_folder)) {

@@ -30,6 +30,7 @@ struct Row
     QWidget *(*create)(Pages &);
 };
 
+// The type of a page is that of its pointer in Pages.
 template <auto member>
 QWidget *create(Pages &pages)
 {

@@ -128,7 +128,7 @@ QString Questions::saveFileWithSuffix(const QString &title, const QString &filte
     if (chosen.isEmpty())
         return chosen;
     const QString file = chosen.endsWith(suffix, sensitivity) ? chosen : chosen + suffix;
-    if (file == chosen || !QFileInfo::exists(file))
+    if (file == chosen || !QFileInfo::exists(file)) // the dialog has asked about the name chosen in it
         return file;
     const QString text = tr("Die Datei \"%1\" ist schon vorhanden. Überschreiben?").arg(QDir::toNativeSeparators(file));
     return yesNo(overwriteTitle.isEmpty() ? title : overwriteTitle, text) ? file : QString();

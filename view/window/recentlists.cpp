@@ -51,7 +51,7 @@ void RecentLists::rememberProject(const QString &file)
     const QString path = recentlist::canonicalPath(file);
     if (!isProjectPath(path))
         return;
-    read();
+    read(); // another window of the program may have stored others
     m_projects = recentlist::withFront(m_projects, path, recentlist::pathSensitivity());
     storeProjects();
 }

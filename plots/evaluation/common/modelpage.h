@@ -22,7 +22,7 @@ signals:
     void refreshing(const Model *model);
 
 protected:
-    /// Not owned; nullptr: no model any more.
+    /// Not owned; nullptr: follow none.
     void follow(Model *model);
     /// nullptr if none is followed or if it has been deleted.
     [[nodiscard]] Model *model() const { return m_model; }

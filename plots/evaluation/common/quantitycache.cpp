@@ -21,7 +21,7 @@ void QuantityCache::alignTo(const Shots &shots)
 
 QuantityCache::Work QuantityCache::refresh(const Shots &shots, const MarkerIndices &markers)
 {
-    if (markers != m_markers) { // they divide the shot, so no figure is valid any more
+    if (markers != m_markers) { // they divide the shot, so no figure is valid any longer
         m_ids.clear();
         m_figures.clear();
         m_markers = markers;

@@ -48,7 +48,7 @@ QWidget *ColorDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem
     for (int i = 0; i < kNumChoices; ++i)
         box->addItem(swatch(colorAt(i)), QString(), colorAt(i));
     const auto current = index.data(Qt::EditRole).value<QColor>();
-    if (box->findData(current) < 0)
+    if (box->findData(current) < 0) // the automatic colours go on after those on offer
         box->addItem(swatch(current), QString(), current);
     // One click chooses: without this the editor would stay open until it loses the focus.
     connect(box, qOverload<int>(&QComboBox::activated), this, [this, box] {

@@ -109,8 +109,8 @@ void OverlayPlot::paintMean(QPainter &painter, const PlotGeometry &geometry) con
         if (m_sigmas > 0.0)
             paintBand(painter, upper, lower);
         if (m_showsMean) {
-            painter.setPen(
-                QPen(Qt::black, kMeanWidth, Qt::DashLine)); // curves below it stay visible between the dashes
+            // Dashed, so that the curves below it stay visible.
+            painter.setPen(QPen(Qt::black, kMeanWidth, Qt::DashLine));
             painter.drawPolyline(line);
         }
         for (; index < end && points[size_t(index)].count == 0; ++index) {

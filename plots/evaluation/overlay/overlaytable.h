@@ -22,7 +22,7 @@ public:
     [[nodiscard]] int currentShot() const;
     /// For each of the first `count` shots whether its row is selected.
     [[nodiscard]] std::vector<bool> selectedShots(int count) const;
-    /// No row is selected or current any more.
+    /// Clears the selection and the current row.
     void forgetSelection();
 
 signals:

@@ -33,7 +33,7 @@ public:
 
     /// Places the shots and draws them. The plot points at the shots until the next call or until forgetShots().
     void showShots(OverlayShots &shots, const OverlayLooks &looks, const OverlayScene &scene);
-    /// The plot points at no shot any more.
+    /// Empties the plot: afterwards it points at no shot.
     void forgetShots();
 
 private:

@@ -124,7 +124,7 @@ RuntimeCache::Work RuntimeCache::refresh(const Shots &shots, const RuntimeCriter
         const QVector<double> &samples = *shots[shot];
         const bool sameList = shot < known && (isLast ? sameLists : isKnown(shot, samples));
         refreshShot(shot, samples, sameList, work);
-        m_lists[shot] = isLast ? QVector<double>() : samples;
+        m_lists[shot] = isLast ? QVector<double>() : samples; // sharing a list that grows would copy it
     }
     return work;
 }

@@ -19,7 +19,7 @@ public:
     /// One result per shot of the model.
     void showResults(const Model &model, const std::vector<ShotRuntime> &results);
     [[nodiscard]] int numShots() const;
-    /// No row is current or selected any more.
+    /// Clears the selection and the current row.
     void forgetChoice();
 
 protected:

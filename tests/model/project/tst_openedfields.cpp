@@ -18,7 +18,7 @@ QByteArray pngOf(const QImage &image)
 
 } // namespace
 
-// What becomes of each field of a project file, given, missing or of another type.
+// What opening makes of each field of a project file: given, missing or of another type.
 class TestOpenedFields : public QObject
 {
     Q_OBJECT

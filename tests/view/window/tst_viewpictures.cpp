@@ -103,7 +103,7 @@ void fill(TabBlackBox &tab, Model &model, const QDir &folder)
     tab.setResult("9 Messungen importiert, 3 Zeilen übersprungen, 1 Datei nicht lesbar"_s);
 }
 
-/// Recent projects and addresses, with very long names and files that do not exist any more.
+/// Recent projects and addresses, with very long names and files that no longer exist.
 void rememberMuch(View &view)
 {
     const QDir here(QCoreApplication::applicationDirPath());

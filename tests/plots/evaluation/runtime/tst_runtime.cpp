@@ -161,7 +161,7 @@ private slots:
         lists.erase(lists.begin());
         QVERIFY(!removed.isDetached());
         cache.releaseRemoved(pointersTo(lists));
-        QVERIFY(removed.isDetached());  // nobody else holds it any more
+        QVERIFY(removed.isDetached());  // nothing else holds it any longer
         QVERIFY(lists[1].isDetached()); // the newest is not copied when it grows
     }
 };

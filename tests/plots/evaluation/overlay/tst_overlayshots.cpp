@@ -202,7 +202,7 @@ private slots:
         overlay.refresh(sourcesOf({{2, &kept}, {3, &added}}), {}, 1);
         QCOMPARE(overlay.shots()[0].get(), second);
         QCOMPARE(overlay.shots()[0]->samples.constData(),
-                 kept.constData()); // shared as soon as it cannot grow any more
+                 kept.constData()); // shared as soon as it can no longer grow
         QCOMPARE(overlay.shots()[1]->samples, added);
         QVERIFY(!overlay.reference());
         QVERIFY(!overlay.shots()[0]->apart.largest);
