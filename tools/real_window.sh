@@ -113,16 +113,24 @@ start_screen() {
     # A reset, at the end of what happens to be the only client, would break connections that are being made.
     background "$work/xvfb.txt" Xvfb -noreset -displayfd 1 -screen 0 "$(dots "${size%x*}")x$(dots "${size#*x}")x24" \
         -dpi 96 -nolisten tcp
-    wait_for has_display
-    DISPLAY=:$(grep -m 1 '^[0-9]' "$work/xvfb.txt")
+    wait_for display_number
+    DISPLAY=:$(display_number)
     export DISPLAY
     background "$work/openbox.txt" openbox --config-file /etc/xdg/openbox/rc.xml
     xdotool mousemove 0 0 # or widgets in the middle look hovered over
     wait_for manages_windows
 }
 
-has_display() { # its number is complete with the line's end
-    [ -s "$work/xvfb.txt" ] && [ "$(wc -l <"$work/xvfb.txt")" -gt 0 ]
+# Xvfb writes about each number that is taken before it writes its own, which is complete with the line's end.
+display_number() {
+    local line
+    while read -r line; do
+        [[ ! $line =~ ^[0-9]+$ ]] || {
+            echo "$line"
+            return 0
+        }
+    done <"$work/xvfb.txt"
+    return 1
 }
 
 manages_windows() {

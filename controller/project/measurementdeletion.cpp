@@ -5,7 +5,7 @@
 #include "controller/recording/projectedits.h"
 #include "controller/recording/recorder.h"
 #include "model/model.h"
-#include "view/oscilloscope/measurementrange.h"
+#include "view/common/measurementrange.h"
 #include "view/oscilloscope/taboszilloscope.h"
 #include "view/window/view.h"
 

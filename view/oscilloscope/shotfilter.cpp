@@ -1,7 +1,7 @@
 #include "view/oscilloscope/shotfilter.h"
 
 #include "plots/oscilloscope/osziwidget.h"
-#include "view/oscilloscope/measurementrange.h"
+#include "view/common/measurementrange.h"
 #include "view/oscilloscope/oszirows.h"
 #include "view/oscilloscope/shotbar.h"
 #include "view/oscilloscope/slotpointer.h"

@@ -10,7 +10,6 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QProxyStyle>
-#include <QResizeEvent>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -132,7 +131,7 @@ void MainToolBar::popUpMenu() const
 bool MainToolBar::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == m_window && event->type() == QEvent::Resize)
-        setCompact(static_cast<QResizeEvent *>(event)->size().width() < kNarrow);
+        setCompact(m_window->width() < kNarrow); // the event's size may be out of date while a window manager maximises
     return QObject::eventFilter(watched, event);
 }
 

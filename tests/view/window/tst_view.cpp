@@ -285,6 +285,19 @@ private slots:
         }
     }
 
+    /// A window that is maximised while it appears may get its first size once more, after the final one.
+    void toolBarIgnoresAnOutdatedSize()
+    {
+        const Bench bench;
+        const auto *bar = bench.view->findChild<QToolBar *>("toolBar"_s);
+        bench.view->show();
+        bench.view->resize(1280, 800);
+        QCoreApplication::processEvents();
+        QResizeEvent late({400, 400}, {400, 400});
+        QCoreApplication::sendEvent(bench.view.get(), &late);
+        QCOMPARE(bar->toolButtonStyle(), Qt::ToolButtonTextBesideIcon);
+    }
+
     void modifiedMarkIsShown()
     {
         Bench bench;

@@ -1,4 +1,4 @@
-#include "view/oscilloscope/measurementrange.h"
+#include "view/common/measurementrange.h"
 
 #include <algorithm>
 

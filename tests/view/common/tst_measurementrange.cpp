@@ -1,5 +1,5 @@
 #include "tests/support/rows.h"
-#include "view/oscilloscope/measurementrange.h"
+#include "view/common/measurementrange.h"
 
 class TestMeasurementRange : public QObject
 {
