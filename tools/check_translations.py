@@ -18,7 +18,7 @@ import xml.etree.ElementTree as ElementTree
 from pathlib import Path
 
 TRANSLATION = Path("resources/translations/ventaro-en.ts")
-FOLDERS = ["app", "controller", "kit", "model", "plots", "view"]  # as the target update_ts
+FOLDERS = ["app", "controller", "device", "kit", "model", "plots", "view"]  # as the target update_ts
 LUPDATE_PLACES = ["lupdate", "lupdate-qt5", "/usr/lib/qt5/bin/lupdate"]
 
 TRANSLATING_CALLS = {"tr", "translate", "QT_TR_NOOP", "QT_TRANSLATE_NOOP"}

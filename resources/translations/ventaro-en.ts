@@ -1911,6 +1911,63 @@ Continue?</translation>
     </message>
 </context>
 <context>
+    <name>Scp</name>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>The SCP tool could not be started!&lt;br&gt;&lt;br&gt;Tool command: %1&lt;br&gt;Error: %2</source>
+        <translation>The SCP tool could not be started!&lt;br&gt;&lt;br&gt;Tool command: %1&lt;br&gt;Error: %2</translation>
+    </message>
+    <message>
+        <source>SCP Problem</source>
+        <translation>SCP Problem</translation>
+    </message>
+    <message>
+        <source>SCP was NOT successful!!
+
+Please check output:</source>
+        <translation>SCP was NOT successful!!
+
+Please check output:</translation>
+    </message>
+    <message>
+        <source>SCP did not end (yet)!</source>
+        <translation>SCP did not end (yet)!</translation>
+    </message>
+    <message>
+        <source>The tool stopped!</source>
+        <translation>The tool stopped!</translation>
+    </message>
+    <message>
+        <source>Das ist kein Ordner der BlackBox: %1</source>
+        <translation>This is not a folder of the BlackBox: %1</translation>
+    </message>
+    <message>
+        <source>Der Dateiname darf keine Leerzeichen, Anführungszeichen, Platzhalter (* ?) oder Steuerzeichen enthalten. Bitte die Datei umbenennen:
+%1</source>
+        <translation>The file name must not contain blanks, quotation marks, wildcards (* ?) or control characters. Please rename the file:
+%1</translation>
+    </message>
+    <message>
+        <source>Das ist kein Datum (TT.MM.JJJJ): %1</source>
+        <translation>This is not a date (DD.MM.YYYY): %1</translation>
+    </message>
+    <message>
+        <source>Es läuft schon eine Übertragung. Bitte warten, bis sie beendet ist.</source>
+        <translation>A transfer is already running. Please wait until it has ended.</translation>
+    </message>
+    <message>
+        <source>Die Adresse der Box ist noch nicht bekannt. Bitte zuerst verbinden.</source>
+        <translation>The address of the box is not known yet. Please connect first.</translation>
+    </message>
+    <message>
+        <source>Keine gültige Adresse: %1</source>
+        <translation>Not a valid address: %1</translation>
+    </message>
+</context>
+<context>
     <name>SensorDescription</name>
     <message>
         <source>Sensor %1</source>
