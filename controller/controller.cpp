@@ -121,13 +121,13 @@ void Controller::onOpenProject()
 void Controller::onSaveProject()
 {
     qCDebug(lcController) << Q_FUNC_INFO;
-    d->files.save();
+    d->saving.save();
 }
 
 void Controller::onSaveProjectAs()
 {
     qCDebug(lcController) << Q_FUNC_INFO;
-    d->files.saveAs();
+    d->saving.saveAs();
 }
 
 void Controller::onImportBlackBox()

@@ -16,6 +16,7 @@
 #include "controller/project/measurementdeletion.h"
 #include "controller/project/projectfiles.h"
 #include "controller/project/projectpictures.h"
+#include "controller/project/projectsaving.h"
 #include "controller/project/tabedits.h"
 #include "controller/recording/linequeue.h"
 #include "controller/recording/messagedispatch.h"
@@ -58,6 +59,7 @@ struct ControllerParts
     RecordingActions recording;
     MeasurementDeletion deletion;
     TabEdits tabEdits;
+    ProjectSaving saving;
     ProjectFiles files;
     ProjectPictures pictures;
     LoggerList loggerList;

@@ -3,6 +3,7 @@
 #include "controller/logging.h"
 #include "controller/occupancy.h"
 #include "controller/project/fileprogress.h"
+#include "controller/project/projectsaving.h"
 #include "controller/recording/linehold.h"
 #include "controller/recording/projectedits.h"
 #include "model/model.h"
@@ -11,24 +12,15 @@
 
 #include <QCoreApplication>
 
-namespace {
-
-const QLatin1String kProjectSuffix(".vnt");
-
-QString projectFilter()
-{
-    return ProjectFiles::tr("Ventaro Dateien (*.vnt)");
-}
-
-} // namespace
-
-ProjectFiles::ProjectFiles(const Desk &desk, FileProgress &progress, LineQueue &lines, ProjectEdits &edits)
+ProjectFiles::ProjectFiles(const Desk &desk, FileProgress &progress, LineQueue &lines, ProjectEdits &edits,
+                           ProjectSaving &saving)
     : m_view(desk.view)
     , m_model(desk.model)
     , m_occupancy(desk.occupancy)
     , m_progress(progress)
     , m_lines(lines)
     , m_edits(edits)
+    , m_saving(saving)
 {
     if (!m_model.currentFile().isEmpty())
         m_view.rememberProject(m_model.currentFile());
@@ -43,7 +35,7 @@ void ProjectFiles::newProject()
     m_view.commitInput();
     if (m_model.isProjectModified()) {
         const bool save = m_occupancy.ask([this] { return m_view.askToSave(); });
-        if (save && !saveUnsavedChanges())
+        if (save && !m_saving.saveUnsavedChanges())
             return;
         if (!save)
             emit boxGivenUp();
@@ -60,21 +52,13 @@ void ProjectFiles::newProject()
     emit shown();
 }
 
-/// True if the user's changes are in a file afterwards; if not, whatever was about to replace them must not happen.
-bool ProjectFiles::saveUnsavedChanges()
-{
-    m_saved = false;
-    emit m_view.saveProject(); // as if the user had asked for it; ends in save()
-    return m_saved;
-}
-
 void ProjectFiles::open()
 {
     if (m_occupancy.refuseWhileOccupied())
         return;
     m_view.commitInput();
     const QString fileName =
-        m_occupancy.ask([this] { return m_view.askOpenFile(tr("Projekt öffnen"), projectFilter()); });
+        m_occupancy.ask([this] { return m_view.askOpenFile(tr("Projekt öffnen"), ProjectSaving::filter()); });
     if (fileName.isEmpty()) {
         qCDebug(lcController) << " filename is empty!";
         return;
@@ -93,7 +77,8 @@ void ProjectFiles::openNamed(const QString &fileName)
 
 void ProjectFiles::replaceWith(const QString &fileName)
 {
-    if (m_model.isProjectModified() && m_occupancy.ask([this] { return m_view.askToSave(); }) && !saveUnsavedChanges())
+    if (m_model.isProjectModified() && m_occupancy.ask([this] { return m_view.askToSave(); })
+        && !m_saving.saveUnsavedChanges())
         return;
     const quint64 structure = m_model.structureRevision();
     const bool opened = load(fileName);
@@ -125,66 +110,6 @@ void ProjectFiles::showOpened(const QString &fileName, bool opened)
         m_view.rememberProject(m_model.currentFile());
     else
         warn(tr("Cannot open file %1 !.").arg(fileName));
-}
-
-// --- Save ---
-
-void ProjectFiles::save()
-{
-    m_saved = false;
-    const QString fileName = m_model.currentFile();
-    if (fileName.isEmpty()) {
-        saveAs();
-        return;
-    }
-    if (m_occupancy.refuseWhileOccupied())
-        return;
-    m_view.commitInput();
-    m_saved = saveTo(fileName);
-}
-
-void ProjectFiles::saveAs()
-{
-    m_saved = false;
-    if (m_occupancy.refuseWhileOccupied())
-        return;
-    m_view.commitInput();
-    const QString fileName = askFileToSave();
-    if (!fileName.isEmpty())
-        m_saved = saveTo(fileName);
-}
-
-/// Empty: cancelled.
-QString ProjectFiles::askFileToSave()
-{
-    // Without the suffix the dialog for opening would not show the file.
-    return m_occupancy.ask(
-        [this] { return m_view.askSaveFileWithSuffix(tr("Projekt speichern"), projectFilter(), kProjectSuffix); });
-}
-
-bool ProjectFiles::saveTo(const QString &fileName)
-{
-    bool saved = false;
-    {
-        const ProgressScope progress(m_progress, tr("Saving..."));
-        const LineHold hold(m_lines);
-        saved = m_model.save(fileName);
-    }
-    m_edits.applyKept();
-    if (saved)
-        showSaved(fileName);
-    else
-        warn(tr("Das Projekt konnte nicht gespeichert werden!"));
-    return saved;
-}
-
-void ProjectFiles::showSaved(const QString &fileName)
-{
-    if (!m_model.isProjectMetaSaved())
-        warn(tr("Das Projekt ist gespeichert, aber Grenzen, Schwellen, Bezeichnungen und "
-                "Zeitstempel der Auswertung konnten nicht gespeichert werden!"));
-    m_view.rememberProject(m_model.currentFile());
-    m_view.showStatus(tr("Projekt gespeichert: %1").arg(fileName));
 }
 
 void ProjectFiles::warn(const QString &text)
@@ -221,7 +146,7 @@ bool ProjectFiles::confirmLosingChanges()
 {
     switch (m_occupancy.ask([this] { return m_view.askToSaveAndQuit(); })) {
     case QMessageBox::Save: // changes made during the save are still unsaved
-        return saveUnsavedChanges() && (!m_model.isProjectModified() || confirmQuit());
+        return m_saving.saveUnsavedChanges() && (!m_model.isProjectModified() || confirmQuit());
     case QMessageBox::Discard:
         return true;
     default:

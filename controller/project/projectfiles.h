@@ -7,24 +7,22 @@
 class FileProgress;
 class LineQueue;
 class ProjectEdits;
+class ProjectSaving;
 
-/// New, open, save and quit: everything that replaces the project or writes it to its file, with the questions about
-/// unsaved changes.
+/// New, open and quit: everything that gives up the project that is open, with the questions about unsaved changes.
 class ProjectFiles : public QObject
 {
     Q_OBJECT
 
 public:
     /// All references must outlive the files. The project that is open already is remembered as a recent one.
-    ProjectFiles(const Desk &desk, FileProgress &progress, LineQueue &lines, ProjectEdits &edits);
+    ProjectFiles(const Desk &desk, FileProgress &progress, LineQueue &lines, ProjectEdits &edits,
+                 ProjectSaving &saving);
 
     void newProject();
     void open();
     /// The file was named without a dialog; unsaved changes are asked about all the same.
     void openNamed(const QString &fileName);
-    /// Under the current name, or as saveAs() if there is none.
-    void save();
-    void saveAs();
     void quit();
 
 signals:
@@ -40,13 +38,9 @@ signals:
     void quitting();
 
 private:
-    [[nodiscard]] bool saveUnsavedChanges();
     void replaceWith(const QString &fileName);
     [[nodiscard]] bool load(const QString &fileName);
     void showOpened(const QString &fileName, bool opened);
-    [[nodiscard]] QString askFileToSave();
-    [[nodiscard]] bool saveTo(const QString &fileName);
-    void showSaved(const QString &fileName);
     void warn(const QString &text);
     [[nodiscard]] bool confirmQuit();
     [[nodiscard]] bool confirmLosingChanges();
@@ -57,5 +51,5 @@ private:
     FileProgress &m_progress;
     LineQueue &m_lines;
     ProjectEdits &m_edits;
-    bool m_saved = false; // how the last save ended
+    ProjectSaving &m_saving;
 };

@@ -1463,10 +1463,6 @@ double-click fits the value range.</translation>
 <context>
     <name>ProjectFiles</name>
     <message>
-        <source>Ventaro Dateien (*.vnt)</source>
-        <translation>Ventaro files (*.vnt)</translation>
-    </message>
-    <message>
         <source>Projekt öffnen</source>
         <translation>Open project</translation>
     </message>
@@ -1477,26 +1473,6 @@ double-click fits the value range.</translation>
     <message>
         <source>Cannot open file %1 !.</source>
         <translation>Cannot open file %1!</translation>
-    </message>
-    <message>
-        <source>Projekt speichern</source>
-        <translation>Save project</translation>
-    </message>
-    <message>
-        <source>Saving...</source>
-        <translation>Saving...</translation>
-    </message>
-    <message>
-        <source>Das Projekt konnte nicht gespeichert werden!</source>
-        <translation>The project could not be saved!</translation>
-    </message>
-    <message>
-        <source>Das Projekt ist gespeichert, aber Grenzen, Schwellen, Bezeichnungen und Zeitstempel der Auswertung konnten nicht gespeichert werden!</source>
-        <translation>The project has been saved, but the limits, thresholds, labels and time stamps of the evaluation could not be saved!</translation>
-    </message>
-    <message>
-        <source>Projekt gespeichert: %1</source>
-        <translation>Project saved: %1</translation>
     </message>
     <message>
         <source>Problem</source>
@@ -1649,6 +1625,37 @@ Continue?</translation>
     <message>
         <source>PNG-Bild (*.png)</source>
         <translation>PNG picture (*.png)</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectSaving</name>
+    <message>
+        <source>Ventaro Dateien (*.vnt)</source>
+        <translation>Ventaro files (*.vnt)</translation>
+    </message>
+    <message>
+        <source>Projekt speichern</source>
+        <translation>Save project</translation>
+    </message>
+    <message>
+        <source>Saving...</source>
+        <translation>Saving...</translation>
+    </message>
+    <message>
+        <source>Das Projekt konnte nicht gespeichert werden!</source>
+        <translation>The project could not be saved!</translation>
+    </message>
+    <message>
+        <source>Das Projekt ist gespeichert, aber Grenzen, Schwellen, Bezeichnungen und Zeitstempel der Auswertung konnten nicht gespeichert werden!</source>
+        <translation>The project has been saved, but the limits, thresholds, labels and time stamps of the evaluation could not be saved!</translation>
+    </message>
+    <message>
+        <source>Projekt gespeichert: %1</source>
+        <translation>Project saved: %1</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
     </message>
 </context>
 <context>

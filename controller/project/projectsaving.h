@@ -1,0 +1,41 @@
+#pragma once
+
+#include "controller/desk.h"
+
+#include <QCoreApplication>
+
+class FileProgress;
+class LineQueue;
+class ProjectEdits;
+
+/// Writes the project to its file, and says how that went.
+class ProjectSaving
+{
+    Q_DECLARE_TR_FUNCTIONS(ProjectSaving)
+
+public:
+    /// All references must outlive this.
+    ProjectSaving(const Desk &desk, FileProgress &progress, LineQueue &lines, ProjectEdits &edits);
+
+    /// Of dialogs that choose a project file.
+    [[nodiscard]] static QString filter();
+    /// Under the current name, or as saveAs() if there is none.
+    void save();
+    void saveAs();
+    /// True if the user's changes are in a file afterwards; if not, whatever was about to replace them must not happen.
+    [[nodiscard]] bool saveUnsavedChanges();
+
+private:
+    [[nodiscard]] QString askFileToSave();
+    [[nodiscard]] bool saveTo(const QString &fileName);
+    void showSaved(const QString &fileName);
+    void warn(const QString &text);
+
+    View &m_view;
+    Model &m_model;
+    Occupancy &m_occupancy;
+    FileProgress &m_progress;
+    LineQueue &m_lines;
+    ProjectEdits &m_edits;
+    bool m_saved = false; // how the last save ended
+};
