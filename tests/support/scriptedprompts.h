@@ -23,6 +23,7 @@ public:
     };
 
     std::deque<QMessageBox::StandardButton> answers;
+    std::deque<int> choices; ///< indices of answers to a Choice
     std::deque<QString> openNames;
     std::deque<QString> saveNames;
     std::deque<QString> folders;
@@ -31,6 +32,7 @@ public:
     std::function<void()> whileOpen;
 
     std::vector<Shown> questions;
+    std::vector<Choice> asked;   ///< with answers in words of their own
     std::vector<Shown> messages; ///< informations and warnings
     std::vector<Shown> warnings;
     QStringList fileDialogs; ///< "title|filter"
@@ -45,6 +47,11 @@ public:
         const QMessageBox::StandardButton cancel =
             buttons & QMessageBox::Cancel ? QMessageBox::Cancel : QMessageBox::No;
         return answer(answers, cancel);
+    }
+    int choose(const Choice &choice) override
+    {
+        asked.push_back(choice);
+        return answer(choices, int(Choice::kClosed));
     }
     void inform(const QString &title, const QString &text) override
     {

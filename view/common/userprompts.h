@@ -1,5 +1,7 @@
 #pragma once
 
+#include "view/common/choice.h"
+
 #include <QMessageBox>
 #include <QString>
 
@@ -16,6 +18,8 @@ public:
     /// with the escape button: Abbrechen if there is one, else Nein, else Speichern, else the last of the list.
     [[nodiscard]] virtual QMessageBox::StandardButton ask(const QString &title, const QString &text,
                                                           QMessageBox::StandardButtons buttons) = 0;
+    /// The index of the answer, or Choice::kClosed if the box was closed or left with Escape.
+    [[nodiscard]] virtual int choose(const Choice &choice) = 0;
     virtual void inform(const QString &title, const QString &text) = 0;
     virtual void warn(const QString &title, const QString &text) = 0;
     /// Empty: cancelled.

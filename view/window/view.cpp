@@ -45,6 +45,11 @@ bool View::isAsking() const
     return d->questions.isAsking();
 }
 
+Questions &View::questions()
+{
+    return d->questions;
+}
+
 bool View::askToSave()
 {
     qCDebug(lcView) << Q_FUNC_INFO;

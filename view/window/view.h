@@ -12,6 +12,7 @@
 #include <optional>
 
 class Model;
+class Questions;
 struct WindowParts;
 
 /// The main window: tool bar, tabs, and every question to the user. Turns user actions into signals that the
@@ -41,6 +42,8 @@ public:
     /// While a question or message is open, a further message waits for its turn, and a further question is answered
     /// at once with what changes nothing: save, not quit, cancel, no, no file, no address.
     [[nodiscard]] bool isAsking() const;
+    /// For questions that are not among the following.
+    [[nodiscard]] Questions &questions();
     [[nodiscard]] bool askToSave();
     [[nodiscard]] bool askToQuit();
     [[nodiscard]] QMessageBox::StandardButton askToSaveAndQuit();

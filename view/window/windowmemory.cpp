@@ -2,7 +2,7 @@
 
 #include "view/common/programsettings.h"
 #include "view/window/multilanguageutils.h"
-#include "view/window/questions.h"
+#include "view/window/prompts/questions.h"
 
 #include <QGuiApplication>
 #include <QMainWindow>

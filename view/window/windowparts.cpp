@@ -4,7 +4,7 @@
 #include "view/home/aboutdialog.h"
 #include "view/oscilloscope/taboszilloscope.h"
 #include "view/terminal/tabdatalogger.h"
-#include "view/window/dialogprompts.h"
+#include "view/window/prompts/dialogprompts.h"
 #include "view/window/mainwindow.h"
 #include "view/window/windowsignals.h"
 

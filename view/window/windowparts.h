@@ -6,7 +6,7 @@
 #include "view/window/modeldisplay.h"
 #include "view/window/multilanguageutils.h"
 #include "view/window/pagetable.h"
-#include "view/window/questions.h"
+#include "view/window/prompts/questions.h"
 #include "view/window/recentlists.h"
 #include "view/window/statusdisplay.h"
 #include "view/window/viewactions.h"

@@ -8,7 +8,7 @@
 #include "view/common/elidedlabel.h"
 #include "view/evaluation/tabevaluation.h"
 #include "view/terminal/tabdatalogger.h"
-#include "view/window/dialogprompts.h"
+#include "view/window/prompts/dialogprompts.h"
 #include "view/window/view.h"
 
 #include <QtWidgets>

@@ -7,7 +7,7 @@
 #include "view/project/tabproject.h"
 #include "view/terminal/tabdatalogger.h"
 #include "view/terminal/tabterminal.h"
-#include "view/window/dialogprompts.h"
+#include "view/window/prompts/dialogprompts.h"
 #include "view/window/pagetable.h"
 
 #include <QtWidgets>

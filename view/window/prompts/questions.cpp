@@ -1,4 +1,4 @@
-#include "view/window/questions.h"
+#include "view/window/prompts/questions.h"
 
 #include "app/theme.h"
 #include "view/common/logging.h"
@@ -64,6 +64,11 @@ bool Questions::toClearData()
 bool Questions::yesNo(const QString &title, const QString &text)
 {
     return ask(title, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+}
+
+int Questions::choose(const Choice &choice)
+{
+    return oneAtATime(int(Choice::kClosed), [&] { return m_prompts->choose(choice); });
 }
 
 // --- Messages ----------------------------------------------------------------------------------------------------

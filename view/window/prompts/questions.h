@@ -28,6 +28,9 @@ public:
     [[nodiscard]] bool toClearData();
     [[nodiscard]] bool yesNo(const QString &title, const QString &text);
 
+    /// Choice::kClosed also if another question is open.
+    [[nodiscard]] int choose(const Choice &choice);
+
     void inform(const QString &title, const QString &text);
     void warn(const QString &title, const QString &text);
 

@@ -1,8 +1,9 @@
-#include "view/window/dialogprompts.h"
+#include "view/window/prompts/dialogprompts.h"
 
 #include "app/theme.h"
 #include "view/box/ipaddressdialog.h"
 #include "view/common/actionicon.h"
+#include "view/window/prompts/closablebox.h"
 
 #include <QApplication>
 #include <QFileDialog>
@@ -176,6 +177,21 @@ QMessageBox::StandardButton DialogPrompts::ask(const QString &title, const QStri
                                                QMessageBox::StandardButtons buttons)
 {
     return run(title, text, buttons, QStringLiteral("help-circle-outline.png"));
+}
+
+int DialogPrompts::choose(const Choice &choice)
+{
+    ClosableBox box(window());
+    box.setWindowTitle(choice.title);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(choice.hint.isEmpty() ? choice.text : choice.text + QLatin1String("\n\n") + choice.hint);
+    QVector<QAbstractButton *> buttons;
+    for (const QString &answer : choice.answers)
+        buttons.append(box.addButton(answer, QMessageBox::AcceptRole)); // one role: the order stays
+    box.setDefaultButton(qobject_cast<QPushButton *>(buttons.value(choice.safest)));
+    makePanel(box, choice.isDestructive ? QStringLiteral("alert.png") : QStringLiteral("help-circle-outline.png"));
+    box.exec();
+    return buttons.indexOf(box.clickedButton()); // none was clicked: -1
 }
 
 void DialogPrompts::inform(const QString &title, const QString &text)

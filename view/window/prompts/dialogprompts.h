@@ -17,6 +17,7 @@ public:
 
     [[nodiscard]] QMessageBox::StandardButton ask(const QString &title, const QString &text,
                                                   QMessageBox::StandardButtons buttons) override;
+    [[nodiscard]] int choose(const Choice &choice) override;
     void inform(const QString &title, const QString &text) override;
     void warn(const QString &title, const QString &text) override;
     [[nodiscard]] QString openFileName(const QString &title, const QString &folder, const QString &filter) override;

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QMessageBox>
+
+/// A message box that Escape and the window's close button always end, without any of its buttons: clickedButton() is
+/// then nullptr. Qt's own box would press a button, or ignore both.
+class ClosableBox : public QMessageBox
+{
+    Q_OBJECT
+
+public:
+    using QMessageBox::QMessageBox;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+};
