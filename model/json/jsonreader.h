@@ -78,8 +78,8 @@ private:
     const char *m_pos = nullptr;
     const char *m_end = nullptr;
     qint64 m_bytesRead = 0;
-    std::vector<bool> m_inObject; // one entry per level
-    QByteArray m_text;            // as the file has it, with its escapes
+    std::vector<bool> m_inObject;     // one entry per level
+    QByteArray m_text;                // as the file has it, with its escapes
     QByteArray m_copy;                // of the value that is being copied
     const char *m_copyFrom = nullptr; // what is not copied yet; nullptr while nothing is to be copied
     int m_mostCopied = 0;             // negative once the value has turned out to be longer

@@ -12,7 +12,7 @@ QString newerVersionOf(const ProjectDocument &document)
     if (text.toInt() > ProjectDocument::kFileVersion)
         return text;
     return document.numericVersion > ProjectDocument::kFileVersion ? QString::number(document.numericVersion)
-                                                                    : QString();
+                                                                   : QString();
 }
 
 void addNames(NameList &list, const UnknownMembers &members, const QString &object)

@@ -13,8 +13,8 @@ namespace {
 // and the window is frozen meanwhile.
 constexpr int kFastPng = 80;
 
-/// The decoder reduces pictures with three or four bytes a pixel while it reads them, unless they are interlaced. Others
-/// it decodes first. These bytes have fixed places at the beginning of every PNG.
+/// The decoder reduces pictures with three or four bytes a pixel while it reads them, unless they are interlaced.
+/// Others it decodes first. These bytes have fixed places at the beginning of every PNG.
 bool isReducedLineByLine(const QByteArray &png)
 {
     constexpr int kDepth = 24;

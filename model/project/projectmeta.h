@@ -53,9 +53,9 @@ struct ProjectMeta
     static constexpr int kLongestLabel = 200; ///< characters
 
     std::array<SensorMeta, kNumSensors> sensors;
-    std::vector<QString> labels;       ///< one per shot, from the first on; may be shorter than the list of shots
-    std::vector<QDateTime> timestamps; ///< the same; a null date-time for a shot without one
-    std::vector<int> periods;          ///< the same; sampling periods in ms, 0 if unknown
+    std::vector<QString> labels;         ///< one per shot, from the first on; may be shorter than the list of shots
+    std::vector<QDateTime> timestamps;   ///< the same; a null date-time for a shot without one
+    std::vector<int> periods;            ///< the same; sampling periods in ms, 0 if unknown
     std::vector<QJsonObject> shotOthers; ///< the same; what another version of the program keeps
     QSet<QByteArray> importedFiles;      ///< fingerprints of logger files
     QJsonObject others;                  ///< what another version of the program keeps
