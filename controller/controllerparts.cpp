@@ -35,6 +35,7 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     , tabEdits(view, model, edits)
     , saving({view, model, occupancy}, progress, lines, edits)
     , files({view, model, occupancy}, progress, lines, edits, saving)
+    , openNotice({view, model, occupancy})
     , pictures({view, model, occupancy}, edits)
     , loggerList({view, model, occupancy}, link)
     , loggerFetch({view, model, occupancy}, connector, demo, transfers, options.temporaryDirectory)
@@ -101,6 +102,7 @@ void ControllerParts::connectFiles()
     QObject::connect(&files, &ProjectFiles::measurementsReplaced, &files, [this] { recorder.forgetSeries(); });
     QObject::connect(&files, &ProjectFiles::shown, &files, [this] { recorder.announceRunning(); });
     QObject::connect(&files, &ProjectFiles::shown, &period, &SamplingPeriod::matchProject);
+    QObject::connect(&files, &ProjectFiles::opened, &openNotice, &OpenNotice::show);
     QObject::connect(&files, &ProjectFiles::quitting, &files, [this] { recorder.requestStop(); });
 }
 
@@ -133,6 +135,7 @@ void ControllerParts::connectTabs(View &view)
 
     const TabSensors *sensors = view.tabSensors();
     QObject::connect(sensors, &TabSensors::sensorNameEdited, &tabEdits, &TabEdits::setSensorName);
+    QObject::connect(sensors, &TabSensors::sensorUnitEdited, &tabEdits, &TabEdits::setSensorUnit);
     QObject::connect(sensors, &TabSensors::sensorColorEdited, &tabEdits, &TabEdits::setSensorColor);
     QObject::connect(sensors, &TabSensors::sensorLimitsEdited, &tabEdits, &TabEdits::setSensorLimits);
 }

@@ -81,15 +81,15 @@ void ProjectFiles::replaceWith(const QString &fileName)
         && !m_saving.saveUnsavedChanges())
         return;
     const quint64 structure = m_model.structureRevision();
-    const bool opened = load(fileName);
-    if (opened)
+    const bool isOpened = load(fileName);
+    if (isOpened)
         m_edits.dropKept(); // they were meant for the project that is gone
     else
         m_edits.applyKept();
     // A failed attempt leaves them alone, and then a recording continues in its shot.
     if (m_model.structureRevision() != structure)
         emit measurementsReplaced();
-    showOpened(fileName, opened);
+    showOpened(fileName, isOpened);
 }
 
 bool ProjectFiles::load(const QString &fileName)
@@ -99,17 +99,19 @@ bool ProjectFiles::load(const QString &fileName)
     return m_model.open(fileName);
 }
 
-void ProjectFiles::showOpened(const QString &fileName, bool opened)
+void ProjectFiles::showOpened(const QString &fileName, bool isOpened)
 {
-    if (opened && !m_model.isConnected())
+    if (isOpened && !m_model.isConnected())
         m_view.forgetLiveValues();
     m_view.setConnected(m_model.isConnected());
     emit shown();
     m_view.tabHome()->refreshRecentProjects(); // the file may be gone
-    if (opened)
-        m_view.rememberProject(m_model.currentFile());
-    else
+    if (!isOpened) {
         warn(tr("Cannot open file %1 !.").arg(fileName));
+        return;
+    }
+    m_view.rememberProject(m_model.currentFile());
+    emit opened();
 }
 
 void ProjectFiles::warn(const QString &text)

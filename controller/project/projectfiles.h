@@ -34,13 +34,15 @@ signals:
     void measurementsReplaced();
     /// Another project came in, or the attempt failed; the window shows the state of the device again.
     void shown();
+    /// A project was opened, and is shown.
+    void opened();
     /// The program is about to end.
     void quitting();
 
 private:
     void replaceWith(const QString &fileName);
     [[nodiscard]] bool load(const QString &fileName);
-    void showOpened(const QString &fileName, bool opened);
+    void showOpened(const QString &fileName, bool isOpened);
     void warn(const QString &text);
     [[nodiscard]] bool confirmQuit();
     [[nodiscard]] bool confirmLosingChanges();

@@ -80,6 +80,12 @@ void TabEdits::setSensorName(int sensor, const QString &name)
     m_edits.apply([this, sensor, name] { m_model.setSensorName(sensor, name); });
 }
 
+void TabEdits::setSensorUnit(int sensor, const QString &unit)
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    m_edits.apply([this, sensor, unit] { m_model.setSensorUnit(sensor, unit); });
+}
+
 void TabEdits::setSensorColor(int sensor, const QColor &color)
 {
     qCDebug(lcController) << Q_FUNC_INFO;
