@@ -2,6 +2,7 @@
 
 #include "model/blackbox/blackboximport.h"
 #include "model/devicedescription.h"
+#include "model/edit/modeledits.h"
 #include "model/indexcheck.h"
 #include "model/modelchanges.h"
 #include "model/modelfiles.h"
@@ -170,6 +171,8 @@ public:
     void setConnected(bool connected); ///< emits nothing
     [[nodiscard]] bool isProjectModified() const { return m_files.isModified(); }
     void setProjectModifiedFlag(bool modified);
+    /// Edits that can be undone: see EditScope.
+    [[nodiscard]] ModelEdits &edits() { return m_edits; }
     [[nodiscard]] QString currentFile() const { return m_files.currentFile(); }
     void setCurrentFile(const QString &absolutePath);
     /// True while open(), save(), saveCsv() or addBlackBoxFile() runs: no second one, no deletion and no quit may start
@@ -235,4 +238,5 @@ private:
     std::unique_ptr<Editor> m_editor;
     ModelFiles m_files;
     BlackBoxImport m_import;
+    ModelEdits m_edits{*this, m_project, m_import.files(), m_changes};
 };
