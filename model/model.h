@@ -60,6 +60,8 @@ public:
     {
         return m_project.shots.id(sensor, measurement);
     }
+    /// The measurement that has this id; -1 if there is none.
+    [[nodiscard]] int indexOfMeasurement(int sensor, quint64 id) const { return m_project.shots.indexOf(sensor, id); }
     /// Appends one empty measurement to one sensor; returns its index, -1 for a bad sensor. Emits nothing.
     int appendMeasurement(int sensor) { return hasSensor(sensor, Q_FUNC_INFO) ? m_project.shots.append(sensor) : -1; }
     /// Appends one sample; a number that is not finite counts as 0. False for indices out of range. Emits nothing.
