@@ -39,6 +39,8 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     , loggerList({view, model, occupancy}, link)
     , loggerFetch({view, model, occupancy}, connector, demo, transfers, options.temporaryDirectory)
     , loggerImport({view, model, occupancy}, progress, lines, edits, recorder)
+    , undoHistory(model)
+    , undo({view, model, occupancy}, undoHistory, edits, recorder)
 {
     setUpTransfers(options);
     handleMessages();
@@ -101,6 +103,7 @@ void ControllerParts::connectFiles()
     QObject::connect(&files, &ProjectFiles::measurementsReplaced, &files, [this] { recorder.forgetSeries(); });
     QObject::connect(&files, &ProjectFiles::shown, &files, [this] { recorder.announceRunning(); });
     QObject::connect(&files, &ProjectFiles::shown, &period, &SamplingPeriod::matchProject);
+    QObject::connect(&undo, &UndoControl::samplingPeriodChanged, &period, &SamplingPeriod::matchProject);
     QObject::connect(&files, &ProjectFiles::quitting, &files, [this] { recorder.requestStop(); });
 }
 
