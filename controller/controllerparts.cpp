@@ -40,6 +40,8 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     , loggerList({view, model, occupancy}, link)
     , loggerFetch({view, model, occupancy}, connector, demo, transfers, options.temporaryDirectory)
     , loggerImport({view, model, occupancy}, progress, lines, edits, recorder)
+    , undoHistory(model)
+    , undo({view, model, occupancy}, undoHistory, edits, recorder)
 {
     setUpTransfers(options);
     handleMessages();
@@ -103,6 +105,7 @@ void ControllerParts::connectFiles()
     QObject::connect(&files, &ProjectFiles::shown, &files, [this] { recorder.announceRunning(); });
     QObject::connect(&files, &ProjectFiles::shown, &period, &SamplingPeriod::matchProject);
     QObject::connect(&files, &ProjectFiles::opened, &openNotice, &OpenNotice::show);
+    QObject::connect(&undo, &UndoControl::samplingPeriodChanged, &period, &SamplingPeriod::matchProject);
     QObject::connect(&files, &ProjectFiles::quitting, &files, [this] { recorder.requestStop(); });
 }
 

@@ -119,6 +119,24 @@ ImageStore ImageStore::decoded(EncodedImages images, const std::function<void()>
     return store;
 }
 
+bool ImageStore::isSame(int image, const ImageStore &other) const
+{
+    return m_pixmaps[at(image)].cacheKey() == other.m_pixmaps[at(image)].cacheKey();
+}
+
+void ImageStore::take(int image, const ImageStore &from)
+{
+    m_pixmaps[at(image)] = from.m_pixmaps[at(image)];
+    m_pngs[at(image)] = from.m_pngs[at(image)];
+    m_kept[at(image)] = from.m_kept[at(image)];
+}
+
+qint64 ImageStore::bytes(int image) const
+{
+    const QPixmap &pixmap = m_pixmaps[at(image)];
+    return qint64(pixmap.width()) * pixmap.height() * pixmap.depth() / 8 + m_pngs[at(image)].bytes();
+}
+
 EncodedImages ImageStore::encoded(const Pixmaps &pixmaps, const std::function<void()> &pause)
 {
     EncodedImages images;

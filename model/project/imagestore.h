@@ -36,6 +36,12 @@ public:
     [[nodiscard]] const Pixmaps &pixmaps() const { return m_pixmaps; }
     [[nodiscard]] Pixmaps &pixmaps() { return m_pixmaps; }
     void clear() { *this = ImageStore(); }
+    /// True if another store has the same picture there: not one that merely looks the same.
+    [[nodiscard]] bool isSame(int image, const ImageStore &other) const;
+    /// Takes over a picture with its PNG, without copying pixels.
+    void take(int image, const ImageStore &from);
+    /// Memory that a picture takes while nobody else has it.
+    [[nodiscard]] qint64 bytes(int image) const;
 
     // An image counts from 0 to kNumProjectImages - 1 here.
     [[nodiscard]] PictureState state(int image) const;

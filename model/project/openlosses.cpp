@@ -11,8 +11,8 @@ QString newerVersionOf(const ProjectDocument &document)
     const QString text = document.fileVersion.value_or(QString());
     if (text.toInt() > ProjectDocument::kFileVersion)
         return text;
-    return document.numericVersion > ProjectDocument::kFileVersion ? QString::number(document.numericVersion)
-                                                                   : QString();
+    return document.rest.numericVersion > ProjectDocument::kFileVersion ? QString::number(document.rest.numericVersion)
+                                                                        : QString();
 }
 
 void addNames(NameList &list, const UnknownMembers &members, const QString &object)
@@ -37,10 +37,10 @@ OpenLosses lossesOf(const ProjectDocument &document, const ImageStore &images)
 {
     OpenLosses losses;
     losses.newerVersion = newerVersionOf(document);
-    losses.isForeign = !document.hasKnownKey;
-    addNames(losses.unknown, document.unknown, QString());
+    losses.isForeign = !document.rest.hasKnownKey;
+    addNames(losses.unknown, document.rest.unknown, QString());
     addNames(losses.unknown, document.viewData.unknown, QStringLiteral("ViewData/"));
-    losses.lost = document.lost;
+    losses.lost = document.rest.lost;
     for (int image = 0; image < kNumProjectImages; ++image)
         losses.pictures[static_cast<std::size_t>(image)] = images.state(image);
     return losses;

@@ -26,6 +26,15 @@ struct ProjectViewData
     UnknownMembers unknown{}; ///< sorted
 };
 
+/// What of a project file has no place among the fields of a project.
+struct ProjectRest
+{
+    UnknownMembers unknown{};    ///< sorted; written again
+    bool hasKnownKey = false;    ///< the file has at least one key of a project
+    double numericVersion = 0.0; ///< a version that is a number, and so not taken as the fileVersion
+    NameList lost;               ///< keys whose values are of another type than expected, or too large to be kept
+};
+
 /// What a project file holds, as it is read and as it is written; nothing in it has been checked for its meaning. A
 /// field without a value is one that the file lacks, or has of another type; it is not written.
 struct ProjectDocument
@@ -58,12 +67,7 @@ struct ProjectDocument
     std::optional<QVector<double>> sensorMinimum;
     std::optional<QVector<double>> sensorMaximum;
 
-    UnknownMembers unknown{}; ///< sorted
-
-    // What was noticed while the file was read; not written.
-    bool hasKnownKey = false;    ///< the file has at least one key of a project
-    double numericVersion = 0.0; ///< a version that is a number, and so not taken as the fileVersion
-    NameList lost;               ///< keys whose values are of another type than expected, or too large to be kept
+    ProjectRest rest;
 
     /// The work of writing the samples, in samples; each measurement counts as one more.
     [[nodiscard]] qint64 sampleCount() const;

@@ -131,6 +131,16 @@ SensorUnit toUnit(const QJsonObject &object)
             sensor.value(kMinimumKey).toDouble(), sensor.value(kMaximumKey).toDouble()};
 }
 
+// A list that ends before the place stays as it is for a value that says nothing.
+template <typename Value>
+void insertElement(std::vector<Value> &values, std::size_t index, const Value &value)
+{
+    if (index < values.size())
+        values.insert(values.begin() + static_cast<std::ptrdiff_t>(index), value);
+    else if (!(value == Value()))
+        setElement(values, index, value);
+}
+
 SensorMeta toSensor(const QJsonObject &object)
 {
     SensorMeta sensor;
@@ -273,6 +283,21 @@ void ProjectMeta::keepShots(int count)
     keepElements(timestamps, most);
     keepElements(periods, most);
     keepElements(shotOthers, most);
+}
+
+ShotMeta ProjectMeta::shot(int shot) const
+{
+    const auto index = static_cast<std::size_t>(shot);
+    return {label(shot), timestamp(shot), period(shot), elementOf(shotOthers, index)};
+}
+
+void ProjectMeta::insertShot(int shot, const ShotMeta &meta)
+{
+    const auto index = static_cast<std::size_t>(shot);
+    insertElement(labels, index, meta.label);
+    insertElement(timestamps, index, meta.timestamp);
+    insertElement(periods, index, meta.period);
+    insertElement(shotOthers, index, meta.others);
 }
 
 void ProjectMeta::removeShot(int shot)

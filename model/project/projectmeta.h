@@ -47,6 +47,15 @@ struct SensorUnit
     double maximum = 0.0;
 };
 
+/// What is kept of one shot beside its samples.
+struct ShotMeta
+{
+    QString label;
+    QDateTime timestamp;
+    int period = 0; ///< ms; 0 if unknown
+    QJsonObject others;
+};
+
 /// What belongs to a project but has no key in the project file; it is kept in a file beside it.
 struct ProjectMeta
 {
@@ -74,6 +83,9 @@ struct ProjectMeta
     /// Milliseconds; 0 if unknown.
     [[nodiscard]] int period(int shot) const;
     void setPeriod(int shot, int milliseconds);
+    [[nodiscard]] ShotMeta shot(int shot) const;
+    /// All that the shots from there on have moves up by one.
+    void insertShot(int shot, const ShotMeta &meta);
     /// All that the shots behind have moves down by one.
     void removeShot(int shot);
     /// Drops what shots behind the first `count` have.

@@ -167,12 +167,12 @@ std::optional<ProjectDocument> ProjectReader::read()
         return {};
     Token token = m_json.next();
     for (; token == Token::Key; token = m_json.next()) {
-        if (!readMember(m_fields, m_document.unknown))
+        if (!readMember(m_fields, m_document.rest.unknown))
             return {};
     }
     if (token != Token::EndObject || m_json.next() != Token::End)
         return {};
-    sortMembers(m_document.unknown);
+    sortMembers(m_document.rest.unknown);
     return std::move(m_document);
 }
 
@@ -184,11 +184,11 @@ bool ProjectReader::readMember(const Fields &fields, UnknownMembers &unknown)
     const auto field = fields.constFind(name);
     if (field == fields.constEnd())
         return keepUnknown(name, unknown);
-    m_document.hasKnownKey = true;
+    m_document.rest.hasKnownKey = true;
     m_isOdd = false;
     const bool valid = (*field)();
     if (std::exchange(m_isOdd, false))
-        m_document.lost.add(name);
+        m_document.rest.lost.add(name);
     return valid;
 }
 
@@ -199,7 +199,7 @@ bool ProjectReader::keepUnknown(const QString &name, UnknownMembers &unknown)
     if (!m_json.copyValue(member.value, room))
         return false;
     if (member.value.isEmpty()) {
-        m_document.lost.add(name);
+        m_document.rest.lost.add(name);
         return true;
     }
     m_unknownRoom = room - member.value.size();
@@ -210,7 +210,7 @@ bool ProjectReader::keepUnknown(const QString &name, UnknownMembers &unknown)
 /// No text for people; it would take several times its size as a QString.
 bool ProjectReader::skipHugeKey()
 {
-    m_document.lost.add(QString::fromUtf8(m_json.escapedText().left(NameList::kLongestName)));
+    m_document.rest.lost.add(QString::fromUtf8(m_json.escapedText().left(NameList::kLongestName)));
     return m_json.skipValue(m_json.next());
 }
 
@@ -218,7 +218,7 @@ bool ProjectReader::readVersion()
 {
     m_document.fileVersion.reset();
     const Token token = m_json.next();
-    m_document.numericVersion = token == Token::Number ? m_json.number() : 0.0;
+    m_document.rest.numericVersion = token == Token::Number ? m_json.number() : 0.0;
     if (token == Token::String)
         m_document.fileVersion = m_json.text();
     return m_json.skipValue(token);

@@ -32,7 +32,7 @@ void describeProject(ProjectDocument &document, const ProjectSettings &settings)
     document.mesotraType = settings.mesotraType;
     document.hardwareVersion = settings.hardwareVersion;
     document.firmwareVersion = settings.firmwareVersion;
-    document.unknown = settings.unknown;
+    document.rest.unknown = settings.unknown;
 }
 
 void describeView(ProjectDocument &document, const ProjectSettings &settings)
@@ -102,7 +102,7 @@ void applyDescription(const ProjectDocument &document, ProjectSettings &settings
     take(document.firmwareVersion, settings.firmwareVersion);
     take(document.comment, settings.comment);
     take(document.clock, settings.clock);
-    settings.unknown = document.unknown;
+    settings.unknown = document.rest.unknown;
     settings.unknownInView = document.viewData.unknown;
     settings.clock = qBound(1, settings.clock, ProjectSettings::kMaxClock);
 }

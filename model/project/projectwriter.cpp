@@ -163,7 +163,7 @@ bool projectfile::write(QIODevice &target, const ProjectDocument &document, Pace
 {
     JsonWriter json(target);
     // The keys in sorted order, as QJsonObject keeps them.
-    Members members(json, document.unknown);
+    Members members(json, document.rest.unknown);
     writeHead(members, document);
     writeDescription(members, document);
     writeSamples(members, document, pacer);
