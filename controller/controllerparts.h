@@ -24,6 +24,7 @@
 #include "controller/recording/recorder.h"
 #include "controller/recordingactions.h"
 #include "controller/recordingdisplay.h"
+#include "controller/recordingend.h"
 #include "device/demobox.h"
 #include "device/mesotraconnector.h"
 
@@ -57,6 +58,7 @@ struct ControllerParts
     TransferDialogs transfers;
     FirmwareUpdate firmware;
     RecordingActions recording;
+    RecordingEnd recordingEnd;
     MeasurementDeletion deletion;
     TabEdits tabEdits;
     ProjectSaving saving;
