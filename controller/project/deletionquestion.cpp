@@ -59,6 +59,7 @@ QString DeletionQuestion::details(const DeletionPlan &plan, const QString &range
                     "Messungen nachrücken.");
     if (plan.malformed)
         lines << QString()
-              << tr("Ab \"%1\" ist die Eingabe fehlerhaft; ab dort wird nichts gelöscht.").arg(plan.malformed->text);
+              << tr("Ab \"%1\" ist die Eingabe fehlerhaft. Dieser Teil und alles dahinter wird nicht gelöscht.")
+                     .arg(plan.malformed->text);
     return lines.join(QLatin1Char('\n'));
 }

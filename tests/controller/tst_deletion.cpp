@@ -71,7 +71,8 @@ private slots:
         row("5,3", {5, 2}, surprise);
         row("5,5", {5, 4}, surprise);
         row("3-1", {}, "Keine Messung wird gelöscht."_s);
-        row("6,1-2-3,2", {6}, "Ab \"1-2-3\" ist die Eingabe fehlerhaft; ab dort wird nichts gelöscht."_s);
+        row("6,1-2-3,2", {6},
+            "Ab \"1-2-3\" ist die Eingabe fehlerhaft. Dieser Teil und alles dahinter wird nicht gelöscht."_s);
     }
 
     void questionListsWhatGoes()

@@ -26,7 +26,7 @@ ComparisonTable::ComparisonTable(const Comparison &comparison, QWidget *parent)
     setSelectionMode(NoSelection);
     setEditTriggers(NoEditTriggers);
     verticalHeader()->hide();
-    verticalHeader()->setDefaultSectionSize(kRowHeight);
+    verticalHeader()->setMinimumSectionSize(kRowHeight);
     for (int row = 0; row < comparison.rows.size(); ++row) {
         const Comparison::Row &fields = comparison.rows.at(row);
         addRow(row, fields.name, fields.current, fields.offered, fields.isDifferent());
@@ -61,4 +61,11 @@ void ComparisonTable::fitColumns()
     header->setSectionResizeMode(Name, QHeaderView::ResizeToContents);
     header->setSectionResizeMode(Current, QHeaderView::Stretch);
     header->setSectionResizeMode(Offered, QHeaderView::Stretch);
+}
+
+/// Long texts take several lines: what differs may be at their ends.
+void ComparisonTable::resizeEvent(QResizeEvent *event)
+{
+    QTableWidget::resizeEvent(event);
+    resizeRowsToContents();
 }

@@ -15,6 +15,9 @@ public:
 
     explicit ComparisonTable(const Comparison &comparison, QWidget *parent = nullptr);
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     void addRow(int row, const QString &name, const QString &current, const QString &offered, bool isDifferent);
     void fitColumns();

@@ -23,7 +23,7 @@ namespace {
 constexpr QSize kPanelSize(800, 600);
 constexpr int kButtonRowHeight = 84;
 constexpr QSize kIconSize(72, 72);
-constexpr int kTableHeight = 400; // pixels
+constexpr int kTableHeight = 420; // pixels
 constexpr QSize kFileDialogSize(1000, 660);
 constexpr int kFileColumns[] = {330, 120, 120, 190}; // name, size, type, date
 
@@ -61,6 +61,22 @@ void makeRoomy(QFileDialog &dialog)
     int column = 0;
     for (const int width : kFileColumns)
         list->header()->resizeSection(column++, width);
+}
+
+/// The text in the middle of the panel; a hint right below it.
+void spreadText(QMessageBox &box, QGridLayout &grid)
+{
+    const int height = kPanelSize.height() - kButtonRowHeight;
+    auto *text = box.findChild<QLabel *>(QStringLiteral("qt_msgbox_label"));
+    auto *hint = box.findChild<QLabel *>(QStringLiteral("qt_msgbox_informativelabel"));
+    if (!hint || !text) {
+        grid.setRowMinimumHeight(0, height);
+        return;
+    }
+    text->setAlignment(Qt::AlignLeft | Qt::AlignBottom);
+    hint->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    for (const int row : {0, 1})
+        grid.setRowMinimumHeight(row, height / 2);
 }
 
 void scrollLongText(QMessageBox &box, QGridLayout &grid)
@@ -163,16 +179,17 @@ void makePanel(QMessageBox &box, const QString &iconFile)
 {
     box.setIconPixmap(actionIcon(iconFile, theme::qColorBackground).pixmap(kIconSize));
     // The icon is a label too and must not be as wide as the text.
-    box.setStyleSheet(QStringLiteral("QLabel#qt_msgboxex_icon_label {min-width: %1px; max-width: %1px;}"
-                                     "QLabel#qt_msgbox_label {padding-right: 24px;}"
-                                     "QLabel#qt_msgbox_informativelabel {min-height: 0px; font-size: 18px;}"
-                                     "QPushButton {padding: 0px 20px;}")
-                          .arg(kIconSize.width() + kIconSize.width() / 2));
+    box.setStyleSheet(
+        QStringLiteral("QLabel#qt_msgboxex_icon_label {min-width: %1px; max-width: %1px;}"
+                       "QLabel#qt_msgbox_label {padding-right: 24px;}"
+                       "QLabel#qt_msgbox_informativelabel {min-height: 0px; font-size: 18px; padding-left: 2px;}"
+                       "QPushButton {padding: 0px 20px;}")
+            .arg(kIconSize.width() + kIconSize.width() / 2));
     // A message box sets its size by its layout and ignores the minimum in the sheet.
     if (auto *grid = qobject_cast<QGridLayout *>(box.layout())) {
         if (auto *icon = box.findChild<QWidget *>(QStringLiteral("qt_msgboxex_icon_label")))
             grid->setAlignment(icon, Qt::AlignVCenter);
-        grid->setRowMinimumHeight(0, kPanelSize.height() - kButtonRowHeight);
+        spreadText(box, *grid);
         scrollLongText(box, *grid);
         grid->addItem(new QSpacerItem(kPanelSize.width(), 0), grid->rowCount(), 0, 1, grid->columnCount());
     }
