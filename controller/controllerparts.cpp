@@ -31,15 +31,17 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     , transfers({view, model, occupancy})
     , firmware({view, model, occupancy}, connector, link, demo, options.restartWait)
     , recording({view, model, occupancy}, recorder, link)
-    , recordingEnd({view, model, occupancy}, connector, recorder, options.stopWait)
     , deletion({view, model, occupancy}, edits, recorder)
     , tabEdits(view, model, edits)
     , saving({view, model, occupancy}, progress, lines, edits)
-    , files({view, model, occupancy}, progress, lines, edits, saving, recordingEnd)
+    , files({view, model, occupancy}, progress, lines, edits, saving,
+            RecordingEnd({view, model, occupancy}, connector, recorder, options.stopWait))
     , pictures({view, model, occupancy}, edits)
     , loggerList({view, model, occupancy}, link)
     , loggerFetch({view, model, occupancy}, connector, demo, transfers, options.temporaryDirectory)
     , loggerImport({view, model, occupancy}, progress, lines, edits, recorder)
+    , undoHistory(model)
+    , undo({view, model, occupancy}, undoHistory, edits, recorder)
 {
     setUpTransfers(options);
     handleMessages();
@@ -108,6 +110,7 @@ void ControllerParts::connectFiles()
     QObject::connect(&files, &ProjectFiles::measurementsReplaced, &files, [this] { recorder.forgetSeries(); });
     QObject::connect(&files, &ProjectFiles::shown, &files, [this] { recorder.announceRunning(); });
     QObject::connect(&files, &ProjectFiles::shown, &period, &SamplingPeriod::matchProject);
+    QObject::connect(&undo, &UndoControl::samplingPeriodChanged, &period, &SamplingPeriod::matchProject);
     QObject::connect(&files, &ProjectFiles::quitting, &files, [this] { recorder.requestStop(); });
 }
 

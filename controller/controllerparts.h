@@ -24,7 +24,8 @@
 #include "controller/recording/recorder.h"
 #include "controller/recordingactions.h"
 #include "controller/recordingdisplay.h"
-#include "controller/recordingend.h"
+#include "controller/undo/undocontrol.h"
+#include "controller/undo/undohistory.h"
 #include "device/demobox.h"
 #include "device/mesotraconnector.h"
 
@@ -58,7 +59,6 @@ struct ControllerParts
     TransferDialogs transfers;
     FirmwareUpdate firmware;
     RecordingActions recording;
-    RecordingEnd recordingEnd;
     MeasurementDeletion deletion;
     TabEdits tabEdits;
     ProjectSaving saving;
@@ -67,6 +67,8 @@ struct ControllerParts
     LoggerList loggerList;
     LoggerFetch loggerFetch;
     LoggerImport loggerImport;
+    UndoHistory undoHistory;
+    UndoControl undo;
 
 private:
     void setUpTransfers(const ControllerOptions &options);

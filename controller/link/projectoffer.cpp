@@ -4,6 +4,7 @@
 #include "controller/occupancy.h"
 #include "controller/recording/linehold.h"
 #include "controller/recording/projectedits.h"
+#include "model/edit/editscope.h"
 #include "model/model.h"
 #include "view/window/prompts/questions.h"
 #include "view/window/view.h"
@@ -103,6 +104,7 @@ Comparison ProjectOffer::compared(const ReceivedProject &project) const
 void ProjectOffer::apply(const ReceivedProject &project)
 {
     m_desk.model.blockSignals(false);
+    const EditScope edit(&m_desk.model, [] { return tr("Übernahme der Projektbeschreibung"); });
     m_desk.model.setProjectData(project.data);
     for (int phase = 0; phase < kNumCyclePhases; ++phase)
         m_desk.model.setPhaseName(phase, project.phases[static_cast<std::size_t>(phase)]);

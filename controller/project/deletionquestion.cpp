@@ -40,6 +40,11 @@ QString countText(int count)
                       : DeletionQuestion::tr("Das sind %1 Messungen:").arg(count);
 }
 
+QString undoHint()
+{
+    return DeletionQuestion::tr("Mit Strg+Z lässt sich das rückgängig machen.");
+}
+
 bool isSurprising(const DeletionPlan &plan, QVector<int> removed, const QString &range, const Model &model)
 {
     std::sort(removed.begin(), removed.end());
@@ -61,5 +66,15 @@ QString DeletionQuestion::details(const DeletionPlan &plan, const QString &range
         lines << QString()
               << tr("Ab \"%1\" ist die Eingabe fehlerhaft. Dieser Teil und alles dahinter wird nicht gelöscht.")
                      .arg(plan.malformed->text);
+    if (!removed.isEmpty())
+        lines << QString() << undoHint();
     return lines.join(QLatin1Char('\n'));
+}
+
+QString DeletionQuestion::detailsOfAll(int count)
+{
+    if (count == 0)
+        return tr("Es gibt keine Messung.");
+    const QString text = count == 1 ? tr("Das ist 1 Messung.") : tr("Das sind %1 Messungen.").arg(count);
+    return text + QLatin1Char('\n') + undoHint();
 }

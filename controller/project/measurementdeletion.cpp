@@ -5,6 +5,7 @@
 #include "controller/project/deletionquestion.h"
 #include "controller/recording/projectedits.h"
 #include "controller/recording/recorder.h"
+#include "model/edit/editscope.h"
 #include "model/model.h"
 #include "view/oscilloscope/taboszilloscope.h"
 #include "view/window/prompts/questions.h"
@@ -13,6 +14,12 @@
 #include <algorithm>
 
 namespace {
+
+QString deletionText(int count)
+{
+    return count == 1 ? MeasurementDeletion::tr("Löschen einer Messung")
+                      : MeasurementDeletion::tr("Löschen von %1 Messungen").arg(count);
+}
 
 int measurementCount(const Model &model)
 {
@@ -42,13 +49,21 @@ void MeasurementDeletion::deleteRange(const QString &range)
         return;
     // Not a ChangeScope: after a malformed part the signals stay blocked, see breakOff().
     m_desk.model.blockSignals(true);
-    const int removed = remove(plan);
+    const int removed = removeAsOneStep(plan);
     if (removed > 0)
         m_edits.markModified(); // also if a later part is malformed
     if (plan.malformed)
         breakOff(range);
     else
         finish();
+}
+
+int MeasurementDeletion::removeAsOneStep(const DeletionPlan &plan)
+{
+    const EditScope edit(&m_desk.model, [] { return deletionText(1); });
+    const int removed = remove(plan);
+    edit.setText([removed] { return deletionText(removed); });
+    return removed;
 }
 
 /// Returns how many measurements were removed.
@@ -71,10 +86,8 @@ int MeasurementDeletion::remove(const DeletionPlan::Step &step)
 {
     int removed = 0;
     for (int index = step.first + step.removed.size() - 1; index >= step.first; --index) {
-        if (!m_desk.model.deleteChannel(index))
-            continue;
-        m_recorder.measurementRemoved(index);
-        ++removed;
+        if (m_desk.model.deleteChannel(index))
+            ++removed;
     }
     if (removed < step.wanted)
         qCDebug(lcController) << "model::deleteChannel returned false!!";
@@ -101,10 +114,11 @@ void MeasurementDeletion::deleteAll()
     if (m_desk.occupancy.refuseWhileOccupied())
         return;
     const int count = measurementCount(m_desk.model);
-    const QString details = count == 1 ? tr("Das ist 1 Messung.") : tr("Das sind %1 Messungen.").arg(count);
-    if (!m_desk.occupancy.ask([&] { return m_desk.view.questions().toClearData(details); }))
+    if (!m_desk.occupancy.ask(
+            [&] { return m_desk.view.questions().toClearData(DeletionQuestion::detailsOfAll(count)); }))
         return;
     m_desk.model.blockSignals(false);
+    const EditScope edit(&m_desk.model, [] { return tr("Löschen aller Messdaten"); });
     m_desk.model.setFileList({}); // what was imported can be imported again
     m_desk.model.clearData();
     m_recorder.forgetSeries(); // a recording that runs begins another measurement

@@ -23,7 +23,8 @@ public:
     void deleteAll();
 
 private:
-    int remove(const DeletionPlan &plan);
+    [[nodiscard]] int removeAsOneStep(const DeletionPlan &plan);
+    [[nodiscard]] int remove(const DeletionPlan &plan);
     [[nodiscard]] int remove(const DeletionPlan::Step &step);
     void finish();
     void breakOff(const QString &range);

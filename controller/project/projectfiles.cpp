@@ -6,7 +6,6 @@
 #include "controller/project/projectsaving.h"
 #include "controller/recording/linehold.h"
 #include "controller/recording/projectedits.h"
-#include "controller/recordingend.h"
 #include "model/model.h"
 #include "view/home/tabhome.h"
 #include "view/window/prompts/questions.h"
@@ -15,7 +14,7 @@
 #include <QCoreApplication>
 
 ProjectFiles::ProjectFiles(const Desk &desk, FileProgress &progress, LineQueue &lines, ProjectEdits &edits,
-                           ProjectSaving &saving, RecordingEnd &recording)
+                           ProjectSaving &saving, const RecordingEnd &recording)
     : m_view(desk.view)
     , m_model(desk.model)
     , m_occupancy(desk.occupancy)

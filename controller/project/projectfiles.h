@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controller/desk.h"
+#include "controller/recordingend.h"
 
 #include <QObject>
 
@@ -8,7 +9,6 @@ class FileProgress;
 class LineQueue;
 class ProjectEdits;
 class ProjectSaving;
-class RecordingEnd;
 enum class SaveAnswer;
 
 /// New, open and quit: everything that gives up the project that is open, with the questions about unsaved changes. A
@@ -64,5 +64,5 @@ private:
     LineQueue &m_lines;
     ProjectEdits &m_edits;
     ProjectSaving &m_saving;
-    RecordingEnd &m_recording;
+    RecordingEnd m_recording;
 };

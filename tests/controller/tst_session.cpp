@@ -27,6 +27,16 @@ void editProject(Bench &bench)
     emit bench.view.calibrate();
 }
 
+void leave(View &view, const QByteArray &how, const QString &other)
+{
+    if (how == "quit")
+        emit view.quit();
+    else if (how == "new")
+        emit view.newProject();
+    else
+        emit view.openProjectFile(other);
+}
+
 } // namespace
 
 class TestSession : public QObject
@@ -108,20 +118,20 @@ private slots:
 
     void leavingWhileRecording_data()
     {
-        // answers: to what is asked; saved: whether everything that the box sent has to be in the file
-        columns<QByteArray, QVector<int>, bool>("how", "answers", "saved");
-        row("quit, Speichern", "quit"_ba, QVector<int>{QMessageBox::Save}, true);
-        row("new, Speichern", "new"_ba, QVector<int>{QMessageBox::Save}, true);
-        row("new, Verwerfen", "new"_ba, QVector<int>{QMessageBox::Discard}, false);
-        row("open, Speichern", "open"_ba, QVector<int>{QMessageBox::Save}, true);
-        row("open, Verwerfen", "open"_ba, QVector<int>{QMessageBox::Discard}, false);
+        // answer: to the question about saving; saved: whether everything that the box sent has to be in the file
+        columns<QByteArray, int, bool>("how", "answer", "saved");
+        row("quit, Speichern", "quit"_ba, int(QMessageBox::Save), true);
+        row("new, Speichern", "new"_ba, int(QMessageBox::Save), true);
+        row("new, Verwerfen", "new"_ba, int(QMessageBox::Discard), false);
+        row("open, Speichern", "open"_ba, int(QMessageBox::Save), true);
+        row("open, Verwerfen", "open"_ba, int(QMessageBox::Discard), false);
     }
 
     /// At the shortest period, all that the box sends until it is stopped is in the file, and it is stopped.
     void leavingWhileRecording()
     {
         QFETCH(QByteArray, how);
-        QFETCH(QVector<int>, answers);
+        QFETCH(int, answer);
         QFETCH(bool, saved);
         const QString file = m_folder.filePath(QString::fromLatin1(QTest::currentDataTag()) + ".vnt"_s);
         const QString other = m_folder.filePath("other.vnt"_s);
@@ -133,18 +143,11 @@ private slots:
         QTRY_COMPARE(bench.model.clock(), 1);
         QVERIFY(rig.start());
         QTRY_VERIFY(rig.sent.size() > 30);
-        for (const int answer : answers)
-            bench.prompts->answers.push_back(QMessageBox::StandardButton(answer));
+        bench.prompts->answers = {QMessageBox::StandardButton(answer)};
         bench.prompts->choices = {1};
         bench.prompts->saveNames = {file};
         bench.prompts->whileOpen = [] { QTest::qWait(20); }; // samples come in while a box is up
-        if (how == "quit")
-            emit bench.view.quit();
-        else if (how == "new")
-            emit bench.view.newProject();
-        else
-            emit bench.view.openProjectFile(other);
-        bench.prompts->whileOpen = nullptr;
+        leave(bench.view, how, other);
         QTRY_VERIFY(rig.box.receivedCommands().contains("run=0"_s));
         QVERIFY(!bench.controller.isRecordingRunning());
         QTest::qWait(30);
