@@ -8,6 +8,7 @@
 #include "model/model.h"
 #include "model/project/photo.h"
 #include "model/project/projectimage.h"
+#include "view/window/prompts/questions.h"
 #include "view/window/view.h"
 
 #include <QDir>
@@ -70,7 +71,9 @@ void ProjectPictures::choose(int image)
     qCDebug(lcController) << Q_FUNC_INFO << image;
     if (m_occupancy.refuseWhileOccupied())
         return;
-    const QString file = m_occupancy.ask([this] { return m_view.askOpenFile(tr("Bild auswählen"), pictureFilter()); });
+    const QString file = m_occupancy.ask([this] {
+        return m_view.questions().openFile(tr("Bild auswählen"), pictureFilter(), {Questions::kPictureFolder});
+    });
     if (!file.isEmpty())
         (void)takeFile(image, file); // whoever chose it has been told of a failure
 }
@@ -115,7 +118,7 @@ bool ProjectPictures::mayReplace(int image)
     if (m_model.images().state(image) == PictureState::None)
         return true;
     const QString question = tr("Bild %1 wird durch ein anderes ersetzt.\nFortfahren?").arg(image + 1);
-    return m_occupancy.ask([&] { return m_view.askYesNo(tr("Bild ersetzen"), question); });
+    return m_occupancy.ask([&] { return m_view.questions().yesNoDestructive(tr("Bild ersetzen"), question); });
 }
 
 bool ProjectPictures::takeFile(int image, const QString &file)
@@ -161,7 +164,7 @@ void ProjectPictures::remove(int image)
     if (m_occupancy.refuseWhileOccupied() || m_model.images().state(image) == PictureState::None)
         return;
     const QString question = tr("Bild %1 wird aus dem Projekt gelöscht.\nFortfahren?").arg(image + 1);
-    if (!m_occupancy.ask([&] { return m_view.askYesNo(tr("Bild löschen"), question); }))
+    if (!m_occupancy.ask([&] { return m_view.questions().yesNoDestructive(tr("Bild löschen"), question); }))
         return;
     m_model.blockSignals(false);
     const EditScope edit(&m_model, [image] { return tr("Löschen von Bild %1").arg(image + 1); });
@@ -194,6 +197,8 @@ QByteArray ProjectPictures::bytesOf(int image) const
 /// Empty: cancelled.
 QString ProjectPictures::askFileToSave()
 {
-    return m_occupancy.ask(
-        [this] { return m_view.askSaveFileWithSuffix(tr("Bild speichern"), tr("PNG-Bild (*.png)"), kPictureSuffix); });
+    return m_occupancy.ask([this] {
+        return m_view.questions().saveFileWithSuffix(tr("Bild speichern"), tr("PNG-Bild (*.png)"), kPictureSuffix,
+                                                     Qt::CaseInsensitive, {}, {Questions::kPictureFolder});
+    });
 }
