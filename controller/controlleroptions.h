@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controller/journal/journaloptions.h"
 #include "device/demobox.h"
 #include "device/scpprocess.h"
 
@@ -17,5 +18,6 @@ struct ControllerOptions
     QString temporaryDirectory = QStringLiteral("tmp-blackbox-dir"); ///< for what is fetched; created when missing
     QString demoProgram;                                             ///< empty: the simulator beside the program
     int demoStartTimeout = DemoBox::kStartTimeout;                   ///< ms
+    JournalOptions journal;
     int restartWait = 3000; ///< ms; how long the firmware dialog waits for a connection
 };

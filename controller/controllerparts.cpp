@@ -39,13 +39,19 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     , loggerList({view, model, occupancy}, link)
     , loggerFetch({view, model, occupancy}, connector, demo, transfers, options.temporaryDirectory)
     , loggerImport({view, model, occupancy}, progress, lines, edits, recorder)
+    , journal(model, options.journal, [this] { return recorder.isRunning(); })
+    , recovery({view, model, occupancy},
+               {questions, progress, lines, saving, journal, [this] { return recorder.isRunning(); }},
+               options.journal.folder)
 {
     setUpTransfers(options);
     handleMessages();
     connectLink(view);
     connectFiles();
+    connectJournal(view);
     connectView(view);
     connectTabs(view);
+    recovery.begin();
 }
 
 ControllerParts::~ControllerParts()
@@ -102,6 +108,16 @@ void ControllerParts::connectFiles()
     QObject::connect(&files, &ProjectFiles::shown, &files, [this] { recorder.announceRunning(); });
     QObject::connect(&files, &ProjectFiles::shown, &period, &SamplingPeriod::matchProject);
     QObject::connect(&files, &ProjectFiles::quitting, &files, [this] { recorder.requestStop(); });
+}
+
+void ControllerParts::connectJournal(View &view)
+{
+    QObject::connect(&journal, &Journal::told, &view, [&view](const QString &text) { view.showStatus(text); });
+    QObject::connect(&files, &ProjectFiles::quitting, &journal, &Journal::discard);
+    QObject::connect(&files, &ProjectFiles::interrupted, &files, [this] { recorder.requestStop(); });
+    QObject::connect(&files, &ProjectFiles::interruptionTaken, &journal, &Journal::secure);
+    QObject::connect(&recovery, &Recovery::restored, &files, [this] { recorder.forgetSeries(); });
+    QObject::connect(&recovery, &Recovery::restored, &period, &SamplingPeriod::matchProject);
 }
 
 void ControllerParts::connectView(View &view)

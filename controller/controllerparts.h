@@ -1,6 +1,8 @@
 #pragma once
 
 #include "controller/deferredquestions.h"
+#include "controller/journal/journal.h"
+#include "controller/journal/recovery.h"
 #include "controller/link/boxdescriptions.h"
 #include "controller/link/boxlink.h"
 #include "controller/link/demolink.h"
@@ -65,12 +67,15 @@ struct ControllerParts
     LoggerList loggerList;
     LoggerFetch loggerFetch;
     LoggerImport loggerImport;
+    Journal journal;
+    Recovery recovery;
 
 private:
     void setUpTransfers(const ControllerOptions &options);
     void handleMessages();
     void connectLink(View &view);
     void connectFiles();
+    void connectJournal(View &view);
     void connectView(View &view);
     void connectTabs(View &view);
 };

@@ -24,10 +24,12 @@ public:
 
     /// Decodes the PNGs one by one; `pause` is called after each, as a large one takes long.
     [[nodiscard]] static ImageStore decoded(EncodedImages pngs, const std::function<void()> &pause);
+    /// The PNG of a picture in the store, remembered until the picture changes; empty for none.
+    [[nodiscard]] QByteArray png(std::size_t image) const { return m_pngs[image].png(m_pixmaps[image]); }
     /// Encodes pictures that this store has or had; `pause` as above, and it may change the pictures in the store.
     [[nodiscard]] EncodedImages encoded(const Pixmaps &pixmaps, const std::function<void()> &pause);
 
 private:
     Pixmaps m_pixmaps;
-    std::array<EncodedImage, kNumProjectImages> m_pngs;
+    mutable std::array<EncodedImage, kNumProjectImages> m_pngs; // encoded when first asked for
 };

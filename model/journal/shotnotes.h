@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+
+class QDataStream;
+struct ProjectMeta;
+
+/// What is known of a shot beside its samples. A new field is one line in each of the functions.
+struct ShotNotes
+{
+    QString label;
+    QDateTime timestamp; ///< null for none
+};
+
+[[nodiscard]] bool operator==(const ShotNotes &a, const ShotNotes &b);
+QDataStream &operator<<(QDataStream &stream, const ShotNotes &notes);
+QDataStream &operator>>(QDataStream &stream, ShotNotes &notes);
+
+[[nodiscard]] ShotNotes notesOf(const ProjectMeta &meta, int shot);
+void setNotes(ProjectMeta &meta, int shot, const ShotNotes &notes);
