@@ -10,7 +10,7 @@
 #include <functional>
 
 Q_DECLARE_METATYPE(std::function<void(Model &)>)
-Q_DECLARE_METATYPE(std::function<void(const QString &)>)
+Q_DECLARE_METATYPE(std::function<void(QString)>)
 
 namespace {
 
@@ -198,8 +198,8 @@ private slots:
 
     void aFileThatIsGoneOrChanged_data()
     {
-        columns<std::function<void(const QString &)>, int, int, int>("happens", "shots", "missing", "pictures");
-        using Event = std::function<void(const QString &)>;
+        columns<std::function<void(QString)>, int, int, int>("happens", "shots", "missing", "pictures");
+        using Event = std::function<void(QString)>;
         row("gone", Event([](const QString &file) { QFile::remove(file); }), 1, 3, 2);
         row("shot deleted", Event([](const QString &file) {
                 Model other(file);
@@ -220,7 +220,7 @@ private slots:
 
     void aFileThatIsGoneOrChanged()
     {
-        QFETCH(std::function<void(const QString &)>, happens);
+        QFETCH(std::function<void(QString)>, happens);
         QFETCH(int, shots);
         QFETCH(int, missing);
         QFETCH(int, pictures);
