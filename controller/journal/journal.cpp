@@ -75,22 +75,22 @@ Journal::~Journal()
         (void)secure();
 }
 
-/// Ticks only while there is something to protect, or to remove.
+/// Ticks only while there is something to protect. What is saved or given up is removed at once, as the file may differ
+/// from what a journal that is left says.
 void Journal::follow()
 {
-    if (m_model.isProjectModified() && !m_timer.isActive() && !m_discarded)
+    if (!m_model.isProjectModified()) {
+        m_timer.stop();
+        end();
+    } else if (!m_timer.isActive() && !m_discarded) {
         m_timer.start();
+    }
 }
 
 void Journal::tick()
 {
     if (m_model.isBusy())
         return; // edits wait, and so do the lines of the box
-    if (!m_model.isProjectModified()) {
-        end();
-        m_timer.stop();
-        return;
-    }
     noteEndOfShot();
     if (m_sinceFault.isValid() && m_sinceFault.elapsed() < m_options.retry)
         return;

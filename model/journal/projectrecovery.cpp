@@ -33,8 +33,9 @@ ProjectMeta readEvaluation(QByteArray text)
 class BaseShots
 {
 public:
-    BaseShots(const JournalBase &base, ProjectDocument *document)
+    BaseShots(const JournalContents &contents, ProjectDocument *document)
     {
+        const JournalBase &base = contents.base;
         for (int sensor = 0; sensor < kNumSensors; ++sensor) {
             takeChannel(sensor, document);
             const std::vector<SavedRun> &runs = base.runs[at(sensor)];
@@ -45,6 +46,7 @@ public:
         }
         m_checks = shotChecks(m_store);
         match(base.checks);
+        matchGrown(contents);
     }
 
     struct Run
@@ -100,6 +102,42 @@ private:
             m_now[index] = found->second;
             elsewhere.erase(found);
         }
+    }
+
+    /// A shot that was being recorded may have been saved once more: the file has it with more samples.
+    void matchGrown(const JournalContents &contents)
+    {
+        for (std::size_t index = 0; index < m_now.size(); ++index) {
+            if (m_now[index] < 0 && hasGrown(contents, index))
+                m_now[index] = findGrown(contents.base, index);
+        }
+    }
+
+    [[nodiscard]] static bool hasGrown(const JournalContents &contents, std::size_t index)
+    {
+        for (const std::vector<SavedRun> &runs : contents.base.runs) {
+            const auto own = index < runs.size() ? contents.samples.find(runs[index].id) : contents.samples.end();
+            if (own != contents.samples.end() && !own->second.samples.isEmpty())
+                return true;
+        }
+        return false;
+    }
+
+    [[nodiscard]] int findGrown(const JournalBase &base, std::size_t index) const
+    {
+        for (int shot = 0; shot < m_store.shotCount(); ++shot) {
+            ShotStore beginning;
+            for (int sensor = 0; sensor < kNumSensors; ++sensor) {
+                const std::vector<SavedRun> &runs = base.runs[at(sensor)];
+                const SampleList *samples = m_store.samples(sensor, shot);
+                if (samples && index < runs.size() && runs[index].count <= samples->size())
+                    (void)beginning.append(sensor, samples->mid(0, runs[index].count));
+            }
+            const ShotChecks checks = shotChecks(beginning);
+            if (!checks.empty() && checks.front() == base.checks[index])
+                return shot;
+        }
+        return -1;
     }
 
     ShotStore m_store;
@@ -172,7 +210,7 @@ private:
         const BaseShots::Run run = m_base.wanted(id);
         if (withBase && run.wantedIndex >= 0) {
             origin = {m_base.indexNow(run.wantedIndex), run.count};
-            samples = m_base.samples(sensor, origin.index);
+            samples = m_base.samples(sensor, origin.index).mid(0, run.count);
         }
         const auto own = m_contents.samples.find(id);
         if (own != m_contents.samples.end()) {
@@ -212,7 +250,7 @@ RecoveredProject recoverProject(JournalContents &contents, std::optional<Project
     project.document = readSettings(contents.settings);
     project.meta = readEvaluation(contents.evaluation);
     takePictures(contents, base ? &*base : nullptr, project);
-    BaseShots shots(contents.base, base ? &*base : nullptr);
+    BaseShots shots(contents, base ? &*base : nullptr);
     Assembly assembly(contents, shots, project);
     for (int shot = 0; shot < contents.shotCount(); ++shot)
         assembly.takeShot(shot);
