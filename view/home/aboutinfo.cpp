@@ -75,8 +75,10 @@ QVector<AboutFact> aboutFacts(const Model &model)
 QString aboutText(const QVector<AboutFact> &facts)
 {
     QString text;
-    for (const AboutFact &fact : facts)
-        text += fact.name + QLatin1String(": ") + fact.value + QLatin1Char('\n');
+    for (const AboutFact &fact : facts) {
+        const QString value = QString(fact.value).replace(QLatin1Char('\n'), QLatin1String("; "));
+        text += fact.name + QLatin1String(": ") + value + QLatin1Char('\n');
+    }
     return text;
 }
 

@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QProcess>
 #include <QRandomGenerator>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <chrono>
@@ -157,6 +158,19 @@ std::vector<Step> stepsOf(const QByteArray &output)
     return steps;
 }
 
+QByteArray withoutLabels(const QByteArray &digest)
+{
+    static const QRegularExpression label("\\|label\\d+"_s);
+    return QString::fromUtf8(digest).replace(label, "|"_s).toUtf8();
+}
+
+bool isKnownWithoutLabels(const std::vector<Step> &steps, const QByteArray &digest)
+{
+    return std::any_of(steps.begin(), steps.end(), [&digest](const Step &step) {
+        return withoutLabels(step.digest) == withoutLabels(digest);
+    });
+}
+
 /// Every project that a user could go on with: the file, and what each journal restores.
 std::vector<std::unique_ptr<Model>> projectsIn(const QString &folder)
 {
@@ -204,8 +218,9 @@ private slots:
                 const QByteArray digest = digestOf(*project);
                 const auto found = std::find_if(steps.rbegin(), steps.rend(),
                                                 [&digest](const Step &step) { return step.digest == digest; });
-                QVERIFY2(found != steps.rend() || (project->numChannels(0) == 0 && project->comment().isEmpty()),
-                         "invented: "_ba + digest);
+                // The labels are in a file of their own: if the end came between the two, the journal has them.
+                const bool isHalf = found == steps.rend() && project == projects.front() && isKnownWithoutLabels(steps, digest);
+                QVERIFY2(found != steps.rend() || isHalf || digest.isEmpty(), "invented: "_ba + digest);
                 QVERIFY(areSamplesWhole(*project));
                 if (found != steps.rend()) // the state lasted until the next step
                     latest = qMax(latest, found == steps.rbegin() ? end : std::prev(found)->time);
