@@ -39,10 +39,7 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     , loggerList({view, model, occupancy}, link)
     , loggerFetch({view, model, occupancy}, connector, demo, transfers, options.temporaryDirectory)
     , loggerImport({view, model, occupancy}, progress, lines, edits, recorder)
-    , journal(model, options.journal, [this] { return recorder.isRunning(); })
-    , recovery({view, model, occupancy},
-               {questions, progress, lines, saving, journal, [this] { return recorder.isRunning(); }},
-               options.journal.folder)
+    , protection({view, model, occupancy}, options.journal, recorder, {questions, progress, lines, saving})
 {
     setUpTransfers(options);
     handleMessages();
@@ -51,7 +48,6 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     connectJournal(view);
     connectView(view);
     connectTabs(view);
-    recovery.begin();
 }
 
 ControllerParts::~ControllerParts()
@@ -112,12 +108,14 @@ void ControllerParts::connectFiles()
 
 void ControllerParts::connectJournal(View &view)
 {
-    QObject::connect(&journal, &Journal::told, &view, [&view](const QString &text) { view.showStatus(text); });
-    QObject::connect(&files, &ProjectFiles::quitting, &journal, &Journal::discard);
+    QObject::connect(&protection.journal, &Journal::told, &view, [&view](const QString &text) { view.showStatus(text); });
+    QObject::connect(&files, &ProjectFiles::quitting, &protection.journal, &Journal::discard);
+    // What takes long may end badly.
+    QObject::connect(&progress, &FileProgress::begun, &protection.journal, &Journal::takeChanges);
     QObject::connect(&files, &ProjectFiles::interrupted, &files, [this] { recorder.requestStop(); });
-    QObject::connect(&files, &ProjectFiles::interruptionTaken, &journal, &Journal::secure);
-    QObject::connect(&recovery, &Recovery::restored, &files, [this] { recorder.forgetSeries(); });
-    QObject::connect(&recovery, &Recovery::restored, &period, &SamplingPeriod::matchProject);
+    QObject::connect(&files, &ProjectFiles::interruptionTaken, &protection.journal, &Journal::secure);
+    QObject::connect(&protection.recovery, &Recovery::restored, &files, [this] { recorder.forgetSeries(); });
+    QObject::connect(&protection.recovery, &Recovery::restored, &period, &SamplingPeriod::matchProject);
 }
 
 void ControllerParts::connectView(View &view)

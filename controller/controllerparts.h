@@ -1,8 +1,7 @@
 #pragma once
 
 #include "controller/deferredquestions.h"
-#include "controller/journal/journal.h"
-#include "controller/journal/recovery.h"
+#include "controller/journal/journalparts.h"
 #include "controller/link/boxdescriptions.h"
 #include "controller/link/boxlink.h"
 #include "controller/link/demolink.h"
@@ -67,8 +66,7 @@ struct ControllerParts
     LoggerList loggerList;
     LoggerFetch loggerFetch;
     LoggerImport loggerImport;
-    Journal journal;
-    Recovery recovery;
+    JournalParts protection;
 
 private:
     void setUpTransfers(const ControllerOptions &options);

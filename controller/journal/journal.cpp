@@ -87,15 +87,23 @@ void Journal::follow()
     }
 }
 
+/// Also while a file is being written: that lets events in only where the project is complete.
 void Journal::tick()
 {
-    if (m_model.isBusy())
-        return; // edits wait, and so do the lines of the box
     noteEndOfShot();
-    if (m_sinceFault.isValid() && m_sinceFault.elapsed() < m_options.retry)
-        return;
-    if (handOver())
+    if (mayWrite() && handOver())
         forceIfDue();
+}
+
+void Journal::takeChanges()
+{
+    if (m_timer.isActive() && mayWrite())
+        (void)handOver();
+}
+
+bool Journal::mayWrite() const
+{
+    return !m_sinceFault.isValid() || m_sinceFault.elapsed() >= m_options.retry;
 }
 
 bool Journal::secure()
@@ -176,7 +184,8 @@ void Journal::noteEndOfShot()
     const bool isRecording = m_isRecording && m_isRecording();
     const quint64 structure = m_model.structureRevision();
     // A shot also ends where the next one begins.
-    if ((std::exchange(m_wasRecording, isRecording) && !isRecording) || std::exchange(m_structure, structure) != structure)
+    if ((std::exchange(m_wasRecording, isRecording) && !isRecording)
+        || std::exchange(m_structure, structure) != structure)
         m_shotEnded = true;
 }
 
@@ -200,8 +209,8 @@ bool Journal::force()
     m_lastForce = static_cast<int>(time.elapsed());
     m_longestForce = qMax(m_longestForce, m_lastForce);
     m_sinceForce.start();
-    qCDebug(lcController).noquote().nospace() << Q_FUNC_INFO << " ms=" << m_lastForce << " longest=" << m_longestForce
-                                              << " bytes=" << m_file->file.size();
+    qCDebug(lcController).noquote().nospace()
+        << Q_FUNC_INFO << " ms=" << m_lastForce << " longest=" << m_longestForce << " bytes=" << m_file->file.size();
     publish();
     if (!forced) {
         fail(m_file->file.fault().value_or(JournalFault()));
@@ -221,9 +230,10 @@ void Journal::fail(const JournalFault &fault)
     qCDebug(lcController).noquote() << Q_FUNC_INFO << m_folder.path() << fault.detail;
     if (isKnown)
         return;
-    emit told(tr("Ungespeicherte Änderungen können nicht gesichert werden (%1: %2). Die Aufzeichnung läuft weiter; bitte "
-                 "das Projekt speichern.")
-                  .arg(QDir::toNativeSeparators(m_folder.path()), reasonFor(fault)));
+    emit told(
+        tr("Ungespeicherte Änderungen können nicht gesichert werden (%1: %2). Die Aufzeichnung läuft weiter; bitte "
+           "das Projekt speichern.")
+            .arg(QDir::toNativeSeparators(m_folder.path()), reasonFor(fault)));
 }
 
 void Journal::publish()

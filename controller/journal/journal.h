@@ -27,6 +27,8 @@ public:
     /// Keeps the file of a project that is still modified.
     ~Journal() override;
 
+    /// Hands over what has changed, if there is a project to protect.
+    void takeChanges();
     /// Hands over what has changed and waits until the disk has it; false if that is not possible.
     bool secure();
     /// The user gives up what is not saved, and the program is about to end.
@@ -41,6 +43,7 @@ private:
 
     void follow();
     void tick();
+    [[nodiscard]] bool mayWrite() const;
     [[nodiscard]] bool handOver();
     [[nodiscard]] bool begin();
     void end();
@@ -59,7 +62,7 @@ private:
     JournalTracker m_tracker;
     std::unique_ptr<File> m_file;
     std::unique_ptr<File> m_old; // kept until the new one holds everything
-    quint64 m_generation = 0; // of the model's file when the journal began
+    quint64 m_generation = 0;    // of the model's file when the journal began
     quint64 m_structure = 0;
     QElapsedTimer m_sinceForce;
     QElapsedTimer m_sinceFault; // valid while writing fails

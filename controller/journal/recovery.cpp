@@ -37,9 +37,8 @@ QString shownName(const JournalContents &contents)
     return file.isEmpty() ? Recovery::tr("(ohne Namen)") : file;
 }
 
-QString shownTime(const JournalContents &contents)
+QString shownTime(const QDateTime &time)
 {
-    const QDateTime time = contents.lastWritten.isValid() ? contents.lastWritten : contents.base.started;
     return QLocale().toString(time.date(), QLocale::ShortFormat) + QLatin1Char(' ')
            + time.time().toString(QStringLiteral("HH:mm:ss"));
 }
@@ -49,9 +48,12 @@ QString description(const JournalContents &contents)
     QStringList lines{Recovery::tr("Projekt: %1").arg(shownName(contents))};
     if (!contents.base.file.isEmpty())
         lines << Recovery::tr("Datei: %1").arg(QDir::toNativeSeparators(contents.base.file));
-    lines << Recovery::tr("Stand: %1").arg(shownTime(contents))
+    lines << Recovery::tr("Stand: %1").arg(shownTime(contents.lastWritten))
           << Recovery::tr("Messungen: %1").arg(QLocale().toString(contents.shotCount()))
           << Recovery::tr("Messwerte: %1").arg(QLocale().toString(contents.sampleCount()));
+    const QDateTime changed = QFileInfo(contents.base.file).lastModified();
+    if (!contents.base.file.isEmpty() && changed > contents.lastWritten)
+        lines << Recovery::tr("Die Projektdatei wurde danach noch geändert: %1").arg(shownTime(changed));
     return lines.join(QLatin1Char('\n'));
 }
 
@@ -64,8 +66,8 @@ Choice offerOf(const JournalContents &contents)
 {
     Choice choice;
     choice.title = title();
-    choice.text = Recovery::tr("Das Programm wurde beendet, bevor dieses Projekt gespeichert war:") + QLatin1String("\n\n")
-                  + description(contents);
+    choice.text = Recovery::tr("Das Programm wurde beendet, bevor dieses Projekt gespeichert war:")
+                  + QLatin1String("\n\n") + description(contents);
     choice.hint = Recovery::tr("„Später“ lässt alles, wie es ist; beim nächsten Start wird wieder gefragt.");
     choice.answers = QStringList{Recovery::tr("Wiederherstellen"), Recovery::tr("Später"), Recovery::tr("Verwerfen")};
     choice.safest = Restore;
@@ -74,9 +76,12 @@ Choice offerOf(const JournalContents &contents)
 
 } // namespace
 
-Recovery::Recovery(const Desk &desk, Needs needs, const QString &folder)
+Recovery::Recovery(const Desk &desk, const Needs &needs, Journal &journal, std::function<bool()> isRecording,
+                   const QString &folder)
     : m_desk(desk)
-    , m_needs(std::move(needs))
+    , m_needs(needs)
+    , m_journal(journal)
+    , m_isRecording(std::move(isRecording))
     , m_folder(folder)
 {}
 
@@ -90,12 +95,13 @@ void Recovery::begin()
 void Recovery::askLater(int wait)
 {
     if (!m_left.empty())
-        m_needs.questions.put(Question::Recovery, [this] { askNext(); }, wait);
+        m_needs.questions.put(
+            Question::Recovery, [this] { askNext(); }, wait);
 }
 
 void Recovery::askNext()
 {
-    if (m_needs.isRecording()) {
+    if (m_isRecording()) {
         askLater(kRecordingRetry);
         return;
     }
@@ -197,7 +203,7 @@ void Recovery::restore(const LeftJournal &journal, JournalContents &contents)
         return;
     }
     // Only now is it in two places.
-    if (m_needs.journal.secure())
+    if (m_journal.secure())
         discard(journal);
     emit restored();
     show(*losses);

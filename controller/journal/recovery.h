@@ -32,10 +32,10 @@ public:
         FileProgress &progress;
         LineQueue &lines;
         ProjectSaving &saving;
-        Journal &journal;
-        std::function<bool()> isRecording; ///< nobody is asked meanwhile
     };
-    Recovery(const Desk &desk, Needs needs, const QString &folder);
+    /// Nobody is asked while `isRecording`.
+    Recovery(const Desk &desk, const Needs &needs, Journal &journal, std::function<bool()> isRecording,
+             const QString &folder);
 
     /// Looks for journals; asks as soon as nothing else is under way.
     void begin();
@@ -60,6 +60,8 @@ private:
 
     Desk m_desk;
     Needs m_needs;
+    Journal &m_journal;
+    std::function<bool()> m_isRecording;
     JournalFolder m_folder;
     std::deque<LeftJournal> m_left;
 };

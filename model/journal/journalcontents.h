@@ -52,9 +52,9 @@ struct JournalContents
     std::array<std::vector<quint64>, kNumSensors> order; ///< the ids of the measurements
     std::unordered_map<quint64, JournalSamples> samples; ///< by id; may hold some that were deleted later
     std::unordered_map<quint64, ShotNotes> notes;        ///< by the id that shotId() names
-    QByteArray settings;   ///< the project document without samples and pictures
-    QByteArray evaluation; ///< the text of the file beside the project, without shots
-    std::vector<QRgb> colors; ///< of the curves; empty or one per sensor
+    QByteArray settings;                                 ///< the project document without samples and pictures
+    QByteArray evaluation;                               ///< the text of the file beside the project, without shots
+    std::vector<QRgb> colors;                            ///< of the curves; empty or one per sensor
     std::array<JournalPicture, 5> pictures;
 
     [[nodiscard]] int shotCount() const;

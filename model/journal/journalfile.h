@@ -20,7 +20,6 @@ struct JournalFault
 class JournalFile
 {
 public:
-
     /// Creates a file, which must not exist, with the mark of a journal; readable for its owner only. Whether that
     /// was possible is to be asked by isUsable().
     explicit JournalFile(const QString &fileName);

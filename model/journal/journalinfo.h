@@ -5,8 +5,8 @@
 /// What is told about the journal of the running program.
 struct JournalInfo
 {
-    QString folder; ///< where journals are kept; empty: none is
-    QString file;   ///< absolute; empty while there is nothing to protect
+    QString folder;         ///< where journals are kept; empty: none is
+    QString file;           ///< absolute; empty while there is nothing to protect
     int lastForced = -1;    ///< ms that the last forced write took; negative: none yet
     int longestForced = -1; ///< ms, since the program was started
 };

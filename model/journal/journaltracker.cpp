@@ -216,9 +216,8 @@ void JournalTracker::findOrder(const Project &project, JournalDelta &delta, Pack
         const auto [beforeFirst, nowFirst] = std::mismatch(before.begin(), before.end(), now.begin(), now.end());
         if (beforeFirst == before.end() && nowFirst == now.end())
             continue;
-        const auto [beforeLast, nowLast] =
-            std::mismatch(before.rbegin(), std::make_reverse_iterator(beforeFirst), now.rbegin(),
-                          std::make_reverse_iterator(nowFirst));
+        const auto [beforeLast, nowLast] = std::mismatch(before.rbegin(), std::make_reverse_iterator(beforeFirst),
+                                                         now.rbegin(), std::make_reverse_iterator(nowFirst));
         packer.next().order(sensor, static_cast<int>(beforeFirst - before.begin()),
                             static_cast<int>(beforeLast.base() - beforeFirst),
                             std::vector<quint64>(nowFirst, nowLast.base()));

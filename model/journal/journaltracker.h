@@ -18,9 +18,9 @@ struct ProjectSettings;
 /// The state that decides whether there may be something to write; cheap to take and to compare.
 struct JournalMarks
 {
-    quint64 structure = 0; ///< ShotStore::structureRevision()
-    quint64 samples = 0;   ///< ShotStore::revision()
-    quint64 changes = 0;   ///< ModelChanges::count()
+    quint64 structure = 0;                         ///< ShotStore::structureRevision()
+    quint64 samples = 0;                           ///< ShotStore::revision()
+    quint64 changes = 0;                           ///< ModelChanges::count()
     std::array<double, kNumSensors> osziMinimum{}; ///< a change of them is not counted
     std::array<double, kNumSensors> osziMaximum{};
 };
@@ -32,8 +32,8 @@ struct JournalDelta
 
     JournalMarks marks;
     std::array<std::optional<std::vector<quint64>>, kNumSensors> order;
-    std::vector<std::pair<quint64, int>> counts;     ///< id and samples
-    std::vector<std::pair<int, int>> growing;        ///< sensor and index of the measurements that grew
+    std::vector<std::pair<quint64, int>> counts; ///< id and samples
+    std::vector<std::pair<int, int>> growing;    ///< sensor and index of the measurements that grew
     std::vector<std::pair<quint64, ShotNotes>> notes;
     std::optional<QByteArray> settings;
     std::optional<QByteArray> evaluation;

@@ -22,8 +22,8 @@ struct SavedShots
 {
     std::array<std::vector<SavedRun>, kNumSensors> runs; ///< in the order of the file
     ShotChecks checks;                                   ///< of the shots in the file
-    std::array<qint64, 5> pictures{};                    ///< QPixmap::cacheKey() of each; 0 for none, negative for one that the
-                                     ///< model does not have
+    std::array<qint64, 5> pictures{}; ///< QPixmap::cacheKey() of each; 0 for none, negative for one that the
+                                      ///< model does not have
 };
 
 /// All that the project holds now, as it is about to be written or was just read.

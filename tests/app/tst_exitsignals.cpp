@@ -99,7 +99,8 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     const QStringList arguments = QApplication::arguments();
     if (arguments.value(1) == "--child"_s)
-        return runChild(application, quint16(arguments.value(2).toUInt()), arguments.value(3), arguments.value(4) == "1"_s);
+        return runChild(application, quint16(arguments.value(2).toUInt()), arguments.value(3),
+                        arguments.value(4) == "1"_s);
     TestExitSignals test;
     return QTest::qExec(&test, arguments);
 }

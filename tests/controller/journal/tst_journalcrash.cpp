@@ -166,9 +166,8 @@ QByteArray withoutLabels(const QByteArray &digest)
 
 bool isKnownWithoutLabels(const std::vector<Step> &steps, const QByteArray &digest)
 {
-    return std::any_of(steps.begin(), steps.end(), [&digest](const Step &step) {
-        return withoutLabels(step.digest) == withoutLabels(digest);
-    });
+    return std::any_of(steps.begin(), steps.end(),
+                       [&digest](const Step &step) { return withoutLabels(step.digest) == withoutLabels(digest); });
 }
 
 /// Every project that a user could go on with: the file, and what each journal restores.
@@ -199,6 +198,7 @@ private slots:
     void killedAtRandomMoments()
     {
         qint64 oldest = 0; // ns
+        qint64 oldestToEnd = 0;
         int restored = 0;
         for (int round = 0; round < rounds; ++round) {
             const QTemporaryDir folder;
@@ -219,16 +219,21 @@ private slots:
                 const auto found = std::find_if(steps.rbegin(), steps.rend(),
                                                 [&digest](const Step &step) { return step.digest == digest; });
                 // The labels are in a file of their own: if the end came between the two, the journal has them.
-                const bool isHalf = found == steps.rend() && project == projects.front() && isKnownWithoutLabels(steps, digest);
+                const bool isHalf =
+                    found == steps.rend() && project == projects.front() && isKnownWithoutLabels(steps, digest);
                 QVERIFY2(found != steps.rend() || isHalf || digest.isEmpty(), "invented: "_ba + digest);
                 QVERIFY(areSamplesWhole(*project));
                 if (found != steps.rend()) // the state lasted until the next step
                     latest = qMax(latest, found == steps.rbegin() ? end : std::prev(found)->time);
             }
-            QVERIFY2(end - latest < 1000000000, "lost ms: "_ba + QByteArray::number((end - latest) / 1000000));
-            oldest = qMax(oldest, end - latest);
+            // Not until its end: on a busy computer the child may have got no turn for a while before that.
+            const qint64 lost = qMax(qint64(0), steps.back().time - latest);
+            QVERIFY2(lost < 1000000000, "lost ms: "_ba + QByteArray::number(lost / 1000000));
+            oldest = qMax(oldest, lost);
+            oldestToEnd = qMax(oldestToEnd, end - latest);
         }
-        qInfo("%d ends, %d with a journal; at most the last %d ms were lost", rounds, restored, int(oldest / 1000000));
+        qInfo("%d ends, %d with a journal; at most the last %d ms of work were lost, begun %d ms before the end",
+              rounds, restored, int(oldest / 1000000), int(oldestToEnd / 1000000));
         QVERIFY(restored * 4 > rounds);
     }
 };

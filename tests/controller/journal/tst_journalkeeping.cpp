@@ -272,7 +272,8 @@ private slots:
         QTest::qWait(60);
         QCOMPARE(bench.shots(), 2);
         QVERIFY(bench.model.journalInfo().file.isEmpty());
-        QVERIFY(QFile::setPermissions(m_dir->path(), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner));
+        QVERIFY(QFile::setPermissions(m_dir->path(),
+                                      QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner));
     }
 
     void forcedAtTheEndOfAShot()

@@ -73,14 +73,20 @@ private slots:
         columns<bool, Change>("hasFile", "change");
         const QVector<std::pair<const char *, Change>> changes{
             {"nothing", [](Model &) {}},
-            {"a new shot", [](Model &model) { addShot(model, {5.0, 6.0, 7.0}, 1.0, kTime); }},
+            {"a new shot",
+             [](Model &model) {
+                 addShot(model, {5.0, 6.0, 7.0}, 1.0, kTime);
+             }},
             {"a shot without samples", [](Model &model) { addShot(model, {}); }},
             {"one sensor is ahead", [](Model &model) { (void)model.appendMeasurement(0); }},
             {"an old shot grows", [](Model &model) { (void)model.appendSample(2, 0, 3.5); }},
             {"the first shot is deleted", [](Model &model) { (void)model.deleteChannel(0); }},
             {"a shot in the middle is deleted", [](Model &model) { (void)model.deleteChannel(1); }},
             {"all is deleted", [](Model &model) { model.clearData(); }},
-            {"project data", [](Model &model) { model.setProjectData({"Name"_s, "7"_s, {}, {}, {}, 12, 0.5, 1.5, 9}); }},
+            {"project data",
+             [](Model &model) {
+                 model.setProjectData({"Name"_s, "7"_s, {}, {}, {}, 12, 0.5, 1.5, 9});
+             }},
             {"comment", [](Model &model) { model.setComment("äöü €"_s); }},
             {"offset", [](Model &model) { model.setOffset(3, -1.25); }},
             {"colour", [](Model &model) { model.setColor(2, QColor(1, 2, 3)); }},
@@ -302,8 +308,7 @@ private slots:
         addShot(model, {1.0});
         const QByteArray before = journal.bytes + journalblock::packed(record);
         journal.write();
-        const std::optional<JournalContents> contents =
-            JournalRig::readFrom(before + journal.bytes.mid(good.size()));
+        const std::optional<JournalContents> contents = JournalRig::readFrom(before + journal.bytes.mid(good.size()));
         QVERIFY(contents);
         QCOMPARE(contents->sampleCount(), qint64(0)); // what comes behind does not count
         QVERIFY(!JournalRig::readFrom(journalblock::mark() + journalblock::packed(record)));
