@@ -180,6 +180,20 @@ private slots:
         QCOMPARE(restored(journal), textOf(model));
     }
 
+    /// As when the end comes after a save, before the journal is removed.
+    void aFileThatWasSavedOnceMore()
+    {
+        Model model(m_file);
+        JournalRig journal(model);
+        (void)model.appendSample(0, 3, 6.5);
+        journal.write();
+        const QString wanted = textOf(model);
+        (void)model.appendSample(0, 3, 7.5);
+        addShot(model, {1.0});
+        QVERIFY(model.save(m_file));
+        QCOMPARE(restored(journal), wanted);
+    }
+
     void restoredProjectIsUnsavedAndCanBeRestoredAgain()
     {
         Model model(m_file);
