@@ -11,7 +11,7 @@
 ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptions &options)
     : connector(options.port)
     , demoBox(options.demoProgram, options.demoStartTimeout)
-    , occupancy(view, model)
+    , occupancy(view, model, options.typingPause)
     , questions(occupancy)
     , progress(view, model)
     , display(view)
@@ -34,11 +34,14 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     , deletion({view, model, occupancy}, edits, recorder)
     , tabEdits(view, model, edits)
     , saving({view, model, occupancy}, progress, lines, edits)
-    , files({view, model, occupancy}, progress, lines, edits, saving)
+    , files({view, model, occupancy}, progress, lines, edits, saving,
+            RecordingEnd({view, model, occupancy}, connector, recorder, options.stopWait))
     , pictures({view, model, occupancy}, edits)
     , loggerList({view, model, occupancy}, link)
     , loggerFetch({view, model, occupancy}, connector, demo, transfers, options.temporaryDirectory)
     , loggerImport({view, model, occupancy}, progress, lines, edits, recorder)
+    , undoHistory(model)
+    , undo({view, model, occupancy}, undoHistory, edits, recorder)
     , protection({view, model, occupancy}, options.journal, recorder, {questions, progress, lines, saving})
 {
     setUpTransfers(options);
@@ -88,6 +91,7 @@ void ControllerParts::connectLink(View &view)
     QObject::connect(&link, &BoxLink::closing, &descriptions, &BoxDescriptions::stopWaiting);
     QObject::connect(&link, &BoxLink::closing, &loggerList, &LoggerList::reset);
     QObject::connect(&link, &BoxLink::left, &demo, &DemoLink::stop);
+    QObject::connect(&link, &BoxLink::left, &link, [this] { offer.withdraw(); });
     QObject::connect(&link, &BoxLink::demoLost, &demo, [this] { demo.onFailed(DemoBox::End::Ended); });
     QObject::connect(&demoBox, &DemoBox::listening, &demo, &DemoLink::onListening);
     QObject::connect(&demoBox, &DemoBox::failed, &demo, &DemoLink::onFailed);
@@ -98,11 +102,17 @@ void ControllerParts::connectLink(View &view)
 
 void ControllerParts::connectFiles()
 {
+    QObject::connect(&files, &ProjectFiles::boxDismissed, &link, &BoxLink::leaveForAnother);
     QObject::connect(&files, &ProjectFiles::boxGivenUp, &link, &BoxLink::leave);
+    QObject::connect(&files, &ProjectFiles::projectReplaced, &files, [this] {
+        offer.forgetAnswers();
+        recorder.restartShotClock();
+    });
     QObject::connect(&files, &ProjectFiles::cleared, &descriptions, &BoxDescriptions::describeAgain);
     QObject::connect(&files, &ProjectFiles::measurementsReplaced, &files, [this] { recorder.forgetSeries(); });
     QObject::connect(&files, &ProjectFiles::shown, &files, [this] { recorder.announceRunning(); });
     QObject::connect(&files, &ProjectFiles::shown, &period, &SamplingPeriod::matchProject);
+    QObject::connect(&undo, &UndoControl::samplingPeriodChanged, &period, &SamplingPeriod::matchProject);
     QObject::connect(&files, &ProjectFiles::quitting, &files, [this] { recorder.requestStop(); });
 }
 
