@@ -43,11 +43,13 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     , loggerImport({view, model, occupancy}, progress, lines, edits, recorder)
     , undoHistory(model)
     , undo({view, model, occupancy}, undoHistory, edits, recorder)
+    , protection({view, model, occupancy}, options.journal, recorder, {questions, progress, lines, saving})
 {
     setUpTransfers(options);
     handleMessages();
     connectLink(view);
     connectFiles();
+    connectJournal(view);
     connectView(view);
     connectTabs(view);
 }
@@ -114,6 +116,18 @@ void ControllerParts::connectFiles()
     QObject::connect(&files, &ProjectFiles::projectReplaced, &openNotice, &OpenNotice::show);
     QObject::connect(&undo, &UndoControl::samplingPeriodChanged, &period, &SamplingPeriod::matchProject);
     QObject::connect(&files, &ProjectFiles::quitting, &files, [this] { recorder.requestStop(); });
+}
+
+void ControllerParts::connectJournal(View &view)
+{
+    QObject::connect(&protection.journal, &Journal::told, &view, [&view](const QString &text) { view.showStatus(text); });
+    QObject::connect(&files, &ProjectFiles::quitting, &protection.journal, &Journal::discard);
+    // What takes long may end badly.
+    QObject::connect(&progress, &FileProgress::begun, &protection.journal, &Journal::takeChanges);
+    QObject::connect(&files, &ProjectFiles::interrupted, &files, [this] { recorder.requestStop(); });
+    QObject::connect(&files, &ProjectFiles::interruptionTaken, &protection.journal, &Journal::secure);
+    QObject::connect(&protection.recovery, &Recovery::restored, &files, [this] { recorder.forgetSeries(); });
+    QObject::connect(&protection.recovery, &Recovery::restored, &period, &SamplingPeriod::matchProject);
 }
 
 void ControllerParts::connectView(View &view)

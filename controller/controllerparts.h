@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controller/deferredquestions.h"
+#include "controller/journal/journalparts.h"
 #include "controller/link/boxdescriptions.h"
 #include "controller/link/boxlink.h"
 #include "controller/link/demolink.h"
@@ -71,12 +72,14 @@ struct ControllerParts
     LoggerImport loggerImport;
     UndoHistory undoHistory;
     UndoControl undo;
+    JournalParts protection;
 
 private:
     void setUpTransfers(const ControllerOptions &options);
     void handleMessages();
     void connectLink(View &view);
     void connectFiles();
+    void connectJournal(View &view);
     void connectView(View &view);
     void connectTabs(View &view);
 };

@@ -73,6 +73,7 @@ void Model::setTimestamp(int measurement, const QDateTime &timestamp)
     qCDebug(lcModel) << Q_FUNC_INFO << measurement << timestamp;
     if (hasShot(measurement, Q_FUNC_INFO))
         m_project.meta.setTimestamp(measurement, timestamp);
+    m_changes.countOne();
 }
 
 void Model::setSamplingPeriod(int measurement, int milliseconds)
@@ -301,6 +302,7 @@ void Model::clear()
     setCurrentFile(QString());
     setFileList({});
     m_files.setModified(false);
+    m_files.noteSaved({});
     resetOffsets();
     m_project.resetPhaseNames(usualPhaseNames());
     m_project.clearSensors(Q_FUNC_INFO);

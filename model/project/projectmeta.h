@@ -83,6 +83,7 @@ struct ProjectMeta
     /// Milliseconds; 0 if unknown.
     [[nodiscard]] int period(int shot) const;
     void setPeriod(int shot, int milliseconds);
+    void setOthers(int shot, const QJsonObject &values);
     [[nodiscard]] ShotMeta shot(int shot) const;
     /// All that the shots from there on have moves up by one.
     void insertShot(int shot, const ShotMeta &meta);
