@@ -36,6 +36,7 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     , saving({view, model, occupancy}, progress, lines, edits)
     , files({view, model, occupancy}, progress, lines, edits, saving,
             RecordingEnd({view, model, occupancy}, connector, recorder, options.stopWait))
+    , openNotice({view, model, occupancy})
     , pictures({view, model, occupancy}, edits)
     , loggerList({view, model, occupancy}, link)
     , loggerFetch({view, model, occupancy}, connector, demo, transfers, options.temporaryDirectory)
@@ -110,6 +111,7 @@ void ControllerParts::connectFiles()
     QObject::connect(&files, &ProjectFiles::measurementsReplaced, &files, [this] { recorder.forgetSeries(); });
     QObject::connect(&files, &ProjectFiles::shown, &files, [this] { recorder.announceRunning(); });
     QObject::connect(&files, &ProjectFiles::shown, &period, &SamplingPeriod::matchProject);
+    QObject::connect(&files, &ProjectFiles::projectReplaced, &openNotice, &OpenNotice::show);
     QObject::connect(&undo, &UndoControl::samplingPeriodChanged, &period, &SamplingPeriod::matchProject);
     QObject::connect(&files, &ProjectFiles::quitting, &files, [this] { recorder.requestStop(); });
 }
@@ -143,6 +145,7 @@ void ControllerParts::connectTabs(View &view)
 
     const TabSensors *sensors = view.tabSensors();
     QObject::connect(sensors, &TabSensors::sensorNameEdited, &tabEdits, &TabEdits::setSensorName);
+    QObject::connect(sensors, &TabSensors::sensorUnitEdited, &tabEdits, &TabEdits::setSensorUnit);
     QObject::connect(sensors, &TabSensors::sensorColorEdited, &tabEdits, &TabEdits::setSensorColor);
     QObject::connect(sensors, &TabSensors::sensorLimitsEdited, &tabEdits, &TabEdits::setSensorLimits);
 }

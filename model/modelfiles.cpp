@@ -6,6 +6,7 @@
 #include "model/project/csvexport.h"
 #include "model/project/filework.h"
 #include "model/project/metafile.h"
+#include "model/project/metatransfer.h"
 #include "model/project/pacer.h"
 #include "model/project/project.h"
 #include "model/project/projectdocument.h"
@@ -47,6 +48,7 @@ ModelFiles::~ModelFiles() = default;
 
 void ModelFiles::setCurrentFile(const QString &absolutePath)
 {
+    m_openLosses = {}; // a saved file holds what the project does
     if (std::exchange(m_currentFile, absolutePath) != absolutePath)
         m_changes.fileState();
 }
@@ -137,11 +139,16 @@ std::optional<ModelFiles::Opened> ModelFiles::read(QFile &file)
 void ModelFiles::apply(Opened &opened, const QString &absolutePath, const char *function)
 {
     const ModelChanges::Silence silence(m_changes);
+    OpenLosses losses = lossesOf(opened.document, opened.images);
     m_editor.clear();
     m_project.images = std::move(opened.images);
     applyDocument(opened.document, absolutePath, m_editor, m_project, function);
-    if (std::optional<ProjectMeta> meta = openMeta(absolutePath, m_project.shots, function))
-        m_project.meta = *std::move(meta);
+    MetaReading reading = openMeta(absolutePath, m_project.shots, function);
+    losses.meta = reading.state;
+    losses.metaFile = reading.fileName;
+    if (reading.state == MetaState::Read)
+        applyMeta(std::move(reading.meta), m_project);
+    m_openLosses = std::move(losses);
 }
 
 bool ModelFiles::save(const QString &fileName, const char *function)
@@ -150,7 +157,7 @@ bool ModelFiles::save(const QString &fileName, const char *function)
         return false;
     // Events come in while the project is written, so what goes into the file beside it is taken now.
     const quint64 changesBefore = countChanges();
-    const ProjectMeta meta = m_project.meta;
+    const ProjectMeta meta = metaOf(m_project);
     const ShotChecks checks = shotChecks(m_project.shots);
     if (!writeProject(fileName))
         return false;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/project/openlosses.h"
+
 #include <QString>
 
 #include <memory>
@@ -35,6 +37,9 @@ public:
     /// False if the last save() wrote the project, but not the file beside it.
     [[nodiscard]] bool isMetaSaved() const { return m_metaSaved; }
 
+    /// Of the file that was opened, until it is saved, another one is opened or a project begins.
+    [[nodiscard]] const OpenLosses &openLosses() const { return m_openLosses; }
+
     [[nodiscard]] QString currentFile() const { return m_currentFile; }
     void setCurrentFile(const QString &absolutePath);
     [[nodiscard]] bool isModified() const { return m_modified; }
@@ -57,6 +62,7 @@ private:
     FileWork &m_work;
     std::unique_ptr<ReadAhead> m_readAhead;
     QString m_currentFile; // absolute
+    OpenLosses m_openLosses;
     bool m_modified = false;
     bool m_metaSaved = true;
 };
