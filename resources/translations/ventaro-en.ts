@@ -110,6 +110,22 @@
         <source>Symbole. Apache 2.0.</source>
         <translation>Icons. Apache 2.0.</translation>
     </message>
+    <message>
+        <source>wird nicht geführt</source>
+        <translation>none is kept</translation>
+    </message>
+    <message>
+        <source>leer, da nichts ungespeichert ist</source>
+        <translation>empty, as nothing is unsaved</translation>
+    </message>
+    <message>
+        <source>Schreiben auf den Datenträger: zuletzt %1 ms, höchstens %2 ms</source>
+        <translation>Writing to the disk: last %1 ms, at most %2 ms</translation>
+    </message>
+    <message>
+        <source>Sicherung</source>
+        <translation>Recovery journal</translation>
+    </message>
 </context>
 <context>
     <name>BlackBoxDays</name>
@@ -193,6 +209,10 @@
     <message>
         <source>Namen und Grenzen der Sensoren kommen jetzt von der Box.</source>
         <translation>The names and limits of the sensors now come from the box.</translation>
+    </message>
+    <message>
+        <source>Übernahme der Sensorbeschreibung</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -551,6 +571,22 @@
         <source>Ab &quot;%1&quot; ist die Eingabe fehlerhaft. Dieser Teil und alles dahinter wird nicht gelöscht.</source>
         <translation>From &quot;%1&quot; on the input is malformed. This part and all behind it will not be deleted.</translation>
     </message>
+    <message>
+        <source>Mit Strg+Z lässt sich das rückgängig machen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Es gibt keine Messung.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Das ist 1 Messung.</source>
+        <translation>This is 1 measurement.</translation>
+    </message>
+    <message>
+        <source>Das sind %1 Messungen.</source>
+        <translation>These are %1 measurements.</translation>
+    </message>
 </context>
 <context>
     <name>DemoLink</name>
@@ -662,6 +698,14 @@
     <message>
         <source>Phase %1</source>
         <translation>Phase %1</translation>
+    </message>
+    <message>
+        <source>Spalten von %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Grenzen von %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -918,6 +962,21 @@
     </message>
 </context>
 <context>
+    <name>Journal</name>
+    <message>
+        <source>kein Speicherplatz</source>
+        <translation>no space left</translation>
+    </message>
+    <message>
+        <source>keine Schreibrechte</source>
+        <translation>no permission to write</translation>
+    </message>
+    <message>
+        <source>Ungespeicherte Änderungen können nicht gesichert werden (%1: %2). Die Aufzeichnung läuft weiter; bitte das Projekt speichern.</source>
+        <translation>Unsaved changes cannot be protected (%1: %2). The recording goes on; please save the project.</translation>
+    </message>
+</context>
+<context>
     <name>LimitsPanel</name>
     <message>
         <source>Cp %1</source>
@@ -1027,6 +1086,14 @@ Import them again?</translation>
         <source>&quot;Nein&quot; importiert nur die neuen Dateien. Escape oder Schließen bricht den Import ab.</source>
         <translation>&quot;No&quot; imports the new files only. Escape or closing cancels the import.</translation>
     </message>
+    <message>
+        <source>Import einer Datei</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import von %1 Dateien</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>MainToolBar</name>
@@ -1096,12 +1163,16 @@ Esc cancels.</translation>
         <translation>Error in the range &quot;%1&quot;: nothing was deleted from there on.</translation>
     </message>
     <message>
-        <source>Das ist 1 Messung.</source>
-        <translation>This is 1 measurement.</translation>
+        <source>Löschen einer Messung</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Das sind %1 Messungen.</source>
-        <translation>These are %1 measurements.</translation>
+        <source>Löschen von %1 Messungen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Löschen aller Messdaten</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1125,6 +1196,10 @@ Esc cancels.</translation>
     <message>
         <source>WZ öffnen</source>
         <translation>Mould opening</translation>
+    </message>
+    <message>
+        <source>Zurücksetzen der Offsets</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1205,6 +1280,13 @@ Esc cancels.</translation>
     <message>
         <source>Diagramm dieses Sensors zeigen</source>
         <translation>Show this sensor&apos;s plot</translation>
+    </message>
+</context>
+<context>
+    <name>OsziPage</name>
+    <message>
+        <source>Löschen der Marker</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1670,6 +1752,10 @@ double-click fits the value range.</translation>
         <source>Phase %1</source>
         <translation>Phase %1</translation>
     </message>
+    <message>
+        <source>Übernahme der Projektbeschreibung</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ProjectPictures</name>
@@ -1736,6 +1822,18 @@ Continue?</translation>
     <message>
         <source>PNG-Bild (*.png)</source>
         <translation>PNG picture (*.png)</translation>
+    </message>
+    <message>
+        <source>Ersetzen von Bild %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Einfügen von Bild %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Löschen von Bild %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1938,6 +2036,134 @@ Continue?</translation>
     </message>
 </context>
 <context>
+    <name>Recovery</name>
+    <message>
+        <source>(ohne Namen)</source>
+        <translation>(unnamed)</translation>
+    </message>
+    <message>
+        <source>Projekt: %1</source>
+        <translation>Project: %1</translation>
+    </message>
+    <message>
+        <source>Datei: %1</source>
+        <translation>File: %1</translation>
+    </message>
+    <message>
+        <source>Stand: %1</source>
+        <translation>As of: %1</translation>
+    </message>
+    <message>
+        <source>Messungen: %1</source>
+        <translation>Measurements: %1</translation>
+    </message>
+    <message>
+        <source>Messwerte: %1</source>
+        <translation>Samples: %1</translation>
+    </message>
+    <message>
+        <source>Die Projektdatei wurde danach noch geändert: %1</source>
+        <translation>The project file was changed after that: %1</translation>
+    </message>
+    <message>
+        <source>Wiederherstellung</source>
+        <translation>Recovery</translation>
+    </message>
+    <message>
+        <source>Das Programm wurde beendet, bevor dieses Projekt gespeichert war:</source>
+        <translation>The program ended before this project was saved:</translation>
+    </message>
+    <message>
+        <source>„Später“ lässt alles, wie es ist; beim nächsten Start wird wieder gefragt.</source>
+        <translation>“Later” leaves everything as it is; you will be asked again at the next start.</translation>
+    </message>
+    <message>
+        <source>Wiederherstellen</source>
+        <translation>Restore</translation>
+    </message>
+    <message>
+        <source>Später</source>
+        <translation>Later</translation>
+    </message>
+    <message>
+        <source>Verwerfen</source>
+        <translation>Discard</translation>
+    </message>
+    <message>
+        <source>Ungespeicherte Änderungen aus einem früheren Lauf sind nicht lesbar. Sie bleiben aufgehoben:
+%1</source>
+        <translation>Unsaved changes of an earlier run cannot be read. They are kept:
+%1</translation>
+    </message>
+    <message>
+        <source>Die ungespeicherten Änderungen bleiben aufgehoben.</source>
+        <translation>The unsaved changes are kept.</translation>
+    </message>
+    <message>
+        <source>Achtung: Diese ungespeicherten Änderungen gehen endgültig verloren!</source>
+        <translation>Attention: These unsaved changes will be lost for good!</translation>
+    </message>
+    <message>
+        <source>Behalten</source>
+        <translation>Keep</translation>
+    </message>
+    <message>
+        <source>Endgültig verwerfen</source>
+        <translation>Discard for good</translation>
+    </message>
+    <message>
+        <source>%1 kann nicht gelöscht werden.</source>
+        <translation>%1 cannot be deleted.</translation>
+    </message>
+    <message>
+        <source>Das geöffnete Projekt ist noch nicht gespeichert.</source>
+        <translation>The open project has not been saved yet.</translation>
+    </message>
+    <message>
+        <source>Es wird durch das wiederhergestellte Projekt ersetzt.</source>
+        <translation>The restored project will take its place.</translation>
+    </message>
+    <message>
+        <source>Speichern und wiederherstellen</source>
+        <translation>Save and restore</translation>
+    </message>
+    <message>
+        <source>Loading...</source>
+        <translation>Loading...</translation>
+    </message>
+    <message>
+        <source>Das Projekt kann nicht wiederhergestellt werden: Der Speicher reicht nicht. Die Daten bleiben aufgehoben; nach einem Neustart kann es noch einmal versucht werden.</source>
+        <translation>The project cannot be restored: there is not enough memory. The data is kept; you can try again after a restart.</translation>
+    </message>
+    <message>
+        <source>Projekt wiederhergestellt; es ist noch nicht gespeichert.</source>
+        <translation>Project restored; it has not been saved yet.</translation>
+    </message>
+    <message>
+        <source>Fehlende Messungen: %1</source>
+        <translation>Missing measurements: %1</translation>
+    </message>
+    <message>
+        <source>Messungen ohne ihren Anfang: %1</source>
+        <translation>Measurements without their beginning: %1</translation>
+    </message>
+    <message>
+        <source>Fehlende Bilder: %1</source>
+        <translation>Missing pictures: %1</translation>
+    </message>
+    <message>
+        <source>Die Projektdatei fehlt oder wurde inzwischen geändert. Nicht alles konnte wiederhergestellt werden:</source>
+        <translation>The project file is missing or has been changed meanwhile. Not everything could be restored:</translation>
+    </message>
+</context>
+<context>
+    <name>RowRanges</name>
+    <message>
+        <source>Bereich von %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>RuntimeBoxPlots</name>
     <message>
         <source>Start [s]</source>
@@ -2042,6 +2268,10 @@ Continue?</translation>
     <message>
         <source>Achtung: Das Projekt ist mit %1 ms je Wert aufgezeichnet, die Box misst mit %2 ms.</source>
         <translation>Attention: the project was recorded at %1 ms per value, the box samples at %2 ms.</translation>
+    </message>
+    <message>
+        <source>Änderung der Abtastrate</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2165,6 +2395,13 @@ Please check output:</translation>
     <message>
         <source>Ausgeschaltet gibt es keine Grenze.</source>
         <translation>There is no limit while this is off.</translation>
+    </message>
+</context>
+<context>
+    <name>SensorEditor</name>
+    <message>
+        <source>Änderung von %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2460,6 +2697,69 @@ Identification of this computer:
     </message>
 </context>
 <context>
+    <name>TabEdits</name>
+    <message>
+        <source>Eingabe in &quot;Projekt&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Projektnummer&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Bearbeiter&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Datum&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Kunde&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Schließkraft&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Einspritzzeit&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Nachdruckzeit&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Druck&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Kommentar&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name der Phase %1</source>
+        <translation>Name of phase %1</translation>
+    </message>
+    <message>
+        <source>Marker %1</source>
+        <translation>Marker %1</translation>
+    </message>
+    <message>
+        <source>Umstellung der Marker</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Offset von %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Änderung von %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>TabEvaluation</name>
     <message>
         <source>Übersicht</source>
@@ -2476,6 +2776,17 @@ Identification of this computer:
     <message>
         <source>Auswertung 3/3: Überlagerung</source>
         <translation>Evaluation 3/3: overlay</translation>
+    </message>
+    <message>
+        <source>Schwellen der Laufzeit</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TabEvaluationOverlay</name>
+    <message>
+        <source>Bezeichnung von Messung %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2684,6 +2995,48 @@ At the far right the view follows the newest values.</translation>
     <message>
         <source>Untere Grenze %1</source>
         <translation>Lower limit %1</translation>
+    </message>
+</context>
+<context>
+    <name>UndoActions</name>
+    <message>
+        <source>%1 rückgängig machen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rückgängig</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 wiederholen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wiederholen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nimmt den letzten Schritt zurück</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Macht den zuletzt zurückgenommenen Schritt noch einmal</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>UndoControl</name>
+    <message>
+        <source>Rückgängig gemacht: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wiederholt: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die Abtastrate lässt sich nicht ändern, solange eine Aufzeichnung läuft.</source>
+        <translation>The sampling period cannot be changed while a recording is running.</translation>
     </message>
 </context>
 <context>
