@@ -1,6 +1,7 @@
 #include "model/journal/journaltracker.h"
 #include "model/model.h"
 
+#include <QGuiApplication>
 #include <QLoggingCategory>
 
 #include <benchmark/benchmark.h>
@@ -93,6 +94,7 @@ BENCHMARK(anEdit)->Arg(1)->Arg(10000)->Iterations(200)->Unit(benchmark::kMicrose
 
 int main(int argc, char *argv[])
 {
+    const QGuiApplication application(argc, argv); // a model has pictures
     QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

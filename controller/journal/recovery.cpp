@@ -184,7 +184,7 @@ bool Recovery::mayReplaceProject()
     choice.hint = tr("Es wird durch das wiederhergestellte Projekt ersetzt.");
     choice.answers = QStringList{tr("Speichern und wiederherstellen"), tr("Später")};
     choice.safest = 1;
-    return choose(choice) == 0 && m_needs.saving.saveUnsavedChanges() && !m_desk.model.isProjectModified();
+    return choose(choice) == 0 && m_needs.saving.saveUnsavedChanges([] {}) && !m_desk.model.isProjectModified();
 }
 
 // --- Restoring ---

@@ -41,6 +41,18 @@ void syncFolder(const QString &folder)
 #endif
 }
 
+// A write that falls short gives no reason; the next one does.
+bool writeAll(QFile &file, const QByteArray &bytes)
+{
+    for (qint64 done = 0; done < bytes.size();) {
+        const qint64 part = file.write(bytes.constData() + done, bytes.size() - done);
+        if (part <= 0)
+            return false;
+        done += part;
+    }
+    return true;
+}
+
 JournalFault::Kind kindOf(QFileDevice::FileError error, int number)
 {
     if (error == QFileDevice::ResourceError || number == ENOSPC)
@@ -82,7 +94,7 @@ bool JournalFile::append(const std::vector<QByteArray> &blocks)
     qint64 size = m_size;
     for (const QByteArray &block : blocks) {
         errno = 0;
-        if (m_file.write(block) != block.size()) {
+        if (!writeAll(m_file, block)) {
             noteFault();
             // Or what is appended later would stand behind a torn block.
             m_usable = m_file.resize(m_size) && m_file.seek(m_size);

@@ -45,7 +45,44 @@ QPixmap picture(int width)
     return pixmap;
 }
 
+using Change = std::function<void(Model &)>;
+
 const QDateTime kTime(QDate(2026, 5, 4), QTime(3, 2, 1, 500));
+
+const QVector<std::pair<const char *, Change>> kChanges{
+    {"nothing", [](Model &) {}},
+    {"a new shot",
+     [](Model &model) {
+         addShot(model, {5.0, 6.0, 7.0}, 1.0, kTime);
+     }},
+    {"a shot without samples", [](Model &model) { addShot(model, {}); }},
+    {"one sensor is ahead", [](Model &model) { (void)model.appendMeasurement(0); }},
+    {"an old shot grows", [](Model &model) { (void)model.appendSample(2, 0, 3.5); }},
+    {"the first shot is deleted", [](Model &model) { (void)model.deleteChannel(0); }},
+    {"a shot in the middle is deleted", [](Model &model) { (void)model.deleteChannel(1); }},
+    {"all is deleted", [](Model &model) { model.clearData(); }},
+    {"project data",
+     [](Model &model) {
+         model.setProjectData({"Name"_s, "7"_s, {}, {}, {}, 12, 0.5, 1.5, 9});
+     }},
+    {"comment", [](Model &model) { model.setComment("äöü €"_s); }},
+    {"offset", [](Model &model) { model.setOffset(3, -1.25); }},
+    {"colour", [](Model &model) { model.setColor(2, QColor(1, 2, 3)); }},
+    {"marker", [](Model &model) { model.setVerticalMarkerAbsolute(1, 77); }},
+    {"range, which is not announced", [](Model &model) { model.setOsziMaximum(4, 99.5); }},
+    {"sensor", [](Model &model) { model.setSensorName(1, "Druck"_s); }},
+    {"label", [](Model &model) { model.setShotLabel(0, "gut"_s); }},
+    {"time stamp", [](Model &model) { model.setTimestamp(0, kTime.addDays(1)); }},
+    {"settings of the evaluation",
+     [](Model &model) {
+         ProjectMeta meta = model.projectMeta();
+         meta.sensors[2].chosenQuantity = "peak"_s;
+         model.setProjectMeta(meta);
+     }},
+    {"a new picture", [](Model &model) { model.setImage(4, picture(40)); }},
+    {"another picture", [](Model &model) { model.setImage(0, picture(50)); }},
+    {"no picture", [](Model &model) { model.setImage(1, QPixmap()); }},
+};
 
 } // namespace
 
@@ -69,43 +106,8 @@ private slots:
 
     void everyChangeIsRestored_data()
     {
-        using Change = std::function<void(Model &)>;
         columns<bool, Change>("hasFile", "change");
-        const QVector<std::pair<const char *, Change>> changes{
-            {"nothing", [](Model &) {}},
-            {"a new shot",
-             [](Model &model) {
-                 addShot(model, {5.0, 6.0, 7.0}, 1.0, kTime);
-             }},
-            {"a shot without samples", [](Model &model) { addShot(model, {}); }},
-            {"one sensor is ahead", [](Model &model) { (void)model.appendMeasurement(0); }},
-            {"an old shot grows", [](Model &model) { (void)model.appendSample(2, 0, 3.5); }},
-            {"the first shot is deleted", [](Model &model) { (void)model.deleteChannel(0); }},
-            {"a shot in the middle is deleted", [](Model &model) { (void)model.deleteChannel(1); }},
-            {"all is deleted", [](Model &model) { model.clearData(); }},
-            {"project data",
-             [](Model &model) {
-                 model.setProjectData({"Name"_s, "7"_s, {}, {}, {}, 12, 0.5, 1.5, 9});
-             }},
-            {"comment", [](Model &model) { model.setComment("äöü €"_s); }},
-            {"offset", [](Model &model) { model.setOffset(3, -1.25); }},
-            {"colour", [](Model &model) { model.setColor(2, QColor(1, 2, 3)); }},
-            {"marker", [](Model &model) { model.setVerticalMarkerAbsolute(1, 77); }},
-            {"range, which is not announced", [](Model &model) { model.setOsziMaximum(4, 99.5); }},
-            {"sensor", [](Model &model) { model.setSensorName(1, "Druck"_s); }},
-            {"label", [](Model &model) { model.setShotLabel(0, "gut"_s); }},
-            {"time stamp", [](Model &model) { model.setTimestamp(0, kTime.addDays(1)); }},
-            {"settings of the evaluation",
-             [](Model &model) {
-                 ProjectMeta meta = model.projectMeta();
-                 meta.sensors[2].chosenQuantity = "peak"_s;
-                 model.setProjectMeta(meta);
-             }},
-            {"a new picture", [](Model &model) { model.setImage(4, picture(40)); }},
-            {"another picture", [](Model &model) { model.setImage(0, picture(50)); }},
-            {"no picture", [](Model &model) { model.setImage(1, QPixmap()); }},
-        };
-        for (const auto &[name, change] : changes) {
+        for (const auto &[name, change] : kChanges) {
             row((QByteArray(name) + ", in a file").constData(), true, change);
             row((QByteArray(name) + ", without a file").constData(), false, change);
         }
