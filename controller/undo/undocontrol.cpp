@@ -28,6 +28,7 @@ UndoControl::UndoControl(const Desk &desk, UndoHistory &history, ProjectEdits &e
     , m_actions(&desk.view, nameOf(history, &UndoHistory::stepToUndo), nameOf(history, &UndoHistory::stepToRedo))
 {
     connect(&m_history, &UndoHistory::changed, &m_actions, &UndoActions::refresh);
+    connect(&m_history, &UndoHistory::actionAdded, &m_actions, &UndoActions::forgetTyping);
     connect(&m_actions, &UndoActions::undoTriggered, this, &UndoControl::undo);
     connect(&m_actions, &UndoActions::redoTriggered, this, &UndoControl::redo);
 }
@@ -56,6 +57,7 @@ void UndoControl::run(Next next, Toggle toggle, const QString &pattern)
     const int clock = m_desk.model.clock();
     m_edits.markModified();
     (m_history.*toggle)(m_recorder.growingShot());
+    m_actions.forgetTyping();
     m_desk.view.showStatus(text);
     if (m_desk.model.clock() != clock)
         emit samplingPeriodChanged();

@@ -44,6 +44,7 @@ UndoHistory::~UndoHistory()
 void UndoHistory::stepMade(EditStep step)
 {
     const bool joins = joinsLatest(step);
+    const bool isAction = step.mergeKey.isEmpty();
     m_sinceInput.start();
     m_mayJoin = true;
     const int latest = m_stack.index() - 1;
@@ -58,6 +59,8 @@ void UndoHistory::stepMade(EditStep step)
     }
     enforceLimits(m_stack.index() - 1);
     emit changed();
+    if (isAction)
+        emit actionAdded();
 }
 
 bool UndoHistory::joinsLatest(const EditStep &step) const
@@ -141,12 +144,12 @@ void UndoHistory::enforceLimits(int latest)
 {
     qint64 used = bytes();
     const qint64 most = largestSize(used);
-    int first = 0;
-    for (; used > most && first < latest; ++first)
-        used -= stepAt(first)->bytes();
     int last = m_stack.count() - 1;
     for (; used > most && last > latest; --last)
         used -= stepAt(last)->bytes();
+    int first = 0;
+    for (; used > most && first < latest; ++first)
+        used -= stepAt(first)->bytes();
     if (last - first + 1 < m_stack.count())
         keepOnly(first, last - first + 1);
 }
