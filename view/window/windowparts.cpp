@@ -4,8 +4,8 @@
 #include "view/home/aboutdialog.h"
 #include "view/oscilloscope/taboszilloscope.h"
 #include "view/terminal/tabdatalogger.h"
-#include "view/window/prompts/dialogprompts.h"
 #include "view/window/mainwindow.h"
+#include "view/window/prompts/dialogprompts.h"
 #include "view/window/windowsignals.h"
 
 WindowParts::WindowParts(MainWindow *face, Model *data, std::unique_ptr<UserPrompts> prompts)
