@@ -28,7 +28,6 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
                    {options.deviceDescriptionTimeout, options.sensorDescriptionTimeout})
     , period({view, model, occupancy}, connector, edits, recorder)
     , offer({view, model, occupancy}, questions, lines, edits)
-    , transfers({view, model, occupancy})
     , firmware({view, model, occupancy}, connector, link, demo, options.restartWait)
     , recording({view, model, occupancy}, recorder, link)
     , deletion({view, model, occupancy}, edits, recorder)
@@ -37,10 +36,9 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     , files({view, model, occupancy}, progress, lines, edits, saving)
     , pictures({view, model, occupancy}, edits)
     , loggerList({view, model, occupancy}, link)
-    , loggerFetch({view, model, occupancy}, connector, demo, transfers, options.temporaryDirectory)
+    , loggerFetch({view, model, occupancy}, connector, demo, options.temporaryDirectory)
     , loggerImport({view, model, occupancy}, progress, lines, edits, recorder)
-    , undoHistory(model)
-    , undo({view, model, occupancy}, undoHistory, edits, recorder)
+    , undo({view, model, occupancy}, edits, recorder)
 {
     setUpTransfers(options);
     handleMessages();
@@ -61,7 +59,6 @@ void ControllerParts::setUpTransfers(const ControllerOptions &options)
 {
     connector.scp().setOptions(
         {options.scpToolFile, theme::deviceUser, theme::devicePassword, options.deviceAddress, options.scpTimeouts});
-    transfers.attach(connector.scp());
 }
 
 void ControllerParts::handleMessages()

@@ -10,7 +10,6 @@
 #include "controller/logger/loggerfetch.h"
 #include "controller/logger/loggerimport.h"
 #include "controller/logger/loggerlist.h"
-#include "controller/logger/transferdialogs.h"
 #include "controller/occupancy.h"
 #include "controller/project/fileprogress.h"
 #include "controller/project/measurementdeletion.h"
@@ -25,7 +24,6 @@
 #include "controller/recordingactions.h"
 #include "controller/recordingdisplay.h"
 #include "controller/undo/undocontrol.h"
-#include "controller/undo/undohistory.h"
 #include "device/demobox.h"
 #include "device/mesotraconnector.h"
 
@@ -56,7 +54,6 @@ struct ControllerParts
     BoxDescriptions descriptions;
     SamplingPeriod period;
     ProjectOffer offer;
-    TransferDialogs transfers;
     FirmwareUpdate firmware;
     RecordingActions recording;
     MeasurementDeletion deletion;
@@ -67,7 +64,6 @@ struct ControllerParts
     LoggerList loggerList;
     LoggerFetch loggerFetch;
     LoggerImport loggerImport;
-    UndoHistory undoHistory;
     UndoControl undo;
 
 private:

@@ -240,5 +240,5 @@ private:
     std::unique_ptr<Editor> m_editor;
     ModelFiles m_files;
     BlackBoxImport m_import;
-    ModelEdits m_edits{*this, m_project, m_import.files(), m_changes};
+    ModelEdits m_edits{m_project, m_import.files(), m_changes};
 };

@@ -4,7 +4,6 @@
 #include "controller/occupancy.h"
 #include "controller/recording/projectedits.h"
 #include "controller/recording/recorder.h"
-#include "controller/undo/undohistory.h"
 #include "model/model.h"
 #include "view/window/view.h"
 
@@ -20,12 +19,12 @@ UndoActions::StepName nameOf(const UndoHistory &history, const EditStep *(UndoHi
 
 } // namespace
 
-UndoControl::UndoControl(const Desk &desk, UndoHistory &history, ProjectEdits &edits, const Recorder &recorder)
+UndoControl::UndoControl(const Desk &desk, ProjectEdits &edits, const Recorder &recorder)
     : m_desk(desk)
-    , m_history(history)
+    , m_history(desk.model)
     , m_edits(edits)
     , m_recorder(recorder)
-    , m_actions(&desk.view, nameOf(history, &UndoHistory::stepToUndo), nameOf(history, &UndoHistory::stepToRedo))
+    , m_actions(&desk.view, nameOf(m_history, &UndoHistory::stepToUndo), nameOf(m_history, &UndoHistory::stepToRedo))
 {
     connect(&m_history, &UndoHistory::changed, &m_actions, &UndoActions::refresh);
     connect(&m_history, &UndoHistory::actionAdded, &m_actions, &UndoActions::forgetTyping);

@@ -1,6 +1,7 @@
 #include "controller/undo/undohistory.h"
 
 #include "controller/undo/memoryinuse.h"
+#include "model/changescope.h"
 #include "model/model.h"
 
 #include <QUndoCommand>
@@ -118,8 +119,10 @@ void UndoHistory::redo(const ShotIds &untouched)
 
 void UndoHistory::toggle(EditStep &step)
 {
-    if (!m_isRearranging)
-        m_model.edits().toggle(step, m_untouched);
+    if (m_isRearranging)
+        return;
+    const ChangeScope bundle(&m_model); // also opens signals that a deletion has left blocked
+    m_model.edits().toggle(step, m_untouched);
 }
 
 // --- Limits --------------------------------------------------------------------------------------------------------
