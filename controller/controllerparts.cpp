@@ -11,7 +11,7 @@
 ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptions &options)
     : connector(options.port)
     , demoBox(options.demoProgram, options.demoStartTimeout)
-    , occupancy(view, model)
+    , occupancy(view, model, options.typingPause)
     , questions(occupancy)
     , progress(view, model)
     , display(view)
@@ -33,7 +33,9 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     , deletion({view, model, occupancy}, edits, recorder)
     , tabEdits(view, model, edits)
     , saving({view, model, occupancy}, progress, lines, edits)
-    , files({view, model, occupancy}, progress, lines, edits, saving)
+    , files({view, model, occupancy}, progress, lines, edits, saving,
+            RecordingEnd({view, model, occupancy}, connector, recorder, options.stopWait))
+    , openNotice({view, model, occupancy})
     , pictures({view, model, occupancy}, edits)
     , loggerList({view, model, occupancy}, link)
     , loggerFetch({view, model, occupancy}, connector, demo, options.temporaryDirectory)
@@ -85,6 +87,7 @@ void ControllerParts::connectLink(View &view)
     QObject::connect(&link, &BoxLink::closing, &descriptions, &BoxDescriptions::stopWaiting);
     QObject::connect(&link, &BoxLink::closing, &loggerList, &LoggerList::reset);
     QObject::connect(&link, &BoxLink::left, &demo, &DemoLink::stop);
+    QObject::connect(&link, &BoxLink::left, &link, [this] { offer.withdraw(); });
     QObject::connect(&link, &BoxLink::demoLost, &demo, [this] { demo.onFailed(DemoBox::End::Ended); });
     QObject::connect(&demoBox, &DemoBox::listening, &demo, &DemoLink::onListening);
     QObject::connect(&demoBox, &DemoBox::failed, &demo, &DemoLink::onFailed);
@@ -95,11 +98,17 @@ void ControllerParts::connectLink(View &view)
 
 void ControllerParts::connectFiles()
 {
+    QObject::connect(&files, &ProjectFiles::boxDismissed, &link, &BoxLink::leaveForAnother);
     QObject::connect(&files, &ProjectFiles::boxGivenUp, &link, &BoxLink::leave);
+    QObject::connect(&files, &ProjectFiles::projectReplaced, &files, [this] {
+        offer.forgetAnswers();
+        recorder.restartShotClock();
+    });
     QObject::connect(&files, &ProjectFiles::cleared, &descriptions, &BoxDescriptions::describeAgain);
     QObject::connect(&files, &ProjectFiles::measurementsReplaced, &files, [this] { recorder.forgetSeries(); });
     QObject::connect(&files, &ProjectFiles::shown, &files, [this] { recorder.announceRunning(); });
     QObject::connect(&files, &ProjectFiles::shown, &period, &SamplingPeriod::matchProject);
+    QObject::connect(&files, &ProjectFiles::projectReplaced, &openNotice, &OpenNotice::show);
     QObject::connect(&undo, &UndoControl::samplingPeriodChanged, &period, &SamplingPeriod::matchProject);
     QObject::connect(&files, &ProjectFiles::quitting, &files, [this] { recorder.requestStop(); });
 }
@@ -133,6 +142,7 @@ void ControllerParts::connectTabs(View &view)
 
     const TabSensors *sensors = view.tabSensors();
     QObject::connect(sensors, &TabSensors::sensorNameEdited, &tabEdits, &TabEdits::setSensorName);
+    QObject::connect(sensors, &TabSensors::sensorUnitEdited, &tabEdits, &TabEdits::setSensorUnit);
     QObject::connect(sensors, &TabSensors::sensorColorEdited, &tabEdits, &TabEdits::setSensorColor);
     QObject::connect(sensors, &TabSensors::sensorLimitsEdited, &tabEdits, &TabEdits::setSensorLimits);
 }

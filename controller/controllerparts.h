@@ -13,6 +13,7 @@
 #include "controller/occupancy.h"
 #include "controller/project/fileprogress.h"
 #include "controller/project/measurementdeletion.h"
+#include "controller/project/opennotice.h"
 #include "controller/project/projectfiles.h"
 #include "controller/project/projectpictures.h"
 #include "controller/project/projectsaving.h"
@@ -60,6 +61,7 @@ struct ControllerParts
     TabEdits tabEdits;
     ProjectSaving saving;
     ProjectFiles files;
+    OpenNotice openNotice;
     ProjectPictures pictures;
     LoggerList loggerList;
     LoggerFetch loggerFetch;

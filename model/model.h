@@ -94,6 +94,13 @@ public:
         return hasShot(measurement, Q_FUNC_INFO) ? m_project.meta.timestamp(measurement) : QDateTime();
     }
     void setTimestamp(int measurement, const QDateTime &timestamp);
+    /// Milliseconds per sample when the measurement began; 0 if unknown, as for those of logger files. Kept beside the
+    /// project file, too.
+    [[nodiscard]] int samplingPeriod(int measurement) const
+    {
+        return hasShot(measurement, Q_FUNC_INFO) ? m_project.meta.period(measurement) : 0;
+    }
+    void setSamplingPeriod(int measurement, int milliseconds); ///< emits nothing
     /// What the user calls a measurement; empty for one without a label.
     [[nodiscard]] QString shotLabel(int measurement) const
     {
@@ -144,13 +151,21 @@ public:
     void setProjectData(const ProjectData &data);
     [[nodiscard]] QString comment() const { return m_project.settings.comment; }
     void setComment(const QString &comment);
-    [[nodiscard]] QPixmap image(int index) const { return valueAt(m_project.images.pixmaps(), index, Q_FUNC_INFO); }
+    /// Null also for a picture that the project has but that is not shown; images() tells.
+    [[nodiscard]] QPixmap image(int index) const
+    {
+        return isIndex(index, kNumImages, Q_FUNC_INFO) ? m_project.images.shown(index) : QPixmap();
+    }
+    [[nodiscard]] const ImageStore &images() const { return m_project.images; }
+    /// A null image also removes a picture that is not shown.
     void setImage(int index, const QPixmap &image);
     [[nodiscard]] const SensorDescription &sensorDescription() const { return m_project.settings.sensors; }
     void setSensorDescription(const SensorDescription &description); ///< emits nothing
     [[nodiscard]] const DeviceDescription &deviceDescription() const { return m_deviceDescription; }
     void setDeviceDescription(const DeviceDescription &description); ///< emits nothing; takes over both versions
     void setSensorName(int sensor, const QString &name);
+    /// Kept beside the project file; cut after SensorGroup::kLongestUnit characters.
+    void setSensorUnit(int sensor, const QString &unit);
     void setSensorMinimum(int group, int sensor, double minimum);
     void setSensorMaximum(int group, int sensor, double maximum);
     [[nodiscard]] QString hardwareVersion() const { return m_project.settings.hardwareVersion; }
@@ -161,12 +176,13 @@ public:
     void setClock(int milliseconds); ///< takes the nearest value in range
     static constexpr int kMaxClock = ProjectSettings::kMaxClock;
 
-    /// The logger files that were imported, absolute; neither part of the project file, nor changed by deletions.
-    /// Nothing uses the list yet.
+    /// The logger files that were imported since the project was opened, absolute; not changed by deletions. Nothing
+    /// uses the list yet.
     [[nodiscard]] QStringList fileList() const { return m_import.files().files(); }
     void setFileList(const QStringList &files);
-    /// The fingerprints of the files on the list, which tell them from later files of the same name.
-    [[nodiscard]] QSet<QByteArray> importedFiles() const { return m_import.files().fingerprints(); }
+    /// The fingerprints of all files that were imported, which tell them from later files of the same name. Kept beside
+    /// the project file.
+    [[nodiscard]] QSet<QByteArray> importedFiles() const { return m_project.meta.importedFiles; }
 
     // --- State -------------------------------------------------------------------------------------------------
     [[nodiscard]] bool isConnected() const { return m_connected; }
@@ -185,7 +201,13 @@ public:
     void clear();
 
     // --- Files -------------------------------------------------------------------------------------------------
+    /// Reads a file completely, for the open() that follows, so that nobody is asked about a file that cannot be
+    /// opened. False if it cannot.
+    [[nodiscard]] bool readAhead(const QString &fileName) { return m_files.readAhead(fileName, Q_FUNC_INFO); }
+    void forgetReadAhead() { m_files.forgetReadAhead(); }
     [[nodiscard]] bool open(const QString &fileName);
+    /// What is not understood of the project that was opened.
+    [[nodiscard]] const OpenLosses &openLosses() const { return m_files.openLosses(); }
     [[nodiscard]] bool save(const QString &fileName);
     /// False if the last save() wrote the project, but not the file beside it.
     [[nodiscard]] bool isProjectMetaSaved() const { return m_files.isMetaSaved(); }
