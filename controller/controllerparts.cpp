@@ -37,9 +37,8 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
             RecordingEnd({view, model, occupancy}, connector, recorder, options.stopWait))
     , openNotice({view, model, occupancy})
     , pictures({view, model, occupancy}, edits)
-    , loggerList({view, model, occupancy}, link)
-    , loggerFetch({view, model, occupancy}, connector, demo, options.temporaryDirectory)
-    , loggerImport({view, model, occupancy}, progress, lines, edits, recorder)
+    , logger({view, model, occupancy}, link, connector, demo, progress, lines, edits, recorder,
+             options.temporaryDirectory)
     , undo({view, model, occupancy}, edits, recorder)
 {
     setUpTransfers(options);
@@ -68,9 +67,9 @@ void ControllerParts::handleMessages()
     dispatch.setHandler(MessageKind::RunStarted, [this](const QString &) { recorder.started(); });
     dispatch.setHandler(MessageKind::RunStopped, [this](const QString &) { recorder.stopped(); });
     dispatch.setHandler(MessageKind::ClockEcho, [this](const QString &message) { period.takeEcho(message); });
-    dispatch.setHandler(MessageKind::ListBegin, [this](const QString &) { loggerList.begin(); });
-    dispatch.setHandler(MessageKind::ListEnd, [this](const QString &) { loggerList.finish(); });
-    dispatch.setHandler(MessageKind::Other, [this](const QString &message) { loggerList.take(message); });
+    dispatch.setHandler(MessageKind::ListBegin, [this](const QString &) { logger.list.begin(); });
+    dispatch.setHandler(MessageKind::ListEnd, [this](const QString &) { logger.list.finish(); });
+    dispatch.setHandler(MessageKind::Other, [this](const QString &message) { logger.list.take(message); });
 }
 
 /// Receivers of the same signal are called in the order of these lines. Parts that are no QObjects are called by a
@@ -85,7 +84,7 @@ void ControllerParts::connectLink(View &view)
     // What the box sent before the end of the link comes first.
     QObject::connect(&link, &BoxLink::closing, &link, [this] { lines.flush(); });
     QObject::connect(&link, &BoxLink::closing, &descriptions, &BoxDescriptions::stopWaiting);
-    QObject::connect(&link, &BoxLink::closing, &loggerList, &LoggerList::reset);
+    QObject::connect(&link, &BoxLink::closing, &logger.list, &LoggerList::reset);
     QObject::connect(&link, &BoxLink::left, &demo, &DemoLink::stop);
     QObject::connect(&link, &BoxLink::left, &link, [this] { offer.withdraw(); });
     QObject::connect(&link, &BoxLink::demoLost, &demo, [this] { demo.onFailed(DemoBox::End::Ended); });
@@ -122,7 +121,7 @@ void ControllerParts::connectView(View &view)
     QObject::connect(&view, &View::about, &view, &View::showAbout);
     // The progress shown is that of an attempt to connect or of a fetch; the other one ignores this.
     QObject::connect(&view, &View::progressCancelled, &link, &BoxLink::giveUp);
-    QObject::connect(&view, &View::progressCancelled, &link, [this] { loggerFetch.cancel(); });
+    QObject::connect(&view, &View::progressCancelled, &link, [this] { logger.fetch.cancel(); });
 }
 
 void ControllerParts::connectTabs(View &view)

@@ -7,9 +7,7 @@
 #include "controller/link/firmwareupdate.h"
 #include "controller/link/projectoffer.h"
 #include "controller/link/samplingperiod.h"
-#include "controller/logger/loggerfetch.h"
-#include "controller/logger/loggerimport.h"
-#include "controller/logger/loggerlist.h"
+#include "controller/logger/loggerparts.h"
 #include "controller/occupancy.h"
 #include "controller/project/fileprogress.h"
 #include "controller/project/measurementdeletion.h"
@@ -63,9 +61,7 @@ struct ControllerParts
     ProjectFiles files;
     OpenNotice openNotice;
     ProjectPictures pictures;
-    LoggerList loggerList;
-    LoggerFetch loggerFetch;
-    LoggerImport loggerImport;
+    LoggerParts logger;
     UndoControl undo;
 
 private:
