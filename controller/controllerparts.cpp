@@ -28,7 +28,6 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
                    {options.deviceDescriptionTimeout, options.sensorDescriptionTimeout})
     , period({view, model, occupancy}, connector, edits, recorder)
     , offer({view, model, occupancy}, questions, lines, edits)
-    , transfers({view, model, occupancy})
     , firmware({view, model, occupancy}, connector, link, demo, options.restartWait)
     , recording({view, model, occupancy}, recorder, link)
     , deletion({view, model, occupancy}, edits, recorder)
@@ -38,11 +37,9 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
             RecordingEnd({view, model, occupancy}, connector, recorder, options.stopWait))
     , openNotice({view, model, occupancy})
     , pictures({view, model, occupancy}, edits)
-    , loggerList({view, model, occupancy}, link)
-    , loggerFetch({view, model, occupancy}, connector, demo, transfers, options.temporaryDirectory)
-    , loggerImport({view, model, occupancy}, progress, lines, edits, recorder)
-    , undoHistory(model)
-    , undo({view, model, occupancy}, undoHistory, edits, recorder)
+    , logger({view, model, occupancy}, link, connector, demo, progress, lines, edits, recorder,
+             options.temporaryDirectory)
+    , undo({view, model, occupancy}, edits, recorder)
     , protection({view, model, occupancy}, options.journal, recorder, {questions, progress, lines, saving})
 {
     setUpTransfers(options);
@@ -65,7 +62,6 @@ void ControllerParts::setUpTransfers(const ControllerOptions &options)
 {
     connector.scp().setOptions(
         {options.scpToolFile, theme::deviceUser, theme::devicePassword, options.deviceAddress, options.scpTimeouts});
-    transfers.attach(connector.scp());
 }
 
 void ControllerParts::handleMessages()
@@ -73,9 +69,9 @@ void ControllerParts::handleMessages()
     dispatch.setHandler(MessageKind::RunStarted, [this](const QString &) { recorder.started(); });
     dispatch.setHandler(MessageKind::RunStopped, [this](const QString &) { recorder.stopped(); });
     dispatch.setHandler(MessageKind::ClockEcho, [this](const QString &message) { period.takeEcho(message); });
-    dispatch.setHandler(MessageKind::ListBegin, [this](const QString &) { loggerList.begin(); });
-    dispatch.setHandler(MessageKind::ListEnd, [this](const QString &) { loggerList.finish(); });
-    dispatch.setHandler(MessageKind::Other, [this](const QString &message) { loggerList.take(message); });
+    dispatch.setHandler(MessageKind::ListBegin, [this](const QString &) { logger.list.begin(); });
+    dispatch.setHandler(MessageKind::ListEnd, [this](const QString &) { logger.list.finish(); });
+    dispatch.setHandler(MessageKind::Other, [this](const QString &message) { logger.list.take(message); });
 }
 
 /// Receivers of the same signal are called in the order of these lines. Parts that are no QObjects are called by a
@@ -90,7 +86,7 @@ void ControllerParts::connectLink(View &view)
     // What the box sent before the end of the link comes first.
     QObject::connect(&link, &BoxLink::closing, &link, [this] { lines.flush(); });
     QObject::connect(&link, &BoxLink::closing, &descriptions, &BoxDescriptions::stopWaiting);
-    QObject::connect(&link, &BoxLink::closing, &loggerList, &LoggerList::reset);
+    QObject::connect(&link, &BoxLink::closing, &logger.list, &LoggerList::reset);
     QObject::connect(&link, &BoxLink::left, &demo, &DemoLink::stop);
     QObject::connect(&link, &BoxLink::left, &link, [this] { offer.withdraw(); });
     QObject::connect(&link, &BoxLink::demoLost, &demo, [this] { demo.onFailed(DemoBox::End::Ended); });
@@ -139,7 +135,7 @@ void ControllerParts::connectView(View &view)
     QObject::connect(&view, &View::about, &view, &View::showAbout);
     // The progress shown is that of an attempt to connect or of a fetch; the other one ignores this.
     QObject::connect(&view, &View::progressCancelled, &link, &BoxLink::giveUp);
-    QObject::connect(&view, &View::progressCancelled, &link, [this] { loggerFetch.cancel(); });
+    QObject::connect(&view, &View::progressCancelled, &link, [this] { logger.fetch.cancel(); });
 }
 
 void ControllerParts::connectTabs(View &view)

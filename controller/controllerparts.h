@@ -8,10 +8,7 @@
 #include "controller/link/firmwareupdate.h"
 #include "controller/link/projectoffer.h"
 #include "controller/link/samplingperiod.h"
-#include "controller/logger/loggerfetch.h"
-#include "controller/logger/loggerimport.h"
-#include "controller/logger/loggerlist.h"
-#include "controller/logger/transferdialogs.h"
+#include "controller/logger/loggerparts.h"
 #include "controller/occupancy.h"
 #include "controller/project/fileprogress.h"
 #include "controller/project/measurementdeletion.h"
@@ -27,7 +24,6 @@
 #include "controller/recordingactions.h"
 #include "controller/recordingdisplay.h"
 #include "controller/undo/undocontrol.h"
-#include "controller/undo/undohistory.h"
 #include "device/demobox.h"
 #include "device/mesotraconnector.h"
 
@@ -58,7 +54,6 @@ struct ControllerParts
     BoxDescriptions descriptions;
     SamplingPeriod period;
     ProjectOffer offer;
-    TransferDialogs transfers;
     FirmwareUpdate firmware;
     RecordingActions recording;
     MeasurementDeletion deletion;
@@ -67,10 +62,7 @@ struct ControllerParts
     ProjectFiles files;
     OpenNotice openNotice;
     ProjectPictures pictures;
-    LoggerList loggerList;
-    LoggerFetch loggerFetch;
-    LoggerImport loggerImport;
-    UndoHistory undoHistory;
+    LoggerParts logger;
     UndoControl undo;
     JournalParts protection;
 

@@ -1,7 +1,6 @@
 #include "model/model.h"
 
 #include "model/arrayindex.h"
-#include "model/edit/editscope.h"
 #include "model/logging.h"
 #include "model/modeleditor.h"
 
@@ -112,8 +111,9 @@ void Model::setOffset(int sensor, double offset)
 void Model::resetOffsets()
 {
     qCDebug(lcModel) << Q_FUNC_INFO;
-    const EditScope edit(this, [] { return tr("Zurücksetzen der Offsets"); });
+    m_edits.begin([] { return tr("Zurücksetzen der Offsets"); }, {});
     m_project.settings.offsets.fill(0.0);
+    m_edits.end();
     m_changes.project(Q_FUNC_INFO);
 }
 

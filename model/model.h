@@ -278,5 +278,5 @@ private:
     ModelFiles m_files;
     BlackBoxImport m_import;
     JournalInfo m_journalInfo;
-    ModelEdits m_edits{*this, m_project, m_import.files(), m_changes};
+    ModelEdits m_edits{m_project, m_import.files(), m_changes};
 };
