@@ -1,5 +1,9 @@
 #pragma once
 
+#include "model/project/saveoptions.h"
+#include "model/storage/diskcopy.h"
+#include "model/storage/filefault.h"
+
 #include <QString>
 
 #include <optional>
@@ -9,6 +13,7 @@ class ProjectEditor;
 class ModelChanges;
 class QFile;
 struct Project;
+struct ReplaceOptions;
 
 /// Carries the project of a model to its file and back, and knows the name of that file and whether the project was
 /// modified since. `function` is the one that log lines name.
@@ -25,6 +30,15 @@ public:
     /// False if the last save() wrote the project, but not the file beside it.
     [[nodiscard]] bool isMetaSaved() const { return m_metaSaved; }
 
+    /// Why the last open(), save() or saveCsv() failed; none if it did not.
+    [[nodiscard]] const FileFault &lastFault() const { return m_fault; }
+    /// False if the last save() should have kept the old file, but could not.
+    [[nodiscard]] bool isOldFileKept() const { return !m_lacksOld; }
+    /// Whether the current file is still what was opened or saved last. Not while a file is read or written.
+    [[nodiscard]] DiskCopy::State fileOnDisk(const char *function);
+    void setSaveOptions(const SaveOptions &options) { m_saveOptions = options; }
+    [[nodiscard]] const SaveOptions &saveOptions() const { return m_saveOptions; }
+
     [[nodiscard]] QString currentFile() const { return m_currentFile; }
     void setCurrentFile(const QString &absolutePath);
     [[nodiscard]] bool isModified() const { return m_modified; }
@@ -36,6 +50,10 @@ private:
     void apply(Opened &opened, const QString &absolutePath, const char *function);
     [[nodiscard]] bool writeProject(const QString &fileName);
     [[nodiscard]] bool writeCsv(const QString &fileName);
+    /// Runs a task that replaces a file, and keeps what it says about a failure.
+    template <typename Task>
+    [[nodiscard]] bool replace(const QString &fileName, const Task &task, const char *function);
+    [[nodiscard]] ReplaceOptions projectOptions(const QString &fileName) const;
     [[nodiscard]] quint64 countChanges() const;
 
     ProjectEditor &m_editor;
@@ -45,4 +63,8 @@ private:
     QString m_currentFile; // absolute
     bool m_modified = false;
     bool m_metaSaved = true;
+    bool m_lacksOld = false;
+    FileFault m_fault;
+    DiskCopy m_diskCopy;
+    SaveOptions m_saveOptions;
 };

@@ -44,6 +44,9 @@ public:
     /// Reads on to the end of the value that `token` began; false if it is not valid.
     [[nodiscard]] bool skipValue(Token token);
 
+    /// Bytes of the source that have been understood: where the next token, or what is no JSON, begins.
+    [[nodiscard]] qint64 offset() const { return m_bytesRead - (m_end - m_pos); }
+
     /// As many as QJsonDocument takes.
     static constexpr std::size_t kMaxDepth = 1024;
 

@@ -2,7 +2,6 @@
 
 #include "model/arrayindex.h"
 #include "model/logging.h"
-#include "model/project/atomicfile.h"
 #include "model/shotstore.h"
 
 #include <QFile>
@@ -63,13 +62,16 @@ ShotChecks shotChecks(const ShotStore &shots)
     return checks;
 }
 
-bool saveMeta(const QString &projectFile, const ProjectMeta &meta, const ShotChecks &checks)
+bool saveMeta(const QString &projectFile, const ProjectMeta &meta, const ShotChecks &checks,
+              const ReplaceOptions &options)
 {
     const QString fileName = metaFileName(projectFile);
     if (meta.isBlank() && !QFileInfo::exists(fileName))
         return true;
     try {
-        if (replaceFile(fileName, [&](QIODevice &target) { return writeProjectMeta(target, meta, checks); }))
+        const auto write = [&](QIODevice &target) { return writeProjectMeta(target, meta, checks); };
+        if (replaceFile(
+                fileName, write, [] {}, options))
             return true;
     } catch (const std::bad_alloc &) {
         // told below, like any other failure

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/project/atomicfile.h"
 #include "model/project/projectmeta.h"
 
 class ShotStore;
@@ -9,7 +10,8 @@ class ShotStore;
 
 /// Writes the file beside a project file; none if there is nothing to keep and no file to bring up to date. False, and
 /// a log line, if it cannot be written.
-[[nodiscard]] bool saveMeta(const QString &projectFile, const ProjectMeta &meta, const ShotChecks &checks);
+[[nodiscard]] bool saveMeta(const QString &projectFile, const ProjectMeta &meta, const ShotChecks &checks,
+                            const ReplaceOptions &options = {});
 
 /// Reads the file beside a project file. Nothing if there is none, or, with a log line under the name of the caller, if
 /// it cannot be read.
