@@ -4,6 +4,7 @@
 #include "device/scpprocess.h"
 
 #include <QString>
+#include <QStringList>
 
 /// What the controller takes from outside, so that a test need not wait or use the real port.
 struct ControllerOptions
@@ -17,5 +18,6 @@ struct ControllerOptions
     QString temporaryDirectory = QStringLiteral("tmp-blackbox-dir"); ///< for what is fetched; created when missing
     QString demoProgram;                                             ///< empty: the simulator beside the program
     int demoStartTimeout = DemoBox::kStartTimeout;                   ///< ms
+    QStringList filesGiven; ///< on the command line; the model has opened the only one already
     int restartWait = 3000; ///< ms; how long the firmware dialog waits for a connection
 };

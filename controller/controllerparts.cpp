@@ -2,6 +2,7 @@
 
 #include "app/theme.h"
 #include "controller/controlleroptions.h"
+#include "controller/project/readonlysign.h"
 #include "device/scptransfer.h"
 #include "view/oscilloscope/taboszilloscope.h"
 #include "view/project/tabproject.h"
@@ -33,8 +34,11 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     , recording({view, model, occupancy}, recorder, link)
     , deletion({view, model, occupancy}, edits, recorder)
     , tabEdits(view, model, edits)
-    , saving({view, model, occupancy}, progress, lines, edits)
-    , files({view, model, occupancy}, progress, lines, edits, saving)
+    , lock(model)
+    , fileQuestions({view, model, occupancy})
+    , saving({view, model, occupancy}, progress, lines, edits, lock, fileQuestions)
+    , files({view, model, occupancy}, progress, lines, edits, saving, lock, fileQuestions)
+    , start({view, model, occupancy}, questions, fileQuestions, lock, options.filesGiven)
     , pictures({view, model, occupancy}, edits)
     , loggerList({view, model, occupancy}, link)
     , loggerFetch({view, model, occupancy}, connector, demo, transfers, options.temporaryDirectory)
@@ -44,6 +48,7 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     handleMessages();
     connectLink(view);
     connectFiles();
+    view.addStatusWidget(new ReadOnlySign(lock, &view));
     connectView(view);
     connectTabs(view);
 }
@@ -97,6 +102,8 @@ void ControllerParts::connectLink(View &view)
 void ControllerParts::connectFiles()
 {
     QObject::connect(&files, &ProjectFiles::boxGivenUp, &link, &BoxLink::leave);
+    QObject::connect(&start, &ProjectStart::declined, &files, &ProjectFiles::newProject);
+    QObject::connect(&start, &ProjectStart::copyWanted, &files, &ProjectFiles::detachFromFile);
     QObject::connect(&files, &ProjectFiles::cleared, &descriptions, &BoxDescriptions::describeAgain);
     QObject::connect(&files, &ProjectFiles::measurementsReplaced, &files, [this] { recorder.forgetSeries(); });
     QObject::connect(&files, &ProjectFiles::shown, &files, [this] { recorder.announceRunning(); });

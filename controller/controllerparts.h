@@ -13,10 +13,13 @@
 #include "controller/logger/transferdialogs.h"
 #include "controller/occupancy.h"
 #include "controller/project/fileprogress.h"
+#include "controller/project/filequestions.h"
 #include "controller/project/measurementdeletion.h"
 #include "controller/project/projectfiles.h"
+#include "controller/project/projectlock.h"
 #include "controller/project/projectpictures.h"
 #include "controller/project/projectsaving.h"
+#include "controller/project/projectstart.h"
 #include "controller/project/tabedits.h"
 #include "controller/recording/linequeue.h"
 #include "controller/recording/messagedispatch.h"
@@ -59,8 +62,11 @@ struct ControllerParts
     RecordingActions recording;
     MeasurementDeletion deletion;
     TabEdits tabEdits;
+    ProjectLock lock;
+    FileQuestions fileQuestions;
     ProjectSaving saving;
     ProjectFiles files;
+    ProjectStart start;
     ProjectPictures pictures;
     LoggerList loggerList;
     LoggerFetch loggerFetch;

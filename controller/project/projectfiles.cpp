@@ -3,6 +3,8 @@
 #include "controller/logging.h"
 #include "controller/occupancy.h"
 #include "controller/project/fileprogress.h"
+#include "controller/project/filequestions.h"
+#include "controller/project/projectlock.h"
 #include "controller/project/projectsaving.h"
 #include "controller/recording/linehold.h"
 #include "controller/recording/projectedits.h"
@@ -11,9 +13,10 @@
 #include "view/window/view.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 
 ProjectFiles::ProjectFiles(const Desk &desk, FileProgress &progress, LineQueue &lines, ProjectEdits &edits,
-                           ProjectSaving &saving)
+                           ProjectSaving &saving, ProjectLock &lock, const FileQuestions &questions)
     : m_view(desk.view)
     , m_model(desk.model)
     , m_occupancy(desk.occupancy)
@@ -21,6 +24,8 @@ ProjectFiles::ProjectFiles(const Desk &desk, FileProgress &progress, LineQueue &
     , m_lines(lines)
     , m_edits(edits)
     , m_saving(saving)
+    , m_lock(lock)
+    , m_questions(questions)
 {
     if (!m_model.currentFile().isEmpty())
         m_view.rememberProject(m_model.currentFile());
@@ -77,9 +82,29 @@ void ProjectFiles::openNamed(const QString &fileName)
 
 void ProjectFiles::replaceWith(const QString &fileName)
 {
+    using Opening = FileQuestions::Opening;
+    Opening how = Opening::ReadOnly; // whether it really is read-only is up to the lock
+    if (QFileInfo(fileName).isFile()) {
+        if (const std::optional<LockOwner> owner = m_lock.reserve(fileName))
+            how = m_questions.howToOpen(fileName, *owner);
+    }
+    const bool opened = how != Opening::Not && replace(fileName);
+    m_lock.dropReservation();
+    if (opened && how == Opening::Copy)
+        detachFromFile();
+}
+
+void ProjectFiles::detachFromFile()
+{
+    m_model.setCurrentFile({});
+    m_edits.markModified();
+}
+
+bool ProjectFiles::replace(const QString &fileName)
+{
     if (m_model.isProjectModified() && m_occupancy.ask([this] { return m_view.askToSave(); })
         && !m_saving.saveUnsavedChanges())
-        return;
+        return false;
     const quint64 structure = m_model.structureRevision();
     const bool opened = load(fileName);
     if (opened)
@@ -90,6 +115,7 @@ void ProjectFiles::replaceWith(const QString &fileName)
     if (m_model.structureRevision() != structure)
         emit measurementsReplaced();
     showOpened(fileName, opened);
+    return opened;
 }
 
 bool ProjectFiles::load(const QString &fileName)
@@ -109,12 +135,7 @@ void ProjectFiles::showOpened(const QString &fileName, bool opened)
     if (opened)
         m_view.rememberProject(m_model.currentFile());
     else
-        warn(tr("Cannot open file %1 !.").arg(fileName));
-}
-
-void ProjectFiles::warn(const QString &text)
-{
-    m_occupancy.ask([&] { m_view.showWarning(text, tr("Problem")); });
+        m_questions.tellNotOpened(fileName, m_model.lastFileFault());
 }
 
 // --- Quit ---

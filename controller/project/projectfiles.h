@@ -5,8 +5,10 @@
 #include <QObject>
 
 class FileProgress;
+class FileQuestions;
 class LineQueue;
 class ProjectEdits;
+class ProjectLock;
 class ProjectSaving;
 
 /// New, open and quit: everything that gives up the project that is open, with the questions about unsaved changes.
@@ -16,13 +18,15 @@ class ProjectFiles : public QObject
 
 public:
     /// All references must outlive the files. The project that is open already is remembered as a recent one.
-    ProjectFiles(const Desk &desk, FileProgress &progress, LineQueue &lines, ProjectEdits &edits,
-                 ProjectSaving &saving);
+    ProjectFiles(const Desk &desk, FileProgress &progress, LineQueue &lines, ProjectEdits &edits, ProjectSaving &saving,
+                 ProjectLock &lock, const FileQuestions &questions);
 
     void newProject();
     void open();
     /// The file was named without a dialog; unsaved changes are asked about all the same.
     void openNamed(const QString &fileName);
+    /// Goes on with the project as a copy that has no file yet.
+    void detachFromFile();
     void quit();
 
 signals:
@@ -39,9 +43,9 @@ signals:
 
 private:
     void replaceWith(const QString &fileName);
+    [[nodiscard]] bool replace(const QString &fileName);
     [[nodiscard]] bool load(const QString &fileName);
     void showOpened(const QString &fileName, bool opened);
-    void warn(const QString &text);
     [[nodiscard]] bool confirmQuit();
     [[nodiscard]] bool confirmLosingChanges();
 
@@ -52,4 +56,6 @@ private:
     LineQueue &m_lines;
     ProjectEdits &m_edits;
     ProjectSaving &m_saving;
+    ProjectLock &m_lock;
+    const FileQuestions &m_questions;
 };

@@ -5,13 +5,14 @@
 #include "controller/recording/projectedits.h"
 #include "controller/waitcursor.h"
 #include "model/model.h"
+#include "model/project/atomicfile.h"
 #include "model/project/photo.h"
 #include "model/project/projectimage.h"
+#include "view/common/faulttext.h"
 #include "view/window/view.h"
 
 #include <QDir>
 #include <QPixmap>
-#include <QSaveFile>
 
 #include <array>
 
@@ -47,11 +48,11 @@ QString faultText(PhotoFault fault, const QString &file)
 }
 
 /// The file is whole, or as it was.
-bool writePicture(const QPixmap &picture, const QString &fileName)
+FileFault writePicture(const QPixmap &picture, const QString &fileName)
 {
     const WaitCursor cursor;
-    QSaveFile file(fileName);
-    return file.open(QIODevice::WriteOnly) && file.write(toPng(picture)) > 0 && file.commit();
+    const QByteArray png = toPng(picture);
+    return replaceFile(fileName, [&png](QIODevice &target) { return target.write(png) == png.size(); }).fault;
 }
 
 } // namespace
@@ -160,10 +161,13 @@ void ProjectPictures::save(int image)
     const QString file = askFileToSave();
     if (file.isEmpty())
         return;
-    if (writePicture(picture, file))
+    const FileFault fault = writePicture(picture, file);
+    if (!fault) {
         m_view.showStatus(tr("Bild gespeichert: %1").arg(file));
-    else
-        m_occupancy.ask([this] { m_view.showWarning(tr("Das Bild konnte nicht gespeichert werden!"), tr("Problem")); });
+        return;
+    }
+    const QString text = FaultText::appendedTo(tr("Das Bild konnte nicht gespeichert werden!"), fault);
+    m_occupancy.ask([&] { m_view.showWarning(text, tr("Problem")); });
 }
 
 /// Empty: cancelled.

@@ -2,10 +2,16 @@
 
 #include "controller/occupancy.h"
 #include "controller/project/fileprogress.h"
+#include "controller/project/filequestions.h"
+#include "controller/project/projectlock.h"
 #include "controller/recording/linehold.h"
 #include "controller/recording/projectedits.h"
 #include "model/model.h"
+#include "model/project/atomicfile.h"
 #include "view/window/view.h"
+
+#include <QDir>
+#include <QFileInfo>
 
 namespace {
 
@@ -13,13 +19,16 @@ const QLatin1String kProjectSuffix(".vnt");
 
 } // namespace
 
-ProjectSaving::ProjectSaving(const Desk &desk, FileProgress &progress, LineQueue &lines, ProjectEdits &edits)
+ProjectSaving::ProjectSaving(const Desk &desk, FileProgress &progress, LineQueue &lines, ProjectEdits &edits,
+                             ProjectLock &lock, const FileQuestions &questions)
     : m_view(desk.view)
     , m_model(desk.model)
     , m_occupancy(desk.occupancy)
     , m_progress(progress)
     , m_lines(lines)
     , m_edits(edits)
+    , m_lock(lock)
+    , m_questions(questions)
 {}
 
 QString ProjectSaving::filter()
@@ -38,7 +47,9 @@ void ProjectSaving::save()
 {
     m_saved = false;
     const QString fileName = m_model.currentFile();
-    if (fileName.isEmpty()) {
+    if (m_lock.owner())
+        m_view.showStatus(tr("Das Projekt ist nur zum Lesen geöffnet: Bitte einen anderen Namen wählen."));
+    if (fileName.isEmpty() || m_lock.owner()) {
         saveAs();
         return;
     }
@@ -67,32 +78,75 @@ QString ProjectSaving::askFileToSave()
         [this] { return m_view.askSaveFileWithSuffix(tr("Projekt speichern"), filter(), kProjectSuffix); });
 }
 
-bool ProjectSaving::saveTo(const QString &fileName)
+/// Until it is saved somewhere or the user gives up.
+bool ProjectSaving::saveTo(QString fileName)
 {
-    bool saved = false;
-    {
-        const ProgressScope progress(m_progress, tr("Saving..."));
-        const LineHold hold(m_lines);
-        saved = m_model.save(fileName);
+    for (;;) {
+        const Outcome outcome = tryToSave(fileName);
+        if (outcome == Outcome::Saved)
+            return true;
+        m_lock.dropReservation();
+        if (outcome == Outcome::Elsewhere)
+            fileName = askFileToSave();
+        if (outcome == Outcome::GivenUp || fileName.isEmpty())
+            return false;
     }
+}
+
+ProjectSaving::Outcome ProjectSaving::tryToSave(const QString &fileName)
+{
+    const Outcome target = checkTarget(fileName);
+    if (target != Outcome::Saved)
+        return target;
+    const bool saved = write(fileName);
     m_edits.applyKept();
-    if (saved)
+    if (saved) {
         showSaved(fileName);
-    else
-        warn(tr("Das Projekt konnte nicht gespeichert werden!"));
-    return saved;
+        return Outcome::Saved;
+    }
+    switch (m_questions.afterFailure(m_model.lastFileFault())) {
+    case FileQuestions::Saving::Here:
+        return Outcome::Again;
+    case FileQuestions::Saving::Elsewhere:
+        return Outcome::Elsewhere;
+    default:
+        return Outcome::GivenUp;
+    }
+}
+
+/// Whether saving there would undo somebody else's work; Saved means that nothing speaks against it.
+ProjectSaving::Outcome ProjectSaving::checkTarget(const QString &fileName)
+{
+    using Answer = FileQuestions::Saving;
+    Answer answer = Answer::Here;
+    if (const std::optional<LockOwner> owner = m_lock.reserve(fileName)) {
+        answer = m_questions.whereInstead(fileName, *owner);
+    } else if (realFile(fileName) == realFile(m_model.currentFile())) {
+        const DiskCopy::State state = m_model.fileOnDisk();
+        const bool isGone = state == DiskCopy::State::Gone;
+        // Without its folder it cannot be saved anyway, and that will be said.
+        if (state != DiskCopy::State::Same && (!isGone || QFileInfo(fileName).dir().exists()))
+            answer = m_questions.whetherToReplace(fileName, isGone);
+    }
+    if (answer == Answer::Here)
+        return Outcome::Saved;
+    return answer == Answer::Elsewhere ? Outcome::Elsewhere : Outcome::GivenUp;
+}
+
+bool ProjectSaving::write(const QString &fileName)
+{
+    const ProgressScope progress(m_progress, tr("Saving..."));
+    const LineHold hold(m_lines);
+    return m_model.save(fileName);
 }
 
 void ProjectSaving::showSaved(const QString &fileName)
 {
     if (!m_model.isProjectMetaSaved())
-        warn(tr("Das Projekt ist gespeichert, aber Grenzen, Schwellen, Bezeichnungen und "
-                "Zeitstempel der Auswertung konnten nicht gespeichert werden!"));
+        m_questions.warn(tr("Das Projekt ist gespeichert, aber Grenzen, Schwellen, Bezeichnungen und "
+                            "Zeitstempel der Auswertung konnten nicht gespeichert werden!"));
     m_view.rememberProject(m_model.currentFile());
-    m_view.showStatus(tr("Projekt gespeichert: %1").arg(fileName));
-}
-
-void ProjectSaving::warn(const QString &text)
-{
-    m_occupancy.ask([&] { m_view.showWarning(text, tr("Problem")); });
+    const QString text =
+        m_model.isOldFileKept() ? tr("Projekt gespeichert: %1") : tr("Projekt ohne Sicherungskopie gespeichert: %1");
+    m_view.showStatus(text.arg(fileName));
 }

@@ -5,8 +5,10 @@
 #include <QCoreApplication>
 
 class FileProgress;
+class FileQuestions;
 class LineQueue;
 class ProjectEdits;
+class ProjectLock;
 
 /// Writes the project to its file, and says how that went.
 class ProjectSaving
@@ -15,7 +17,8 @@ class ProjectSaving
 
 public:
     /// All references must outlive this.
-    ProjectSaving(const Desk &desk, FileProgress &progress, LineQueue &lines, ProjectEdits &edits);
+    ProjectSaving(const Desk &desk, FileProgress &progress, LineQueue &lines, ProjectEdits &edits, ProjectLock &lock,
+                  const FileQuestions &questions);
 
     /// Of dialogs that choose a project file.
     [[nodiscard]] static QString filter();
@@ -27,9 +30,13 @@ public:
 
 private:
     [[nodiscard]] QString askFileToSave();
-    [[nodiscard]] bool saveTo(const QString &fileName);
+    enum class Outcome { Saved, GivenUp, Elsewhere, Again };
+
+    [[nodiscard]] bool saveTo(QString fileName);
+    [[nodiscard]] Outcome tryToSave(const QString &fileName);
+    [[nodiscard]] Outcome checkTarget(const QString &fileName);
+    [[nodiscard]] bool write(const QString &fileName);
     void showSaved(const QString &fileName);
-    void warn(const QString &text);
 
     View &m_view;
     Model &m_model;
@@ -37,5 +44,7 @@ private:
     FileProgress &m_progress;
     LineQueue &m_lines;
     ProjectEdits &m_edits;
+    ProjectLock &m_lock;
+    const FileQuestions &m_questions;
     bool m_saved = false; // how the last save ended
 };
