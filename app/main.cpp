@@ -1,4 +1,4 @@
-#include "app/commandline.h"
+#include "app/programarguments.h"
 #include "app/session.h"
 #include "app/startup.h"
 #include "app/theme.h"
@@ -11,9 +11,9 @@
 namespace {
 
 /// In the encoding of the terminal. The exit status is 0 in any case, as it always is.
-int print(const CommandLine &commandLine)
+int print(const ProgramArguments &programArguments)
 {
-    QTextStream(commandLine.isMistaken() ? stderr : stdout) << commandLine.answer();
+    QTextStream(programArguments.isMistaken() ? stderr : stdout) << programArguments.answer();
     return 0;
 }
 
@@ -21,21 +21,21 @@ int print(const CommandLine &commandLine)
 
 int main(int argc, char *argv[])
 {
-    if (CommandLine::isQuestion(argc, argv)) {
+    if (ProgramArguments::isQuestion(argc, argv)) {
         const QCoreApplication application(argc, argv);
-        return print(CommandLine(QCoreApplication::arguments()));
+        return print(ProgramArguments(QCoreApplication::arguments()));
     }
     followScreenScale();
     QApplication application(argc, argv);
-    const CommandLine commandLine(QApplication::arguments());
-    if (!commandLine.answer().isEmpty())
-        return print(commandLine);
+    const ProgramArguments programArguments(QApplication::arguments());
+    if (!programArguments.answer().isEmpty())
+        return print(programArguments);
     prepareApplication(application);
     if (!checkCopyProtection())
         return 0;
 
     SessionOptions options;
-    options.arguments = commandLine.arguments();
+    options.arguments = programArguments.arguments();
     options.controller.deviceAddress = theme::deviceAddress();
     options.connectAtOnce = qEnvironmentVariableIntValue("VENTARO_AUTOCONNECT") == 1;
     return runSession(application, options);

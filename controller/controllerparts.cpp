@@ -18,11 +18,7 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     , display(view)
     , edits(model)
     , recorder(model, edits, connector, display)
-    , lines(connector, model,
-            [this, &view](const QString &line) {
-                view.terminalReceived(line); // when its turn comes, like its effect
-                dispatch.dispatch(line);
-            })
+    , lines(connector, model, [this, &view](const QString &line) { takeLine(view, line); })
     , link({view, model, occupancy}, connector, demoBox, questions, recorder, options.deviceAddress)
     , demo({view, model, occupancy}, demoBox, link, questions)
     , descriptions(view, model, connector, edits, recorder,
@@ -34,21 +30,19 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     , recording({view, model, occupancy}, recorder, link)
     , deletion({view, model, occupancy}, edits, recorder)
     , tabEdits(view, model, edits)
-    , lock(model)
-    , fileQuestions({view, model, occupancy})
-    , saving({view, model, occupancy}, progress, lines, edits, lock, fileQuestions)
-    , files({view, model, occupancy}, progress, lines, edits, saving, lock, fileQuestions)
-    , start({view, model, occupancy}, questions, fileQuestions, lock, options.filesGiven)
+    , access{ProjectLock(model), FileQuestions({view, model, occupancy}),
+             ProjectStart({view, model, occupancy}, questions, access.questions, access.lock, options.filesGiven)}
+    , saving({view, model, occupancy}, progress, lines, edits, access.lock, access.questions)
+    , files({view, model, occupancy}, progress, lines, edits, saving, access.lock, access.questions)
     , pictures({view, model, occupancy}, edits)
-    , loggerList({view, model, occupancy}, link)
-    , loggerFetch({view, model, occupancy}, connector, demo, transfers, options.temporaryDirectory)
-    , loggerImport({view, model, occupancy}, progress, lines, edits, recorder)
+    , logger{LoggerList({view, model, occupancy}, link),
+             LoggerFetch({view, model, occupancy}, connector, demo, transfers, options.temporaryDirectory),
+             LoggerImport({view, model, occupancy}, progress, lines, edits, recorder)}
 {
     setUpTransfers(options);
     handleMessages();
     connectLink(view);
     connectFiles();
-    view.addStatusWidget(new ReadOnlySign(lock, &view));
     connectView(view);
     connectTabs(view);
 }
@@ -67,14 +61,20 @@ void ControllerParts::setUpTransfers(const ControllerOptions &options)
     transfers.attach(connector.scp());
 }
 
+void ControllerParts::takeLine(View &view, const QString &line)
+{
+    view.terminalReceived(line); // when its turn comes, like its effect
+    dispatch.dispatch(line);
+}
+
 void ControllerParts::handleMessages()
 {
     dispatch.setHandler(MessageKind::RunStarted, [this](const QString &) { recorder.started(); });
     dispatch.setHandler(MessageKind::RunStopped, [this](const QString &) { recorder.stopped(); });
     dispatch.setHandler(MessageKind::ClockEcho, [this](const QString &message) { period.takeEcho(message); });
-    dispatch.setHandler(MessageKind::ListBegin, [this](const QString &) { loggerList.begin(); });
-    dispatch.setHandler(MessageKind::ListEnd, [this](const QString &) { loggerList.finish(); });
-    dispatch.setHandler(MessageKind::Other, [this](const QString &message) { loggerList.take(message); });
+    dispatch.setHandler(MessageKind::ListBegin, [this](const QString &) { logger.list.begin(); });
+    dispatch.setHandler(MessageKind::ListEnd, [this](const QString &) { logger.list.finish(); });
+    dispatch.setHandler(MessageKind::Other, [this](const QString &message) { logger.list.take(message); });
 }
 
 /// Receivers of the same signal are called in the order of these lines. Parts that are no QObjects are called by a
@@ -89,7 +89,7 @@ void ControllerParts::connectLink(View &view)
     // What the box sent before the end of the link comes first.
     QObject::connect(&link, &BoxLink::closing, &link, [this] { lines.flush(); });
     QObject::connect(&link, &BoxLink::closing, &descriptions, &BoxDescriptions::stopWaiting);
-    QObject::connect(&link, &BoxLink::closing, &loggerList, &LoggerList::reset);
+    QObject::connect(&link, &BoxLink::closing, &logger.list, &LoggerList::reset);
     QObject::connect(&link, &BoxLink::left, &demo, &DemoLink::stop);
     QObject::connect(&link, &BoxLink::demoLost, &demo, [this] { demo.onFailed(DemoBox::End::Ended); });
     QObject::connect(&demoBox, &DemoBox::listening, &demo, &DemoLink::onListening);
@@ -102,8 +102,8 @@ void ControllerParts::connectLink(View &view)
 void ControllerParts::connectFiles()
 {
     QObject::connect(&files, &ProjectFiles::boxGivenUp, &link, &BoxLink::leave);
-    QObject::connect(&start, &ProjectStart::declined, &files, &ProjectFiles::newProject);
-    QObject::connect(&start, &ProjectStart::copyWanted, &files, &ProjectFiles::detachFromFile);
+    QObject::connect(&access.start, &ProjectStart::declined, &files, &ProjectFiles::newProject);
+    QObject::connect(&access.start, &ProjectStart::copyWanted, &files, &ProjectFiles::detachFromFile);
     QObject::connect(&files, &ProjectFiles::cleared, &descriptions, &BoxDescriptions::describeAgain);
     QObject::connect(&files, &ProjectFiles::measurementsReplaced, &files, [this] { recorder.forgetSeries(); });
     QObject::connect(&files, &ProjectFiles::shown, &files, [this] { recorder.announceRunning(); });
@@ -113,6 +113,7 @@ void ControllerParts::connectFiles()
 
 void ControllerParts::connectView(View &view)
 {
+    view.addStatusWidget(new ReadOnlySign(access.lock, &view));
     QObject::connect(&view, &View::openProjectFile, &files, &ProjectFiles::openNamed);
     QObject::connect(&view, &View::startStopDemo, &demo, &DemoLink::toggle);
     QObject::connect(&view, &View::connectToAddress, &link, &BoxLink::connectToAddress);
@@ -120,7 +121,7 @@ void ControllerParts::connectView(View &view)
     QObject::connect(&view, &View::about, &view, &View::showAbout);
     // The progress shown is that of an attempt to connect or of a fetch; the other one ignores this.
     QObject::connect(&view, &View::progressCancelled, &link, &BoxLink::giveUp);
-    QObject::connect(&view, &View::progressCancelled, &link, [this] { loggerFetch.cancel(); });
+    QObject::connect(&view, &View::progressCancelled, &link, [this] { logger.fetch.cancel(); });
 }
 
 void ControllerParts::connectTabs(View &view)

@@ -7,19 +7,15 @@
 #include "controller/link/firmwareupdate.h"
 #include "controller/link/projectoffer.h"
 #include "controller/link/samplingperiod.h"
-#include "controller/logger/loggerfetch.h"
-#include "controller/logger/loggerimport.h"
-#include "controller/logger/loggerlist.h"
+#include "controller/logger/loggerparts.h"
 #include "controller/logger/transferdialogs.h"
 #include "controller/occupancy.h"
+#include "controller/project/fileaccess.h"
 #include "controller/project/fileprogress.h"
-#include "controller/project/filequestions.h"
 #include "controller/project/measurementdeletion.h"
 #include "controller/project/projectfiles.h"
-#include "controller/project/projectlock.h"
 #include "controller/project/projectpictures.h"
 #include "controller/project/projectsaving.h"
-#include "controller/project/projectstart.h"
 #include "controller/project/tabedits.h"
 #include "controller/recording/linequeue.h"
 #include "controller/recording/messagedispatch.h"
@@ -62,18 +58,15 @@ struct ControllerParts
     RecordingActions recording;
     MeasurementDeletion deletion;
     TabEdits tabEdits;
-    ProjectLock lock;
-    FileQuestions fileQuestions;
+    FileAccess access;
     ProjectSaving saving;
     ProjectFiles files;
-    ProjectStart start;
     ProjectPictures pictures;
-    LoggerList loggerList;
-    LoggerFetch loggerFetch;
-    LoggerImport loggerImport;
+    LoggerParts logger;
 
 private:
     void setUpTransfers(const ControllerOptions &options);
+    void takeLine(View &view, const QString &line);
     void handleMessages();
     void connectLink(View &view);
     void connectFiles();

@@ -98,7 +98,7 @@ public:
             if (count < 0 && errno == EINTR)
                 continue;
             if (count < 0)
-                return -1;
+                break;
             done += count;
         }
         return done;
@@ -257,8 +257,10 @@ qint64 StagedFile::writeData(const char *data, qint64 size)
     if (m_error != 0)
         return -1;
     const qint64 count = m_place->write(data, size);
-    if (!check(count == size))
+    if (!check(count == size)) {
+        m_written += qMax<qint64>(count, 0);
         return -1;
+    }
     m_hash.addData(data, static_cast<int>(size));
     m_written += size;
     m_waiting += size;

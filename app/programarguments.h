@@ -4,13 +4,13 @@
 #include <QStringList>
 
 /// What the program is told when it is started.
-class CommandLine
+class ProgramArguments
 {
-    Q_DECLARE_TR_FUNCTIONS(CommandLine)
+    Q_DECLARE_TR_FUNCTIONS(ProgramArguments)
 
 public:
     /// `arguments` begins with the program's name and lacks what the application object has taken out of it.
-    explicit CommandLine(const QStringList &arguments);
+    explicit ProgramArguments(const QStringList &arguments);
 
     /// True if help or the version is asked for, which needs no display.
     [[nodiscard]] static bool isQuestion(int argc, const char *const *argv);
