@@ -18,7 +18,7 @@ bool isLetterOrName(const char *argument, const QStringList &names)
     return given == QLatin1Char('-') + names.constFirst() || given == QLatin1String("--") + names.constLast();
 }
 
-/// Qt's own words for its options are not translated before the window is.
+/// Qt's own words for these options would be in English.
 QString helpText(const QString &program)
 {
     return ProgramArguments::tr("Aufruf: %1 [Optionen] [Projekt.vnt]\n"
