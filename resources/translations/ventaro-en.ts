@@ -112,6 +112,17 @@
     </message>
 </context>
 <context>
+    <name>BackupSetting</name>
+    <message>
+        <source>&amp;Vorige Fassung behalten (.vnt~)</source>
+        <translation>Keep pre&amp;vious version (.vnt~)</translation>
+    </message>
+    <message>
+        <source>Lässt beim Speichern den vorigen Stand des Projekts als Sicherungskopie daneben liegen</source>
+        <translation>When a project is saved, keeps its previous version beside it as a backup</translation>
+    </message>
+</context>
+<context>
     <name>BlackBoxDays</name>
     <message>
         <source>Lokale Dateien</source>
@@ -671,12 +682,242 @@
         <source>Die CSV-Datei konnte nicht gespeichert werden!</source>
         <translation>The CSV file could not be saved!</translation>
     </message>
+    <message>
+        <source>Gespeichert: %1</source>
+        <translation>Saved: %1</translation>
+    </message>
+</context>
+<context>
+    <name>FaultText</name>
+    <message>
+        <source>Die Datei ist nicht da.</source>
+        <translation>The file does not exist.</translation>
+    </message>
+    <message>
+        <source>Der Ordner %1 ist nicht da.</source>
+        <translation>The folder %1 does not exist.</translation>
+    </message>
+    <message>
+        <source>Unter diesem Namen gibt es einen Ordner.</source>
+        <translation>There is a folder of that name.</translation>
+    </message>
+    <message>
+        <source>Unter diesem Namen gibt es keine gewöhnliche Datei.</source>
+        <translation>What has that name is no ordinary file.</translation>
+    </message>
+    <message>
+        <source>Dazu fehlen die Zugriffsrechte.</source>
+        <translation>Permission is denied.</translation>
+    </message>
+    <message>
+        <source>Beim Lesen ist ein Fehler aufgetreten</source>
+        <translation>Reading failed</translation>
+    </message>
+    <message>
+        <source>Der Arbeitsspeicher reicht nicht aus.</source>
+        <translation>There is not enough memory.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist beschädigt oder kein Ventaro-Projekt (Zeile %1, Byte %2).</source>
+        <translation>The file is damaged or no Ventaro project (line %1, byte %2).</translation>
+    </message>
+    <message>
+        <source>Die Datei ist leer.</source>
+        <translation>The file is empty.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist unvollständig: Sie bricht in Zeile %1 ab (Byte %2).</source>
+        <translation>The file is incomplete: it ends in line %1 (byte %2).</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält kein Ventaro-Projekt.</source>
+        <translation>The file holds no Ventaro project.</translation>
+    </message>
+    <message>
+        <source>Beim Schreiben ist ein Fehler aufgetreten</source>
+        <translation>Writing failed</translation>
+    </message>
+    <message>
+        <source>Die Datei wird zu groß für diesen Datenträger.</source>
+        <translation>The file becomes too large for this medium.</translation>
+    </message>
+    <message>
+        <source>Der Name der Datei ist zu lang.</source>
+        <translation>The name of the file is too long.</translation>
+    </message>
+    <message>
+        <source>Ein anderes Programm hat die Datei währenddessen geändert.</source>
+        <translation>Another program has changed the file meanwhile.</translation>
+    </message>
+    <message>
+        <source>Die Endung des Namens gehört zu keinem Bildformat.</source>
+        <translation>The ending of the name belongs to no picture format.</translation>
+    </message>
+    <message>
+        <source>Kein Speicherplatz auf %1: %2 fehlen</source>
+        <translation>No space left on %1: %2 are missing</translation>
+    </message>
+    <message>
+        <source>Kein Speicherplatz auf %1</source>
+        <translation>No space left on %1</translation>
+    </message>
+    <message>
+        <source>Der zugeteilte Speicherplatz auf %1 ist aufgebraucht.</source>
+        <translation>Your quota on %1 is used up.</translation>
+    </message>
+    <message>
+        <source>Der Datenträger %1 ist schreibgeschützt.</source>
+        <translation>The medium %1 is read-only.</translation>
+    </message>
+    <message>
+        <source>Der Datenträger mit %1 ist nicht mehr erreichbar.</source>
+        <translation>The medium with %1 cannot be reached any more.</translation>
+    </message>
+    <message>
+        <source>Vielleicht wurde sie verschoben, umbenannt oder gelöscht.</source>
+        <translation>It may have been moved, renamed or deleted.</translation>
+    </message>
+    <message>
+        <source>Ist der Datenträger eingesteckt und das Netzlaufwerk verbunden?</source>
+        <translation>Is the medium plugged in and the network drive connected?</translation>
+    </message>
+    <message>
+        <source>Bitte eine andere Datei wählen.</source>
+        <translation>Please choose another file.</translation>
+    </message>
+    <message>
+        <source>Bitte einen kürzeren Namen wählen.</source>
+        <translation>Please choose a shorter name.</translation>
+    </message>
+    <message>
+        <source>Bitte einen Namen mit der Endung .png, .jpg, .bmp oder .tif wählen.</source>
+        <translation>Please choose a name that ends in .png, .jpg, .bmp or .tif.</translation>
+    </message>
+    <message>
+        <source>Bitte andere Programme beenden und es noch einmal versuchen.</source>
+        <translation>Please close other programs and try again.</translation>
+    </message>
+    <message>
+        <source>Bitte den Datenträger prüfen und es noch einmal versuchen.</source>
+        <translation>Please check the medium and try again.</translation>
+    </message>
+    <message>
+        <source>Der Stand vor dem letzten Speichern liegt daneben in &quot;%1&quot;: umbenennen und öffnen.</source>
+        <translation>The version before the last save is beside it in &quot;%1&quot;: rename and open it.</translation>
+    </message>
+    <message>
+        <source>Bitte eine Kopie der Datei öffnen, falls es eine gibt.</source>
+        <translation>Please open a copy of the file if there is one.</translation>
+    </message>
+    <message>
+        <source>Bitte einen anderen Ort wählen.</source>
+        <translation>Please choose another place.</translation>
+    </message>
+    <message>
+        <source>Der vorige Inhalt ist gerettet in %1</source>
+        <translation>The previous content is safe in %1</translation>
+    </message>
 </context>
 <context>
     <name>FileProgress</name>
     <message>
         <source>Saving...</source>
         <translation>Saving...</translation>
+    </message>
+</context>
+<context>
+    <name>FileQuestions</name>
+    <message>
+        <source>Das Projekt &quot;%1&quot; ist auf diesem Rechner schon geöffnet (%2, Prozess %3).</source>
+        <translation>The project &quot;%1&quot; is open on this computer already (%2, process %3).</translation>
+    </message>
+    <message>
+        <source>Das Projekt &quot;%1&quot; ist auf dem Rechner %2 schon geöffnet (%3, Prozess %4).
+
+Läuft das Programm dort nicht mehr, kann die Datei %5 gelöscht werden.</source>
+        <translation>The project &quot;%1&quot; is open on the computer %2 already (%3, process %4).
+
+If the program does not run there any more, the file %5 can be deleted.</translation>
+    </message>
+    <message>
+        <source>Projekt öffnen</source>
+        <translation>Open project</translation>
+    </message>
+    <message>
+        <source>Beides lässt die Datei, wie sie ist: Gespeichert wird unter einem anderen Namen.</source>
+        <translation>Both leave the file as it is: changes are saved under another name.</translation>
+    </message>
+    <message>
+        <source>Nur lesen</source>
+        <translation>Read only</translation>
+    </message>
+    <message>
+        <source>Als Kopie öffnen</source>
+        <translation>Open a copy</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Projekt speichern</source>
+        <translation>Save project</translation>
+    </message>
+    <message>
+        <source>Speichern würde verwerfen, was dort geändert wird.</source>
+        <translation>Saving would discard what is changed there.</translation>
+    </message>
+    <message>
+        <source>Anderen Ort wählen...</source>
+        <translation>Choose another place...</translation>
+    </message>
+    <message>
+        <source>Die Datei &quot;%1&quot; ist nicht mehr da: Sie wurde verschoben, umbenannt oder gelöscht.</source>
+        <translation>The file &quot;%1&quot; is gone: it was moved, renamed or deleted.</translation>
+    </message>
+    <message>
+        <source>Die Datei &quot;%1&quot; wurde geändert, seit sie hier geöffnet oder gespeichert wurde.</source>
+        <translation>The file &quot;%1&quot; was changed since it was opened or saved here.</translation>
+    </message>
+    <message>
+        <source>Der Stand in diesem Programm ist vollständig.</source>
+        <translation>What this program holds is complete.</translation>
+    </message>
+    <message>
+        <source>Überschreiben verwirft, was das andere Programm gespeichert hat.</source>
+        <translation>Overwriting discards what the other program has saved.</translation>
+    </message>
+    <message>
+        <source>Neu anlegen</source>
+        <translation>Create again</translation>
+    </message>
+    <message>
+        <source>Überschreiben</source>
+        <translation>Overwrite</translation>
+    </message>
+    <message>
+        <source>Speichern unter...</source>
+        <translation>Save as...</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Das Projekt konnte nicht gespeichert werden!</source>
+        <translation>The project could not be saved!</translation>
+    </message>
+    <message>
+        <source>Das Projekt bleibt geöffnet und geändert.</source>
+        <translation>The project stays open and modified.</translation>
+    </message>
+    <message>
+        <source>Noch einmal versuchen</source>
+        <translation>Try again</translation>
+    </message>
+    <message>
+        <source>Cannot open file %1 !.</source>
+        <translation>Cannot open file %1!</translation>
     </message>
 </context>
 <context>
@@ -1442,6 +1683,43 @@ double-click fits the value range.</translation>
     </message>
 </context>
 <context>
+    <name>ProgramArguments</name>
+    <message>
+        <source>Aufruf: %1 [Optionen] [Projekt.vnt]
+Zeichnet Messungen an Spritzgießwerkzeugen auf und wertet sie aus.
+
+Optionen:
+  -h, --help     zeigt diese Hilfe
+  -v, --version  zeigt die Version
+
+Argumente:
+  Projekt.vnt    Projekt, das geöffnet wird; bei mehreren wird keines geöffnet. Ein
+                 Name, der mit &quot;-&quot; beginnt, wird als &quot;./-Name&quot; angegeben.
+</source>
+        <translation>Usage: %1 [options] [project.vnt]
+Records measurements of injection moulding tools and evaluates them.
+
+Options:
+  -h, --help     shows this help
+  -v, --version  shows the version
+
+Arguments:
+  project.vnt    project to open; of several, none is opened. A name that begins
+                 with &quot;-&quot; is given as &quot;./-name&quot;.
+</translation>
+    </message>
+    <message>
+        <source>Unbekannte Option: %1
+Ein Dateiname, der mit &quot;-&quot; beginnt, wird als &quot;./-Name&quot; angegeben.
+Hilfe: %2 --help
+</source>
+        <translation>Unknown option: %1
+A file name that begins with &quot;-&quot; is given as &quot;./-name&quot;.
+Help: %2 --help
+</translation>
+    </message>
+</context>
+<context>
     <name>ProjectCard</name>
     <message>
         <source>So geht es los</source>
@@ -1469,14 +1747,6 @@ double-click fits the value range.</translation>
     <message>
         <source>Loading...</source>
         <translation>Loading...</translation>
-    </message>
-    <message>
-        <source>Cannot open file %1 !.</source>
-        <translation>Cannot open file %1!</translation>
-    </message>
-    <message>
-        <source>Problem</source>
-        <translation>Problem</translation>
     </message>
 </context>
 <context>
@@ -1642,10 +1912,6 @@ Continue?</translation>
         <translation>Saving...</translation>
     </message>
     <message>
-        <source>Das Projekt konnte nicht gespeichert werden!</source>
-        <translation>The project could not be saved!</translation>
-    </message>
-    <message>
         <source>Das Projekt ist gespeichert, aber Grenzen, Schwellen, Bezeichnungen und Zeitstempel der Auswertung konnten nicht gespeichert werden!</source>
         <translation>The project has been saved, but the limits, thresholds, labels and time stamps of the evaluation could not be saved!</translation>
     </message>
@@ -1654,8 +1920,23 @@ Continue?</translation>
         <translation>Project saved: %1</translation>
     </message>
     <message>
-        <source>Problem</source>
-        <translation>Problem</translation>
+        <source>Das Projekt ist nur zum Lesen geöffnet: Bitte einen anderen Namen wählen.</source>
+        <translation>The project is open for reading only: please choose another name.</translation>
+    </message>
+    <message>
+        <source>Projekt ohne Sicherungskopie gespeichert: %1</source>
+        <translation>Project saved without a backup: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectStart</name>
+    <message>
+        <source>Es wurden %1 Dateien angegeben, aber nur eine kann geöffnet werden. Deshalb ist keine geöffnet.
+
+Bitte eine davon mit &quot;Projekt öffnen...&quot; wählen.</source>
+        <translation>%1 files were given, but only one can be opened. Therefore none was opened.
+
+Please choose one of them with &quot;Open project...&quot;.</translation>
     </message>
 </context>
 <context>
@@ -1778,6 +2059,17 @@ Continue?</translation>
     <message>
         <source>Die Datei &quot;%1&quot; ist schon vorhanden. Überschreiben?</source>
         <translation>The file &quot;%1&quot; already exists. Overwrite it?</translation>
+    </message>
+</context>
+<context>
+    <name>ReadOnlySign</name>
+    <message>
+        <source>Nur lesen</source>
+        <translation>Read only</translation>
+    </message>
+    <message>
+        <source>Das Projekt ist auch auf %1 geöffnet (%2, Prozess %3).</source>
+        <translation>The project is open on %1 too (%2, process %3).</translation>
     </message>
 </context>
 <context>
