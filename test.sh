@@ -12,6 +12,10 @@ step "translations" python3 tools/check_translations.py
 step "release build" build release
 step "build with sanitizers" build dev
 
+# Where there is a clang with a fuzzer; elsewhere the tests replay what was found before.
+short_fuzzing() { tools/fuzz.sh 10s || [ $? -eq 3 ]; }
+step "fuzzing" short_fuzzing
+
 export QT_QPA_PLATFORM=offscreen
 export UBSAN_OPTIONS=print_stacktrace=1
 export VENTARO_PROGRAMS=$PWD/build/release/bin # driven in a real window

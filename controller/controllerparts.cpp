@@ -38,6 +38,8 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     , logger{LoggerList({view, model, occupancy}, link),
              LoggerFetch({view, model, occupancy}, connector, demo, transfers, options.temporaryDirectory),
              LoggerImport({view, model, occupancy}, progress, lines, edits, recorder)}
+    , undoHistory(model)
+    , undo({view, model, occupancy}, undoHistory, edits, recorder)
 {
     setUpTransfers(options);
     handleMessages();
@@ -108,6 +110,7 @@ void ControllerParts::connectFiles()
     QObject::connect(&files, &ProjectFiles::measurementsReplaced, &files, [this] { recorder.forgetSeries(); });
     QObject::connect(&files, &ProjectFiles::shown, &files, [this] { recorder.announceRunning(); });
     QObject::connect(&files, &ProjectFiles::shown, &period, &SamplingPeriod::matchProject);
+    QObject::connect(&undo, &UndoControl::samplingPeriodChanged, &period, &SamplingPeriod::matchProject);
     QObject::connect(&files, &ProjectFiles::quitting, &files, [this] { recorder.requestStop(); });
 }
 

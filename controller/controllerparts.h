@@ -23,6 +23,8 @@
 #include "controller/recording/recorder.h"
 #include "controller/recordingactions.h"
 #include "controller/recordingdisplay.h"
+#include "controller/undo/undocontrol.h"
+#include "controller/undo/undohistory.h"
 #include "device/demobox.h"
 #include "device/mesotraconnector.h"
 
@@ -63,6 +65,8 @@ struct ControllerParts
     ProjectFiles files;
     ProjectPictures pictures;
     LoggerParts logger;
+    UndoHistory undoHistory;
+    UndoControl undo;
 
 private:
     void setUpTransfers(const ControllerOptions &options);

@@ -4,6 +4,7 @@
 #include "controller/occupancy.h"
 #include "controller/recording/linehold.h"
 #include "controller/recording/projectedits.h"
+#include "model/edit/editscope.h"
 #include "model/model.h"
 #include "view/window/view.h"
 
@@ -40,6 +41,7 @@ void ProjectOffer::ask(const ReceivedProject &project)
 void ProjectOffer::apply(const ReceivedProject &project)
 {
     m_desk.model.blockSignals(false);
+    const EditScope edit(&m_desk.model, [] { return tr("Übernahme der Projektbeschreibung"); });
     m_desk.model.setProjectData(project.data);
     for (int phase = 0; phase < kNumCyclePhases; ++phase)
         m_desk.model.setPhaseName(phase, project.phases[static_cast<std::size_t>(phase)]);

@@ -7,6 +7,7 @@
 #include "device/mesotraconnector.h"
 #include "device/protocol/messages.h"
 #include "device/protocol/samplingperiod.h"
+#include "model/edit/editscope.h"
 #include "model/model.h"
 #include "view/oscilloscope/taboszilloscope.h"
 #include "view/window/view.h"
@@ -70,6 +71,9 @@ void SamplingPeriod::takeEcho(const QString &message)
     if (*clock != m_desk.model.clock())
         m_edits.markModified();
     setBoxPeriod(*clock);
+    // Only with measurements there is something that another time axis could spoil.
+    const EditScope edit(m_desk.model.numChannels(0) > 0 ? &m_desk.model : nullptr,
+                         [] { return tr("Änderung der Abtastrate"); });
     m_desk.model.setClock(*clock);
     m_desk.view.tabOszi()->setClock(*clock, *clock * 100);
 }

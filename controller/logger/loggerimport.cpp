@@ -7,6 +7,7 @@
 #include "controller/recording/projectedits.h"
 #include "controller/recording/recorder.h"
 #include "controller/sensornews.h"
+#include "model/edit/editscope.h"
 #include "model/model.h"
 #include "view/blackbox/tabblackbox.h"
 #include "view/window/view.h"
@@ -30,12 +31,21 @@ void LoggerImport::run(const QStringList &files)
     // The answer takes its time; a recording may have begun.
     if (wanted.isEmpty() || refuseWhileRecording())
         return;
-    const SensorDescription before = m_desk.model.sensorDescription();
-    const ImportSummary summary = readFiles(wanted);
-    if (summary.numUnreadable() < wanted.size())
-        finish(before);
+    const ImportSummary summary = importAsOneStep(wanted);
     m_edits.applyKept(); // made while files were being read
     show(summary);
+}
+
+ImportSummary LoggerImport::importAsOneStep(const QStringList &files)
+{
+    const EditScope edit(&m_desk.model, [count = files.size()] {
+        return count == 1 ? tr("Import einer Datei") : tr("Import von %1 Dateien").arg(count);
+    });
+    const SensorDescription before = m_desk.model.sensorDescription();
+    ImportSummary summary = readFiles(files);
+    if (summary.numUnreadable() < files.size())
+        finish(before);
+    return summary;
 }
 
 /// The newest measurement is the one being recorded, in all views; so it must stay the last.

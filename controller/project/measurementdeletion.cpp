@@ -4,6 +4,7 @@
 #include "controller/occupancy.h"
 #include "controller/recording/projectedits.h"
 #include "controller/recording/recorder.h"
+#include "model/edit/editscope.h"
 #include "model/model.h"
 #include "view/common/measurementrange.h"
 #include "view/oscilloscope/taboszilloscope.h"
@@ -12,6 +13,12 @@
 #include <algorithm>
 
 namespace {
+
+QString deletionText(int count)
+{
+    return count == 1 ? MeasurementDeletion::tr("Löschen einer Messung")
+                      : MeasurementDeletion::tr("Löschen von %1 Messungen").arg(count);
+}
 
 int measurementCount(const Model &model)
 {
@@ -38,13 +45,21 @@ void MeasurementDeletion::deleteRange(const QString &range)
         return;
     // Not a ChangeScope: after a malformed part the signals stay blocked, see breakOff().
     m_desk.model.blockSignals(true);
-    const Result result = removeParts(range);
+    const Result result = removeAsOneStep(range);
     if (result.removed > 0)
         m_edits.markModified(); // also if a later part is malformed
     if (result.complete)
         finish();
     else
         breakOff(range);
+}
+
+MeasurementDeletion::Result MeasurementDeletion::removeAsOneStep(const QString &range)
+{
+    const EditScope edit(&m_desk.model, [] { return deletionText(1); });
+    const Result result = removeParts(range);
+    edit.setText([count = result.removed] { return deletionText(count); });
+    return result;
 }
 
 MeasurementDeletion::Result MeasurementDeletion::removeParts(const QString &range)
@@ -77,7 +92,6 @@ int MeasurementDeletion::remove(qint64 first, qint64 count)
     for (qint64 index = first + existing - 1; index >= first && existing > 0; --index) {
         if (!m_desk.model.deleteChannel(static_cast<int>(index)))
             continue;
-        m_recorder.measurementRemoved(static_cast<int>(index));
         ++removed;
     }
     if (removed < count)
@@ -106,6 +120,7 @@ void MeasurementDeletion::deleteAll()
         || !m_desk.occupancy.ask([this] { return m_desk.view.askToClearData(); }))
         return;
     m_desk.model.blockSignals(false);
+    const EditScope edit(&m_desk.model, [] { return tr("Löschen aller Messdaten"); });
     m_desk.model.setFileList({}); // what was imported can be imported again
     m_desk.model.clearData();
     m_recorder.forgetSeries(); // a recording that runs begins another measurement

@@ -29,6 +29,7 @@ private:
         bool complete = true; ///< false: ended at a malformed part
     };
 
+    [[nodiscard]] Result removeAsOneStep(const QString &range);
     [[nodiscard]] Result removeParts(const QString &range);
     [[nodiscard]] int remove(qint64 first, qint64 count);
     void finish();

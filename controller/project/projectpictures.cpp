@@ -4,6 +4,7 @@
 #include "controller/occupancy.h"
 #include "controller/recording/projectedits.h"
 #include "controller/waitcursor.h"
+#include "model/edit/editscope.h"
 #include "model/model.h"
 #include "model/project/atomicfile.h"
 #include "model/project/photo.h"
@@ -135,7 +136,12 @@ bool ProjectPictures::takeFile(int image, const QString &file)
 
 void ProjectPictures::set(int image, const QPixmap &picture)
 {
-    m_edits.apply([this, image, picture] { m_model.setImage(image, picture); });
+    m_edits.apply([this, image, picture] {
+        const EditScope edit(&m_model, [image, replaces = !m_model.image(image).isNull()] {
+            return (replaces ? tr("Ersetzen von Bild %1") : tr("Einfügen von Bild %1")).arg(image + 1);
+        });
+        m_model.setImage(image, picture);
+    });
 }
 
 // --- Pictures go ---
@@ -149,6 +155,7 @@ void ProjectPictures::remove(int image)
     if (!m_occupancy.ask([&] { return m_view.askYesNo(tr("Bild löschen"), question); }))
         return;
     m_model.blockSignals(false);
+    const EditScope edit(&m_model, [image] { return tr("Löschen von Bild %1").arg(image + 1); });
     (m_view.*kDeletions.at(static_cast<std::size_t>(image)))();
 }
 

@@ -124,8 +124,9 @@ ProjectSaving::Outcome ProjectSaving::checkTarget(const QString &fileName)
     } else if (realFile(fileName) == realFile(m_model.currentFile())) {
         const DiskCopy::State state = m_model.fileOnDisk();
         const bool isGone = state == DiskCopy::State::Gone;
-        // Without its folder it cannot be saved anyway, and that will be said.
-        if (state != DiskCopy::State::Same && (!isGone || QFileInfo(fileName).dir().exists()))
+        // Without its folder, or with something else in its place, it cannot be saved anyway, and that will be said.
+        const QFileInfo file(fileName);
+        if (state != DiskCopy::State::Same && (isGone ? file.dir().exists() : file.isFile()))
             answer = m_questions.whetherToReplace(fileName, isGone);
     }
     if (answer == Answer::Here)

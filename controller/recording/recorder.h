@@ -25,7 +25,9 @@ public:
     /// True from the echo of a start to the echo of the stop, or to the end of the link.
     [[nodiscard]] bool isRunning() const { return m_running; }
     /// The measurement of a sensor position (0 to 4) that receives the samples; -1 for none.
-    [[nodiscard]] int seriesIndex(int position) const { return m_series.index(position); }
+    [[nodiscard]] int seriesIndex(int position) const { return m_series.index(position, m_model); }
+    /// The ids of the shot that grows; 0 for each sensor while no recording runs.
+    [[nodiscard]] ShotIds growingShot() const { return m_running ? m_series.ids() : ShotIds(); }
     /// Tells the listener again that a recording runs, if one does.
     void announceRunning() const;
     [[nodiscard]] bool areValuesInThousandths() const { return m_inThousandths; }
@@ -50,8 +52,6 @@ public:
     [[nodiscard]] qint64 restartLineClock();
 
     // --- What happens to the measurements ---
-    /// Keeps the indices right after one measurement was removed from the model.
-    void measurementRemoved(int measurement) { m_series.measurementRemoved(measurement); }
     /// No measurement receives samples until the next one begins.
     void forgetSeries() { m_series.clear(); }
 

@@ -35,6 +35,13 @@ struct SensorMeta
     [[nodiscard]] QuantityMeta &at(const QString &key);
 };
 
+/// What is kept of one shot beside its samples.
+struct ShotMeta
+{
+    QString label;
+    QDateTime timestamp;
+};
+
 /// What belongs to a project but has no key in the project file; it is kept in a file beside it.
 struct ProjectMeta
 {
@@ -53,6 +60,9 @@ struct ProjectMeta
     /// A null date-time for a shot without one.
     [[nodiscard]] QDateTime timestamp(int shot) const;
     void setTimestamp(int shot, const QDateTime &timestamp);
+    [[nodiscard]] ShotMeta shot(int shot) const;
+    /// Labels and time stamps of the shots from there on move up by one.
+    void insertShot(int shot, const ShotMeta &meta);
     /// Labels and time stamps of the shots behind move down by one.
     void removeShot(int shot);
     /// Drops labels and time stamps behind the first `count` shots.

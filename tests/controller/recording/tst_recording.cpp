@@ -109,7 +109,6 @@ private slots:
         for (const char *line : {"run=1", "0;1;1", "run=0", "run=1", "0;2;2"})
             program.say(line);
         QVERIFY(program.model.deleteChannel(0));
-        program.recorder.measurementRemoved(0);
         program.say("0;3;3");
         QCOMPARE(program.shots(0), (Shots{{2, 3}}));
         program.model.clearData();

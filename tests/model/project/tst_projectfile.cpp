@@ -361,6 +361,7 @@ private slots:
         row("code units", R"(\u20AC\ud83d\ude00)"_ba, "\u20ac\U0001F600");
         row("lone surrogate", R"(x\udc00y)"_ba, QString("x"_s + QChar(0xdc00) + QLatin1Char('y')));
         row("zero", R"(a\u0000b)"_ba, QString("a"_s + QChar(0) + QLatin1Char('b')));
+        row("byte order marks", "\xEF\xBB\xBF\xEF\xBB\xBFx"_ba, QString(QString(2, QChar(0xfeff)) + QLatin1Char('x')));
         row("cut code unit", R"(\u12)"_ba, "u12");
         row("broken UTF-8", "a\xff!"_ba, QString("a"_s + QChar(0xfffd) + QLatin1Char('!')));
         row("long", QByteArray(300000, 'x'), QString(300000, QLatin1Char('x')));

@@ -7,8 +7,8 @@
 #include "view/project/tabproject.h"
 #include "view/terminal/tabdatalogger.h"
 #include "view/terminal/tabterminal.h"
-#include "view/window/prompts/dialogprompts.h"
 #include "view/window/pagetable.h"
+#include "view/window/prompts/dialogprompts.h"
 
 #include <QtWidgets>
 
