@@ -25,7 +25,6 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
                    {options.deviceDescriptionTimeout, options.sensorDescriptionTimeout})
     , period({view, model, occupancy}, connector, edits, recorder)
     , offer({view, model, occupancy}, questions, lines, edits)
-    , transfers({view, model, occupancy})
     , firmware({view, model, occupancy}, connector, link, demo, options.restartWait)
     , recording({view, model, occupancy}, recorder, link)
     , deletion({view, model, occupancy}, edits, recorder)
@@ -35,8 +34,8 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     , saving({view, model, occupancy}, progress, lines, edits, access.lock, access.questions)
     , files({view, model, occupancy}, progress, lines, edits, saving, access.lock, access.questions)
     , pictures({view, model, occupancy}, edits)
-    , logger{LoggerList({view, model, occupancy}, link),
-             LoggerFetch({view, model, occupancy}, connector, demo, transfers, options.temporaryDirectory),
+    , logger{TransferDialogs({view, model, occupancy}), LoggerList({view, model, occupancy}, link),
+             LoggerFetch({view, model, occupancy}, connector, demo, logger.transfers, options.temporaryDirectory),
              LoggerImport({view, model, occupancy}, progress, lines, edits, recorder)}
     , undoHistory(model)
     , undo({view, model, occupancy}, undoHistory, edits, recorder)
@@ -60,7 +59,7 @@ void ControllerParts::setUpTransfers(const ControllerOptions &options)
 {
     connector.scp().setOptions(
         {options.scpToolFile, theme::deviceUser, theme::devicePassword, options.deviceAddress, options.scpTimeouts});
-    transfers.attach(connector.scp());
+    logger.transfers.attach(connector.scp());
 }
 
 void ControllerParts::takeLine(View &view, const QString &line)

@@ -8,7 +8,6 @@
 #include "controller/link/projectoffer.h"
 #include "controller/link/samplingperiod.h"
 #include "controller/logger/loggerparts.h"
-#include "controller/logger/transferdialogs.h"
 #include "controller/occupancy.h"
 #include "controller/project/fileaccess.h"
 #include "controller/project/fileprogress.h"
@@ -55,7 +54,6 @@ struct ControllerParts
     BoxDescriptions descriptions;
     SamplingPeriod period;
     ProjectOffer offer;
-    TransferDialogs transfers;
     FirmwareUpdate firmware;
     RecordingActions recording;
     MeasurementDeletion deletion;

@@ -3,10 +3,12 @@
 #include "controller/logger/loggerfetch.h"
 #include "controller/logger/loggerimport.h"
 #include "controller/logger/loggerlist.h"
+#include "controller/logger/transferdialogs.h"
 
-/// What deals with the logger files of the box.
+/// What deals with the logger files of the box, and with their transfer.
 struct LoggerParts
 {
+    TransferDialogs transfers;
     LoggerList list;
     LoggerFetch fetch;
     LoggerImport import;

@@ -70,6 +70,17 @@ void ProjectLock::follow()
         std::swap(m_held, m_reserved);
     if (!real.isEmpty() && !m_held.lock)
         owner = take(real, m_held);
+    setOwner(owner);
+}
+
+void ProjectLock::retry()
+{
+    if (m_owner)
+        setOwner(take(QString(m_held.file), m_held));
+}
+
+void ProjectLock::setOwner(const std::optional<LockOwner> &owner)
+{
     const bool hasChanged = owner.has_value() || m_owner.has_value();
     m_owner = owner;
     if (hasChanged)

@@ -37,6 +37,9 @@ public:
     [[nodiscard]] std::optional<LockOwner> reserve(const QString &file);
     void dropReservation();
 
+    /// Takes the lock of the model's file if whoever had it has closed the project meanwhile.
+    void retry();
+
     /// Who else has the file of the model open; then nothing may be saved there.
     [[nodiscard]] const std::optional<LockOwner> &owner() const { return m_owner; }
 
@@ -52,6 +55,7 @@ private:
     };
 
     void follow();
+    void setOwner(const std::optional<LockOwner> &owner);
     [[nodiscard]] static std::optional<LockOwner> take(const QString &file, Lock &lock);
 
     Model &m_model;

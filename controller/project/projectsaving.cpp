@@ -47,6 +47,7 @@ void ProjectSaving::save()
 {
     m_saved = false;
     const QString fileName = m_model.currentFile();
+    m_lock.retry();
     if (m_lock.owner())
         m_view.showStatus(tr("Das Projekt ist nur zum Lesen geöffnet: Bitte einen anderen Namen wählen."));
     if (fileName.isEmpty() || m_lock.owner()) {

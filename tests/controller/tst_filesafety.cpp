@@ -12,7 +12,6 @@
 #include <QStatusBar>
 #include <QTemporaryDir>
 
-#include <csignal>
 #include <memory>
 
 namespace {
@@ -118,6 +117,27 @@ private slots:
         QCOMPARE(contentOf(m_file), saved);
         QCOMPARE(bench.model.currentFile(), path("mine.vnt"));
         QVERIFY(bench.view.findChild<QLabel *>("labelReadOnly"_s)->isHidden());
+    }
+
+    void savesAgainWhenTheOtherHasClosed()
+    {
+        Bench bench;
+        {
+            Bench other;
+            other.prompts->openNames = {m_file};
+            emit other.view.openProject();
+            bench.prompts->openNames = {m_file};
+            bench.prompts->choices = {0};
+            emit bench.view.openProject();
+            bench.recordShots(1);
+            emit bench.view.saveProject(); // no name is chosen
+            QVERIFY(bench.model.isProjectModified());
+        }
+        emit bench.view.saveProject();
+        QVERIFY(!bench.model.isProjectModified());
+        QCOMPARE(bench.prompts->fileDialogs.size(), 2); // opening and the first save
+        QCOMPARE(Model(m_file).numChannels(0), 3);
+        QVERIFY(QFile::exists(lockOf(m_file)));
     }
 
     void theLockOfAnEndedProgramIsTakenOver()

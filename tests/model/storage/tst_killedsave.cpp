@@ -3,6 +3,7 @@
 #include "tests/support/files.h"
 #include "tests/support/literals.h"
 
+#include <QLoggingCategory>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
@@ -27,6 +28,7 @@ void addShot(Model &model, double value)
 /// Saves one project over and over, one shot more or less each time, until it is killed.
 int saveForEver(const QString &file)
 {
+    QLoggingCategory::setFilterRules("*.debug=false"_s);
     Model model{QString()};
     model.setYield([](int) {});
     addShot(model, 1);
