@@ -12,7 +12,7 @@
 ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptions &options)
     : connector(options.port)
     , demoBox(options.demoProgram, options.demoStartTimeout)
-    , occupancy(view, model)
+    , occupancy(view, model, options.typingPause)
     , questions(occupancy)
     , progress(view, model)
     , display(view)
@@ -32,7 +32,9 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     , access{ProjectLock(model), FileQuestions({view, model, occupancy}),
              ProjectStart({view, model, occupancy}, questions, access.questions, access.lock, options.filesGiven)}
     , saving({view, model, occupancy}, progress, lines, edits, access.lock, access.questions)
-    , files({view, model, occupancy}, progress, lines, edits, saving, access.lock, access.questions)
+    , files({view, model, occupancy}, progress, lines, edits, saving,
+            RecordingEnd({view, model, occupancy}, connector, recorder, options.stopWait), access.lock,
+            access.questions)
     , pictures({view, model, occupancy}, edits)
     , logger{TransferDialogs({view, model, occupancy}), LoggerList({view, model, occupancy}, link),
              LoggerFetch({view, model, occupancy}, connector, demo, logger.transfers, options.temporaryDirectory),
@@ -92,6 +94,7 @@ void ControllerParts::connectLink(View &view)
     QObject::connect(&link, &BoxLink::closing, &descriptions, &BoxDescriptions::stopWaiting);
     QObject::connect(&link, &BoxLink::closing, &logger.list, &LoggerList::reset);
     QObject::connect(&link, &BoxLink::left, &demo, &DemoLink::stop);
+    QObject::connect(&link, &BoxLink::left, &link, [this] { offer.withdraw(); });
     QObject::connect(&link, &BoxLink::demoLost, &demo, [this] { demo.onFailed(DemoBox::End::Ended); });
     QObject::connect(&demoBox, &DemoBox::listening, &demo, &DemoLink::onListening);
     QObject::connect(&demoBox, &DemoBox::failed, &demo, &DemoLink::onFailed);
@@ -102,9 +105,14 @@ void ControllerParts::connectLink(View &view)
 
 void ControllerParts::connectFiles()
 {
+    QObject::connect(&files, &ProjectFiles::boxDismissed, &link, &BoxLink::leaveForAnother);
     QObject::connect(&files, &ProjectFiles::boxGivenUp, &link, &BoxLink::leave);
     QObject::connect(&access.start, &ProjectStart::declined, &files, &ProjectFiles::newProject);
     QObject::connect(&access.start, &ProjectStart::copyWanted, &files, &ProjectFiles::detachFromFile);
+    QObject::connect(&files, &ProjectFiles::projectReplaced, &files, [this] {
+        offer.forgetAnswers();
+        recorder.restartShotClock();
+    });
     QObject::connect(&files, &ProjectFiles::cleared, &descriptions, &BoxDescriptions::describeAgain);
     QObject::connect(&files, &ProjectFiles::measurementsReplaced, &files, [this] { recorder.forgetSeries(); });
     QObject::connect(&files, &ProjectFiles::shown, &files, [this] { recorder.announceRunning(); });

@@ -185,6 +185,10 @@ public:
     void clear();
 
     // --- Files -------------------------------------------------------------------------------------------------
+    /// Reads a file completely, for the open() that follows, so that nobody is asked about a file that cannot be
+    /// opened. False if it cannot.
+    [[nodiscard]] bool readAhead(const QString &fileName) { return m_files.readAhead(fileName, Q_FUNC_INFO); }
+    void forgetReadAhead() { m_files.forgetReadAhead(); }
     [[nodiscard]] bool open(const QString &fileName);
     [[nodiscard]] bool save(const QString &fileName);
     /// False if the last save() wrote the project, but not the file beside it.

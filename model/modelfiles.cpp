@@ -29,6 +29,13 @@ struct ModelFiles::Opened
     ImageStore images;
 };
 
+/// A project that was read and not opened yet.
+struct ModelFiles::ReadAhead
+{
+    QString fileName;
+    std::unique_ptr<Opened> opened;
+};
+
 namespace {
 
 FileFault outOfMemory(const QString &fileName)
@@ -58,6 +65,8 @@ ModelFiles::ModelFiles(ProjectEditor &editor, Project &project, ModelChanges &ch
     , m_work(work)
 {}
 
+ModelFiles::~ModelFiles() = default;
+
 void ModelFiles::setCurrentFile(const QString &absolutePath)
 {
     if (std::exchange(m_currentFile, absolutePath) != absolutePath)
@@ -70,24 +79,31 @@ void ModelFiles::setModified(bool modified)
         m_changes.fileState();
 }
 
+bool ModelFiles::readAhead(const QString &fileName, const char *function)
+{
+    forgetReadAhead();
+    if (m_work.refuses(function))
+        return false;
+    std::unique_ptr<Opened> opened = readFile(fileName, function);
+    if (opened)
+        m_readAhead = std::make_unique<ReadAhead>(ReadAhead{fileName, std::move(opened)});
+    return m_readAhead != nullptr;
+}
+
+void ModelFiles::forgetReadAhead()
+{
+    m_readAhead.reset();
+}
+
 bool ModelFiles::open(const QString &fileName, const char *function)
 {
     if (m_work.refuses(function))
         return false;
-    m_fault = {};
-    QFile file(fileName);
-    // Only regular files: opening a FIFO would block.
-    if (!QFileInfo(fileName).isFile() || !file.open(QIODevice::ReadOnly)) {
-        m_fault = openingFault(fileName);
-        qCDebug(lcModel).noquote().nospace() << function << " could not open file:" << fileName;
+    std::unique_ptr<Opened> opened = takeReadAhead(fileName);
+    if (!opened)
+        opened = readFile(fileName, function);
+    if (!opened)
         return false;
-    }
-    std::optional<Opened> opened = read(file);
-    if (!opened) {
-        m_fault = readingFault(file, m_work.lacksMemory());
-        qCDebug(lcModel).noquote().nospace() << function << " jdoc is no object!";
-        return false;
-    }
     apply(*opened, QFileInfo(fileName).absoluteFilePath(), function);
     m_changes.opened(function);
     // Receivers may have set it: to them, opening looks like a change.
@@ -96,12 +112,40 @@ bool ModelFiles::open(const QString &fileName, const char *function)
     return true;
 }
 
+/// nullptr if there is nothing, or another file, or one that was changed or replaced since.
+std::unique_ptr<ModelFiles::Opened> ModelFiles::takeReadAhead(const QString &fileName)
+{
+    const std::unique_ptr<ReadAhead> ahead = std::move(m_readAhead);
+    if (!ahead || ahead->fileName != fileName || !stampOf(fileName).looksLike(ahead->opened->stamp))
+        return nullptr;
+    return std::move(ahead->opened);
+}
+
+std::unique_ptr<ModelFiles::Opened> ModelFiles::readFile(const QString &fileName, const char *function)
+{
+    m_fault = {};
+    QFile file(fileName);
+    // Only regular files: opening a FIFO would block.
+    if (!QFileInfo(fileName).isFile() || !file.open(QIODevice::ReadOnly)) {
+        m_fault = openingFault(fileName);
+        qCDebug(lcModel).noquote().nospace() << function << " could not open file:" << fileName;
+        return nullptr;
+    }
+    std::optional<Opened> opened = read(file);
+    if (!opened) {
+        m_fault = readingFault(file, m_work.lacksMemory());
+        qCDebug(lcModel).noquote().nospace() << function << " jdoc is no object!";
+        return nullptr;
+    }
+    return std::make_unique<Opened>(*std::move(opened));
+}
+
 // All that can fail, takes long or lets events in happens here, before the model is touched.
 std::optional<ModelFiles::Opened> ModelFiles::read(QFile &file)
 {
     const auto task = [&]() -> std::optional<Opened> {
         Pacer pacer(m_work.yield(), file.size());
-        FileStamp stamp = stampOf(file.fileName());
+        FileStamp stamp = stampOf(file.fileName()); // now: what is written while it is read makes it out of date
         HashedSource source(file);
         std::optional<ProjectDocument> document = projectfile::read(source, pacer);
         if (!document)
@@ -135,6 +179,7 @@ bool ModelFiles::save(const QString &fileName, const char *function)
     const ShotChecks checks = shotChecks(m_project.shots);
     if (!writeProject(fileName))
         return false;
+    forgetReadAhead(); // it may be of this file
     m_metaSaved = saveMeta(fileName, meta, checks, metaOptions(fileName, m_saveOptions));
     const bool isUpToDate = countChanges() == changesBefore;
     m_editor.setCurrentFile(QFileInfo(fileName).absoluteFilePath());

@@ -10,6 +10,7 @@
 #include "model/edit/editscope.h"
 #include "model/model.h"
 #include "view/oscilloscope/taboszilloscope.h"
+#include "view/window/prompts/questions.h"
 #include "view/window/view.h"
 
 namespace {
@@ -54,8 +55,9 @@ void SamplingPeriod::choose(const QString &label)
     }
     // A project has one period for all its measurements: the time axis of the existing ones would change too.
     const QString question = tr("Die vorhandenen Messungen erhalten die Zeitachse der neuen Abtastrate. Fortfahren?");
-    if (m_desk.model.numChannels(0) > 0
-        && !m_desk.occupancy.ask([&] { return m_desk.view.askYesNo(tr("Abtastrate ändern"), question); }))
+    if (m_desk.model.numChannels(0) > 0 && !m_desk.occupancy.ask([&] {
+            return m_desk.view.questions().yesNoDestructive(tr("Abtastrate ändern"), question);
+        }))
         return;
     m_connector.setClock(label); // project and plots follow with the echo
 }

@@ -10,6 +10,7 @@
 #include "model/edit/editscope.h"
 #include "model/model.h"
 #include "view/blackbox/tabblackbox.h"
+#include "view/window/prompts/questions.h"
 #include "view/window/view.h"
 
 #include <algorithm>
@@ -61,7 +62,7 @@ bool LoggerImport::refuseWhileRecording()
     return true;
 }
 
-/// Files that the project has already are left out unless the user wants them again.
+/// Files that the project has already are left out unless the user wants them again. None if the question is closed.
 QStringList LoggerImport::withoutUnwantedRepeats(const QStringList &files)
 {
     const QSet<QByteArray> imported = m_desk.model.importedFiles();
@@ -74,7 +75,16 @@ QStringList LoggerImport::withoutUnwantedRepeats(const QStringList &files)
     const QString question =
         repeats == 1 ? tr("Eine der Dateien ist schon in diesem Projekt.\nNoch einmal importieren?")
                      : tr("%1 der Dateien sind schon in diesem Projekt.\nNoch einmal importieren?").arg(repeats);
-    return m_desk.occupancy.ask([&] { return m_desk.view.askYesNo(tr("BlackBox"), question); }) ? files : fresh;
+    const QString hint = fresh.isEmpty() ? QString()
+                                         : tr("\"Nein\" importiert nur die neuen Dateien. Escape oder Schließen bricht "
+                                              "den Import ab.");
+    const QMessageBox::StandardButton answer = m_desk.occupancy.ask([&] {
+        return m_desk.view.questions().ask(
+            {tr("BlackBox"), question, QMessageBox::Yes | QMessageBox::No, QMessageBox::No, false, hint});
+    });
+    if (answer == QMessageBox::NoButton)
+        return {};
+    return answer == QMessageBox::Yes ? files : fresh;
 }
 
 ImportSummary LoggerImport::readFiles(const QStringList &files)

@@ -10,13 +10,15 @@
 #include "controller/recording/projectedits.h"
 #include "model/model.h"
 #include "view/home/tabhome.h"
+#include "view/window/prompts/questions.h"
 #include "view/window/view.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
 
 ProjectFiles::ProjectFiles(const Desk &desk, FileProgress &progress, LineQueue &lines, ProjectEdits &edits,
-                           ProjectSaving &saving, ProjectLock &lock, const FileQuestions &questions)
+                           ProjectSaving &saving, const RecordingEnd &recording, ProjectLock &lock,
+                           const FileQuestions &questions)
     : m_view(desk.view)
     , m_model(desk.model)
     , m_occupancy(desk.occupancy)
@@ -24,6 +26,7 @@ ProjectFiles::ProjectFiles(const Desk &desk, FileProgress &progress, LineQueue &
     , m_lines(lines)
     , m_edits(edits)
     , m_saving(saving)
+    , m_recording(recording)
     , m_lock(lock)
     , m_questions(questions)
 {
@@ -38,13 +41,15 @@ void ProjectFiles::newProject()
     if (m_occupancy.refuseWhileOccupied())
         return;
     m_view.commitInput();
-    if (m_model.isProjectModified()) {
-        const bool save = m_occupancy.ask([this] { return m_view.askToSave(); });
-        if (save && !m_saving.saveUnsavedChanges())
+    // While a shot is being recorded, there is always more to save than a moment ago.
+    if (m_model.isProjectModified() || m_recording.isRecording()) {
+        const SaveAnswer answer = askToSave();
+        if (answer == SaveAnswer::Stay || (answer == SaveAnswer::Save && !saveChanges()))
             return;
-        if (!save)
-            emit boxGivenUp();
+        if (answer == SaveAnswer::Discard)
+            emit boxDismissed();
     }
+    m_recording.finishForGood();
     m_model.blockSignals(false);
     m_model.clear();
     emit cleared();
@@ -55,6 +60,18 @@ void ProjectFiles::newProject()
         m_view.forgetLiveValues();
     m_view.setConnected(m_model.isConnected());
     emit shown();
+    emit projectReplaced();
+}
+
+SaveAnswer ProjectFiles::askToSave()
+{
+    return m_occupancy.ask([this] { return m_view.questions().toSaveOrStay(); });
+}
+
+/// Ends the recording when the file is chosen, so that all of it is in the file.
+bool ProjectFiles::saveChanges()
+{
+    return m_saving.saveUnsavedChanges([this] { m_recording.finish(); });
 }
 
 void ProjectFiles::open()
@@ -62,8 +79,9 @@ void ProjectFiles::open()
     if (m_occupancy.refuseWhileOccupied())
         return;
     m_view.commitInput();
-    const QString fileName =
-        m_occupancy.ask([this] { return m_view.askOpenFile(tr("Projekt öffnen"), ProjectSaving::filter()); });
+    const QString fileName = m_occupancy.ask([this] {
+        return m_view.questions().openFile(tr("Projekt öffnen"), ProjectSaving::filter(), {Questions::kProjectFolder});
+    });
     if (fileName.isEmpty()) {
         qCDebug(lcController) << " filename is empty!";
         return;
@@ -82,16 +100,25 @@ void ProjectFiles::openNamed(const QString &fileName)
 
 void ProjectFiles::replaceWith(const QString &fileName)
 {
-    using Opening = FileQuestions::Opening;
-    Opening how = Opening::ReadOnly; // whether it really is read-only is up to the lock
-    if (QFileInfo(fileName).isFile()) {
-        if (const std::optional<LockOwner> owner = m_lock.reserve(fileName))
-            how = m_questions.howToOpen(fileName, *owner);
-    }
-    const bool opened = how != Opening::Not && replace(fileName);
+    const FileQuestions::Opening how = howToOpen(fileName);
+    const bool opened = how != FileQuestions::Opening::Not && replace(fileName);
     m_lock.dropReservation();
-    if (opened && how == Opening::Copy)
+    m_model.forgetReadAhead();
+    if (opened && how == FileQuestions::Opening::Copy)
         detachFromFile();
+}
+
+/// Asks only if somebody else has the file; else the lock is reserved.
+FileQuestions::Opening ProjectFiles::howToOpen(const QString &fileName)
+{
+    const bool isFile = QFileInfo(fileName).isFile();
+    const std::optional<LockOwner> owner = isFile ? m_lock.reserve(fileName) : std::optional<LockOwner>();
+    if (!owner)
+        return FileQuestions::Opening::ReadOnly; // whether it really is read-only is up to the lock
+    if (readAhead(fileName))
+        return m_questions.howToOpen(fileName, *owner);
+    showOpened(fileName, false);
+    return FileQuestions::Opening::Not;
 }
 
 void ProjectFiles::detachFromFile()
@@ -102,8 +129,7 @@ void ProjectFiles::detachFromFile()
 
 bool ProjectFiles::replace(const QString &fileName)
 {
-    if (m_model.isProjectModified() && m_occupancy.ask([this] { return m_view.askToSave(); })
-        && !m_saving.saveUnsavedChanges())
+    if (!mayReplaceWith(fileName))
         return false;
     const quint64 structure = m_model.structureRevision();
     const bool opened = load(fileName);
@@ -115,7 +141,50 @@ bool ProjectFiles::replace(const QString &fileName)
     if (m_model.structureRevision() != structure)
         emit measurementsReplaced();
     showOpened(fileName, opened);
+    if (opened)
+        emit projectReplaced();
     return opened;
+}
+
+/// Asks about what would be lost, but not for a file that cannot be opened.
+bool ProjectFiles::mayReplaceWith(const QString &fileName)
+{
+    if (!m_model.isProjectModified() && !m_recording.isRecording())
+        return true;
+    if (!readAhead(fileName)) {
+        showOpened(fileName, false);
+        return false;
+    }
+    if (m_recording.isRecording() && !mayEndRecording())
+        return false;
+    if (m_model.isProjectModified()) {
+        const SaveAnswer answer = askToSave();
+        if (answer == SaveAnswer::Stay || (answer == SaveAnswer::Save && !saveChanges()))
+            return false;
+    }
+    m_recording.finishForGood(); // the rest of the shot must not land in the other project
+    return true;
+}
+
+bool ProjectFiles::mayEndRecording()
+{
+    Choice choice;
+    choice.title = tr("Projekt öffnen");
+    choice.text = tr("Eine Aufzeichnung läuft. Sie wird beendet, bevor das andere Projekt geöffnet wird.");
+    choice.answers = QStringList{tr("Weiter aufzeichnen"), tr("Beenden und öffnen")};
+    return m_occupancy.ask([&] { return m_view.questions().choose(choice); }) == 1;
+}
+
+bool ProjectFiles::readAhead(const QString &fileName)
+{
+    bool readable = false;
+    {
+        const ProgressScope progress(m_progress, tr("Loading..."));
+        const LineHold hold(m_lines);
+        readable = m_model.readAhead(fileName);
+    }
+    m_edits.applyKept(); // the project that is open is still the one that they were meant for
+    return readable;
 }
 
 bool ProjectFiles::load(const QString &fileName)
@@ -159,7 +228,9 @@ bool ProjectFiles::confirmQuit()
     qCDebug(lcController).noquote().nospace() << Q_FUNC_INFO << " modelChanged=" << m_model.isProjectModified();
     if (!m_model.isProjectModified() && !m_occupancy.ask([this] { return m_view.askToQuit(); }))
         return false;
-    // Samples may have come in while that question was open; then the other question has to be asked too.
+    // Samples may have come in while that question was open or be under way; then the other one has to be asked too.
+    if (!m_model.isProjectModified())
+        m_recording.finish();
     return !m_model.isProjectModified() || confirmLosingChanges();
 }
 
@@ -167,7 +238,7 @@ bool ProjectFiles::confirmLosingChanges()
 {
     switch (m_occupancy.ask([this] { return m_view.askToSaveAndQuit(); })) {
     case QMessageBox::Save: // changes made during the save are still unsaved
-        return m_saving.saveUnsavedChanges() && (!m_model.isProjectModified() || confirmQuit());
+        return saveChanges() && (!m_model.isProjectModified() || confirmQuit());
     case QMessageBox::Discard:
         return true;
     default:

@@ -1,17 +1,20 @@
 #pragma once
 
 #include "controller/desk.h"
+#include "controller/project/filequestions.h"
+#include "controller/recordingend.h"
 
 #include <QObject>
 
 class FileProgress;
-class FileQuestions;
 class LineQueue;
 class ProjectEdits;
 class ProjectLock;
 class ProjectSaving;
+enum class SaveAnswer;
 
-/// New, open and quit: everything that gives up the project that is open, with the questions about unsaved changes.
+/// New, open and quit: everything that gives up the project that is open, with the questions about unsaved changes. A
+/// recording that runs is ended first, so that its last samples are in the project that they belong to.
 class ProjectFiles : public QObject
 {
     Q_OBJECT
@@ -19,7 +22,7 @@ class ProjectFiles : public QObject
 public:
     /// All references must outlive the files. The project that is open already is remembered as a recent one.
     ProjectFiles(const Desk &desk, FileProgress &progress, LineQueue &lines, ProjectEdits &edits, ProjectSaving &saving,
-                 ProjectLock &lock, const FileQuestions &questions);
+                 const RecordingEnd &recording, ProjectLock &lock, const FileQuestions &questions);
 
     void newProject();
     void open();
@@ -30,8 +33,12 @@ public:
     void quit();
 
 signals:
-    /// The user is leaving what was recorded with the box that is connected.
+    /// What was recorded with the box that is connected is thrown away.
+    void boxDismissed();
+    /// The program leaves the box, whose recording has been stopped.
     void boxGivenUp();
+    /// The project in the model is another one now.
+    void projectReplaced();
     /// The model has been cleared for a new project.
     void cleared();
     /// The measurements in the model are not those from before.
@@ -43,7 +50,13 @@ signals:
 
 private:
     void replaceWith(const QString &fileName);
+    [[nodiscard]] FileQuestions::Opening howToOpen(const QString &fileName);
     [[nodiscard]] bool replace(const QString &fileName);
+    [[nodiscard]] bool mayReplaceWith(const QString &fileName);
+    [[nodiscard]] bool mayEndRecording();
+    [[nodiscard]] SaveAnswer askToSave();
+    [[nodiscard]] bool saveChanges();
+    [[nodiscard]] bool readAhead(const QString &fileName);
     [[nodiscard]] bool load(const QString &fileName);
     void showOpened(const QString &fileName, bool opened);
     [[nodiscard]] bool confirmQuit();
@@ -56,6 +69,7 @@ private:
     LineQueue &m_lines;
     ProjectEdits &m_edits;
     ProjectSaving &m_saving;
+    RecordingEnd m_recording;
     ProjectLock &m_lock;
     const FileQuestions &m_questions;
 };

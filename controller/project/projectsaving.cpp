@@ -4,14 +4,17 @@
 #include "controller/project/fileprogress.h"
 #include "controller/project/filequestions.h"
 #include "controller/project/projectlock.h"
+#include "controller/project/proposedname.h"
 #include "controller/recording/linehold.h"
 #include "controller/recording/projectedits.h"
 #include "model/model.h"
 #include "model/project/atomicfile.h"
+#include "view/window/prompts/questions.h"
 #include "view/window/view.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QScopedValueRollback>
 
 namespace {
 
@@ -36,8 +39,9 @@ QString ProjectSaving::filter()
     return tr("Ventaro Dateien (*.vnt)");
 }
 
-bool ProjectSaving::saveUnsavedChanges()
+bool ProjectSaving::saveUnsavedChanges(const std::function<void()> &beforeWriting)
 {
+    const QScopedValueRollback<std::function<void()>> called(m_beforeWriting, beforeWriting);
     m_saved = false;
     emit m_view.saveProject(); // as if the user had asked for it; ends in save()
     return m_saved;
@@ -75,8 +79,23 @@ void ProjectSaving::saveAs()
 QString ProjectSaving::askFileToSave()
 {
     // Without the suffix the dialog for opening would not show the file.
-    return m_occupancy.ask(
-        [this] { return m_view.askSaveFileWithSuffix(tr("Projekt speichern"), filter(), kProjectSuffix); });
+    return m_occupancy.ask([this] {
+        return m_view.questions().saveFileWithSuffix(tr("Projekt speichern"), filter(), kProjectSuffix,
+                                                     Qt::CaseInsensitive, {},
+                                                     {Questions::kProjectFolder, proposedFile()});
+    });
+}
+
+/// The file that the project has; else one named after the project.
+QString ProjectSaving::proposedFile() const
+{
+    const QFileInfo current(m_model.currentFile());
+    if (m_lock.owner())
+        return current.dir().filePath(current.completeBaseName() + tr(" (Kopie)") + kProjectSuffix);
+    if (!m_model.currentFile().isEmpty())
+        return m_model.currentFile();
+    const QString name = proposedFileName(m_model.projectData().name);
+    return name.isEmpty() ? QString() : name + kProjectSuffix;
 }
 
 /// Until it is saved somewhere or the user gives up.
@@ -99,6 +118,8 @@ ProjectSaving::Outcome ProjectSaving::tryToSave(const QString &fileName)
     const Outcome target = checkTarget(fileName);
     if (target != Outcome::Saved)
         return target;
+    if (m_beforeWriting)
+        m_beforeWriting();
     const bool saved = write(fileName);
     m_edits.applyKept();
     if (saved) {

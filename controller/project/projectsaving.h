@@ -4,6 +4,8 @@
 
 #include <QCoreApplication>
 
+#include <functional>
+
 class FileProgress;
 class FileQuestions;
 class LineQueue;
@@ -26,12 +28,14 @@ public:
     void save();
     void saveAs();
     /// True if the user's changes are in a file afterwards; if not, whatever was about to replace them must not happen.
-    [[nodiscard]] bool saveUnsavedChanges();
+    /// `beforeWriting` is called when the file is chosen.
+    [[nodiscard]] bool saveUnsavedChanges(const std::function<void()> &beforeWriting);
 
 private:
     [[nodiscard]] QString askFileToSave();
     enum class Outcome { Saved, GivenUp, Elsewhere, Again };
 
+    [[nodiscard]] QString proposedFile() const;
     [[nodiscard]] bool saveTo(QString fileName);
     [[nodiscard]] Outcome tryToSave(const QString &fileName);
     [[nodiscard]] Outcome checkTarget(const QString &fileName);
@@ -46,5 +50,6 @@ private:
     ProjectEdits &m_edits;
     ProjectLock &m_lock;
     const FileQuestions &m_questions;
-    bool m_saved = false; // how the last save ended
+    std::function<void()> m_beforeWriting; // of the save that is under way; mostly none
+    bool m_saved = false;                  // how the last save ended
 };

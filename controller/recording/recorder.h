@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controller/recording/recordingseries.h"
+#include "controller/recording/shotclock.h"
 #include "device/protocol/sampleline.h"
 
 #include <QElapsedTimer>
@@ -19,8 +20,9 @@ class RecordingListener;
 class Recorder
 {
 public:
-    /// All four must outlive the recorder.
-    Recorder(Model &model, ProjectEdits &edits, MesotraConnector &connector, RecordingListener &listener);
+    /// The four references must outlive the recorder.
+    Recorder(Model &model, ProjectEdits &edits, MesotraConnector &connector, RecordingListener &listener,
+             ShotClock clock = ShotClock());
 
     /// True from the echo of a start to the echo of the stop, or to the end of the link.
     [[nodiscard]] bool isRunning() const { return m_running; }
@@ -51,6 +53,9 @@ public:
     /// Milliseconds since the previous call, 0 at the first one; for the log of the sample lines.
     [[nodiscard]] qint64 restartLineClock();
 
+    /// Time stamps follow the computer's clock again; see ShotClock.
+    void restartShotClock() { m_clock.restart(); }
+
     // --- What happens to the measurements ---
     /// No measurement receives samples until the next one begins.
     void forgetSeries() { m_series.clear(); }
@@ -66,6 +71,7 @@ private:
     MesotraConnector &m_connector;
     RecordingListener &m_listener;
     RecordingSeries m_series;
+    ShotClock m_clock;
     QElapsedTimer m_sinceLine;
     std::optional<SampleLine> m_unstoredAnswer; // came while calibrating and found no measurement to land in
     bool m_running = false;

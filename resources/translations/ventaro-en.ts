@@ -205,6 +205,10 @@
         <source>Namen und Grenzen der Sensoren kommen jetzt von der Box.</source>
         <translation>The names and limits of the sensors now come from the box.</translation>
     </message>
+    <message>
+        <source>Übernahme der Sensorbeschreibung</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>BoxLink</name>
@@ -410,6 +414,14 @@
         <source>Letzter Schuss</source>
         <translation>Latest shot</translation>
     </message>
+    <message>
+        <source>Nicht im Mittel: %1 Pausen, länger als das Fünffache des Medians</source>
+        <translation>Not part of the mean: %1 breaks, longer than five times the median</translation>
+    </message>
+    <message>
+        <source>Mittel von %1, ohne Pausen</source>
+        <translation>Mean of %1, without breaks</translation>
+    </message>
 </context>
 <context>
     <name>Dashboard</name>
@@ -525,6 +537,53 @@
     </message>
 </context>
 <context>
+    <name>DeletionQuestion</name>
+    <message>
+        <source>Messung %1</source>
+        <translation>Measurement %1</translation>
+    </message>
+    <message>
+        <source>... und %1 weitere, zuletzt Messung %2</source>
+        <translation>... and %1 more, the last one is measurement %2</translation>
+    </message>
+    <message>
+        <source>Keine Messung wird gelöscht.</source>
+        <translation>No measurement will be deleted.</translation>
+    </message>
+    <message>
+        <source>Das ist 1 Messung:</source>
+        <translation>This is 1 measurement:</translation>
+    </message>
+    <message>
+        <source>Das sind %1 Messungen:</source>
+        <translation>These are %1 measurements:</translation>
+    </message>
+    <message>
+        <source>Achtung: Das sind andere als eingegeben, weil nach jeder Löschung die folgenden Messungen nachrücken.</source>
+        <translation>Attention: these are others than those entered, because after each deletion the measurements behind move up.</translation>
+    </message>
+    <message>
+        <source>Ab &quot;%1&quot; ist die Eingabe fehlerhaft. Dieser Teil und alles dahinter wird nicht gelöscht.</source>
+        <translation>From &quot;%1&quot; on the input is malformed. This part and all behind it will not be deleted.</translation>
+    </message>
+    <message>
+        <source>Mit Strg+Z lässt sich das rückgängig machen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Es gibt keine Messung.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Das ist 1 Messung.</source>
+        <translation>This is 1 measurement.</translation>
+    </message>
+    <message>
+        <source>Das sind %1 Messungen.</source>
+        <translation>These are %1 measurements.</translation>
+    </message>
+</context>
+<context>
     <name>DemoLink</name>
     <message>
         <source>Die Demo ist nicht möglich: Der Simulator lässt sich nicht starten.</source>
@@ -634,6 +693,14 @@
     <message>
         <source>Phase %1</source>
         <translation>Phase %1</translation>
+    </message>
+    <message>
+        <source>Spalten von %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Grenzen von %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1225,6 +1292,18 @@ Import them again?</translation>
         <source>Problem</source>
         <translation>Problem</translation>
     </message>
+    <message>
+        <source>&quot;Nein&quot; importiert nur die neuen Dateien. Escape oder Schließen bricht den Import ab.</source>
+        <translation>&quot;No&quot; imports the new files only. Escape or closing cancels the import.</translation>
+    </message>
+    <message>
+        <source>Import einer Datei</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import von %1 Dateien</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>MainToolBar</name>
@@ -1293,6 +1372,18 @@ Esc cancels.</translation>
         <source>Fehler im Bereich &quot;%1&quot;: ab dort wurde nichts gelöscht.</source>
         <translation>Error in the range &quot;%1&quot;: nothing was deleted from there on.</translation>
     </message>
+    <message>
+        <source>Löschen einer Messung</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Löschen von %1 Messungen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Löschen aller Messdaten</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Model</name>
@@ -1315,6 +1406,10 @@ Esc cancels.</translation>
     <message>
         <source>WZ öffnen</source>
         <translation>Mould opening</translation>
+    </message>
+    <message>
+        <source>Zurücksetzen der Offsets</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1395,6 +1490,13 @@ Esc cancels.</translation>
     <message>
         <source>Diagramm dieses Sensors zeigen</source>
         <translation>Show this sensor&apos;s plot</translation>
+    </message>
+</context>
+<context>
+    <name>OsziPage</name>
+    <message>
+        <source>Löschen der Marker</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1748,6 +1850,18 @@ Help: %2 --help
         <source>Loading...</source>
         <translation>Loading...</translation>
     </message>
+    <message>
+        <source>Eine Aufzeichnung läuft. Sie wird beendet, bevor das andere Projekt geöffnet wird.</source>
+        <translation>A recording is running. It will be stopped before the other project is opened.</translation>
+    </message>
+    <message>
+        <source>Weiter aufzeichnen</source>
+        <translation>Go on recording</translation>
+    </message>
+    <message>
+        <source>Beenden und öffnen</source>
+        <translation>Stop and open</translation>
+    </message>
 </context>
 <context>
     <name>ProjectForm</name>
@@ -1829,6 +1943,58 @@ Help: %2 --help
         <source>Projektbeschreibung empfangen</source>
         <translation>Project description received</translation>
     </message>
+    <message>
+        <source>Aktuell</source>
+        <translation>Current</translation>
+    </message>
+    <message>
+        <source>Empfangen</source>
+        <translation>Received</translation>
+    </message>
+    <message>
+        <source>Projekt</source>
+        <translation>Project</translation>
+    </message>
+    <message>
+        <source>Projektnummer</source>
+        <translation>Project number</translation>
+    </message>
+    <message>
+        <source>Bearbeiter</source>
+        <translation>Person in charge</translation>
+    </message>
+    <message>
+        <source>Datum</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Kunde</source>
+        <translation>Customer</translation>
+    </message>
+    <message>
+        <source>Schließkraft [kN]</source>
+        <translation>Clamping force [kN]</translation>
+    </message>
+    <message>
+        <source>Einspritzzeit [s]</source>
+        <translation>Injection time [s]</translation>
+    </message>
+    <message>
+        <source>Nachdruckzeit [s]</source>
+        <translation>Holding time [s]</translation>
+    </message>
+    <message>
+        <source>Druck [bar]</source>
+        <translation>Pressure [bar]</translation>
+    </message>
+    <message>
+        <source>Phase %1</source>
+        <translation>Phase %1</translation>
+    </message>
+    <message>
+        <source>Übernahme der Projektbeschreibung</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ProjectPictures</name>
@@ -1896,6 +2062,18 @@ Continue?</translation>
         <source>PNG-Bild (*.png)</source>
         <translation>PNG picture (*.png)</translation>
     </message>
+    <message>
+        <source>Ersetzen von Bild %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Einfügen von Bild %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Löschen von Bild %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ProjectSaving</name>
@@ -1922,6 +2100,10 @@ Continue?</translation>
     <message>
         <source>Das Projekt ist nur zum Lesen geöffnet: Bitte einen anderen Namen wählen.</source>
         <translation>The project is open for reading only: please choose another name.</translation>
+    </message>
+    <message>
+        <source> (Kopie)</source>
+        <translation> (copy)</translation>
     </message>
     <message>
         <source>Projekt ohne Sicherungskopie gespeichert: %1</source>
@@ -2060,6 +2242,10 @@ Please choose one of them with &quot;Open project...&quot;.</translation>
         <source>Die Datei &quot;%1&quot; ist schon vorhanden. Überschreiben?</source>
         <translation>The file &quot;%1&quot; already exists. Overwrite it?</translation>
     </message>
+    <message>
+        <source>Escape oder Schließen bricht ab, und nichts ändert sich.</source>
+        <translation>Escape or closing cancels, and nothing changes.</translation>
+    </message>
 </context>
 <context>
     <name>ReadOnlySign</name>
@@ -2112,6 +2298,13 @@ Please choose one of them with &quot;Open project...&quot;.</translation>
     <message>
         <source>Kalibrierung</source>
         <translation>Calibration</translation>
+    </message>
+</context>
+<context>
+    <name>RowRanges</name>
+    <message>
+        <source>Bereich von %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2174,6 +2367,18 @@ Please choose one of them with &quot;Open project...&quot;.</translation>
         <source>Pause [s]</source>
         <translation>Pause [s]</translation>
     </message>
+    <message>
+        <source>ohne 1 lange Pause</source>
+        <translation>without 1 long pause</translation>
+    </message>
+    <message>
+        <source>ohne %1 lange Pausen</source>
+        <translation>without %1 long pauses</translation>
+    </message>
+    <message>
+        <source>Pausen, die länger sind als das Fünffache des Medians, zählen hier nicht mit, ebenso solche, bei denen die Uhr zurückgestellt wurde.</source>
+        <translation>Pauses that are longer than five times the median do not count here, nor do those in which the clock was set back.</translation>
+    </message>
 </context>
 <context>
     <name>SamplingBox</name>
@@ -2207,6 +2412,10 @@ Please choose one of them with &quot;Open project...&quot;.</translation>
     <message>
         <source>Achtung: Das Projekt ist mit %1 ms je Wert aufgezeichnet, die Box misst mit %2 ms.</source>
         <translation>Attention: the project was recorded at %1 ms per value, the box samples at %2 ms.</translation>
+    </message>
+    <message>
+        <source>Änderung der Abtastrate</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2330,6 +2539,13 @@ Please check output:</translation>
     <message>
         <source>Ausgeschaltet gibt es keine Grenze.</source>
         <translation>There is no limit while this is off.</translation>
+    </message>
+</context>
+<context>
+    <name>SensorEditor</name>
+    <message>
+        <source>Änderung von %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2625,6 +2841,69 @@ Identification of this computer:
     </message>
 </context>
 <context>
+    <name>TabEdits</name>
+    <message>
+        <source>Eingabe in &quot;Projekt&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Projektnummer&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Bearbeiter&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Datum&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Kunde&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Schließkraft&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Einspritzzeit&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Nachdruckzeit&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Druck&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Kommentar&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name der Phase %1</source>
+        <translation>Name of phase %1</translation>
+    </message>
+    <message>
+        <source>Marker %1</source>
+        <translation>Marker %1</translation>
+    </message>
+    <message>
+        <source>Umstellung der Marker</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Offset von %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Änderung von %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>TabEvaluation</name>
     <message>
         <source>Übersicht</source>
@@ -2641,6 +2920,17 @@ Identification of this computer:
     <message>
         <source>Auswertung 3/3: Überlagerung</source>
         <translation>Evaluation 3/3: overlay</translation>
+    </message>
+    <message>
+        <source>Schwellen der Laufzeit</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TabEvaluationOverlay</name>
+    <message>
+        <source>Bezeichnung von Messung %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2849,6 +3139,48 @@ At the far right the view follows the newest values.</translation>
     <message>
         <source>Untere Grenze %1</source>
         <translation>Lower limit %1</translation>
+    </message>
+</context>
+<context>
+    <name>UndoActions</name>
+    <message>
+        <source>%1 rückgängig machen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rückgängig</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 wiederholen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wiederholen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nimmt den letzten Schritt zurück</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Macht den zuletzt zurückgenommenen Schritt noch einmal</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>UndoControl</name>
+    <message>
+        <source>Rückgängig gemacht: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wiederholt: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die Abtastrate lässt sich nicht ändern, solange eine Aufzeichnung läuft.</source>
+        <translation>The sampling period cannot be changed while a recording is running.</translation>
     </message>
 </context>
 <context>
