@@ -16,7 +16,9 @@ int runSession(QApplication &application, const SessionOptions &options)
 
     Model model(projectPath(options.arguments));
     View view(&model);
-    Controller controller(&model, &view, options.controller);
+    ControllerOptions controllerOptions = options.controller;
+    controllerOptions.filesGiven = options.arguments.mid(1);
+    Controller controller(&model, &view, controllerOptions);
 
     // Closing the window only asks to quit; the controller decides, as there may be unsaved data.
     QGuiApplication::setQuitOnLastWindowClosed(false);

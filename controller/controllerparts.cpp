@@ -2,6 +2,7 @@
 
 #include "app/theme.h"
 #include "controller/controlleroptions.h"
+#include "controller/project/readonlysign.h"
 #include "device/scptransfer.h"
 #include "view/oscilloscope/taboszilloscope.h"
 #include "view/project/tabproject.h"
@@ -17,11 +18,7 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     , display(view)
     , edits(model)
     , recorder(model, edits, connector, display)
-    , lines(connector, model,
-            [this, &view](const QString &line) {
-                view.terminalReceived(line); // when its turn comes, like its effect
-                dispatch.dispatch(line);
-            })
+    , lines(connector, model, [this, &view](const QString &line) { takeLine(view, line); })
     , link({view, model, occupancy}, connector, demoBox, questions, recorder, options.deviceAddress)
     , demo({view, model, occupancy}, demoBox, link, questions)
     , descriptions(view, model, connector, edits, recorder,
@@ -32,9 +29,12 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     , recording({view, model, occupancy}, recorder, link)
     , deletion({view, model, occupancy}, edits, recorder)
     , tabEdits(view, model, edits)
-    , saving({view, model, occupancy}, progress, lines, edits)
+    , access{ProjectLock(model), FileQuestions({view, model, occupancy}),
+             ProjectStart({view, model, occupancy}, questions, access.questions, access.lock, options.filesGiven)}
+    , saving({view, model, occupancy}, progress, lines, edits, access.lock, access.questions)
     , files({view, model, occupancy}, progress, lines, edits, saving,
-            RecordingEnd({view, model, occupancy}, connector, recorder, options.stopWait))
+            RecordingEnd({view, model, occupancy}, connector, recorder, options.stopWait), access.lock,
+            access.questions)
     , openNotice({view, model, occupancy})
     , pictures({view, model, occupancy}, edits)
     , logger({view, model, occupancy}, link, connector, demo, progress, lines, edits, recorder,
@@ -62,6 +62,12 @@ void ControllerParts::setUpTransfers(const ControllerOptions &options)
 {
     connector.scp().setOptions(
         {options.scpToolFile, theme::deviceUser, theme::devicePassword, options.deviceAddress, options.scpTimeouts});
+}
+
+void ControllerParts::takeLine(View &view, const QString &line)
+{
+    view.terminalReceived(line); // when its turn comes, like its effect
+    dispatch.dispatch(line);
 }
 
 void ControllerParts::handleMessages()
@@ -101,6 +107,8 @@ void ControllerParts::connectFiles()
 {
     QObject::connect(&files, &ProjectFiles::boxDismissed, &link, &BoxLink::leaveForAnother);
     QObject::connect(&files, &ProjectFiles::boxGivenUp, &link, &BoxLink::leave);
+    QObject::connect(&access.start, &ProjectStart::declined, &files, &ProjectFiles::newProject);
+    QObject::connect(&access.start, &ProjectStart::copyWanted, &files, &ProjectFiles::detachFromFile);
     QObject::connect(&files, &ProjectFiles::projectReplaced, &files, [this] {
         offer.forgetAnswers();
         recorder.restartShotClock();
@@ -116,7 +124,8 @@ void ControllerParts::connectFiles()
 
 void ControllerParts::connectJournal(View &view)
 {
-    QObject::connect(&protection.journal, &Journal::told, &view, [&view](const QString &text) { view.showStatus(text); });
+    QObject::connect(&protection.journal, &Journal::told, &view,
+                     [&view](const QString &text) { view.showStatus(text); });
     QObject::connect(&files, &ProjectFiles::quitting, &protection.journal, &Journal::discard);
     // What takes long may end badly.
     QObject::connect(&progress, &FileProgress::begun, &protection.journal, &Journal::takeChanges);
@@ -128,6 +137,7 @@ void ControllerParts::connectJournal(View &view)
 
 void ControllerParts::connectView(View &view)
 {
+    view.addStatusWidget(new ReadOnlySign(access.lock, &view));
     QObject::connect(&view, &View::openProjectFile, &files, &ProjectFiles::openNamed);
     QObject::connect(&view, &View::startStopDemo, &demo, &DemoLink::toggle);
     QObject::connect(&view, &View::connectToAddress, &link, &BoxLink::connectToAddress);

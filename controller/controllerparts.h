@@ -10,6 +10,7 @@
 #include "controller/link/samplingperiod.h"
 #include "controller/logger/loggerparts.h"
 #include "controller/occupancy.h"
+#include "controller/project/fileaccess.h"
 #include "controller/project/fileprogress.h"
 #include "controller/project/measurementdeletion.h"
 #include "controller/project/opennotice.h"
@@ -58,6 +59,7 @@ struct ControllerParts
     RecordingActions recording;
     MeasurementDeletion deletion;
     TabEdits tabEdits;
+    FileAccess access;
     ProjectSaving saving;
     ProjectFiles files;
     OpenNotice openNotice;
@@ -68,6 +70,7 @@ struct ControllerParts
 
 private:
     void setUpTransfers(const ControllerOptions &options);
+    void takeLine(View &view, const QString &line);
     void handleMessages();
     void connectLink(View &view);
     void connectFiles();

@@ -213,6 +213,14 @@ public:
     /// False if the last save() wrote the project, but not the file beside it.
     [[nodiscard]] bool isProjectMetaSaved() const { return m_files.isMetaSaved(); }
     [[nodiscard]] bool saveCsv(const QString &fileName);
+    /// Why the last open(), save() or saveCsv() failed; none if it did not.
+    [[nodiscard]] const FileFault &lastFileFault() const { return m_files.lastFault(); }
+    /// False if the last save() should have kept the old file as a backup, but could not.
+    [[nodiscard]] bool isOldFileKept() const { return m_files.isOldFileKept(); }
+    /// Whether the current file still is what was opened or saved last; asked before it is replaced.
+    [[nodiscard]] DiskCopy::State fileOnDisk() { return m_files.fileOnDisk(Q_FUNC_INFO); }
+    void setSaveOptions(const SaveOptions &options) { m_files.setSaveOptions(options); }
+    [[nodiscard]] const SaveOptions &saveOptions() const { return m_files.saveOptions(); }
     /// Appends what a logger file of the box recorded as one measurement, unless the file holds none, and takes over
     /// what it says about the sensors. Puts the file on the fileList(). False if it is no regular file or cannot be
     /// read.

@@ -15,8 +15,9 @@
 #include "model/project/projectreader.h"
 #include "model/project/projecttransfer.h"
 #include "model/project/projectwriter.h"
+#include "model/project/readingfault.h"
+#include "model/storage/hashedsource.h"
 
-#include <QDateTime>
 #include <QDebug>
 #include <QFile>
 #include <QFileInfo>
@@ -32,18 +33,39 @@ constexpr qint64 kOtherPicture = -1;
 
 struct ModelFiles::Opened
 {
+    FileStamp stamp;
     ProjectDocument document;
     ImageStore images;
 };
 
-/// A project that was read and not opened yet, and what tells whether its file is still the same.
+/// A project that was read and not opened yet.
 struct ModelFiles::ReadAhead
 {
     QString fileName;
-    QDateTime modified;
-    qint64 size = 0;
     std::unique_ptr<Opened> opened;
 };
+
+namespace {
+
+FileFault outOfMemory(const QString &fileName)
+{
+    FileFault fault;
+    fault.kind = FileFault::Kind::OutOfMemory;
+    fault.path = fileName;
+    return fault;
+}
+
+/// The file beside the project is for the same eyes.
+ReplaceOptions metaOptions(const QString &projectFile, const SaveOptions &options)
+{
+    ReplaceOptions meta;
+    meta.keepsOld = options.keepsBackup;
+    meta.accessOf = realFile(projectFile);
+    meta.rescueFolder = options.folderForRescue();
+    return meta;
+}
+
+} // namespace
 
 ModelFiles::ModelFiles(ProjectEditor &editor, Project &project, ModelChanges &changes, FileWork &work)
     : m_editor(editor)
@@ -72,12 +94,9 @@ bool ModelFiles::readAhead(const QString &fileName, const char *function)
     forgetReadAhead();
     if (m_work.refuses(function))
         return false;
-    const QFileInfo before(fileName); // looked up now: what is written while it is read makes it out of date
-    const QDateTime modified = before.lastModified();
-    const qint64 size = before.size();
     std::unique_ptr<Opened> opened = readFile(fileName, function);
     if (opened)
-        m_readAhead = std::make_unique<ReadAhead>(ReadAhead{fileName, modified, size, std::move(opened)});
+        m_readAhead = std::make_unique<ReadAhead>(ReadAhead{fileName, std::move(opened)});
     return m_readAhead != nullptr;
 }
 
@@ -107,22 +126,24 @@ bool ModelFiles::open(const QString &fileName, const char *function)
 std::unique_ptr<ModelFiles::Opened> ModelFiles::takeReadAhead(const QString &fileName)
 {
     const std::unique_ptr<ReadAhead> ahead = std::move(m_readAhead);
-    const QFileInfo now(fileName);
-    if (!ahead || ahead->fileName != fileName || ahead->modified != now.lastModified() || ahead->size != now.size())
+    if (!ahead || ahead->fileName != fileName || !stampOf(fileName).looksLike(ahead->opened->stamp))
         return nullptr;
     return std::move(ahead->opened);
 }
 
 std::unique_ptr<ModelFiles::Opened> ModelFiles::readFile(const QString &fileName, const char *function)
 {
+    m_fault = {};
     QFile file(fileName);
     // Only regular files: opening a FIFO would block.
     if (!QFileInfo(fileName).isFile() || !file.open(QIODevice::ReadOnly)) {
+        m_fault = openingFault(fileName);
         qCDebug(lcModel).noquote().nospace() << function << " could not open file:" << fileName;
         return nullptr;
     }
     std::optional<Opened> opened = read(file);
     if (!opened) {
+        m_fault = readingFault(file, m_work.lacksMemory());
         qCDebug(lcModel).noquote().nospace() << function << " jdoc is no object!";
         return nullptr;
     }
@@ -134,11 +155,14 @@ std::optional<ModelFiles::Opened> ModelFiles::read(QFile &file)
 {
     const auto task = [&]() -> std::optional<Opened> {
         Pacer pacer(m_work.yield(), file.size());
-        std::optional<ProjectDocument> document = projectfile::read(file, pacer);
+        FileStamp stamp = stampOf(file.fileName()); // now: what is written while it is read makes it out of date
+        HashedSource source(file);
+        std::optional<ProjectDocument> document = projectfile::read(source, pacer);
         if (!document)
             return {};
+        stamp.hash = source.hash();
         ImageStore images = ImageStore::decoded(std::move(document->images), [&] { pacer.moveTo(file.size()); });
-        return Opened{std::move(*document), std::move(images)};
+        return Opened{stamp, std::move(*document), std::move(images)};
     };
     return m_work.run(task, Q_FUNC_INFO);
 }
@@ -149,6 +173,7 @@ void ModelFiles::apply(Opened &opened, const QString &absolutePath, const char *
     const ModelChanges::Silence silence(m_changes);
     OpenLosses losses = lossesOf(opened.document, opened.images);
     m_editor.clear();
+    m_diskCopy.note(absolutePath, opened.stamp);
     m_project.images = std::move(opened.images);
     applyDocument(opened.document, absolutePath, m_editor, m_project, function);
     MetaReading reading = openMeta(absolutePath, m_project.shots, function);
@@ -171,7 +196,7 @@ bool ModelFiles::save(const QString &fileName, const char *function)
     if (!writeProject(fileName))
         return false;
     forgetReadAhead(); // it may be of this file
-    m_metaSaved = saveMeta(fileName, meta, saved.checks);
+    m_metaSaved = saveMeta(fileName, meta, saved.checks, metaOptions(fileName, m_saveOptions));
     noteSaved(std::move(saved));
     const bool isUpToDate = countChanges() == changesBefore;
     m_editor.setCurrentFile(QFileInfo(fileName).absoluteFilePath());
@@ -227,6 +252,11 @@ void ModelFiles::apply(Restored &restored, const JournalContents &contents, cons
 {
     const ModelChanges::Silence silence(m_changes);
     m_editor.clear();
+    m_openLosses = {};
+    // A file that is still the one that the journal began with is replaced without a question.
+    const FileStamp stamp = stampOf(contents.base.file);
+    if (stamp.size == contents.base.fileSize && stamp.modified / 1000000 == contents.base.fileTime)
+        m_diskCopy.note(contents.base.file, stamp);
     m_project.images = std::move(restored.images);
     applyDocument(restored.project.document, contents.base.file, m_editor, m_project, function);
     applyMeta(std::move(restored.project.meta), m_project);
@@ -258,9 +288,44 @@ quint64 ModelFiles::countChanges() const
     return m_changes.count() + m_project.shots.revision(); // neither ever goes back
 }
 
+DiskCopy::State ModelFiles::fileOnDisk(const char *function)
+{
+    if (m_currentFile.isEmpty() || m_work.refuses(function))
+        return DiskCopy::State::Same;
+    const auto task = [this]() -> std::optional<DiskCopy::State> {
+        Pacer pacer(m_work.yield(), 0);
+        return m_diskCopy.state(m_currentFile, [&pacer] { pacer.look(); });
+    };
+    return m_work.run(task, function).value_or(DiskCopy::State::Changed);
+}
+
+template <typename Task>
+bool ModelFiles::replace(const QString &fileName, const Task &task, const char *function)
+{
+    m_lacksOld = false;
+    const std::optional<Replacement> done = m_work.run(task, function);
+    m_fault = done ? done->fault : outOfMemory(fileName);
+    if (m_fault)
+        return false;
+    m_lacksOld = done->lacksOld;
+    return true;
+}
+
+/// Another program may write the file while this one does.
+ReplaceOptions ModelFiles::projectOptions(const QString &fileName) const
+{
+    ReplaceOptions options;
+    options.keepsOld = m_saveOptions.keepsBackup;
+    options.rescueFolder = m_saveOptions.folderForRescue();
+    options.isText = true;
+    options.mayReplace = [fileName, before = stampOf(fileName)] { return stampOf(fileName).looksLike(before); };
+    return options;
+}
+
 bool ModelFiles::writeProject(const QString &fileName)
 {
-    const auto task = [&] {
+    FileStamp stamp;
+    const auto task = [&]() -> std::optional<Replacement> {
         ProjectDocument document = documentOf(m_project);
         // Copies, which share their pixels: pictures may be changed while the file is written.
         const ImageStore::Pixmaps pixmaps = m_project.images.pixmaps();
@@ -269,19 +334,25 @@ bool ModelFiles::writeProject(const QString &fileName)
             document.images = m_project.images.encoded(pixmaps, [&pacer] { pacer.moveTo(0); });
             return projectfile::write(target, document, pacer);
         };
-        return replaceFile(fileName, write, [&pacer] { pacer.look(); });
+        const auto done = replaceFile(
+            fileName, write, [&pacer] { pacer.look(); }, projectOptions(fileName));
+        stamp = done.stamp;
+        return done;
     };
-    return m_work.run(task, Q_FUNC_INFO);
+    if (!replace(fileName, task, Q_FUNC_INFO))
+        return false;
+    m_diskCopy.note(QFileInfo(fileName).absoluteFilePath(), stamp);
+    return true;
 }
 
 bool ModelFiles::writeCsv(const QString &fileName)
 {
-    const auto task = [&] {
+    const auto task = [&]() -> std::optional<Replacement> {
         const ProjectDocument document = documentOf(m_project);
         const QString projectFile = QFileInfo(m_currentFile).fileName();
         Pacer pacer(m_work.yield(), document.sampleCount());
         const auto write = [&](QIODevice &target) { return ::writeCsv(target, projectFile, document, pacer); };
         return replaceFile(fileName, write, [&pacer] { pacer.look(); });
     };
-    return m_work.run(task, Q_FUNC_INFO);
+    return replace(fileName, task, Q_FUNC_INFO);
 }

@@ -2,6 +2,9 @@
 
 #include "model/journal/projectrecovery.h"
 #include "model/project/openlosses.h"
+#include "model/project/saveoptions.h"
+#include "model/storage/diskcopy.h"
+#include "model/storage/filefault.h"
 
 #include <QString>
 
@@ -13,6 +16,7 @@ class ProjectEditor;
 class ModelChanges;
 class QFile;
 struct Project;
+struct ReplaceOptions;
 
 /// Carries the project of a model to its file and back, and knows the name of that file and whether the project was
 /// modified since. `function` is the one that log lines name.
@@ -43,6 +47,14 @@ public:
 
     /// Of the file that was opened, until it is saved, another one is opened or a project begins.
     [[nodiscard]] const OpenLosses &openLosses() const { return m_openLosses; }
+    /// Why the last open(), save() or saveCsv() failed; none if it did not.
+    [[nodiscard]] const FileFault &lastFault() const { return m_fault; }
+    /// False if the last save() should have kept the old file, but could not.
+    [[nodiscard]] bool isOldFileKept() const { return !m_lacksOld; }
+    /// Whether the current file is still what was opened or saved last. Not while a file is read or written.
+    [[nodiscard]] DiskCopy::State fileOnDisk(const char *function);
+    void setSaveOptions(const SaveOptions &options) { m_saveOptions = options; }
+    [[nodiscard]] const SaveOptions &saveOptions() const { return m_saveOptions; }
 
     [[nodiscard]] QString currentFile() const { return m_currentFile; }
     void setCurrentFile(const QString &absolutePath);
@@ -63,6 +75,10 @@ private:
     void apply(Opened &opened, const QString &absolutePath, const char *function);
     [[nodiscard]] bool writeProject(const QString &fileName);
     [[nodiscard]] bool writeCsv(const QString &fileName);
+    /// Runs a task that replaces a file, and keeps what it says about a failure.
+    template <typename Task>
+    [[nodiscard]] bool replace(const QString &fileName, const Task &task, const char *function);
+    [[nodiscard]] ReplaceOptions projectOptions(const QString &fileName) const;
     [[nodiscard]] quint64 countChanges() const;
     struct Restored;
     [[nodiscard]] std::optional<Restored> readRestored(JournalContents &contents);
@@ -79,4 +95,8 @@ private:
     bool m_metaSaved = true;
     SavedShots m_saved;
     quint64 m_generation = 0;
+    bool m_lacksOld = false;
+    FileFault m_fault;
+    DiskCopy m_diskCopy;
+    SaveOptions m_saveOptions;
 };

@@ -1,115 +1,155 @@
 #include "model/project/atomicfile.h"
 
+#include "model/storage/replacedfile.h"
+#include "model/storage/rewrittenfile.h"
+#include "model/storage/stagedfile.h"
+
+#include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
-
-#ifdef Q_OS_LINUX
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <algorithm>
-#endif
+#include <QStorageInfo>
 
 namespace {
 
-/// Brings what is written to the disk bit by bit. All at once at the end would take so long that the window would
-/// freeze.
-class SteadyFile : public QSaveFile
+using Write = std::function<bool(QIODevice &target)>;
+
+/// Takes everything and keeps nothing.
+class CountingDevice : public QIODevice
 {
 public:
-    using QSaveFile::QSaveFile;
+    CountingDevice() { open(QIODevice::WriteOnly | QIODevice::Unbuffered); }
+    [[nodiscard]] qint64 count() const { return m_count; }
+    [[nodiscard]] bool isSequential() const override { return true; }
 
 protected:
-    qint64 writeData(const char *data, qint64 size) override
+    qint64 readData(char *, qint64) override { return -1; }
+    qint64 writeData(const char *, qint64 size) override
     {
-        const qint64 written = QSaveFile::writeData(data, size);
-        m_waiting += written;
-        if (m_waiting < kMostWaiting)
-            return written;
-        m_waiting = 0;
-        return bringToDisk() ? written : -1;
+        m_count += size;
+        return size;
     }
 
 private:
-    static constexpr qint64 kMostWaiting = qint64(1024) * 1024;
-
-    [[nodiscard]] bool bringToDisk()
-    {
-#ifdef Q_OS_LINUX
-        return flush() && fdatasync(handle()) == 0;
-#else
-        return true;
-#endif
-    }
-
-    qint64 m_waiting = 0;
+    qint64 m_count = 0;
 };
 
-/// Holds on to a file that is about to be replaced. Freeing a large one takes the system so long that the window would
-/// freeze; so its space is given back bit by bit.
-class ReplacedFile
+/// Replaces one file, by another one or where it is.
+class Replacer
 {
 public:
-#ifdef Q_OS_LINUX
-    explicit ReplacedFile(const QString &fileName)
-        : m_handle(::open(QFile::encodeName(fileName).constData(), O_WRONLY | O_CLOEXEC | O_NONBLOCK))
+    Replacer(const QString &fileName, const std::function<void()> &pause, const ReplaceOptions &options)
+        : m_fileName(fileName)
+        , m_target(realFile(fileName))
+        , m_pause(pause)
+        , m_options(options)
+        , m_staged(m_target)
     {}
-    ~ReplacedFile()
+
+    [[nodiscard]] Replacement run(const Write &write)
     {
-        if (m_handle >= 0)
-            ::close(m_handle);
-    }
-    void free(const std::function<void()> &pause) const
-    {
-        struct stat file = {};
-        if (m_handle < 0 || ::fstat(m_handle, &file) != 0 || !isOnlyHere(file))
-            return;
-        for (off_t size = file.st_size; size > 0;) {
-            size = std::max<off_t>(size - kStep, 0);
-            if (::ftruncate(m_handle, size) != 0)
-                return;
-            pause();
-        }
+        m_result.fault = targetFault(m_fileName);
+        if (!m_result.fault && stage(write))
+            m_rewrites ? rewrite() : replace();
+        return m_result;
     }
 
 private:
-    static constexpr off_t kStep = off_t(4) * 1024 * 1024;
+    void fail(int error) { m_result.fault = systemFault(error, m_fileName, FileFault::Kind::WriteError); }
 
-    /// True if the file has no other name and is not open anywhere else, in which case a lease would be refused.
-    [[nodiscard]] bool isOnlyHere(const struct stat &file) const
+    [[nodiscard]] bool stage(const Write &write)
     {
-        return S_ISREG(file.st_mode) && file.st_nlink == 0 && ::fcntl(m_handle, F_SETLEASE, F_WRLCK) == 0
-               && ::fcntl(m_handle, F_SETLEASE, F_UNLCK) == 0;
+        m_staged.setAccessOf(m_options.accessOf);
+        m_staged.setText(m_options.isText);
+        if (!m_staged.begin()) {
+            const int error = m_staged.errorNumber();
+            m_rewrites = !m_options.rescueFolder.isEmpty() && RewrittenFile::isNeeded(m_target, error);
+            if (!m_rewrites || !QDir().mkpath(m_options.rescueFolder) || !m_staged.beginIn(m_options.rescueFolder)) {
+                fail(error);
+                return false;
+            }
+        }
+        if (!write(m_staged) || !m_staged.finish()) {
+            fail(m_staged.errorNumber());
+            if (m_result.fault.kind == FileFault::Kind::NoSpace)
+                m_result.fault.missingBytes = missingBytes(write);
+            return false;
+        }
+        if (!m_options.mayReplace || m_options.mayReplace())
+            return true;
+        m_result.fault = {FileFault::Kind::ChangedMeanwhile, m_fileName, 0, 0, 0, {}, {}};
+        return false;
     }
 
-    int m_handle;
-#else
-    explicit ReplacedFile(const QString &) {}
-    void free(const std::function<void()> &) const {}
-#endif
-    Q_DISABLE_COPY_MOVE(ReplacedFile)
+    [[nodiscard]] qint64 missingBytes(const Write &write) const
+    {
+        CountingDevice whole;
+        if (!write(whole))
+            return 0;
+        const QString folder = m_rewrites ? m_options.rescueFolder : QFileInfo(m_target).absolutePath();
+        return qMax<qint64>(0, whole.count() - m_staged.bytesWritten() - QStorageInfo(folder).bytesAvailable());
+    }
+
+    void replace()
+    {
+        // An empty file is what a crash of the system leaves; it must not take the place of a good one.
+        const bool keeps = m_options.keepsOld && stampOf(m_target).size > 0;
+        const QString keptAs = keeps ? backupName(m_target) : QString();
+        const ReplacedFile old(m_target);
+        const ReplacedFile olderOne(keptAs);
+        if (!m_staged.putInPlace(keptAs)) {
+            fail(m_staged.errorNumber());
+            return;
+        }
+        m_result.lacksOld = keeps && !m_staged.hasKept();
+        m_result.stamp = m_staged.stamp();
+        old.free(m_pause);
+        olderOne.free(m_pause);
+    }
+
+    void rewrite()
+    {
+        RewrittenFile file(m_target, m_options.rescueFolder, m_pause);
+        if (!file.take(m_staged)) {
+            fail(file.errorNumber());
+            if (file.isDamaged())
+                m_result.fault.keptCopy = file.copyName();
+            return;
+        }
+        m_result.stamp = m_staged.stamp();
+        m_result.stamp.modified = file.stamp().modified;
+        if (!m_options.keepsOld)
+            file.removeCopy();
+    }
+
+    QString m_fileName;
+    QString m_target;
+    std::function<void()> m_pause;
+    const ReplaceOptions &m_options;
+    StagedFile m_staged;
+    Replacement m_result;
+    bool m_rewrites = false;
 };
 
 } // namespace
 
-bool replaceFile(const QString &fileName, const std::function<bool(QIODevice &target)> &write,
-                 const std::function<void()> &pause)
+Replacement replaceFile(const QString &fileName, const Write &write, const std::function<void()> &pause,
+                        const ReplaceOptions &options)
 {
-    const QFileInfo existing(fileName);
-    if (existing.exists() && !existing.isFile())
-        return false; // renaming over a device or a pipe would remove it
-    SteadyFile file(fileName);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
-        return false;
-    // commit() alone does not notice a write that fell short.
-    if (!write(file) || !file.flush() || file.error() != QFileDevice::NoError) {
-        file.cancelWriting();
-        return false;
-    }
-    const ReplacedFile old(fileName);
-    if (!file.commit())
-        return false;
-    old.free(pause);
-    return true;
+    return Replacer(fileName, pause, options).run(write);
+}
+
+QString backupName(const QString &fileName)
+{
+    return fileName + QLatin1Char('~');
+}
+
+QString realFile(const QString &fileName)
+{
+    constexpr int kMostLinks = 40; // as many as the system follows
+    QFileInfo file(fileName);
+    for (int links = 0; file.isSymLink() && !file.exists() && links < kMostLinks; ++links)
+        file.setFile(file.symLinkTarget());
+    if (file.exists())
+        return file.canonicalFilePath();
+    const QString folder = QFileInfo(file.absolutePath()).canonicalFilePath();
+    return folder.isEmpty() ? file.absoluteFilePath() : QDir(folder).filePath(file.fileName());
 }
