@@ -30,12 +30,12 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     , deletion({view, model, occupancy}, edits, recorder)
     , tabEdits(view, model, edits)
     , access{ProjectLock(model), FileQuestions({view, model, occupancy}),
-             ProjectStart({view, model, occupancy}, questions, access.questions, access.lock, options.filesGiven)}
+             ProjectStart({view, model, occupancy}, questions, access.questions, access.lock, options.filesGiven),
+             OpenNotice({view, model, occupancy})}
     , saving({view, model, occupancy}, progress, lines, edits, access.lock, access.questions)
     , files({view, model, occupancy}, progress, lines, edits, saving,
             RecordingEnd({view, model, occupancy}, connector, recorder, options.stopWait), access.lock,
             access.questions)
-    , openNotice({view, model, occupancy})
     , pictures({view, model, occupancy}, edits)
     , logger({view, model, occupancy}, link, connector, demo, progress, lines, edits, recorder,
              options.temporaryDirectory)
@@ -44,6 +44,11 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
 {
     setUpTransfers(options);
     handleMessages();
+    connectParts(view);
+}
+
+void ControllerParts::connectParts(View &view)
+{
     connectLink(view);
     connectFiles();
     connectJournal(view);
@@ -117,7 +122,7 @@ void ControllerParts::connectFiles()
     QObject::connect(&files, &ProjectFiles::measurementsReplaced, &files, [this] { recorder.forgetSeries(); });
     QObject::connect(&files, &ProjectFiles::shown, &files, [this] { recorder.announceRunning(); });
     QObject::connect(&files, &ProjectFiles::shown, &period, &SamplingPeriod::matchProject);
-    QObject::connect(&files, &ProjectFiles::projectReplaced, &openNotice, &OpenNotice::show);
+    QObject::connect(&files, &ProjectFiles::projectReplaced, &access.notice, &OpenNotice::show);
     QObject::connect(&undo, &UndoControl::samplingPeriodChanged, &period, &SamplingPeriod::matchProject);
     QObject::connect(&files, &ProjectFiles::quitting, &files, [this] { recorder.requestStop(); });
 }

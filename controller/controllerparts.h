@@ -13,7 +13,6 @@
 #include "controller/project/fileaccess.h"
 #include "controller/project/fileprogress.h"
 #include "controller/project/measurementdeletion.h"
-#include "controller/project/opennotice.h"
 #include "controller/project/projectfiles.h"
 #include "controller/project/projectpictures.h"
 #include "controller/project/projectsaving.h"
@@ -62,7 +61,6 @@ struct ControllerParts
     FileAccess access;
     ProjectSaving saving;
     ProjectFiles files;
-    OpenNotice openNotice;
     ProjectPictures pictures;
     LoggerParts logger;
     UndoControl undo;
@@ -72,6 +70,7 @@ private:
     void setUpTransfers(const ControllerOptions &options);
     void takeLine(View &view, const QString &line);
     void handleMessages();
+    void connectParts(View &view);
     void connectLink(View &view);
     void connectFiles();
     void connectJournal(View &view);

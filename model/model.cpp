@@ -15,6 +15,12 @@ double finiteOrZero(double value)
 
 } // namespace
 
+class Model::Editor final : public ModelEditor<Model>
+{
+public:
+    using ModelEditor::ModelEditor;
+};
+
 Model::Model(const QString &fileToOpen, QObject *parent)
     : QObject(parent)
     , m_editor(std::make_unique<Editor>(*this))

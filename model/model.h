@@ -227,8 +227,8 @@ public:
     [[nodiscard]] bool addBlackBoxFile(const QString &fileName);
     /// What the last addBlackBoxFile() could not take over.
     [[nodiscard]] BlackBoxLosses blackBoxLosses() const { return m_import.losses(); }
-    /// Replaces the project by that of a journal, which counts as modified then, and says what is missing; nothing, with
-    /// the model as it was, if that is not possible. The contents are used up.
+    /// Replaces the project by that of a journal, which counts as modified then, and says what is missing; nothing,
+    /// with the model as it was, if that is not possible. The contents are used up.
     [[nodiscard]] std::optional<RecoveryLosses> restore(JournalContents &contents)
     {
         return m_files.restore(contents, Q_FUNC_INFO);

@@ -3,7 +3,6 @@
 #include "model/arrayindex.h"
 #include "model/logging.h"
 #include "model/modelchanges.h"
-#include "model/project/atomicfile.h"
 #include "model/project/csvexport.h"
 #include "model/project/filework.h"
 #include "model/project/metafile.h"
@@ -16,6 +15,7 @@
 #include "model/project/projecttransfer.h"
 #include "model/project/projectwriter.h"
 #include "model/project/readingfault.h"
+#include "model/storage/atomicfile.h"
 #include "model/storage/hashedsource.h"
 
 #include <QDebug>

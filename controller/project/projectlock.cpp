@@ -2,7 +2,7 @@
 
 #include "controller/logging.h"
 #include "model/model.h"
-#include "model/project/atomicfile.h"
+#include "model/storage/atomicfile.h"
 
 #include <QLockFile>
 #include <QSysInfo>

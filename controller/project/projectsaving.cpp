@@ -8,7 +8,7 @@
 #include "controller/recording/linehold.h"
 #include "controller/recording/projectedits.h"
 #include "model/model.h"
-#include "model/project/atomicfile.h"
+#include "model/storage/atomicfile.h"
 #include "view/window/prompts/questions.h"
 #include "view/window/view.h"
 

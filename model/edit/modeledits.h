@@ -26,10 +26,10 @@ public:
     /// The project was cleared: an edit that is under way makes no step, and the listener is told.
     void forgetProject();
 
-    /// Undoes a step that is done, or does one again that is undone, and announces what changed; has to be called within
-    /// a ChangeScope, so that nobody is told before all of it has changed. Steps have to come in the order in which a stack gives them. Only fields that the
-    /// step changed are set: what else has changed since stays. A shot stays in the project, whatever the step says, if
-    /// one of its ids is among `untouched`.
+    /// Undoes a step that is done, or does one again that is undone, and announces what changed; has to be called
+    /// within a ChangeScope, so that nobody is told before all of it has changed. Steps have to come in the order in
+    /// which a stack gives them. Only fields that the step changed are set: what else has changed since stays. A shot
+    /// stays in the project, whatever the step says, if one of its ids is among `untouched`.
     void toggle(EditStep &step, const ShotIds &untouched);
 
 private:

@@ -269,7 +269,8 @@ void JournalTracker::findPictures(const Project &project, JournalDelta &delta, P
             continue;
         JournalPicture picture;
         if (key != m_basePictures[image])
-            picture = {key == 0 ? JournalPicture::Kind::None : JournalPicture::Kind::Png, project.images.encodedOne(static_cast<int>(image))};
+            picture = {key == 0 ? JournalPicture::Kind::None : JournalPicture::Kind::Png,
+                       project.images.encodedOne(static_cast<int>(image))};
         delta.pictures[image] = key;
         if (picture.png.size() <= kLargestPicture)
             packer.next().picture(static_cast<int>(image), picture);

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "model/project/atomicfile.h"
 #include "model/project/metastate.h"
 #include "model/project/projectmeta.h"
+#include "model/storage/atomicfile.h"
 
 class ShotStore;
 

@@ -1,6 +1,6 @@
 #include "bench.h"
 #include "controller/project/projectlock.h"
-#include "model/project/atomicfile.h"
+#include "model/storage/atomicfile.h"
 #include "tests/support/files.h"
 #include "tests/support/literals.h"
 #include "tests/support/rows.h"

@@ -1,6 +1,6 @@
 #include "view/common/faulttext.h"
 
-#include "model/project/atomicfile.h"
+#include "model/storage/atomicfile.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 #include "view/window/exports.h"
 
 #include "model/model.h"
-#include "model/project/atomicfile.h"
+#include "model/storage/atomicfile.h"
 #include "plots/oscilloscope/osziwidget.h"
 #include "view/common/faulttext.h"
 #include "view/common/logging.h"

@@ -1,6 +1,6 @@
 #include "model/model.h"
-#include "model/project/atomicfile.h"
 #include "model/project/filework.h"
+#include "model/storage/atomicfile.h"
 #include "tests/support/files.h"
 #include "tests/support/literals.h"
 #include "tests/support/logcapture.h"

@@ -1,5 +1,5 @@
 #include "model/model.h"
-#include "model/project/atomicfile.h"
+#include "model/storage/atomicfile.h"
 #include "tests/support/files.h"
 #include "tests/support/literals.h"
 

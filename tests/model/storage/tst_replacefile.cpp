@@ -1,5 +1,5 @@
 #include "model/model.h"
-#include "model/project/atomicfile.h"
+#include "model/storage/atomicfile.h"
 #include "model/storage/rewrittenfile.h"
 #include "model/storage/stagedfile.h"
 #include "tests/support/files.h"

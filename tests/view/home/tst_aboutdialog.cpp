@@ -50,7 +50,8 @@ private slots:
     {
         columns<JournalInfo, QString>("info", "text");
         row("none", JournalInfo{}, "Sicherung: wird nicht geführt\n");
-        row("nothing to keep", JournalInfo{"/data"_s, {}, -1, -1}, "Sicherung: /data; leer, da nichts ungespeichert ist\n");
+        row("nothing to keep", JournalInfo{"/data"_s, {}, -1, -1},
+            "Sicherung: /data; leer, da nichts ungespeichert ist\n");
         row("in use", JournalInfo{"/data"_s, "/proc/version"_s, 3, 25},
             "Sicherung: /proc/version; 0 Bytes; Schreiben auf den Datenträger: zuletzt 3 ms, höchstens 25 ms\n");
     }

@@ -1,4 +1,4 @@
-#include "model/project/atomicfile.h"
+#include "model/storage/atomicfile.h"
 
 #include "model/storage/replacedfile.h"
 #include "model/storage/rewrittenfile.h"
