@@ -27,6 +27,7 @@ const QString kUpperKey = QStringLiteral("upperLimit");
 const QString kCheckKey = QStringLiteral("check");
 const QString kLabelKey = QStringLiteral("label");
 const QString kTimeKey = QStringLiteral("time");
+const QString kMissingKey = QStringLiteral("missing");
 
 std::optional<double> toLimit(const QJsonValue &value)
 {
@@ -54,13 +55,15 @@ QJsonObject toJson(const SensorMeta &sensor)
             {kQuantitiesKey, quantities}};
 }
 
-QJsonObject toJson(quint32 check, const QString &label, const QDateTime &timestamp)
+QJsonObject toJson(quint32 check, const QString &label, const QDateTime &timestamp, int missing)
 {
     QJsonObject object{{kCheckKey, double(check)}};
     if (!label.isEmpty())
         object.insert(kLabelKey, label);
     if (timestamp.isValid())
         object.insert(kTimeKey, timestamp.toUTC().toString(Qt::ISODateWithMs));
+    if (missing > 0)
+        object.insert(kMissingKey, missing);
     return object;
 }
 
@@ -101,6 +104,7 @@ void readShots(ProjectMeta &meta, const QJsonArray &shots, const ShotChecks &che
     const std::size_t count = std::min(checks.size(), static_cast<std::size_t>(shots.size()));
     meta.labels.resize(count);
     meta.timestamps.resize(count);
+    meta.missingValues.resize(count);
     for (std::size_t i = 0; i < count; ++i) {
         const QJsonObject shot = shots.at(static_cast<int>(i)).toObject();
         // Another check number: the project was changed without this file, and the label belongs to another shot.
@@ -110,6 +114,7 @@ void readShots(ProjectMeta &meta, const QJsonArray &shots, const ShotChecks &che
         const QString time = shot.value(kTimeKey).toString();
         const QDateTime timestamp = QDateTime::fromString(time, Qt::ISODateWithMs);
         meta.timestamps[i] = timestamp.isValid() ? timestamp.toLocalTime() : QDateTime();
+        meta.missingValues[i] = std::max(0, shot.value(kMissingKey).toInt());
     }
 }
 
@@ -137,7 +142,8 @@ bool ProjectMeta::isBlank() const
     return sensors == ProjectMeta().sensors
            && std::all_of(labels.begin(), labels.end(), [](const QString &label) { return label.isEmpty(); })
            && std::none_of(timestamps.begin(), timestamps.end(),
-                           [](const QDateTime &timestamp) { return timestamp.isValid(); });
+                           [](const QDateTime &timestamp) { return timestamp.isValid(); })
+           && std::all_of(missingValues.begin(), missingValues.end(), [](int count) { return count == 0; });
 }
 
 QString ProjectMeta::label(int shot) const
@@ -160,11 +166,22 @@ void ProjectMeta::setTimestamp(int shot, const QDateTime &timestamp)
     setElement(timestamps, static_cast<std::size_t>(shot), timestamp);
 }
 
+int ProjectMeta::missing(int shot) const
+{
+    return elementOf(missingValues, static_cast<std::size_t>(shot));
+}
+
+void ProjectMeta::setMissingValues(int shot, int count)
+{
+    setElement(missingValues, static_cast<std::size_t>(shot), count);
+}
+
 void ProjectMeta::keepShots(int count)
 {
     const auto most = static_cast<std::size_t>(count);
     labels.resize(std::min(most, labels.size()));
     timestamps.resize(std::min(most, timestamps.size()));
+    missingValues.resize(std::min(most, missingValues.size()));
 }
 
 void ProjectMeta::removeShot(int shot)
@@ -174,6 +191,8 @@ void ProjectMeta::removeShot(int shot)
         labels.erase(labels.begin() + shot);
     if (index < timestamps.size())
         timestamps.erase(timestamps.begin() + shot);
+    if (index < missingValues.size())
+        missingValues.erase(missingValues.begin() + shot);
 }
 
 bool operator==(const QuantityMeta &a, const QuantityMeta &b)
@@ -189,7 +208,8 @@ bool operator==(const SensorMeta &a, const SensorMeta &b)
 
 bool operator==(const ProjectMeta &a, const ProjectMeta &b)
 {
-    return a.sensors == b.sensors && a.labels == b.labels && a.timestamps == b.timestamps;
+    return a.sensors == b.sensors && a.labels == b.labels && a.timestamps == b.timestamps
+           && a.missingValues == b.missingValues;
 }
 
 QString metaFileName(const QString &projectFile)
@@ -204,7 +224,8 @@ bool writeProjectMeta(QIODevice &target, const ProjectMeta &meta, const ShotChec
         sensors.append(toJson(sensor));
     QJsonArray shots;
     for (std::size_t i = 0; i < checks.size(); ++i)
-        shots.append(toJson(checks[i], elementOf(meta.labels, i), elementOf(meta.timestamps, i)));
+        shots.append(toJson(checks[i], elementOf(meta.labels, i), elementOf(meta.timestamps, i),
+                            elementOf(meta.missingValues, i)));
     const QJsonObject root{{kVersionKey, kMetaVersion}, {kSensorsKey, sensors}, {kShotsKey, shots}};
     const QByteArray text = QJsonDocument(root).toJson(QJsonDocument::Compact);
     return target.write(text) == text.size();

@@ -43,6 +43,7 @@ struct ProjectMeta
     std::array<SensorMeta, kNumSensors> sensors;
     std::vector<QString> labels;       ///< one per shot, from the first on; may be shorter than the list of shots
     std::vector<QDateTime> timestamps; ///< the same; a null date-time for a shot without one
+    std::vector<int> missingValues;    ///< the same; how many values of each sensor the box did not deliver
 
     /// True if there is nothing that a file would have to keep.
     [[nodiscard]] bool isBlank() const;
@@ -53,6 +54,9 @@ struct ProjectMeta
     /// A null date-time for a shot without one.
     [[nodiscard]] QDateTime timestamp(int shot) const;
     void setTimestamp(int shot, const QDateTime &timestamp);
+    /// 0 for a shot that is complete, as far as that is known.
+    [[nodiscard]] int missing(int shot) const;
+    void setMissingValues(int shot, int count);
     /// Labels and time stamps of the shots behind move down by one.
     void removeShot(int shot);
     /// Drops labels and time stamps behind the first `count` shots.
