@@ -37,6 +37,8 @@ public:
     std::vector<Shown> warnings;
     QStringList fileDialogs; ///< "title|filter"
     int addressDialogs = 0;
+    QString addressReason;
+    int withdrawn = 0; ///< dialogs that the program closed by itself
     int unexpected = 0;
     int mostOpenAtOnce = 0;
 
@@ -82,11 +84,14 @@ public:
     std::optional<QString> askAddress(const QString &) override
     {
         ++addressDialogs;
+        const int withdrawnBefore = withdrawn;
         const QString address = answer(addresses, QString());
-        if (address.isEmpty())
+        if (address.isEmpty() || withdrawn != withdrawnBefore)
             return std::nullopt;
         return address;
     }
+    void withdraw() override { ++withdrawn; }
+    void setAddressReason(const QString &reason) override { addressReason = reason; }
 
 private:
     template <typename Answer>

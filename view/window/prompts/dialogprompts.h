@@ -24,6 +24,8 @@ public:
     [[nodiscard]] QString saveFileName(const QString &title, const QString &folder, const QString &filter) override;
     [[nodiscard]] QString openFolder(const QString &title, const QString &folder) override;
     [[nodiscard]] std::optional<QString> askAddress(const QString &current) override;
+    void withdraw() override;
+    void setAddressReason(const QString &reason) override;
     void setAddressValidator(std::function<bool(const QString &)> isValid) override;
 
 private:
@@ -35,6 +37,7 @@ private:
 
     QPointer<QWidget> m_window;
     std::function<bool(const QString &)> m_isValid;
+    QString m_addressReason;
 };
 
 /// Fills a box: buttons in the program's words, in the order of reading, the first one the default, and what closing
