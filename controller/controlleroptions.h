@@ -1,5 +1,6 @@
 #pragma once
 
+#include "controller/link/linktimes.h"
 #include "device/demobox.h"
 #include "device/scpprocess.h"
 
@@ -18,4 +19,5 @@ struct ControllerOptions
     QString demoProgram;                                             ///< empty: the simulator beside the program
     int demoStartTimeout = DemoBox::kStartTimeout;                   ///< ms
     int restartWait = 3000; ///< ms; how long the firmware dialog waits for a connection
+    LinkTimes linkTimes;
 };

@@ -20,13 +20,17 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     , lines(connector, model,
             [this, &view](const QString &line) {
                 view.terminalReceived(line); // when its turn comes, like its effect
+                watch.beforeLine(line);
                 dispatch.dispatch(line);
+                watch.afterLine(line);
             })
-    , link({view, model, occupancy}, connector, demoBox, questions, recorder, options.deviceAddress)
+    , link({view, model, occupancy}, connector, demoBox, questions, recorder,
+           {options.deviceAddress, options.linkTimes.retryDelays})
     , demo({view, model, occupancy}, demoBox, link, questions)
     , descriptions(view, model, connector, edits, recorder,
                    {options.deviceDescriptionTimeout, options.sensorDescriptionTimeout})
     , period({view, model, occupancy}, connector, edits, recorder)
+    , watch({view, model, occupancy}, {connector, demoBox, lines, recorder, link, descriptions, period}, options)
     , offer({view, model, occupancy}, questions, lines, edits)
     , transfers({view, model, occupancy})
     , firmware({view, model, occupancy}, connector, link, demo, options.restartWait)
@@ -81,8 +85,10 @@ void ControllerParts::connectLink(View &view)
     QObject::connect(&link, &BoxLink::established, &demo, &DemoLink::showState);
     QObject::connect(&link, &BoxLink::established, &period, &SamplingPeriod::begin);
     QObject::connect(&link, &BoxLink::established, &descriptions, &BoxDescriptions::request);
+    QObject::connect(&link, &BoxLink::established, &period, &SamplingPeriod::restore);
     // What the box sent before the end of the link comes first.
     QObject::connect(&link, &BoxLink::closing, &link, [this] { lines.flush(); });
+    QObject::connect(&link, &BoxLink::closing, &link, [this] { watch.endWithLink(); });
     QObject::connect(&link, &BoxLink::closing, &descriptions, &BoxDescriptions::stopWaiting);
     QObject::connect(&link, &BoxLink::closing, &loggerList, &LoggerList::reset);
     QObject::connect(&link, &BoxLink::left, &demo, &DemoLink::stop);
@@ -101,6 +107,8 @@ void ControllerParts::connectFiles()
     QObject::connect(&files, &ProjectFiles::measurementsReplaced, &files, [this] { recorder.forgetSeries(); });
     QObject::connect(&files, &ProjectFiles::shown, &files, [this] { recorder.announceRunning(); });
     QObject::connect(&files, &ProjectFiles::shown, &period, &SamplingPeriod::matchProject);
+    // A recording is continued in the project in which it began.
+    QObject::connect(&files, &ProjectFiles::measurementsReplaced, &files, [this] { watch.continuation.forget(); });
     QObject::connect(&files, &ProjectFiles::quitting, &files, [this] { recorder.requestStop(); });
 }
 

@@ -5,6 +5,7 @@
 #include "controller/link/boxlink.h"
 #include "controller/link/demolink.h"
 #include "controller/link/firmwareupdate.h"
+#include "controller/link/linkparts.h"
 #include "controller/link/projectoffer.h"
 #include "controller/link/samplingperiod.h"
 #include "controller/logger/loggerfetch.h"
@@ -53,6 +54,7 @@ struct ControllerParts
     DemoLink demo;
     BoxDescriptions descriptions;
     SamplingPeriod period;
+    LinkParts watch;
     ProjectOffer offer;
     TransferDialogs transfers;
     FirmwareUpdate firmware;

@@ -1,6 +1,7 @@
 #include "controller/link/boxlink.h"
 
 #include "controller/deferredquestions.h"
+#include "controller/link/linkreason.h"
 #include "controller/logging.h"
 #include "controller/occupancy.h"
 #include "controller/recording/recorder.h"
@@ -8,12 +9,13 @@
 #include "device/mesotraconnector.h"
 #include "device/protocol/hostaddress.h"
 #include "model/model.h"
+#include "view/window/prompts/questions.h"
 #include "view/window/view.h"
 
 #include <utility>
 
 BoxLink::BoxLink(const Desk &desk, MesotraConnector &connector, const DemoBox &demoBox, DeferredQuestions &questions,
-                 Recorder &recorder, const QString &address)
+                 Recorder &recorder, Target target)
     : m_view(desk.view)
     , m_model(desk.model)
     , m_occupancy(desk.occupancy)
@@ -21,9 +23,11 @@ BoxLink::BoxLink(const Desk &desk, MesotraConnector &connector, const DemoBox &d
     , m_demoBox(demoBox)
     , m_questions(questions)
     , m_recorder(recorder)
-    , m_address(address)
+    , m_reconnect(std::move(target.retryDelays))
+    , m_address(std::move(target.address))
 {
     connect(&m_restart, &BoxRestart::retry, this, &BoxLink::retryAfterRestart);
+    connect(&m_reconnect, &Reconnect::attemptDue, this, &BoxLink::retryAfterLoss);
     m_view.setAddressValidator(isValidHostAddress);
     m_view.setDeviceAddress(m_address);
 }
@@ -72,7 +76,7 @@ void BoxLink::toggle()
     } else if (m_view.isProgressShown()) {
         giveUp();
     } else if (m_address.isEmpty()) {
-        offerReconnect();
+        askForAddress({});
     } else {
         qCDebug(lcController) << " not connected -> connect!";
         connectTo(m_address, tr("Verbinden ..."));
@@ -127,6 +131,8 @@ void BoxLink::connectTo(const QString &address)
 
 void BoxLink::connectTo(const QString &address, const QString &progressText)
 {
+    if (address != m_reconnect.address())
+        m_reconnect.end(); // the user prefers another box
     want();
     m_view.setDeviceAddress(address);
     m_view.showProgress(progressText);
@@ -144,6 +150,7 @@ void BoxLink::want()
 {
     m_wanted = true;
     m_questions.drop(Question::LinkError);
+    emit wanted();
 }
 
 void BoxLink::giveUp()
@@ -153,6 +160,15 @@ void BoxLink::giveUp()
     m_restart.end();
     leave();
     m_view.showStatus(tr("Verbindungsaufbau abgebrochen."));
+}
+
+void BoxLink::stopRetrying()
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    if (!m_reconnect.isActive())
+        return;
+    leave();
+    m_view.showStatus(tr("Die Verbindung wird nicht mehr von selbst aufgebaut."));
 }
 
 void BoxLink::leaveForAnother()
@@ -166,6 +182,7 @@ void BoxLink::leaveForAnother()
 void BoxLink::leave()
 {
     m_wanted = false;
+    m_reconnect.end();
     m_questions.drop(Question::LinkError);
     m_connector.disconnectFromHost();
     m_view.hideProgress(); // of an attempt that may have been under way
@@ -182,6 +199,7 @@ void BoxLink::opened()
     if (std::exchange(m_measuredHost, host) != host)
         m_view.forgetLiveValues(); // of another box
     m_restart.end();
+    m_reconnect.noteLink();
     m_model.blockSignals(false); // a deletion with a syntax error may have left them blocked
     m_model.setConnected(true);
     m_model.emitAppStateChanged();
@@ -195,7 +213,6 @@ void BoxLink::showOpened()
         m_view.showStatus(tr("Die Demo läuft."));
         return;
     }
-    m_view.rememberAddress(m_connector.hostAddress());
     m_view.showStatus(tr("Verbunden mit %1.").arg(m_connector.hostAddress()));
 }
 
@@ -212,6 +229,29 @@ void BoxLink::closed()
     if (wasConnected)
         m_view.showStatus(wasRecording ? tr("Verbindung getrennt, Aufnahme beendet. Alle Daten sind erhalten.")
                                        : tr("Verbindung getrennt."));
+    if (!wasConnected || !m_wanted || isDemo())
+        return;
+    m_reconnect.begin(m_connector.hostAddress());
+    emit lost(m_connector.hostAddress(), wasRecording);
+}
+
+void BoxLink::noteProven()
+{
+    m_reconnect.noteBack();
+    if (m_reporting)
+        m_view.questions().withdraw(); // what it says is no longer true
+}
+
+void BoxLink::noteMute()
+{
+    if (m_reconnect.isLinkUnproven())
+        loseSilent();
+}
+
+void BoxLink::loseSilent()
+{
+    m_connector.disconnectFromHost();
+    onError(QAbstractSocket::RemoteHostClosedError);
 }
 
 void BoxLink::onError(QAbstractSocket::SocketError error)
@@ -222,8 +262,18 @@ void BoxLink::onError(QAbstractSocket::SocketError error)
         m_view.showProgress(tr("Die Mesotra Box startet neu. Verbinden mit %1 ...").arg(m_connector.hostAddress()));
         m_restart.retryLater();
     } else if (m_wanted) {
-        emit failed(error);
+        m_reconnect.noteError(error);
+        if (!m_reconnect.isActive() || m_reconnect.takeReport())
+            emit failed(error);
+        else if (!m_occupancy.isUnderWay(Task::Fetch))
+            m_view.hideProgress(); // of an attempt that the user did not want to wait for
     }
+}
+
+void BoxLink::retryAfterLoss()
+{
+    if (m_wanted && !isConnected())
+        m_connector.connect(m_reconnect.address());
 }
 
 void BoxLink::retryAfterRestart()
@@ -243,8 +293,11 @@ void BoxLink::reportError(QAbstractSocket::SocketError error)
         return;
     }
     m_questions.drop(Question::LinkError);
+    m_reporting = true;
     showError(error);
-    offerReconnect();
+    if (!isConnected()) // the box may be back while the message was open
+        offerReconnect(error);
+    m_reporting = false;
 }
 
 void BoxLink::showError(QAbstractSocket::SocketError error)
@@ -261,12 +314,19 @@ void BoxLink::showError(QAbstractSocket::SocketError error)
     m_occupancy.ask([&] { m_view.showMessage(text, tr("Netzwerk Fehler")); });
 }
 
-void BoxLink::offerReconnect()
+void BoxLink::offerReconnect(QAbstractSocket::SocketError error)
 {
+    const QString host = m_connector.hostAddress();
+    askForAddress(host.isEmpty() ? QString() : linkAdvice(error, host));
+}
+
+void BoxLink::askForAddress(const QString &reason)
+{
+    m_view.questions().setAddressReason(reason);
     const std::optional<QString> address = m_occupancy.ask([this] { return m_view.askAddress(m_address); });
     if (!address) {
         qCDebug(lcController) << "dialog rejected";
-        m_wanted = false;
+        m_wanted = isConnected() || m_reconnect.isActive(); // the box may be back, or is still waited for
         return;
     }
     // The dialog accepts valid addresses only; prompts scripted by a test may not.
