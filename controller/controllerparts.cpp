@@ -11,19 +11,13 @@
 ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptions &options)
     : connector(options.port)
     , demoBox(options.demoProgram, options.demoStartTimeout)
-    , occupancy(view, model)
+    , occupancy(view, model, options.typingPause)
     , questions(occupancy)
     , progress(view, model)
     , display(view)
     , edits(model)
     , recorder(model, edits, connector, display)
-    , lines(connector, model,
-            [this, &view](const QString &line) {
-                view.terminalReceived(line); // when its turn comes, like its effect
-                watch.beforeLine(line);
-                dispatch.dispatch(line);
-                watch.afterLine(line);
-            })
+    , lines(connector, model, [this, &view](const QString &line) { handleLine(view, line); })
     , link({view, model, occupancy}, connector, demoBox, questions, recorder,
            {options.deviceAddress, options.linkTimes.retryDelays})
     , demo({view, model, occupancy}, demoBox, link, questions)
@@ -38,11 +32,14 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     , deletion({view, model, occupancy}, edits, recorder)
     , tabEdits(view, model, edits)
     , saving({view, model, occupancy}, progress, lines, edits)
-    , files({view, model, occupancy}, progress, lines, edits, saving)
+    , files({view, model, occupancy}, progress, lines, edits, saving,
+            RecordingEnd({view, model, occupancy}, connector, recorder, options.stopWait))
     , pictures({view, model, occupancy}, edits)
     , loggerList({view, model, occupancy}, link)
     , loggerFetch({view, model, occupancy}, connector, demo, transfers, options.temporaryDirectory)
     , loggerImport({view, model, occupancy}, progress, lines, edits, recorder)
+    , undoHistory(model)
+    , undo({view, model, occupancy}, undoHistory, edits, recorder)
 {
     setUpTransfers(options);
     handleMessages();
@@ -57,6 +54,14 @@ ControllerParts::~ControllerParts()
     // The last signals of the socket and the process must not find parts that are gone.
     QObject::disconnect(&connector, nullptr, nullptr, nullptr);
     QObject::disconnect(&demoBox, nullptr, nullptr, nullptr);
+}
+
+void ControllerParts::handleLine(View &view, const QString &line)
+{
+    view.terminalReceived(line); // when its turn comes, like its effect
+    watch.beforeLine(line);
+    dispatch.dispatch(line);
+    watch.afterLine(line);
 }
 
 void ControllerParts::setUpTransfers(const ControllerOptions &options)
@@ -92,6 +97,7 @@ void ControllerParts::connectLink(View &view)
     QObject::connect(&link, &BoxLink::closing, &descriptions, &BoxDescriptions::stopWaiting);
     QObject::connect(&link, &BoxLink::closing, &loggerList, &LoggerList::reset);
     QObject::connect(&link, &BoxLink::left, &demo, &DemoLink::stop);
+    QObject::connect(&link, &BoxLink::left, &link, [this] { offer.withdraw(); });
     QObject::connect(&link, &BoxLink::demoLost, &demo, [this] { demo.onFailed(DemoBox::End::Ended); });
     QObject::connect(&demoBox, &DemoBox::listening, &demo, &DemoLink::onListening);
     QObject::connect(&demoBox, &DemoBox::failed, &demo, &DemoLink::onFailed);
@@ -102,11 +108,17 @@ void ControllerParts::connectLink(View &view)
 
 void ControllerParts::connectFiles()
 {
+    QObject::connect(&files, &ProjectFiles::boxDismissed, &link, &BoxLink::leaveForAnother);
     QObject::connect(&files, &ProjectFiles::boxGivenUp, &link, &BoxLink::leave);
+    QObject::connect(&files, &ProjectFiles::projectReplaced, &files, [this] {
+        offer.forgetAnswers();
+        recorder.restartShotClock();
+    });
     QObject::connect(&files, &ProjectFiles::cleared, &descriptions, &BoxDescriptions::describeAgain);
     QObject::connect(&files, &ProjectFiles::measurementsReplaced, &files, [this] { recorder.forgetSeries(); });
     QObject::connect(&files, &ProjectFiles::shown, &files, [this] { recorder.announceRunning(); });
     QObject::connect(&files, &ProjectFiles::shown, &period, &SamplingPeriod::matchProject);
+    QObject::connect(&undo, &UndoControl::samplingPeriodChanged, &period, &SamplingPeriod::matchProject);
     // A recording is continued in the project in which it began.
     QObject::connect(&files, &ProjectFiles::measurementsReplaced, &files, [this] { watch.continuation.forget(); });
     QObject::connect(&files, &ProjectFiles::quitting, &files, [this] { recorder.requestStop(); });

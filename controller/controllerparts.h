@@ -25,6 +25,8 @@
 #include "controller/recording/recorder.h"
 #include "controller/recordingactions.h"
 #include "controller/recordingdisplay.h"
+#include "controller/undo/undocontrol.h"
+#include "controller/undo/undohistory.h"
 #include "device/demobox.h"
 #include "device/mesotraconnector.h"
 
@@ -67,8 +69,11 @@ struct ControllerParts
     LoggerList loggerList;
     LoggerFetch loggerFetch;
     LoggerImport loggerImport;
+    UndoHistory undoHistory;
+    UndoControl undo;
 
 private:
+    void handleLine(View &view, const QString &line);
     void setUpTransfers(const ControllerOptions &options);
     void handleMessages();
     void connectLink(View &view);

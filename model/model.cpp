@@ -1,6 +1,7 @@
 #include "model/model.h"
 
 #include "model/arrayindex.h"
+#include "model/edit/editscope.h"
 #include "model/logging.h"
 #include "model/project/projecteditor.h"
 
@@ -104,7 +105,7 @@ void Model::setShotLabel(int measurement, const QString &label)
     qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " measurement=" << measurement << " label=" << label;
     if (!hasShot(measurement, Q_FUNC_INFO))
         return;
-    m_project.meta.setLabel(measurement, label);
+    m_project.setLabel(measurement, label);
     m_changes.project(Q_FUNC_INFO);
 }
 
@@ -128,6 +129,7 @@ void Model::setOffset(int sensor, double offset)
 void Model::resetOffsets()
 {
     qCDebug(lcModel) << Q_FUNC_INFO;
+    const EditScope edit(this, [] { return tr("Zurücksetzen der Offsets"); });
     m_project.settings.offsets.fill(0.0);
     m_changes.project(Q_FUNC_INFO);
 }
@@ -314,6 +316,7 @@ void Model::clear()
     m_project.clearImages(Q_FUNC_INFO);
     clearData();
     m_changes.project(Q_FUNC_INFO);
+    m_edits.forgetProject();
     qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " END";
 }
 

@@ -2,6 +2,7 @@
 
 #include "model/blackbox/blackboximport.h"
 #include "model/devicedescription.h"
+#include "model/edit/modeledits.h"
 #include "model/indexcheck.h"
 #include "model/modelchanges.h"
 #include "model/modelfiles.h"
@@ -59,6 +60,8 @@ public:
     {
         return m_project.shots.id(sensor, measurement);
     }
+    /// The measurement that has this id; -1 if there is none.
+    [[nodiscard]] int indexOfMeasurement(int sensor, quint64 id) const { return m_project.shots.indexOf(sensor, id); }
     /// Appends one empty measurement to one sensor; returns its index, -1 for a bad sensor. Emits nothing.
     int appendMeasurement(int sensor) { return hasSensor(sensor, Q_FUNC_INFO) ? m_project.shots.append(sensor) : -1; }
     /// Appends one sample; a number that is not finite counts as 0. False for indices out of range. Emits nothing.
@@ -170,6 +173,8 @@ public:
     void setConnected(bool connected); ///< emits nothing
     [[nodiscard]] bool isProjectModified() const { return m_files.isModified(); }
     void setProjectModifiedFlag(bool modified);
+    /// Edits that can be undone: see EditScope.
+    [[nodiscard]] ModelEdits &edits() { return m_edits; }
     [[nodiscard]] QString currentFile() const { return m_files.currentFile(); }
     void setCurrentFile(const QString &absolutePath);
     /// True while open(), save(), saveCsv() or addBlackBoxFile() runs: no second one, no deletion and no quit may start
@@ -180,6 +185,10 @@ public:
     void clear();
 
     // --- Files -------------------------------------------------------------------------------------------------
+    /// Reads a file completely, for the open() that follows, so that nobody is asked about a file that cannot be
+    /// opened. False if it cannot.
+    [[nodiscard]] bool readAhead(const QString &fileName) { return m_files.readAhead(fileName, Q_FUNC_INFO); }
+    void forgetReadAhead() { m_files.forgetReadAhead(); }
     [[nodiscard]] bool open(const QString &fileName);
     [[nodiscard]] bool save(const QString &fileName);
     /// False if the last save() wrote the project, but not the file beside it.
@@ -235,4 +244,5 @@ private:
     std::unique_ptr<Editor> m_editor;
     ModelFiles m_files;
     BlackBoxImport m_import;
+    ModelEdits m_edits{*this, m_project, m_import.files(), m_changes};
 };

@@ -14,6 +14,7 @@
 #include "model/project/projecttransfer.h"
 #include "model/project/projectwriter.h"
 
+#include <QDateTime>
 #include <QDebug>
 #include <QFile>
 #include <QFileInfo>
@@ -26,12 +27,23 @@ struct ModelFiles::Opened
     ImageStore images;
 };
 
+/// A project that was read and not opened yet, and what tells whether its file is still the same.
+struct ModelFiles::ReadAhead
+{
+    QString fileName;
+    QDateTime modified;
+    qint64 size = 0;
+    std::unique_ptr<Opened> opened;
+};
+
 ModelFiles::ModelFiles(ProjectEditor &editor, Project &project, ModelChanges &changes, FileWork &work)
     : m_editor(editor)
     , m_project(project)
     , m_changes(changes)
     , m_work(work)
 {}
+
+ModelFiles::~ModelFiles() = default;
 
 void ModelFiles::setCurrentFile(const QString &absolutePath)
 {
@@ -45,27 +57,66 @@ void ModelFiles::setModified(bool modified)
         m_changes.fileState();
 }
 
+bool ModelFiles::readAhead(const QString &fileName, const char *function)
+{
+    forgetReadAhead();
+    if (m_work.refuses(function))
+        return false;
+    const QFileInfo before(fileName); // looked up now: what is written while it is read makes it out of date
+    const QDateTime modified = before.lastModified();
+    const qint64 size = before.size();
+    std::unique_ptr<Opened> opened = readFile(fileName, function);
+    if (opened)
+        m_readAhead = std::make_unique<ReadAhead>(ReadAhead{fileName, modified, size, std::move(opened)});
+    return m_readAhead != nullptr;
+}
+
+void ModelFiles::forgetReadAhead()
+{
+    m_readAhead.reset();
+}
+
 bool ModelFiles::open(const QString &fileName, const char *function)
 {
     if (m_work.refuses(function))
         return false;
-    QFile file(fileName);
-    // Only regular files: opening a FIFO would block.
-    if (!QFileInfo(fileName).isFile() || !file.open(QIODevice::ReadOnly)) {
-        qCDebug(lcModel).noquote().nospace() << function << " could not open file:" << fileName;
+    std::unique_ptr<Opened> opened = takeReadAhead(fileName);
+    if (!opened)
+        opened = readFile(fileName, function);
+    if (!opened)
         return false;
-    }
-    std::optional<Opened> opened = read(file);
-    if (!opened) {
-        qCDebug(lcModel).noquote().nospace() << function << " jdoc is no object!";
-        return false;
-    }
     apply(*opened, QFileInfo(fileName).absoluteFilePath(), function);
     m_changes.opened(function);
     // Receivers may have set it: to them, opening looks like a change.
     m_editor.setProjectModifiedFlag(false);
     qCDebug(lcModel) << function << " END";
     return true;
+}
+
+/// nullptr if there is nothing, or another file, or one that was changed or replaced since.
+std::unique_ptr<ModelFiles::Opened> ModelFiles::takeReadAhead(const QString &fileName)
+{
+    const std::unique_ptr<ReadAhead> ahead = std::move(m_readAhead);
+    const QFileInfo now(fileName);
+    if (!ahead || ahead->fileName != fileName || ahead->modified != now.lastModified() || ahead->size != now.size())
+        return nullptr;
+    return std::move(ahead->opened);
+}
+
+std::unique_ptr<ModelFiles::Opened> ModelFiles::readFile(const QString &fileName, const char *function)
+{
+    QFile file(fileName);
+    // Only regular files: opening a FIFO would block.
+    if (!QFileInfo(fileName).isFile() || !file.open(QIODevice::ReadOnly)) {
+        qCDebug(lcModel).noquote().nospace() << function << " could not open file:" << fileName;
+        return nullptr;
+    }
+    std::optional<Opened> opened = read(file);
+    if (!opened) {
+        qCDebug(lcModel).noquote().nospace() << function << " jdoc is no object!";
+        return nullptr;
+    }
+    return std::make_unique<Opened>(*std::move(opened));
 }
 
 // All that can fail, takes long or lets events in happens here, before the model is touched.
@@ -103,6 +154,7 @@ bool ModelFiles::save(const QString &fileName, const char *function)
     const ShotChecks checks = shotChecks(m_project.shots);
     if (!writeProject(fileName))
         return false;
+    forgetReadAhead(); // it may be of this file
     m_metaSaved = saveMeta(fileName, meta, checks);
     const bool isUpToDate = countChanges() == changesBefore;
     m_editor.setCurrentFile(QFileInfo(fileName).absoluteFilePath());

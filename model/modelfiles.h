@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <memory>
 #include <optional>
 
 class FileWork;
@@ -18,7 +19,16 @@ public:
     /// All of them must outlive this.
     ModelFiles(ProjectEditor &editor, Project &project, ModelChanges &changes, FileWork &work);
 
-    /// False, with the model as it was, if the file cannot be read or holds no project.
+    ModelFiles(const ModelFiles &) = delete;
+    ModelFiles &operator=(const ModelFiles &) = delete;
+    ~ModelFiles();
+
+    /// Reads a file completely, for the open() that follows; the model stays as it is. False if that open() would fail.
+    [[nodiscard]] bool readAhead(const QString &fileName, const char *function);
+    /// For an open() that will not follow.
+    void forgetReadAhead();
+    /// False, with the model as it was, if the file cannot be read or holds no project. Uses what was read ahead unless
+    /// the file has changed since.
     [[nodiscard]] bool open(const QString &fileName, const char *function);
     [[nodiscard]] bool save(const QString &fileName, const char *function);
     [[nodiscard]] bool saveCsv(const QString &fileName, const char *function);
@@ -32,6 +42,9 @@ public:
 
 private:
     struct Opened;
+    struct ReadAhead;
+    [[nodiscard]] std::unique_ptr<Opened> readFile(const QString &fileName, const char *function);
+    [[nodiscard]] std::unique_ptr<Opened> takeReadAhead(const QString &fileName);
     [[nodiscard]] std::optional<Opened> read(QFile &file);
     void apply(Opened &opened, const QString &absolutePath, const char *function);
     [[nodiscard]] bool writeProject(const QString &fileName);
@@ -42,6 +55,7 @@ private:
     Project &m_project;
     ModelChanges &m_changes;
     FileWork &m_work;
+    std::unique_ptr<ReadAhead> m_readAhead;
     QString m_currentFile; // absolute
     bool m_modified = false;
     bool m_metaSaved = true;

@@ -85,3 +85,6 @@ public:
 private:
     QVector<SensorGroup> m_groups;
 };
+
+/// The name to show for a sensor of the first group; by its position if that has no such sensor.
+[[nodiscard]] QString shownSensorName(const SensorDescription &description, int sensor);

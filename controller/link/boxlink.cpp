@@ -294,6 +294,7 @@ void BoxLink::reportError(QAbstractSocket::SocketError error)
     }
     m_questions.drop(Question::LinkError);
     m_reporting = true;
+    const UninvitedQuestions uninvited(m_view.questions());
     showError(error);
     if (!isConnected()) // the box may be back while the message was open
         offerReconnect(error);

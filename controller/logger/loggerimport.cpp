@@ -7,8 +7,10 @@
 #include "controller/recording/projectedits.h"
 #include "controller/recording/recorder.h"
 #include "controller/sensornews.h"
+#include "model/edit/editscope.h"
 #include "model/model.h"
 #include "view/blackbox/tabblackbox.h"
+#include "view/window/prompts/questions.h"
 #include "view/window/view.h"
 
 #include <algorithm>
@@ -30,12 +32,21 @@ void LoggerImport::run(const QStringList &files)
     // The answer takes its time; a recording may have begun.
     if (wanted.isEmpty() || refuseWhileRecording())
         return;
-    const SensorDescription before = m_desk.model.sensorDescription();
-    const ImportSummary summary = readFiles(wanted);
-    if (summary.numUnreadable() < wanted.size())
-        finish(before);
+    const ImportSummary summary = importAsOneStep(wanted);
     m_edits.applyKept(); // made while files were being read
     show(summary);
+}
+
+ImportSummary LoggerImport::importAsOneStep(const QStringList &files)
+{
+    const EditScope edit(&m_desk.model, [count = files.size()] {
+        return count == 1 ? tr("Import einer Datei") : tr("Import von %1 Dateien").arg(count);
+    });
+    const SensorDescription before = m_desk.model.sensorDescription();
+    ImportSummary summary = readFiles(files);
+    if (summary.numUnreadable() < files.size())
+        finish(before);
+    return summary;
 }
 
 /// The newest measurement is the one being recorded, in all views; so it must stay the last.
@@ -51,7 +62,7 @@ bool LoggerImport::refuseWhileRecording()
     return true;
 }
 
-/// Files that the project has already are left out unless the user wants them again.
+/// Files that the project has already are left out unless the user wants them again. None if the question is closed.
 QStringList LoggerImport::withoutUnwantedRepeats(const QStringList &files)
 {
     const QSet<QByteArray> imported = m_desk.model.importedFiles();
@@ -64,7 +75,16 @@ QStringList LoggerImport::withoutUnwantedRepeats(const QStringList &files)
     const QString question =
         repeats == 1 ? tr("Eine der Dateien ist schon in diesem Projekt.\nNoch einmal importieren?")
                      : tr("%1 der Dateien sind schon in diesem Projekt.\nNoch einmal importieren?").arg(repeats);
-    return m_desk.occupancy.ask([&] { return m_desk.view.askYesNo(tr("BlackBox"), question); }) ? files : fresh;
+    const QString hint = fresh.isEmpty() ? QString()
+                                         : tr("\"Nein\" importiert nur die neuen Dateien. Escape oder Schließen bricht "
+                                              "den Import ab.");
+    const QMessageBox::StandardButton answer = m_desk.occupancy.ask([&] {
+        return m_desk.view.questions().ask(
+            {tr("BlackBox"), question, QMessageBox::Yes | QMessageBox::No, QMessageBox::No, false, hint});
+    });
+    if (answer == QMessageBox::NoButton)
+        return {};
+    return answer == QMessageBox::Yes ? files : fresh;
 }
 
 ImportSummary LoggerImport::readFiles(const QStringList &files)

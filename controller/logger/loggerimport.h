@@ -26,6 +26,7 @@ public:
 private:
     [[nodiscard]] bool refuseWhileRecording();
     [[nodiscard]] QStringList withoutUnwantedRepeats(const QStringList &files);
+    [[nodiscard]] ImportSummary importAsOneStep(const QStringList &files);
     [[nodiscard]] ImportSummary readFiles(const QStringList &files);
     void readFile(const QString &file, ImportSummary &summary);
     void finish(const SensorDescription &before);

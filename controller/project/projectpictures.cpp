@@ -4,9 +4,11 @@
 #include "controller/occupancy.h"
 #include "controller/recording/projectedits.h"
 #include "controller/waitcursor.h"
+#include "model/edit/editscope.h"
 #include "model/model.h"
 #include "model/project/photo.h"
 #include "model/project/projectimage.h"
+#include "view/window/prompts/questions.h"
 #include "view/window/view.h"
 
 #include <QDir>
@@ -70,7 +72,9 @@ void ProjectPictures::choose(int image)
     qCDebug(lcController) << Q_FUNC_INFO << image;
     if (m_occupancy.refuseWhileOccupied())
         return;
-    const QString file = m_occupancy.ask([this] { return m_view.askOpenFile(tr("Bild auswählen"), pictureFilter()); });
+    const QString file = m_occupancy.ask([this] {
+        return m_view.questions().openFile(tr("Bild auswählen"), pictureFilter(), {Questions::kPictureFolder});
+    });
     if (!file.isEmpty())
         (void)takeFile(image, file); // whoever chose it has been told of a failure
 }
@@ -115,7 +119,7 @@ bool ProjectPictures::mayReplace(int image)
     if (m_model.image(image).isNull())
         return true;
     const QString question = tr("Bild %1 wird durch ein anderes ersetzt.\nFortfahren?").arg(image + 1);
-    return m_occupancy.ask([&] { return m_view.askYesNo(tr("Bild ersetzen"), question); });
+    return m_occupancy.ask([&] { return m_view.questions().yesNoDestructive(tr("Bild ersetzen"), question); });
 }
 
 bool ProjectPictures::takeFile(int image, const QString &file)
@@ -134,7 +138,12 @@ bool ProjectPictures::takeFile(int image, const QString &file)
 
 void ProjectPictures::set(int image, const QPixmap &picture)
 {
-    m_edits.apply([this, image, picture] { m_model.setImage(image, picture); });
+    m_edits.apply([this, image, picture] {
+        const EditScope edit(&m_model, [image, replaces = !m_model.image(image).isNull()] {
+            return (replaces ? tr("Ersetzen von Bild %1") : tr("Einfügen von Bild %1")).arg(image + 1);
+        });
+        m_model.setImage(image, picture);
+    });
 }
 
 // --- Pictures go ---
@@ -145,9 +154,10 @@ void ProjectPictures::remove(int image)
     if (m_occupancy.refuseWhileOccupied() || m_model.image(image).isNull())
         return;
     const QString question = tr("Bild %1 wird aus dem Projekt gelöscht.\nFortfahren?").arg(image + 1);
-    if (!m_occupancy.ask([&] { return m_view.askYesNo(tr("Bild löschen"), question); }))
+    if (!m_occupancy.ask([&] { return m_view.questions().yesNoDestructive(tr("Bild löschen"), question); }))
         return;
     m_model.blockSignals(false);
+    const EditScope edit(&m_model, [image] { return tr("Löschen von Bild %1").arg(image + 1); });
     (m_view.*kDeletions.at(static_cast<std::size_t>(image)))();
 }
 
@@ -169,6 +179,8 @@ void ProjectPictures::save(int image)
 /// Empty: cancelled.
 QString ProjectPictures::askFileToSave()
 {
-    return m_occupancy.ask(
-        [this] { return m_view.askSaveFileWithSuffix(tr("Bild speichern"), tr("PNG-Bild (*.png)"), kPictureSuffix); });
+    return m_occupancy.ask([this] {
+        return m_view.questions().saveFileWithSuffix(tr("Bild speichern"), tr("PNG-Bild (*.png)"), kPictureSuffix,
+                                                     Qt::CaseInsensitive, {}, {Questions::kPictureFolder});
+    });
 }

@@ -2,6 +2,8 @@
 
 #include <QObject>
 
+#include <functional>
+
 class Model;
 class ProjectEdits;
 class QColor;
@@ -38,6 +40,8 @@ public:
 
 private:
     [[nodiscard]] int sampleAt(int pos_ms) const;
+    void applyToMarker(int index, const std::function<void()> &change);
+    void applyToSensor(int sensor, const std::function<void()> &change);
 
     View &m_view;
     Model &m_model;

@@ -1,6 +1,5 @@
 #include "model/blackbox/blackboximport.h"
 
-#include "model/arrayindex.h"
 #include "model/logging.h"
 #include "model/modelchanges.h"
 #include "model/project/filework.h"
@@ -63,10 +62,9 @@ void BlackBoxImport::apply(BlackBoxDocument &document, const char *function)
     m_editor.setSensorDescription(document.sensors);
     if (!document.hasMeasurement())
         return;
-    for (int sensor = 0; sensor < kNumSensors; ++sensor)
-        m_project.shots.append(sensor, std::move(document.samples[at(sensor)]));
+    const int shot = m_project.appendShot(std::move(document.samples));
     if (!document.timestamp)
         return;
-    m_editor.setTimestamp(m_project.shots.count(0) - 1, *document.timestamp);
+    m_editor.setTimestamp(shot, *document.timestamp);
     m_changes.project(function);
 }

@@ -13,6 +13,10 @@ public:
     /// A file that is already on the list keeps its place.
     void add(const QString &absolutePath);
     [[nodiscard]] QSet<QByteArray> fingerprints() const { return m_fingerprints; }
+    [[nodiscard]] bool operator==(const ImportedFiles &other) const
+    {
+        return m_files == other.m_files && m_fingerprints == other.m_fingerprints;
+    }
 
 private:
     void remember(const QString &file);

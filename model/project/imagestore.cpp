@@ -1,5 +1,7 @@
 #include "model/project/imagestore.h"
 
+#include "model/arrayindex.h"
+
 #include <utility>
 
 ImageStore ImageStore::decoded(EncodedImages pngs, const std::function<void()> &pause)
@@ -11,6 +13,23 @@ ImageStore ImageStore::decoded(EncodedImages pngs, const std::function<void()> &
         pause();
     }
     return store;
+}
+
+bool ImageStore::isSame(int image, const ImageStore &other) const
+{
+    return m_pixmaps[at(image)].cacheKey() == other.m_pixmaps[at(image)].cacheKey();
+}
+
+void ImageStore::take(int image, const ImageStore &from)
+{
+    m_pixmaps[at(image)] = from.m_pixmaps[at(image)];
+    m_pngs[at(image)] = from.m_pngs[at(image)];
+}
+
+qint64 ImageStore::bytes(int image) const
+{
+    const QPixmap &pixmap = m_pixmaps[at(image)];
+    return qint64(pixmap.width()) * pixmap.height() * pixmap.depth() / 8 + m_pngs[at(image)].bytes();
 }
 
 EncodedImages ImageStore::encoded(const Pixmaps &pixmaps, const std::function<void()> &pause)

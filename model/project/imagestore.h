@@ -21,6 +21,12 @@ public:
     [[nodiscard]] const Pixmaps &pixmaps() const { return m_pixmaps; }
     [[nodiscard]] Pixmaps &pixmaps() { return m_pixmaps; }
     void clear() { *this = ImageStore(); }
+    /// True if another store has the same picture there: not one that merely looks the same.
+    [[nodiscard]] bool isSame(int image, const ImageStore &other) const;
+    /// Takes over a picture with its PNG, without copying pixels.
+    void take(int image, const ImageStore &from);
+    /// Memory that a picture takes while nobody else has it.
+    [[nodiscard]] qint64 bytes(int image) const;
 
     /// Decodes the PNGs one by one; `pause` is called after each, as a large one takes long.
     [[nodiscard]] static ImageStore decoded(EncodedImages pngs, const std::function<void()> &pause);

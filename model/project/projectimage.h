@@ -13,6 +13,8 @@ public:
     [[nodiscard]] QByteArray png(const QPixmap &image);
     /// The PNG that the picture was read from, so that it is written back as it was.
     void remember(const QPixmap &image, QByteArray png);
+    /// Size of the PNG that is remembered.
+    [[nodiscard]] int bytes() const { return m_png.size(); }
 
 private:
     qint64 m_key = 0; ///< QPixmap::cacheKey() of the picture; 0 for a null one

@@ -81,6 +81,16 @@ void setElement(std::vector<Value> &values, std::size_t index, const Value &valu
     values[index] = value;
 }
 
+// A list that ends before the place stays as it is for a value that says nothing.
+template <typename Value>
+void insertElement(std::vector<Value> &values, std::size_t index, const Value &value)
+{
+    if (index < values.size())
+        values.insert(values.begin() + static_cast<std::ptrdiff_t>(index), value);
+    else if (!(value == Value()))
+        setElement(values, index, value);
+}
+
 SensorMeta toSensor(const QJsonObject &object)
 {
     SensorMeta sensor;
@@ -182,6 +192,18 @@ void ProjectMeta::keepShots(int count)
     labels.resize(std::min(most, labels.size()));
     timestamps.resize(std::min(most, timestamps.size()));
     missingValues.resize(std::min(most, missingValues.size()));
+}
+
+ShotMeta ProjectMeta::shot(int shot) const
+{
+    return {label(shot), timestamp(shot), missing(shot)};
+}
+
+void ProjectMeta::insertShot(int shot, const ShotMeta &meta)
+{
+    insertElement(labels, static_cast<std::size_t>(shot), meta.label);
+    insertElement(timestamps, static_cast<std::size_t>(shot), meta.timestamp);
+    insertElement(missingValues, static_cast<std::size_t>(shot), meta.missingValues);
 }
 
 void ProjectMeta::removeShot(int shot)

@@ -35,6 +35,14 @@ struct SensorMeta
     [[nodiscard]] QuantityMeta &at(const QString &key);
 };
 
+/// What is kept of one shot beside its samples.
+struct ShotMeta
+{
+    QString label;
+    QDateTime timestamp;
+    int missingValues = 0;
+};
+
 /// What belongs to a project but has no key in the project file; it is kept in a file beside it.
 struct ProjectMeta
 {
@@ -57,6 +65,9 @@ struct ProjectMeta
     /// 0 for a shot that is complete, as far as that is known.
     [[nodiscard]] int missing(int shot) const;
     void setMissingValues(int shot, int count);
+    [[nodiscard]] ShotMeta shot(int shot) const;
+    /// Labels and time stamps of the shots from there on move up by one.
+    void insertShot(int shot, const ShotMeta &meta);
     /// Labels and time stamps of the shots behind move down by one.
     void removeShot(int shot);
     /// Drops labels and time stamps behind the first `count` shots.

@@ -399,6 +399,14 @@
         <source>Letzter Schuss</source>
         <translation>Latest shot</translation>
     </message>
+    <message>
+        <source>Nicht im Mittel: %1 Pausen, länger als das Fünffache des Medians</source>
+        <translation>Not part of the mean: %1 breaks, longer than five times the median</translation>
+    </message>
+    <message>
+        <source>Mittel von %1, ohne Pausen</source>
+        <translation>Mean of %1, without breaks</translation>
+    </message>
 </context>
 <context>
     <name>Dashboard</name>
@@ -511,6 +519,37 @@
     <message>
         <source>Aufgezeichnete Tage</source>
         <translation>Logged days</translation>
+    </message>
+</context>
+<context>
+    <name>DeletionQuestion</name>
+    <message>
+        <source>Messung %1</source>
+        <translation>Measurement %1</translation>
+    </message>
+    <message>
+        <source>... und %1 weitere, zuletzt Messung %2</source>
+        <translation>... and %1 more, the last one is measurement %2</translation>
+    </message>
+    <message>
+        <source>Keine Messung wird gelöscht.</source>
+        <translation>No measurement will be deleted.</translation>
+    </message>
+    <message>
+        <source>Das ist 1 Messung:</source>
+        <translation>This is 1 measurement:</translation>
+    </message>
+    <message>
+        <source>Das sind %1 Messungen:</source>
+        <translation>These are %1 measurements:</translation>
+    </message>
+    <message>
+        <source>Achtung: Das sind andere als eingegeben, weil nach jeder Löschung die folgenden Messungen nachrücken.</source>
+        <translation>Attention: these are others than those entered, because after each deletion the measurements behind move up.</translation>
+    </message>
+    <message>
+        <source>Ab &quot;%1&quot; ist die Eingabe fehlerhaft. Dieser Teil und alles dahinter wird nicht gelöscht.</source>
+        <translation>From &quot;%1&quot; on the input is malformed. This part and all behind it will not be deleted.</translation>
     </message>
 </context>
 <context>
@@ -984,6 +1023,10 @@ Import them again?</translation>
         <source>Problem</source>
         <translation>Problem</translation>
     </message>
+    <message>
+        <source>&quot;Nein&quot; importiert nur die neuen Dateien. Escape oder Schließen bricht den Import ab.</source>
+        <translation>&quot;No&quot; imports the new files only. Escape or closing cancels the import.</translation>
+    </message>
 </context>
 <context>
     <name>MainToolBar</name>
@@ -1051,6 +1094,14 @@ Esc cancels.</translation>
     <message>
         <source>Fehler im Bereich &quot;%1&quot;: ab dort wurde nichts gelöscht.</source>
         <translation>Error in the range &quot;%1&quot;: nothing was deleted from there on.</translation>
+    </message>
+    <message>
+        <source>Das ist 1 Messung.</source>
+        <translation>This is 1 measurement.</translation>
+    </message>
+    <message>
+        <source>Das sind %1 Messungen.</source>
+        <translation>These are %1 measurements.</translation>
     </message>
 </context>
 <context>
@@ -1478,6 +1529,18 @@ double-click fits the value range.</translation>
         <source>Problem</source>
         <translation>Problem</translation>
     </message>
+    <message>
+        <source>Eine Aufzeichnung läuft. Sie wird beendet, bevor das andere Projekt geöffnet wird.</source>
+        <translation>A recording is running. It will be stopped before the other project is opened.</translation>
+    </message>
+    <message>
+        <source>Weiter aufzeichnen</source>
+        <translation>Go on recording</translation>
+    </message>
+    <message>
+        <source>Beenden und öffnen</source>
+        <translation>Stop and open</translation>
+    </message>
 </context>
 <context>
     <name>ProjectForm</name>
@@ -1558,6 +1621,54 @@ double-click fits the value range.</translation>
     <message>
         <source>Projektbeschreibung empfangen</source>
         <translation>Project description received</translation>
+    </message>
+    <message>
+        <source>Aktuell</source>
+        <translation>Current</translation>
+    </message>
+    <message>
+        <source>Empfangen</source>
+        <translation>Received</translation>
+    </message>
+    <message>
+        <source>Projekt</source>
+        <translation>Project</translation>
+    </message>
+    <message>
+        <source>Projektnummer</source>
+        <translation>Project number</translation>
+    </message>
+    <message>
+        <source>Bearbeiter</source>
+        <translation>Person in charge</translation>
+    </message>
+    <message>
+        <source>Datum</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Kunde</source>
+        <translation>Customer</translation>
+    </message>
+    <message>
+        <source>Schließkraft [kN]</source>
+        <translation>Clamping force [kN]</translation>
+    </message>
+    <message>
+        <source>Einspritzzeit [s]</source>
+        <translation>Injection time [s]</translation>
+    </message>
+    <message>
+        <source>Nachdruckzeit [s]</source>
+        <translation>Holding time [s]</translation>
+    </message>
+    <message>
+        <source>Druck [bar]</source>
+        <translation>Pressure [bar]</translation>
+    </message>
+    <message>
+        <source>Phase %1</source>
+        <translation>Phase %1</translation>
     </message>
 </context>
 <context>
@@ -1779,6 +1890,10 @@ Continue?</translation>
         <source>Die Datei &quot;%1&quot; ist schon vorhanden. Überschreiben?</source>
         <translation>The file &quot;%1&quot; already exists. Overwrite it?</translation>
     </message>
+    <message>
+        <source>Escape oder Schließen bricht ab, und nichts ändert sich.</source>
+        <translation>Escape or closing cancels, and nothing changes.</translation>
+    </message>
 </context>
 <context>
     <name>RecentProjectList</name>
@@ -1881,6 +1996,18 @@ Continue?</translation>
     <message>
         <source>Pause [s]</source>
         <translation>Pause [s]</translation>
+    </message>
+    <message>
+        <source>ohne 1 lange Pause</source>
+        <translation>without 1 long pause</translation>
+    </message>
+    <message>
+        <source>ohne %1 lange Pausen</source>
+        <translation>without %1 long pauses</translation>
+    </message>
+    <message>
+        <source>Pausen, die länger sind als das Fünffache des Medians, zählen hier nicht mit, ebenso solche, bei denen die Uhr zurückgestellt wurde.</source>
+        <translation>Pauses that are longer than five times the median do not count here, nor do those in which the clock was set back.</translation>
     </message>
 </context>
 <context>

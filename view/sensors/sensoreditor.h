@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 
+class Model;
 class QColor;
 class QWidget;
 class SensorChoices;
@@ -18,6 +20,8 @@ public:
     /// All must outlive the editor. The choices follow a sensor that gets another name.
     SensorEditor(const SensorTreeModel &sensors, SensorChoices &choices, QWidget *parent);
 
+    /// Whose edits for undo each change belongs to; not owned.
+    void setModel(Model *model);
     /// Opens the dialog for a sensor.
     void openDialog(int sensor);
     void rename(int sensor, const QString &name);
@@ -34,5 +38,6 @@ private:
 
     const SensorTreeModel &m_sensors;
     SensorChoices &m_choices;
+    QPointer<Model> m_model;
     QWidget *m_parent; ///< of dialogs
 };

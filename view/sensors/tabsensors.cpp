@@ -106,6 +106,7 @@ void TabSensors::connectParts()
 void TabSensors::setModel(Model *model)
 {
     m_model = model;
+    m_editor->setModel(model);
     connect(model, &Model::appStateChanged, this, &TabSensors::followLink);
     updateDescription();
     updateValues();
