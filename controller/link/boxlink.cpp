@@ -23,6 +23,7 @@ BoxLink::BoxLink(const Desk &desk, MesotraConnector &connector, const DemoBox &d
     , m_demoBox(demoBox)
     , m_questions(questions)
     , m_recorder(recorder)
+    , m_dialogs(desk)
     , m_reconnect(std::move(target.retryDelays))
     , m_address(std::move(target.address))
 {
@@ -76,7 +77,7 @@ void BoxLink::toggle()
     } else if (m_view.isProgressShown()) {
         giveUp();
     } else if (m_address.isEmpty()) {
-        askForAddress({});
+        offerReconnect({});
     } else {
         qCDebug(lcController) << " not connected -> connect!";
         connectTo(m_address, tr("Verbinden ..."));
@@ -162,15 +163,6 @@ void BoxLink::giveUp()
     m_view.showStatus(tr("Verbindungsaufbau abgebrochen."));
 }
 
-void BoxLink::stopRetrying()
-{
-    qCDebug(lcController) << Q_FUNC_INFO;
-    if (!m_reconnect.isActive())
-        return;
-    leave();
-    m_view.showStatus(tr("Die Verbindung wird nicht mehr von selbst aufgebaut."));
-}
-
 void BoxLink::leaveForAnother()
 {
     if (isConnected())
@@ -238,8 +230,7 @@ void BoxLink::closed()
 void BoxLink::noteProven()
 {
     m_reconnect.noteBack();
-    if (m_reporting)
-        m_view.questions().withdraw(); // what it says is no longer true
+    m_dialogs.withdraw(); // what they say is no longer true
 }
 
 void BoxLink::noteMute()
@@ -293,38 +284,15 @@ void BoxLink::reportError(QAbstractSocket::SocketError error)
         return;
     }
     m_questions.drop(Question::LinkError);
-    m_reporting = true;
     const UninvitedQuestions uninvited(m_view.questions());
-    showError(error);
+    m_dialogs.tell(error);
     if (!isConnected()) // the box may be back while the message was open
-        offerReconnect(error);
-    m_reporting = false;
+        offerReconnect(linkAdvice(error, m_connector.hostAddress()));
 }
 
-void BoxLink::showError(QAbstractSocket::SocketError error)
+void BoxLink::offerReconnect(const QString &reason)
 {
-    QString text;
-    if (error == QAbstractSocket::RemoteHostClosedError)
-        text = tr("Die Mesotra Hardware ist nicht mehr erreichbar.");
-    else if (error == QAbstractSocket::HostNotFoundError)
-        text = tr("Die Mesotra Hardware wurde nicht gefunden! Bitte IP-Adresse überprüfen!");
-    else if (error == QAbstractSocket::ConnectionRefusedError)
-        text = tr("Die Verbindung wurde abgelehnt!\n(Die IP-Adresse wurde jedoch gefunden.)");
-    else
-        return;
-    m_occupancy.ask([&] { m_view.showMessage(text, tr("Netzwerk Fehler")); });
-}
-
-void BoxLink::offerReconnect(QAbstractSocket::SocketError error)
-{
-    const QString host = m_connector.hostAddress();
-    askForAddress(host.isEmpty() ? QString() : linkAdvice(error, host));
-}
-
-void BoxLink::askForAddress(const QString &reason)
-{
-    m_view.questions().setAddressReason(reason);
-    const std::optional<QString> address = m_occupancy.ask([this] { return m_view.askAddress(m_address); });
+    const std::optional<QString> address = m_dialogs.askAddress(m_address, reason);
     if (!address) {
         qCDebug(lcController) << "dialog rejected";
         m_wanted = isConnected() || m_reconnect.isActive(); // the box may be back, or is still waited for

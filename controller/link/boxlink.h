@@ -2,6 +2,7 @@
 
 #include "controller/desk.h"
 #include "controller/link/boxrestart.h"
+#include "controller/link/linkdialogs.h"
 #include "controller/link/reconnect.h"
 
 #include <QAbstractSocket>
@@ -52,8 +53,6 @@ public:
     /// Gives up an attempt to connect, unless the progress shown is that of a fetch.
     void giveUp();
     void sendTerminalLine(const QString &line);
-    /// Ends the attempts after a loss.
-    void stopRetrying();
 
     // --- For other parts ---
     /// Stops the recording and ends the link.
@@ -106,9 +105,7 @@ private:
     void showOpened();
     void retryAfterRestart();
     void retryAfterLoss();
-    void showError(QAbstractSocket::SocketError error);
-    void offerReconnect(QAbstractSocket::SocketError error);
-    void askForAddress(const QString &reason);
+    void offerReconnect(const QString &reason);
 
     View &m_view;
     Model &m_model;
@@ -117,10 +114,10 @@ private:
     const DemoBox &m_demoBox;
     DeferredQuestions &m_questions;
     Recorder &m_recorder;
+    LinkDialogs m_dialogs;
     BoxRestart m_restart;
     Reconnect m_reconnect;
     QString m_address;
-    QString m_measuredHost;   // of the box whose values are shown; empty for a simulated one
-    bool m_wanted = false;    // errors of a link that the user gave up are of no interest
-    bool m_reporting = false; // an error is shown, or another address asked for
+    QString m_measuredHost; // of the box whose values are shown; empty for a simulated one
+    bool m_wanted = false;  // errors of a link that the user gave up are of no interest
 };

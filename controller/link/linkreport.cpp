@@ -26,7 +26,7 @@ LinkReport::LinkReport(const Desk &desk, const Sources &sources)
     m_clock.start();
     m_timer.setInterval(kInterval);
     connect(&m_timer, &QTimer::timeout, this, &LinkReport::refresh);
-    connect(m_line, &StateLine::stopClicked, &m_sources.link, &BoxLink::stopRetrying);
+    connect(m_line, &StateLine::stopClicked, this, &LinkReport::stopRetrying);
     connect(m_line, &StateLine::acknowledged, this, &LinkReport::acknowledge);
     m_timer.start();
     refresh();
@@ -45,6 +45,14 @@ void LinkReport::noteBack()
     if (m_lostAt.isValid() && !m_backAt.isValid())
         m_backAt = QDateTime::currentDateTime();
     refresh();
+}
+
+void LinkReport::stopRetrying()
+{
+    if (!m_sources.link.reconnect().isActive())
+        return;
+    m_sources.link.leave();
+    m_desk.view.showStatus(tr("Die Verbindung wird nicht mehr von selbst aufgebaut."));
 }
 
 void LinkReport::acknowledge()

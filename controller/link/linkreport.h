@@ -49,6 +49,7 @@ private:
     [[nodiscard]] LinkStatus::Link linkState() const;
     void addRecording(LinkStatus &status);
     void addLoss(LinkStatus &status);
+    void stopRetrying();
     void acknowledge();
 
     Desk m_desk;

@@ -20,7 +20,7 @@ class ProjectFiles : public QObject
 public:
     /// All references must outlive the files. The project that is open already is remembered as a recent one.
     ProjectFiles(const Desk &desk, FileProgress &progress, LineQueue &lines, ProjectEdits &edits, ProjectSaving &saving,
-                 RecordingEnd &recording);
+                 const RecordingEnd &recording);
 
     void newProject();
     void open();

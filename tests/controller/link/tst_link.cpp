@@ -110,10 +110,7 @@ private slots:
         QCOMPARE(rig.bench.model.shotLabel(rig.bench.shots() - 1),
                  recording ? "Fortsetzung nach Verbindungsabbruch"_s : QString());
         QVERIFY(rig.bench.slotsMatchModel());
-        // Stays until it has been seen.
-        QVERIFY(rig.detail().contains("unterbrochen"_s) && rig.button("buttonAcknowledge")->isVisibleTo(rig.line()));
-        rig.button("buttonAcknowledge")->click();
-        QVERIFY(!rig.detail().contains("unterbrochen"_s));
+        expectNoticeUntilSeen(rig);
         if (recording)
             emit rig.bench.view.startStopRecording();
         QTRY_VERIFY(!rig.bench.controller.isRecordingRunning());
@@ -282,6 +279,13 @@ private slots:
     }
 
 private:
+    static void expectNoticeUntilSeen(LinkRig &rig)
+    {
+        QVERIFY(rig.detail().contains("unterbrochen"_s) && rig.button("buttonAcknowledge")->isVisibleTo(rig.line()));
+        rig.button("buttonAcknowledge")->click();
+        QVERIFY(!rig.detail().contains("unterbrochen"_s));
+    }
+
     static void loseLink(const QByteArray &how, LinkRig &rig)
     {
         if (how == "reboot")

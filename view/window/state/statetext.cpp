@@ -102,7 +102,7 @@ StateText onText(const LinkStatus &status)
     } else {
         text.head = isRecording ? Texts::tr("Aufzeichnung läuft") : Texts::tr("Verbunden");
         if (!isRecording)
-            details << Texts::tr("%n Messung(en)", nullptr, status.shots);
+            details << Texts::tr("Messungen: %1").arg(number(status.shots));
     }
     const bool isDisturbed = status.staleFor > 0 || status.isBoxMute;
     text.mood = isDisturbed || !notes.isEmpty() ? StateText::Mood::Warning
