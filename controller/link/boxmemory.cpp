@@ -19,7 +19,7 @@ QString descriptionText(const DeviceDescription &description, const QString &har
         parts << group.name.simplified();
     parts << hardware.simplified();
     parts.removeAll(QString());
-    return parts.join(QLatin1String(" · "));
+    return parts.join(QStringLiteral(" · "));
 }
 
 /// True for what only a box says. The greeting of a mail server begins with a digit too.

@@ -50,8 +50,7 @@ QStringList noteworthy(const LinkStatus &status)
 {
     QStringList notes;
     if (status.lostAt.isValid() && status.backAt.isValid())
-        notes << Texts::tr("Verbindung war unterbrochen von %1 bis %2")
-                     .arg(clockTime(status.lostAt), clockTime(status.backAt));
+        notes << Texts::tr("war unterbrochen von %1 bis %2").arg(clockTime(status.lostAt), clockTime(status.backAt));
     if (status.missing > 0)
         notes << Texts::tr("letzte Messung: %1 Werte fehlen").arg(number(status.missing));
     return notes;
@@ -77,10 +76,11 @@ StateText retryText(const LinkStatus &status)
     StateText text;
     text.head = Texts::tr("Verbindung verloren");
     QStringList parts{
-        Texts::tr("seit %1").arg(clockTime(status.lostAt)), boxText(status), status.reason,
-        Texts::tr("%1. Versuch in %2 s").arg(number(status.nextAttempt), number(seconds(status.timeToNext)))};
+        Texts::tr("%1. Versuch in %2 s").arg(number(status.nextAttempt), number(seconds(status.timeToNext))),
+        Texts::tr("seit %1").arg(clockTime(status.lostAt))};
     if (status.willContinue)
-        parts << Texts::tr("die Aufzeichnung geht dann weiter");
+        parts << Texts::tr("Aufzeichnung geht dann weiter");
+    parts << boxText(status) << status.reason; // the end may be cut off
     parts.removeAll(QString());
     text.detail = parts.join(kBetween);
     text.mood = StateText::Mood::Alarm;
