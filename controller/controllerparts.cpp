@@ -26,7 +26,6 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     , period({view, model, occupancy}, connector, edits, recorder)
     , watch({view, model, occupancy}, {connector, demoBox, lines, recorder, link, descriptions, period}, options)
     , offer({view, model, occupancy}, questions, lines, edits)
-    , transfers({view, model, occupancy})
     , firmware({view, model, occupancy}, connector, link, demo, options.restartWait)
     , recording({view, model, occupancy}, recorder, link)
     , deletion({view, model, occupancy}, edits, recorder)
@@ -34,17 +33,18 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     , saving({view, model, occupancy}, progress, lines, edits)
     , files({view, model, occupancy}, progress, lines, edits, saving,
             RecordingEnd({view, model, occupancy}, connector, recorder, options.stopWait))
+    , openNotice({view, model, occupancy})
     , pictures({view, model, occupancy}, edits)
-    , loggerList({view, model, occupancy}, link)
-    , loggerFetch({view, model, occupancy}, connector, demo, transfers, options.temporaryDirectory)
-    , loggerImport({view, model, occupancy}, progress, lines, edits, recorder)
-    , undoHistory(model)
-    , undo({view, model, occupancy}, undoHistory, edits, recorder)
+    , logger({view, model, occupancy}, link, connector, demo, progress, lines, edits, recorder,
+             options.temporaryDirectory)
+    , undo({view, model, occupancy}, edits, recorder)
+    , protection({view, model, occupancy}, options.journal, recorder, {questions, progress, lines, saving})
 {
     setUpTransfers(options);
     handleMessages();
     connectLink(view);
     connectFiles();
+    connectJournal(view);
     connectView(view);
     connectTabs(view);
 }
@@ -68,7 +68,6 @@ void ControllerParts::setUpTransfers(const ControllerOptions &options)
 {
     connector.scp().setOptions(
         {options.scpToolFile, theme::deviceUser, theme::devicePassword, options.deviceAddress, options.scpTimeouts});
-    transfers.attach(connector.scp());
 }
 
 void ControllerParts::handleMessages()
@@ -76,9 +75,9 @@ void ControllerParts::handleMessages()
     dispatch.setHandler(MessageKind::RunStarted, [this](const QString &) { recorder.started(); });
     dispatch.setHandler(MessageKind::RunStopped, [this](const QString &) { recorder.stopped(); });
     dispatch.setHandler(MessageKind::ClockEcho, [this](const QString &message) { period.takeEcho(message); });
-    dispatch.setHandler(MessageKind::ListBegin, [this](const QString &) { loggerList.begin(); });
-    dispatch.setHandler(MessageKind::ListEnd, [this](const QString &) { loggerList.finish(); });
-    dispatch.setHandler(MessageKind::Other, [this](const QString &message) { loggerList.take(message); });
+    dispatch.setHandler(MessageKind::ListBegin, [this](const QString &) { logger.list.begin(); });
+    dispatch.setHandler(MessageKind::ListEnd, [this](const QString &) { logger.list.finish(); });
+    dispatch.setHandler(MessageKind::Other, [this](const QString &message) { logger.list.take(message); });
 }
 
 /// Receivers of the same signal are called in the order of these lines. Parts that are no QObjects are called by a
@@ -95,7 +94,7 @@ void ControllerParts::connectLink(View &view)
     QObject::connect(&link, &BoxLink::closing, &link, [this] { lines.flush(); });
     QObject::connect(&link, &BoxLink::closing, &link, [this] { watch.endWithLink(); });
     QObject::connect(&link, &BoxLink::closing, &descriptions, &BoxDescriptions::stopWaiting);
-    QObject::connect(&link, &BoxLink::closing, &loggerList, &LoggerList::reset);
+    QObject::connect(&link, &BoxLink::closing, &logger.list, &LoggerList::reset);
     QObject::connect(&link, &BoxLink::left, &demo, &DemoLink::stop);
     QObject::connect(&link, &BoxLink::left, &link, [this] { offer.withdraw(); });
     QObject::connect(&link, &BoxLink::demoLost, &demo, [this] { demo.onFailed(DemoBox::End::Ended); });
@@ -118,10 +117,23 @@ void ControllerParts::connectFiles()
     QObject::connect(&files, &ProjectFiles::measurementsReplaced, &files, [this] { recorder.forgetSeries(); });
     QObject::connect(&files, &ProjectFiles::shown, &files, [this] { recorder.announceRunning(); });
     QObject::connect(&files, &ProjectFiles::shown, &period, &SamplingPeriod::matchProject);
+    QObject::connect(&files, &ProjectFiles::projectReplaced, &openNotice, &OpenNotice::show);
     QObject::connect(&undo, &UndoControl::samplingPeriodChanged, &period, &SamplingPeriod::matchProject);
     // A recording is continued in the project in which it began.
     QObject::connect(&files, &ProjectFiles::measurementsReplaced, &files, [this] { watch.continuation.forget(); });
     QObject::connect(&files, &ProjectFiles::quitting, &files, [this] { recorder.requestStop(); });
+}
+
+void ControllerParts::connectJournal(View &view)
+{
+    QObject::connect(&protection.journal, &Journal::told, &view, [&view](const QString &text) { view.showStatus(text); });
+    QObject::connect(&files, &ProjectFiles::quitting, &protection.journal, &Journal::discard);
+    // What takes long may end badly.
+    QObject::connect(&progress, &FileProgress::begun, &protection.journal, &Journal::takeChanges);
+    QObject::connect(&files, &ProjectFiles::interrupted, &files, [this] { recorder.requestStop(); });
+    QObject::connect(&files, &ProjectFiles::interruptionTaken, &protection.journal, &Journal::secure);
+    QObject::connect(&protection.recovery, &Recovery::restored, &files, [this] { recorder.forgetSeries(); });
+    QObject::connect(&protection.recovery, &Recovery::restored, &period, &SamplingPeriod::matchProject);
 }
 
 void ControllerParts::connectView(View &view)
@@ -133,7 +145,7 @@ void ControllerParts::connectView(View &view)
     QObject::connect(&view, &View::about, &view, &View::showAbout);
     // The progress shown is that of an attempt to connect or of a fetch; the other one ignores this.
     QObject::connect(&view, &View::progressCancelled, &link, &BoxLink::giveUp);
-    QObject::connect(&view, &View::progressCancelled, &link, [this] { loggerFetch.cancel(); });
+    QObject::connect(&view, &View::progressCancelled, &link, [this] { logger.fetch.cancel(); });
 }
 
 void ControllerParts::connectTabs(View &view)
@@ -153,6 +165,7 @@ void ControllerParts::connectTabs(View &view)
 
     const TabSensors *sensors = view.tabSensors();
     QObject::connect(sensors, &TabSensors::sensorNameEdited, &tabEdits, &TabEdits::setSensorName);
+    QObject::connect(sensors, &TabSensors::sensorUnitEdited, &tabEdits, &TabEdits::setSensorUnit);
     QObject::connect(sensors, &TabSensors::sensorColorEdited, &tabEdits, &TabEdits::setSensorColor);
     QObject::connect(sensors, &TabSensors::sensorLimitsEdited, &tabEdits, &TabEdits::setSensorLimits);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controller/deferredquestions.h"
+#include "controller/journal/journalparts.h"
 #include "controller/link/boxdescriptions.h"
 #include "controller/link/boxlink.h"
 #include "controller/link/demolink.h"
@@ -8,13 +9,11 @@
 #include "controller/link/linkparts.h"
 #include "controller/link/projectoffer.h"
 #include "controller/link/samplingperiod.h"
-#include "controller/logger/loggerfetch.h"
-#include "controller/logger/loggerimport.h"
-#include "controller/logger/loggerlist.h"
-#include "controller/logger/transferdialogs.h"
+#include "controller/logger/loggerparts.h"
 #include "controller/occupancy.h"
 #include "controller/project/fileprogress.h"
 #include "controller/project/measurementdeletion.h"
+#include "controller/project/opennotice.h"
 #include "controller/project/projectfiles.h"
 #include "controller/project/projectpictures.h"
 #include "controller/project/projectsaving.h"
@@ -26,7 +25,6 @@
 #include "controller/recordingactions.h"
 #include "controller/recordingdisplay.h"
 #include "controller/undo/undocontrol.h"
-#include "controller/undo/undohistory.h"
 #include "device/demobox.h"
 #include "device/mesotraconnector.h"
 
@@ -58,19 +56,17 @@ struct ControllerParts
     SamplingPeriod period;
     LinkParts watch;
     ProjectOffer offer;
-    TransferDialogs transfers;
     FirmwareUpdate firmware;
     RecordingActions recording;
     MeasurementDeletion deletion;
     TabEdits tabEdits;
     ProjectSaving saving;
     ProjectFiles files;
+    OpenNotice openNotice;
     ProjectPictures pictures;
-    LoggerList loggerList;
-    LoggerFetch loggerFetch;
-    LoggerImport loggerImport;
-    UndoHistory undoHistory;
+    LoggerParts logger;
     UndoControl undo;
+    JournalParts protection;
 
 private:
     void handleLine(View &view, const QString &line);
@@ -78,6 +74,7 @@ private:
     void handleMessages();
     void connectLink(View &view);
     void connectFiles();
+    void connectJournal(View &view);
     void connectView(View &view);
     void connectTabs(View &view);
 };

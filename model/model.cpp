@@ -1,9 +1,8 @@
 #include "model/model.h"
 
 #include "model/arrayindex.h"
-#include "model/edit/editscope.h"
 #include "model/logging.h"
-#include "model/project/projecteditor.h"
+#include "model/modeleditor.h"
 
 #include <cmath>
 
@@ -15,31 +14,6 @@ double finiteOrZero(double value)
 }
 
 } // namespace
-
-/// What the parts that read files may call of the model. Not the model itself: the log names functions by their
-/// signatures, which would begin with "virtual" then.
-class Model::Editor final : public ProjectEditor
-{
-public:
-    explicit Editor(Model &model)
-        : m_model(model)
-    {}
-    void clear() override { m_model.clear(); }
-    void setCurrentFile(const QString &absolutePath) override { m_model.setCurrentFile(absolutePath); }
-    void setProjectModifiedFlag(bool modified) override { m_model.setProjectModifiedFlag(modified); }
-    [[nodiscard]] double offset(int sensor) const override { return m_model.offset(sensor); }
-    void setOffset(int sensor, double offset) override { m_model.setOffset(sensor, offset); }
-    void setPhaseName(int phase, const QString &name) override { m_model.setPhaseName(phase, name); }
-    void setVerticalMarkerAbsolute(int index, int pos) override { m_model.setVerticalMarkerAbsolute(index, pos); }
-    void setSensorDescription(const SensorDescription &all) override { m_model.setSensorDescription(all); }
-    void setSensorName(int sensor, const QString &name) override { m_model.setSensorName(sensor, name); }
-    void setSensorMinimum(int group, int sensor, double to) override { m_model.setSensorMinimum(group, sensor, to); }
-    void setSensorMaximum(int group, int sensor, double to) override { m_model.setSensorMaximum(group, sensor, to); }
-    void setTimestamp(int shot, const QDateTime &time) override { m_model.setTimestamp(shot, time); }
-
-private:
-    Model &m_model;
-};
 
 Model::Model(const QString &fileToOpen, QObject *parent)
     : QObject(parent)
@@ -98,6 +72,14 @@ void Model::setTimestamp(int measurement, const QDateTime &timestamp)
     qCDebug(lcModel) << Q_FUNC_INFO << measurement << timestamp;
     if (hasShot(measurement, Q_FUNC_INFO))
         m_project.meta.setTimestamp(measurement, timestamp);
+    m_changes.countOne();
+}
+
+void Model::setSamplingPeriod(int measurement, int milliseconds)
+{
+    qCDebug(lcModel) << Q_FUNC_INFO << measurement << milliseconds;
+    if (hasShot(measurement, Q_FUNC_INFO))
+        m_project.meta.setPeriod(measurement, qBound(0, milliseconds, kMaxClock));
 }
 
 void Model::setShotLabel(int measurement, const QString &label)
@@ -129,8 +111,9 @@ void Model::setOffset(int sensor, double offset)
 void Model::resetOffsets()
 {
     qCDebug(lcModel) << Q_FUNC_INFO;
-    const EditScope edit(this, [] { return tr("Zurücksetzen der Offsets"); });
+    m_edits.begin([] { return tr("Zurücksetzen der Offsets"); }, {});
     m_project.settings.offsets.fill(0.0);
+    m_edits.end();
     m_changes.project(Q_FUNC_INFO);
 }
 
@@ -246,6 +229,15 @@ void Model::setSensorName(int sensor, const QString &name)
     m_changes.projectIf(group, Q_FUNC_INFO);
 }
 
+void Model::setSensorUnit(int sensor, const QString &unit)
+{
+    qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " sensor=" << sensor << " unit=" << unit;
+    SensorGroup *group = m_project.groupWith(0, sensor, Q_FUNC_INFO);
+    if (group)
+        group->setSensorUnit(sensor, unit.left(SensorGroup::kLongestUnit));
+    m_changes.projectIf(group, Q_FUNC_INFO);
+}
+
 void Model::setSensorMinimum(int group, int sensor, double minimum)
 {
     qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " val=" << minimum;
@@ -274,7 +266,7 @@ void Model::setClock(int milliseconds)
 void Model::setFileList(const QStringList &files)
 {
     qCDebug(lcModel) << Q_FUNC_INFO << files;
-    m_import.files().setFiles(files);
+    m_import.setFiles(files);
 }
 
 // --- State -----------------------------------------------------------------------------------------------------
@@ -310,6 +302,7 @@ void Model::clear()
     setCurrentFile(QString());
     setFileList({});
     m_files.setModified(false);
+    m_files.noteSaved({});
     resetOffsets();
     m_project.resetPhaseNames(usualPhaseNames());
     m_project.clearSensors(Q_FUNC_INFO);

@@ -4,6 +4,7 @@
 #include "model/devicedescription.h"
 #include "model/edit/modeledits.h"
 #include "model/indexcheck.h"
+#include "model/journal/journalinfo.h"
 #include "model/modelchanges.h"
 #include "model/modelfiles.h"
 #include "model/project/filework.h"
@@ -94,6 +95,13 @@ public:
         return hasShot(measurement, Q_FUNC_INFO) ? m_project.meta.timestamp(measurement) : QDateTime();
     }
     void setTimestamp(int measurement, const QDateTime &timestamp);
+    /// Milliseconds per sample when the measurement began; 0 if unknown, as for those of logger files. Kept beside the
+    /// project file, too.
+    [[nodiscard]] int samplingPeriod(int measurement) const
+    {
+        return hasShot(measurement, Q_FUNC_INFO) ? m_project.meta.period(measurement) : 0;
+    }
+    void setSamplingPeriod(int measurement, int milliseconds); ///< emits nothing
     /// What the user calls a measurement; empty for one without a label.
     [[nodiscard]] QString shotLabel(int measurement) const
     {
@@ -144,13 +152,21 @@ public:
     void setProjectData(const ProjectData &data);
     [[nodiscard]] QString comment() const { return m_project.settings.comment; }
     void setComment(const QString &comment);
-    [[nodiscard]] QPixmap image(int index) const { return valueAt(m_project.images.pixmaps(), index, Q_FUNC_INFO); }
+    /// Null also for a picture that the project has but that is not shown; images() tells.
+    [[nodiscard]] QPixmap image(int index) const
+    {
+        return isIndex(index, kNumImages, Q_FUNC_INFO) ? m_project.images.shown(index) : QPixmap();
+    }
+    [[nodiscard]] const ImageStore &images() const { return m_project.images; }
+    /// A null image also removes a picture that is not shown.
     void setImage(int index, const QPixmap &image);
     [[nodiscard]] const SensorDescription &sensorDescription() const { return m_project.settings.sensors; }
     void setSensorDescription(const SensorDescription &description); ///< emits nothing
     [[nodiscard]] const DeviceDescription &deviceDescription() const { return m_deviceDescription; }
     void setDeviceDescription(const DeviceDescription &description); ///< emits nothing; takes over both versions
     void setSensorName(int sensor, const QString &name);
+    /// Kept beside the project file; cut after SensorGroup::kLongestUnit characters.
+    void setSensorUnit(int sensor, const QString &unit);
     void setSensorMinimum(int group, int sensor, double minimum);
     void setSensorMaximum(int group, int sensor, double maximum);
     [[nodiscard]] QString hardwareVersion() const { return m_project.settings.hardwareVersion; }
@@ -161,12 +177,13 @@ public:
     void setClock(int milliseconds); ///< takes the nearest value in range
     static constexpr int kMaxClock = ProjectSettings::kMaxClock;
 
-    /// The logger files that were imported, absolute; neither part of the project file, nor changed by deletions.
-    /// Nothing uses the list yet.
+    /// The logger files that were imported since the project was opened, absolute; not changed by deletions. Nothing
+    /// uses the list yet.
     [[nodiscard]] QStringList fileList() const { return m_import.files().files(); }
     void setFileList(const QStringList &files);
-    /// The fingerprints of the files on the list, which tell them from later files of the same name.
-    [[nodiscard]] QSet<QByteArray> importedFiles() const { return m_import.files().fingerprints(); }
+    /// The fingerprints of all files that were imported, which tell them from later files of the same name. Kept beside
+    /// the project file.
+    [[nodiscard]] QSet<QByteArray> importedFiles() const { return m_project.meta.importedFiles; }
 
     // --- State -------------------------------------------------------------------------------------------------
     [[nodiscard]] bool isConnected() const { return m_connected; }
@@ -190,6 +207,8 @@ public:
     [[nodiscard]] bool readAhead(const QString &fileName) { return m_files.readAhead(fileName, Q_FUNC_INFO); }
     void forgetReadAhead() { m_files.forgetReadAhead(); }
     [[nodiscard]] bool open(const QString &fileName);
+    /// What is not understood of the project that was opened.
+    [[nodiscard]] const OpenLosses &openLosses() const { return m_files.openLosses(); }
     [[nodiscard]] bool save(const QString &fileName);
     /// False if the last save() wrote the project, but not the file beside it.
     [[nodiscard]] bool isProjectMetaSaved() const { return m_files.isMetaSaved(); }
@@ -200,6 +219,20 @@ public:
     [[nodiscard]] bool addBlackBoxFile(const QString &fileName);
     /// What the last addBlackBoxFile() could not take over.
     [[nodiscard]] BlackBoxLosses blackBoxLosses() const { return m_import.losses(); }
+    /// Replaces the project by that of a journal, which counts as modified then, and says what is missing; nothing, with
+    /// the model as it was, if that is not possible. The contents are used up.
+    [[nodiscard]] std::optional<RecoveryLosses> restore(JournalContents &contents)
+    {
+        return m_files.restore(contents, Q_FUNC_INFO);
+    }
+    /// For what writes the journal: all of the project, a number that grows with every change but appended samples, and
+    /// what the file holds.
+    [[nodiscard]] const Project &project() const { return m_project; }
+    [[nodiscard]] quint64 changeCount() const { return m_changes.count(); }
+    [[nodiscard]] const ModelFiles &files() const { return m_files; }
+    /// Where the journal of this program is; shown to the user.
+    [[nodiscard]] const JournalInfo &journalInfo() const { return m_journalInfo; }
+    void setJournalInfo(const JournalInfo &info) { m_journalInfo = info; }
     /// Replaces QCoreApplication::processEvents() as what the long loops call.
     void setYield(const Yield &yield) { m_work.setYield(yield); }
 
@@ -244,5 +277,6 @@ private:
     std::unique_ptr<Editor> m_editor;
     ModelFiles m_files;
     BlackBoxImport m_import;
-    ModelEdits m_edits{*this, m_project, m_import.files(), m_changes};
+    JournalInfo m_journalInfo;
+    ModelEdits m_edits{m_project, m_import.files(), m_changes};
 };

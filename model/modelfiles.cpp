@@ -1,11 +1,13 @@
 #include "model/modelfiles.h"
 
+#include "model/arrayindex.h"
 #include "model/logging.h"
 #include "model/modelchanges.h"
 #include "model/project/atomicfile.h"
 #include "model/project/csvexport.h"
 #include "model/project/filework.h"
 #include "model/project/metafile.h"
+#include "model/project/metatransfer.h"
 #include "model/project/pacer.h"
 #include "model/project/project.h"
 #include "model/project/projectdocument.h"
@@ -20,6 +22,13 @@
 #include <QFileInfo>
 
 #include <utility>
+
+namespace {
+
+// In place of a picture's key where the file has another one, or may have.
+constexpr qint64 kOtherPicture = -1;
+
+} // namespace
 
 struct ModelFiles::Opened
 {
@@ -47,6 +56,7 @@ ModelFiles::~ModelFiles() = default;
 
 void ModelFiles::setCurrentFile(const QString &absolutePath)
 {
+    m_openLosses = {}; // a saved file holds what the project does
     if (std::exchange(m_currentFile, absolutePath) != absolutePath)
         m_changes.fileState();
 }
@@ -137,11 +147,17 @@ std::optional<ModelFiles::Opened> ModelFiles::read(QFile &file)
 void ModelFiles::apply(Opened &opened, const QString &absolutePath, const char *function)
 {
     const ModelChanges::Silence silence(m_changes);
+    OpenLosses losses = lossesOf(opened.document, opened.images);
     m_editor.clear();
     m_project.images = std::move(opened.images);
     applyDocument(opened.document, absolutePath, m_editor, m_project, function);
-    if (std::optional<ProjectMeta> meta = openMeta(absolutePath, m_project.shots, function))
-        m_project.meta = *std::move(meta);
+    MetaReading reading = openMeta(absolutePath, m_project.shots, function);
+    losses.meta = reading.state;
+    losses.metaFile = reading.fileName;
+    if (reading.state == MetaState::Read)
+        applyMeta(std::move(reading.meta), m_project);
+    m_openLosses = std::move(losses);
+    noteSaved(savedShots(m_project));
 }
 
 bool ModelFiles::save(const QString &fileName, const char *function)
@@ -150,17 +166,86 @@ bool ModelFiles::save(const QString &fileName, const char *function)
         return false;
     // Events come in while the project is written, so what goes into the file beside it is taken now.
     const quint64 changesBefore = countChanges();
-    const ProjectMeta meta = m_project.meta;
-    const ShotChecks checks = shotChecks(m_project.shots);
+    const ProjectMeta meta = metaOf(m_project);
+    SavedShots saved = savedShots(m_project);
     if (!writeProject(fileName))
         return false;
     forgetReadAhead(); // it may be of this file
-    m_metaSaved = saveMeta(fileName, meta, checks);
+    m_metaSaved = saveMeta(fileName, meta, saved.checks);
+    noteSaved(std::move(saved));
     const bool isUpToDate = countChanges() == changesBefore;
     m_editor.setCurrentFile(QFileInfo(fileName).absoluteFilePath());
     m_changes.project(function);
     m_editor.setProjectModifiedFlag(!isUpToDate);
     return true;
+}
+
+void ModelFiles::noteSaved(SavedShots saved)
+{
+    m_saved = std::move(saved);
+    ++m_generation;
+}
+
+// --- Restoring ---
+
+struct ModelFiles::Restored
+{
+    RecoveredProject project;
+    ImageStore images;
+};
+
+std::optional<RecoveryLosses> ModelFiles::restore(JournalContents &contents, const char *function)
+{
+    if (m_work.refuses(function))
+        return {};
+    qCDebug(lcModel).noquote().nospace() << function << " file=" << contents.base.file;
+    std::optional<Restored> restored = readRestored(contents);
+    if (!restored)
+        return {};
+    apply(*restored, contents, function);
+    m_changes.opened(function);
+    m_editor.setProjectModifiedFlag(true);
+    return restored->project.losses;
+}
+
+std::optional<ModelFiles::Restored> ModelFiles::readRestored(JournalContents &contents)
+{
+    const auto task = [&]() -> std::optional<Restored> {
+        QFile file(contents.base.file);
+        Pacer pacer(m_work.yield(), 2 * file.size());
+        std::optional<ProjectDocument> base;
+        if (QFileInfo(file).isFile() && file.open(QIODevice::ReadOnly))
+            base = projectfile::read(file, pacer);
+        RecoveredProject project = recoverProject(contents, std::move(base));
+        ImageStore images = ImageStore::decoded(std::move(project.document.images), [&pacer] { pacer.look(); });
+        return Restored{std::move(project), std::move(images)};
+    };
+    return m_work.run(task, Q_FUNC_INFO);
+}
+
+void ModelFiles::apply(Restored &restored, const JournalContents &contents, const char *function)
+{
+    const ModelChanges::Silence silence(m_changes);
+    m_editor.clear();
+    m_project.images = std::move(restored.images);
+    applyDocument(restored.project.document, contents.base.file, m_editor, m_project, function);
+    applyMeta(std::move(restored.project.meta), m_project);
+    for (std::size_t sensor = 0; sensor < contents.colors.size(); ++sensor)
+        m_project.colors[sensor] = QColor::fromRgba(contents.colors[sensor]);
+    SavedShots saved = std::move(restored.project.saved);
+    for (int sensor = 0; sensor < kNumSensors; ++sensor) {
+        const auto &origins = restored.project.origins[at(sensor)];
+        for (std::size_t shot = 0; shot < origins.size(); ++shot) {
+            if (origins[shot].index >= 0)
+                saved.runs[at(sensor)][at(origins[shot].index)] = {m_project.shots.id(sensor, static_cast<int>(shot)),
+                                                                   origins[shot].count};
+        }
+    }
+    for (std::size_t image = 0; image < saved.pictures.size(); ++image) {
+        const bool isInFile = contents.pictures[image].kind == JournalPicture::Kind::InBase;
+        saved.pictures[image] = isInFile ? m_project.images.pixmaps()[image].cacheKey() : kOtherPicture;
+    }
+    noteSaved(std::move(saved));
 }
 
 bool ModelFiles::saveCsv(const QString &fileName, const char *function)

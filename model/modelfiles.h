@@ -1,5 +1,8 @@
 #pragma once
 
+#include "model/journal/projectrecovery.h"
+#include "model/project/openlosses.h"
+
 #include <QString>
 
 #include <memory>
@@ -32,13 +35,24 @@ public:
     [[nodiscard]] bool open(const QString &fileName, const char *function);
     [[nodiscard]] bool save(const QString &fileName, const char *function);
     [[nodiscard]] bool saveCsv(const QString &fileName, const char *function);
+    /// Replaces the project by that of a journal, which counts as modified then; nothing, with the model as it was, if
+    /// memory runs out or a file is being read or written. The contents are used up.
+    [[nodiscard]] std::optional<RecoveryLosses> restore(JournalContents &contents, const char *function);
     /// False if the last save() wrote the project, but not the file beside it.
     [[nodiscard]] bool isMetaSaved() const { return m_metaSaved; }
+
+    /// Of the file that was opened, until it is saved, another one is opened or a project begins.
+    [[nodiscard]] const OpenLosses &openLosses() const { return m_openLosses; }
 
     [[nodiscard]] QString currentFile() const { return m_currentFile; }
     void setCurrentFile(const QString &absolutePath);
     [[nodiscard]] bool isModified() const { return m_modified; }
     void setModified(bool modified);
+    /// What the current file holds of the project, and a number that changes whenever that does.
+    [[nodiscard]] const SavedShots &saved() const { return m_saved; }
+    [[nodiscard]] quint64 generation() const { return m_generation; }
+    /// The project has no file, or what it holds now is what the file holds.
+    void noteSaved(SavedShots saved);
 
 private:
     struct Opened;
@@ -50,6 +64,9 @@ private:
     [[nodiscard]] bool writeProject(const QString &fileName);
     [[nodiscard]] bool writeCsv(const QString &fileName);
     [[nodiscard]] quint64 countChanges() const;
+    struct Restored;
+    [[nodiscard]] std::optional<Restored> readRestored(JournalContents &contents);
+    void apply(Restored &restored, const JournalContents &contents, const char *function);
 
     ProjectEditor &m_editor;
     Project &m_project;
@@ -57,6 +74,9 @@ private:
     FileWork &m_work;
     std::unique_ptr<ReadAhead> m_readAhead;
     QString m_currentFile; // absolute
+    OpenLosses m_openLosses;
     bool m_modified = false;
     bool m_metaSaved = true;
+    SavedShots m_saved;
+    quint64 m_generation = 0;
 };

@@ -43,6 +43,7 @@ public:
     void SetSensorColor(int i, const QColor &color); ///< nothing uses it yet
 
     static constexpr int kMaxSensors = 1000;
+    static constexpr int kLongestUnit = 20; ///< characters; of one that is typed or read from a file
 
 private:
     struct Sensor

@@ -35,14 +35,16 @@ private:
 
 } // namespace
 
-LoggerFetch::LoggerFetch(const Desk &desk, MesotraConnector &connector, const DemoLink &demo, TransferDialogs &dialogs,
+LoggerFetch::LoggerFetch(const Desk &desk, MesotraConnector &connector, const DemoLink &demo,
                          const QString &temporaryDirectory)
     : m_desk(desk)
     , m_connector(connector)
     , m_demo(demo)
-    , m_dialogs(dialogs)
+    , m_dialogs(desk)
     , m_temporaryDirectory(temporaryDirectory)
-{}
+{
+    m_dialogs.attach(m_connector.scp());
+}
 
 void LoggerFetch::fetchSelected()
 {

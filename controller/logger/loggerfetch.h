@@ -2,6 +2,7 @@
 
 #include "controller/desk.h"
 #include "controller/logger/loggercopies.h"
+#include "controller/logger/transferdialogs.h"
 
 #include <QCoreApplication>
 
@@ -9,7 +10,6 @@
 
 class DemoLink;
 class MesotraConnector;
-class TransferDialogs;
 
 /// Brings logger files into the temporary directory and offers them in the tab: those of days that the box has logged,
 /// and those of a folder on this computer.
@@ -18,9 +18,9 @@ class LoggerFetch
     Q_DECLARE_TR_FUNCTIONS(LoggerFetch)
 
 public:
-    /// All references must outlive the fetch. The temporary directory is created when it is needed.
-    LoggerFetch(const Desk &desk, MesotraConnector &connector, const DemoLink &demo, TransferDialogs &dialogs,
-                const QString &temporaryDirectory);
+    /// All references must outlive the fetch, which shows the messages of all transfers of the connector. The temporary
+    /// directory is created when it is needed.
+    LoggerFetch(const Desk &desk, MesotraConnector &connector, const DemoLink &demo, const QString &temporaryDirectory);
 
     /// Fetches the days that are selected in the tab; returns when that is over, with events processed meanwhile.
     void fetchSelected();
@@ -39,7 +39,7 @@ private:
     Desk m_desk;
     MesotraConnector &m_connector;
     const DemoLink &m_demo;
-    TransferDialogs &m_dialogs;
+    TransferDialogs m_dialogs;
     LoggerCopies m_copies;
     QString m_temporaryDirectory;
     bool m_cancelled = false;

@@ -12,6 +12,13 @@
 #include "view/window/view.h"
 
 #include <QCoreApplication>
+#include <QTimer>
+
+namespace {
+
+constexpr int kBusyRetry = 20; // ms
+
+} // namespace
 
 ProjectFiles::ProjectFiles(const Desk &desk, FileProgress &progress, LineQueue &lines, ProjectEdits &edits,
                            ProjectSaving &saving, const RecordingEnd &recording)
@@ -190,6 +197,21 @@ void ProjectFiles::quit()
     emit quitting();
     m_view.reset();
     emit boxGivenUp();
+    m_view.writeSettings();
+    QCoreApplication::quit();
+}
+
+void ProjectFiles::leaveAtOnce()
+{
+    if (m_model.isBusy()) {
+        QTimer::singleShot(kBusyRetry, this, &ProjectFiles::leaveAtOnce);
+        return;
+    }
+    m_view.commitInput();
+    emit interrupted();
+    emit boxGivenUp();
+    emit interruptionTaken();
+    m_view.reset();
     m_view.writeSettings();
     QCoreApplication::quit();
 }

@@ -27,6 +27,9 @@ public:
     /// The file was named without a dialog; unsaved changes are asked about all the same.
     void openNamed(const QString &fileName);
     void quit();
+    /// As quit(), but without a question and without giving up what is not saved; waits for a file that is being read or
+    /// written.
+    void leaveAtOnce();
 
 signals:
     /// What was recorded with the box that is connected is thrown away.
@@ -41,8 +44,12 @@ signals:
     void measurementsReplaced();
     /// Another project came in, or the attempt failed; the window shows the state of the device again.
     void shown();
-    /// The program is about to end.
+    /// The program is about to end; the user has agreed to lose what is not saved.
     void quitting();
+    /// The program is about to end although there may be unsaved changes.
+    void interrupted();
+    /// The last lines of the box have been taken.
+    void interruptionTaken();
 
 private:
     void replaceWith(const QString &fileName);

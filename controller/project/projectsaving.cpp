@@ -43,7 +43,8 @@ void ProjectSaving::save()
 {
     m_saved = false;
     const QString fileName = m_model.currentFile();
-    if (fileName.isEmpty()) {
+    // A file of another kind that was opened by mistake is not replaced.
+    if (fileName.isEmpty() || m_model.openLosses().isForeign) {
         saveAs();
         return;
     }

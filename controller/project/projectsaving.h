@@ -21,7 +21,7 @@ public:
 
     /// Of dialogs that choose a project file.
     [[nodiscard]] static QString filter();
-    /// Under the current name, or as saveAs() if there is none.
+    /// Under the current name, or as saveAs() if there is none or if the file that has it is no project.
     void save();
     void saveAs();
     /// True if the user's changes are in a file afterwards; if not, whatever was about to replace them must not happen.

@@ -157,6 +157,12 @@ void TabEdits::setSensorName(int sensor, const QString &name)
     applyToSensor(sensor, [this, sensor, name] { m_model.setSensorName(sensor, name); });
 }
 
+void TabEdits::setSensorUnit(int sensor, const QString &unit)
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    applyToSensor(sensor, [this, sensor, unit] { m_model.setSensorUnit(sensor, unit); });
+}
+
 void TabEdits::setSensorColor(int sensor, const QColor &color)
 {
     qCDebug(lcController) << Q_FUNC_INFO;

@@ -34,6 +34,7 @@ public:
 
     // --- Sensors ---
     void setSensorName(int sensor, const QString &name);
+    void setSensorUnit(int sensor, const QString &unit);
     void setSensorColor(int sensor, const QColor &color);
     /// The row of the oscilloscope takes them as its range, as it does with those that a box describes.
     void setSensorLimits(int group, int sensor, double minimum, double maximum);

@@ -74,6 +74,7 @@ void Recorder::beginMeasurement()
     for (int position = 0; position < kNumSensors; ++position)
         m_series.setIndex(position, m_model.appendMeasurement(position), m_model);
     m_model.setTimestamp(m_series.index(0, m_model), m_clock.now());
+    m_model.setSamplingPeriod(m_series.index(0, m_model), m_model.clock());
     m_listener.measurementBegun();
     // A deletion that ended with a syntax error has left them blocked.
     m_model.blockSignals(false);

@@ -32,10 +32,27 @@ bool BlackBoxImport::add(const QString &fileName, const char *function)
         return false;
     apply(*document, function);
     m_files.add(QFileInfo(fileName).absoluteFilePath());
+    remember(fileName);
     // Also without a new shot, as the description of the sensors may have changed.
     m_changes.project(function);
     m_changes.data(function);
     return true;
+}
+
+void BlackBoxImport::setFiles(const QStringList &files)
+{
+    m_files.setFiles(files);
+    m_project.meta.importedFiles.clear();
+    for (const QString &file : files)
+        remember(file);
+}
+
+// A file that is gone has no fingerprint. An empty one in the set would match every unreadable file.
+void BlackBoxImport::remember(const QString &file)
+{
+    const QByteArray fingerprint = blackBoxFingerprint(file);
+    if (!fingerprint.isEmpty())
+        m_project.meta.importedFiles.insert(fingerprint);
 }
 
 // Nothing if the file could not be read to its end: half a shot would look like a whole one.

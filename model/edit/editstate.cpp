@@ -13,7 +13,8 @@ auto fieldsOf(State &state)
     return std::tie(state.data.name, state.data.number, state.data.user, state.data.date, state.data.customer,
                     state.data.closingForce, state.data.injectionTime, state.data.pressTime, state.data.pressure,
                     state.comment, state.clock, state.sensors, state.offsets, state.markers, state.phaseNames,
-                    state.markersAbsolute, state.ranges, state.evaluation, state.colors, state.images, state.imported);
+                    state.markersAbsolute, state.ranges, state.evaluation, state.colors, state.images, state.imported,
+                    state.fingerprints);
 }
 
 auto partsOf(const SensorGroup &group, int sensor)
@@ -147,7 +148,8 @@ EditState EditState::of(const Project &project, const ImportedFiles &imported)
                     project.meta.sensors,
                     project.colors,
                     project.images,
-                    imported};
+                    imported,
+                    project.meta.importedFiles};
     for (std::size_t phase = 0; phase < state.phaseNames.size(); ++phase)
         if (settings.phaseNames[phase] != project.defaultPhaseNames[phase])
             state.phaseNames[phase] = settings.phaseNames[phase];
@@ -174,6 +176,7 @@ void EditState::applyTo(Project &project, ImportedFiles &importedFiles) const
     project.colors = colors;
     project.images = images;
     importedFiles = imported;
+    project.meta.importedFiles = fingerprints;
 }
 
 void EditState::takeDifferences(const EditState &from, const EditState &to)

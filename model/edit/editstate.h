@@ -32,6 +32,7 @@ struct EditState
     std::array<QColor, kNumSensors> colors;
     ImageStore images;
     ImportedFiles imported;
+    QSet<QByteArray> fingerprints; ///< of imported files
 
     [[nodiscard]] static EditState of(const Project &project, const ImportedFiles &imported);
     /// Puts all of it into a project.

@@ -13,6 +13,8 @@ void Project::clearDescription()
     settings.firmwareVersion = QStringLiteral("8.0");
     settings.comment.clear();
     settings.clock = 100;
+    settings.unknown.clear();
+    settings.unknownInView.clear();
     meta = ProjectMeta();
     for (int sensor = 0; sensor < kNumSensors; ++sensor)
         colors[at(sensor)] = defaultSensorColor(sensor);

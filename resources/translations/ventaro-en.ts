@@ -194,6 +194,10 @@
         <source>Namen und Grenzen der Sensoren kommen jetzt von der Box.</source>
         <translation>The names and limits of the sensors now come from the box.</translation>
     </message>
+    <message>
+        <source>Übernahme der Sensorbeschreibung</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>BoxLink</name>
@@ -551,6 +555,22 @@
         <source>Ab &quot;%1&quot; ist die Eingabe fehlerhaft. Dieser Teil und alles dahinter wird nicht gelöscht.</source>
         <translation>From &quot;%1&quot; on the input is malformed. This part and all behind it will not be deleted.</translation>
     </message>
+    <message>
+        <source>Mit Strg+Z lässt sich das rückgängig machen.</source>
+        <translation>This can be undone with Ctrl+Z.</translation>
+    </message>
+    <message>
+        <source>Es gibt keine Messung.</source>
+        <translation>There is no measurement.</translation>
+    </message>
+    <message>
+        <source>Das ist 1 Messung.</source>
+        <translation>This is 1 measurement.</translation>
+    </message>
+    <message>
+        <source>Das sind %1 Messungen.</source>
+        <translation>These are %1 measurements.</translation>
+    </message>
 </context>
 <context>
     <name>DemoLink</name>
@@ -662,6 +682,14 @@
     <message>
         <source>Phase %1</source>
         <translation>Phase %1</translation>
+    </message>
+    <message>
+        <source>Spalten von %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Grenzen von %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -877,6 +905,22 @@
         <source>&amp;Speichern unter...</source>
         <translation>&amp;Save as...</translation>
     </message>
+    <message>
+        <source>, verkleinert gezeigt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zu groß zum Anzeigen:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Das Bild in der Datei kann nicht gelesen werden. Es bleibt erhalten.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Klicken für ein anderes Bild, Entf zum Löschen</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ImportSummary</name>
@@ -1027,6 +1071,14 @@ Import them again?</translation>
         <source>&quot;Nein&quot; importiert nur die neuen Dateien. Escape oder Schließen bricht den Import ab.</source>
         <translation>&quot;No&quot; imports the new files only. Escape or closing cancels the import.</translation>
     </message>
+    <message>
+        <source>Import einer Datei</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import von %1 Dateien</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>MainToolBar</name>
@@ -1096,12 +1148,16 @@ Esc cancels.</translation>
         <translation>Error in the range &quot;%1&quot;: nothing was deleted from there on.</translation>
     </message>
     <message>
-        <source>Das ist 1 Messung.</source>
-        <translation>This is 1 measurement.</translation>
+        <source>Löschen einer Messung</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Das sind %1 Messungen.</source>
-        <translation>These are %1 measurements.</translation>
+        <source>Löschen von %1 Messungen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Löschen aller Messdaten</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1125,6 +1181,10 @@ Esc cancels.</translation>
     <message>
         <source>WZ öffnen</source>
         <translation>Mould opening</translation>
+    </message>
+    <message>
+        <source>Zurücksetzen der Offsets</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1185,6 +1245,72 @@ Esc cancels.</translation>
     </message>
 </context>
 <context>
+    <name>OpenNotice</name>
+    <message>
+        <source>%1 und %2 weitere</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ohne die Datei &quot;%1&quot; fehlen Zeitstempel, Bezeichnungen, Einheiten, Grenzen und Schwellen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hinweise zum Projekt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Damit nichts verloren geht, kann das Projekt unter einem anderen Namen gespeichert werden.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die Datei &quot;%1&quot; sieht nicht wie ein Projekt aus: Sie enthält keine einzige Angabe eines Projekts.
+Sie wird beim Speichern nicht ersetzt; das Programm fragt dann nach einem anderen Namen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Das Projekt wurde mit einer neueren Version des Programms gespeichert (Dateiversion %1).
+Beim Speichern bekommt es die Dateiversion %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unbekannte Angaben, die erhalten bleiben und wieder gespeichert werden: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Angaben, die nicht gelesen werden konnten und beim Speichern verloren gehen: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nicht lesbar: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zu groß zum Anzeigen, da alle Bilder zusammen höchstens %1 Millionen Bildpunkte haben dürfen: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Was in der Datei steht, bleibt erhalten, bis dort ein anderes Bild gewählt wird.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bild %1</source>
+        <translation>Picture %1</translation>
+    </message>
+    <message>
+        <source>Die Datei &quot;%1&quot; neben dem Projekt ist von einer neueren Version des Programms.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die Datei &quot;%1&quot; neben dem Projekt ist beschädigt oder nicht lesbar.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Es fehlen Zeitstempel, Bezeichnungen, Einheiten, Grenzen und Schwellen.
+Beim Speichern wird sie nicht ersetzt, sondern als &quot;%1&quot; aufgehoben.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>OsziHead</name>
     <message>
         <source>Gesperrt: Bereiche, Raster, Korrekturen, Marker und Messungen sind vor Änderungen geschützt. Klicken zum Entsperren.</source>
@@ -1205,6 +1331,13 @@ Esc cancels.</translation>
     <message>
         <source>Diagramm dieses Sensors zeigen</source>
         <translation>Show this sensor&apos;s plot</translation>
+    </message>
+</context>
+<context>
+    <name>OsziPage</name>
+    <message>
+        <source>Löschen der Marker</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1670,6 +1803,10 @@ double-click fits the value range.</translation>
         <source>Phase %1</source>
         <translation>Phase %1</translation>
     </message>
+    <message>
+        <source>Übernahme der Projektbeschreibung</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ProjectPictures</name>
@@ -1736,6 +1873,23 @@ Continue?</translation>
     <message>
         <source>PNG-Bild (*.png)</source>
         <translation>PNG picture (*.png)</translation>
+    </message>
+    <message>
+        <source>Für Bild %1 ist kein Platz mehr: Alle Bilder eines Projekts zusammen dürfen höchstens %2 Millionen Bildpunkte haben, die anderen haben schon %3 Millionen.
+Bitte zuerst ein großes Bild löschen oder durch ein kleineres ersetzen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ersetzen von Bild %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Einfügen von Bild %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Löschen von Bild %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1938,6 +2092,13 @@ Continue?</translation>
     </message>
 </context>
 <context>
+    <name>RowRanges</name>
+    <message>
+        <source>Bereich von %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>RuntimeBoxPlots</name>
     <message>
         <source>Start [s]</source>
@@ -2043,6 +2204,10 @@ Continue?</translation>
         <source>Achtung: Das Projekt ist mit %1 ms je Wert aufgezeichnet, die Box misst mit %2 ms.</source>
         <translation>Attention: the project was recorded at %1 ms per value, the box samples at %2 ms.</translation>
     </message>
+    <message>
+        <source>Änderung der Abtastrate</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Scp</name>
@@ -2139,14 +2304,6 @@ Please check output:</translation>
         <translation>&amp;Name</translation>
     </message>
     <message>
-        <source>Die Einheit kommt von der Box.</source>
-        <translation>The unit comes from the box.</translation>
-    </message>
-    <message>
-        <source>Einheit</source>
-        <translation>Unit</translation>
-    </message>
-    <message>
         <source>&amp;Farbe</source>
         <translation>Co&amp;lour</translation>
     </message>
@@ -2165,6 +2322,21 @@ Please check output:</translation>
     <message>
         <source>Ausgeschaltet gibt es keine Grenze.</source>
         <translation>There is no limit while this is off.</translation>
+    </message>
+    <message>
+        <source>Eine Box, die ihre Sensoren beschreibt, bringt ihre eigenen Einheiten mit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Einheit</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SensorEditor</name>
+    <message>
+        <source>Änderung von %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2460,6 +2632,69 @@ Identification of this computer:
     </message>
 </context>
 <context>
+    <name>TabEdits</name>
+    <message>
+        <source>Eingabe in &quot;Projekt&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Projektnummer&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Bearbeiter&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Datum&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Kunde&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Schließkraft&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Einspritzzeit&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Nachdruckzeit&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Druck&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Kommentar&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name der Phase %1</source>
+        <translation>Name of phase %1</translation>
+    </message>
+    <message>
+        <source>Marker %1</source>
+        <translation>Marker %1</translation>
+    </message>
+    <message>
+        <source>Umstellung der Marker</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Offset von %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Änderung von %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>TabEvaluation</name>
     <message>
         <source>Übersicht</source>
@@ -2476,6 +2711,17 @@ Identification of this computer:
     <message>
         <source>Auswertung 3/3: Überlagerung</source>
         <translation>Evaluation 3/3: overlay</translation>
+    </message>
+    <message>
+        <source>Schwellen der Laufzeit</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TabEvaluationOverlay</name>
+    <message>
+        <source>Bezeichnung von Messung %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2684,6 +2930,48 @@ At the far right the view follows the newest values.</translation>
     <message>
         <source>Untere Grenze %1</source>
         <translation>Lower limit %1</translation>
+    </message>
+</context>
+<context>
+    <name>UndoActions</name>
+    <message>
+        <source>%1 rückgängig machen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rückgängig</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 wiederholen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wiederholen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nimmt den letzten Schritt zurück</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Macht den zuletzt zurückgenommenen Schritt noch einmal</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>UndoControl</name>
+    <message>
+        <source>Rückgängig gemacht: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wiederholt: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die Abtastrate lässt sich nicht ändern, solange eine Aufzeichnung läuft.</source>
+        <translation>The sampling period cannot be changed while a recording is running.</translation>
     </message>
 </context>
 <context>

@@ -45,6 +45,8 @@ void SensorEditor::applyEdit(const SensorInfo &before, const SensorInfo &after)
         keepChoices(before, after.ownName);
         emit nameEdited(before.sensor, after.ownName);
     }
+    if (after.unit != before.unit)
+        emit unitEdited(before.sensor, after.unit);
     if (after.color != before.color)
         emit colorEdited(before.channel, after.color);
     if (!(after.limits == before.limits))

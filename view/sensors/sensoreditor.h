@@ -10,7 +10,7 @@ class SensorChoices;
 class SensorTreeModel;
 struct SensorInfo;
 
-/// Lets the user change name, colour and limits of a sensor. Changes are emitted as signals; they become
+/// Lets the user change name, unit, colour and limits of a sensor. Changes are emitted as signals; they become
 /// visible once the model has them.
 class SensorEditor : public QObject
 {
@@ -28,6 +28,7 @@ public:
 
 signals:
     void nameEdited(int sensor, const QString &name);
+    void unitEdited(int sensor, const QString &unit);
     void colorEdited(int sensor, const QColor &color);
     /// SensorLimits::kNoLower and kNoUpper for a limit that is not set.
     void limitsEdited(int group, int sensor, double minimum, double maximum);
