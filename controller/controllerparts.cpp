@@ -24,9 +24,8 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     , descriptions(view, model, connector, edits, recorder,
                    {options.deviceDescriptionTimeout, options.sensorDescriptionTimeout})
     , period({view, model, occupancy}, connector, edits, recorder)
-    , watch({view, model, occupancy}, {connector, demoBox, lines, recorder, link, descriptions, period}, options)
+    , watch({view, model, occupancy}, {connector, demoBox, lines, recorder, link, demo, descriptions, period}, options)
     , offer({view, model, occupancy}, questions, lines, edits)
-    , firmware({view, model, occupancy}, connector, link, demo, options.restartWait)
     , recording({view, model, occupancy}, recorder, link)
     , deletion({view, model, occupancy}, edits, recorder)
     , tabEdits(view, model, edits)
@@ -126,7 +125,8 @@ void ControllerParts::connectFiles()
 
 void ControllerParts::connectJournal(View &view)
 {
-    QObject::connect(&protection.journal, &Journal::told, &view, [&view](const QString &text) { view.showStatus(text); });
+    QObject::connect(&protection.journal, &Journal::told, &view,
+                     [&view](const QString &text) { view.showStatus(text); });
     QObject::connect(&files, &ProjectFiles::quitting, &protection.journal, &Journal::discard);
     // What takes long may end badly.
     QObject::connect(&progress, &FileProgress::begun, &protection.journal, &Journal::takeChanges);

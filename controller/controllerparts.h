@@ -5,7 +5,6 @@
 #include "controller/link/boxdescriptions.h"
 #include "controller/link/boxlink.h"
 #include "controller/link/demolink.h"
-#include "controller/link/firmwareupdate.h"
 #include "controller/link/linkparts.h"
 #include "controller/link/projectoffer.h"
 #include "controller/link/samplingperiod.h"
@@ -56,7 +55,6 @@ struct ControllerParts
     SamplingPeriod period;
     LinkParts watch;
     ProjectOffer offer;
-    FirmwareUpdate firmware;
     RecordingActions recording;
     MeasurementDeletion deletion;
     TabEdits tabEdits;

@@ -17,6 +17,7 @@ LinkParts::LinkParts(const Desk &desk, const Carriers &carriers, const Controlle
     , memory(desk.view, desk.model, carriers.connector, carriers.demoBox)
     , probe(desk, carriers.link, options.port, {options.linkTimes.probeTime, options.linkTimes.probePause})
     , report(desk, {carriers.link, carriers.connector, carriers.demoBox, silence, answers, shot, continuation})
+    , firmware(desk, carriers.connector, carriers.link, carriers.demo, options.restartWait)
     , m_carriers(carriers)
 {
     watchLink();

@@ -5,6 +5,7 @@
 #include "controller/link/boxmemory.h"
 #include "controller/link/boxprobe.h"
 #include "controller/link/continuation.h"
+#include "controller/link/firmwareupdate.h"
 #include "controller/link/linkclock.h"
 #include "controller/link/linkreport.h"
 #include "controller/link/shotwatch.h"
@@ -13,13 +14,14 @@
 class BoxDescriptions;
 class BoxLink;
 class DemoBox;
+class DemoLink;
 class LineQueue;
 class MesotraConnector;
 class Recorder;
 class SamplingPeriod;
 struct ControllerOptions;
 
-/// The parts that watch over the link, and the connections between them and those that carry it.
+/// The parts that watch over the link or interrupt it, and the connections between them and those that carry it.
 struct LinkParts
 {
     /// What carries the link; all must outlive the parts.
@@ -30,6 +32,7 @@ struct LinkParts
         const LineQueue &lines;
         Recorder &recorder;
         BoxLink &link;
+        const DemoLink &demo;
         BoxDescriptions &descriptions;
         SamplingPeriod &period;
     };
@@ -50,6 +53,7 @@ struct LinkParts
     BoxMemory memory;
     BoxProbe probe;
     LinkReport report;
+    FirmwareUpdate firmware;
 
 private:
     void watchLink();

@@ -88,7 +88,7 @@ private slots:
                      s.lostAt = kTime.addSecs(-30);
                      s.backAt = kTime;
                  }),
-            "Aufzeichnung läuft", "unterbrochen von 14:04:40 bis 14:05:10", Mood::Warning, false, true);
+            "Aufzeichnung läuft", "unterbrochen 14:04:40–14:05:10", Mood::Warning, false, true);
     }
 
     void states()

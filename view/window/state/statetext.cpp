@@ -50,7 +50,7 @@ QStringList noteworthy(const LinkStatus &status)
 {
     QStringList notes;
     if (status.lostAt.isValid() && status.backAt.isValid())
-        notes << Texts::tr("war unterbrochen von %1 bis %2").arg(clockTime(status.lostAt), clockTime(status.backAt));
+        notes << Texts::tr("Verbindung unterbrochen %1–%2").arg(clockTime(status.lostAt), clockTime(status.backAt));
     if (status.missing > 0)
         notes << Texts::tr("letzte Messung: %1 Werte fehlen").arg(number(status.missing));
     return notes;
