@@ -139,7 +139,7 @@ void Controller::onImportBlackBox()
 void Controller::onFirmwareUpdate()
 {
     qCDebug(lcController) << Q_FUNC_INFO;
-    d->firmware.run();
+    d->watch.firmware.run();
 }
 
 void Controller::onActionConnect()

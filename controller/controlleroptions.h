@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controller/journal/journaloptions.h"
+#include "controller/link/linktimes.h"
 #include "device/demobox.h"
 #include "device/scpprocess.h"
 
@@ -24,4 +25,5 @@ struct ControllerOptions
     int stopWait = 500;     ///< ms; how long the box may take to confirm the end of a recording that is to be saved
     int typingPause = 1000; ///< ms without a key before a question that the box causes may open over a field
     int restartWait = 3000; ///< ms; how long the firmware dialog waits for a connection
+    LinkTimes linkTimes;
 };

@@ -18,14 +18,15 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     , display(view)
     , edits(model)
     , recorder(model, edits, connector, display)
-    , lines(connector, model, [this, &view](const QString &line) { takeLine(view, line); })
-    , link({view, model, occupancy}, connector, demoBox, questions, recorder, options.deviceAddress)
+    , lines(connector, model, [this, &view](const QString &line) { handleLine(view, line); })
+    , link({view, model, occupancy}, connector, demoBox, questions, recorder,
+           {options.deviceAddress, options.linkTimes.retryDelays})
     , demo({view, model, occupancy}, demoBox, link, questions)
     , descriptions(view, model, connector, edits, recorder,
                    {options.deviceDescriptionTimeout, options.sensorDescriptionTimeout})
     , period({view, model, occupancy}, connector, edits, recorder)
+    , watch({view, model, occupancy}, {connector, demoBox, lines, recorder, link, demo, descriptions, period}, options)
     , offer({view, model, occupancy}, questions, lines, edits)
-    , firmware({view, model, occupancy}, connector, link, demo, options.restartWait)
     , recording({view, model, occupancy}, recorder, link)
     , deletion({view, model, occupancy}, edits, recorder)
     , tabEdits(view, model, edits)
@@ -63,16 +64,18 @@ ControllerParts::~ControllerParts()
     QObject::disconnect(&demoBox, nullptr, nullptr, nullptr);
 }
 
+void ControllerParts::handleLine(View &view, const QString &line)
+{
+    view.terminalReceived(line); // when its turn comes, like its effect
+    watch.beforeLine(line);
+    dispatch.dispatch(line);
+    watch.afterLine(line);
+}
+
 void ControllerParts::setUpTransfers(const ControllerOptions &options)
 {
     connector.scp().setOptions(
         {options.scpToolFile, theme::deviceUser, theme::devicePassword, options.deviceAddress, options.scpTimeouts});
-}
-
-void ControllerParts::takeLine(View &view, const QString &line)
-{
-    view.terminalReceived(line); // when its turn comes, like its effect
-    dispatch.dispatch(line);
 }
 
 void ControllerParts::handleMessages()
@@ -94,8 +97,10 @@ void ControllerParts::connectLink(View &view)
     QObject::connect(&link, &BoxLink::established, &demo, &DemoLink::showState);
     QObject::connect(&link, &BoxLink::established, &period, &SamplingPeriod::begin);
     QObject::connect(&link, &BoxLink::established, &descriptions, &BoxDescriptions::request);
+    QObject::connect(&link, &BoxLink::established, &period, &SamplingPeriod::restore);
     // What the box sent before the end of the link comes first.
     QObject::connect(&link, &BoxLink::closing, &link, [this] { lines.flush(); });
+    QObject::connect(&link, &BoxLink::closing, &link, [this] { watch.endWithLink(); });
     QObject::connect(&link, &BoxLink::closing, &descriptions, &BoxDescriptions::stopWaiting);
     QObject::connect(&link, &BoxLink::closing, &logger.list, &LoggerList::reset);
     QObject::connect(&link, &BoxLink::left, &demo, &DemoLink::stop);
@@ -124,6 +129,8 @@ void ControllerParts::connectFiles()
     QObject::connect(&files, &ProjectFiles::shown, &period, &SamplingPeriod::matchProject);
     QObject::connect(&files, &ProjectFiles::projectReplaced, &access.notice, &OpenNotice::show);
     QObject::connect(&undo, &UndoControl::samplingPeriodChanged, &period, &SamplingPeriod::matchProject);
+    // A recording is continued in the project in which it began.
+    QObject::connect(&files, &ProjectFiles::measurementsReplaced, &files, [this] { watch.continuation.forget(); });
     QObject::connect(&files, &ProjectFiles::quitting, &files, [this] { recorder.requestStop(); });
 }
 

@@ -5,7 +5,7 @@
 #include "controller/link/boxdescriptions.h"
 #include "controller/link/boxlink.h"
 #include "controller/link/demolink.h"
-#include "controller/link/firmwareupdate.h"
+#include "controller/link/linkparts.h"
 #include "controller/link/projectoffer.h"
 #include "controller/link/samplingperiod.h"
 #include "controller/logger/loggerparts.h"
@@ -53,8 +53,8 @@ struct ControllerParts
     DemoLink demo;
     BoxDescriptions descriptions;
     SamplingPeriod period;
+    LinkParts watch;
     ProjectOffer offer;
-    FirmwareUpdate firmware;
     RecordingActions recording;
     MeasurementDeletion deletion;
     TabEdits tabEdits;
@@ -67,8 +67,8 @@ struct ControllerParts
     JournalParts protection;
 
 private:
+    void handleLine(View &view, const QString &line);
     void setUpTransfers(const ControllerOptions &options);
-    void takeLine(View &view, const QString &line);
     void handleMessages();
     void connectParts(View &view);
     void connectLink(View &view);

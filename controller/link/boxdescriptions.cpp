@@ -22,7 +22,10 @@ BoxDescriptions::BoxDescriptions(View &view, Model &model, MesotraConnector &con
     m_sensorTimer.setSingleShot(true);
     m_sensorTimer.setInterval(timeouts.sensors);
     connect(&m_deviceTimer, &QTimer::timeout, this, &BoxDescriptions::deviceWaitOver);
-    connect(&m_sensorTimer, &QTimer::timeout, this, &BoxDescriptions::sensorWaitOver);
+    connect(&m_sensorTimer, &QTimer::timeout, this, [this] {
+        emit sensorWaitOver();
+        emit scaleKnown();
+    });
 }
 
 void BoxDescriptions::request()
@@ -77,6 +80,7 @@ void BoxDescriptions::takeSensors(const QString &message)
     showNewLimits(before, description, *m_view.tabOszi());
     if (isAnySensorNamed(before) && !isSavedAlike(before, description))
         m_view.showStatus(tr("Namen und Grenzen der Sensoren kommen jetzt von der Box."));
+    emit scaleKnown();
 }
 
 void BoxDescriptions::describeAgain()

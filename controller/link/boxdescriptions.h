@@ -44,6 +44,8 @@ public:
 signals:
     void deviceWaitOver();
     void sensorWaitOver();
+    /// The sensors have been described, or will not be: the scale of the values is known.
+    void scaleKnown();
     /// The description of the device contained one of a project.
     void projectReceived(const ReceivedProject &project);
 

@@ -1,6 +1,7 @@
 #include "controller/link/boxlink.h"
 
 #include "controller/deferredquestions.h"
+#include "controller/link/linkreason.h"
 #include "controller/logging.h"
 #include "controller/occupancy.h"
 #include "controller/recording/recorder.h"
@@ -14,7 +15,7 @@
 #include <utility>
 
 BoxLink::BoxLink(const Desk &desk, MesotraConnector &connector, const DemoBox &demoBox, DeferredQuestions &questions,
-                 Recorder &recorder, const QString &address)
+                 Recorder &recorder, Target target)
     : m_view(desk.view)
     , m_model(desk.model)
     , m_occupancy(desk.occupancy)
@@ -22,9 +23,12 @@ BoxLink::BoxLink(const Desk &desk, MesotraConnector &connector, const DemoBox &d
     , m_demoBox(demoBox)
     , m_questions(questions)
     , m_recorder(recorder)
-    , m_address(address)
+    , m_dialogs(desk)
+    , m_reconnect(std::move(target.retryDelays))
+    , m_address(std::move(target.address))
 {
     connect(&m_restart, &BoxRestart::retry, this, &BoxLink::retryAfterRestart);
+    connect(&m_reconnect, &Reconnect::attemptDue, this, &BoxLink::retryAfterLoss);
     m_view.setAddressValidator(isValidHostAddress);
     m_view.setDeviceAddress(m_address);
 }
@@ -73,7 +77,7 @@ void BoxLink::toggle()
     } else if (m_view.isProgressShown()) {
         giveUp();
     } else if (m_address.isEmpty()) {
-        offerReconnect();
+        offerReconnect({});
     } else {
         qCDebug(lcController) << " not connected -> connect!";
         connectTo(m_address, tr("Verbinden ..."));
@@ -128,6 +132,8 @@ void BoxLink::connectTo(const QString &address)
 
 void BoxLink::connectTo(const QString &address, const QString &progressText)
 {
+    if (address != m_reconnect.address())
+        m_reconnect.end(); // the user prefers another box
     want();
     m_view.setDeviceAddress(address);
     m_view.showProgress(progressText);
@@ -145,6 +151,7 @@ void BoxLink::want()
 {
     m_wanted = true;
     m_questions.drop(Question::LinkError);
+    emit wanted();
 }
 
 void BoxLink::giveUp()
@@ -167,6 +174,7 @@ void BoxLink::leaveForAnother()
 void BoxLink::leave()
 {
     m_wanted = false;
+    m_reconnect.end();
     m_questions.drop(Question::LinkError);
     m_connector.disconnectFromHost();
     m_view.hideProgress(); // of an attempt that may have been under way
@@ -183,6 +191,7 @@ void BoxLink::opened()
     if (std::exchange(m_measuredHost, host) != host)
         m_view.forgetLiveValues(); // of another box
     m_restart.end();
+    m_reconnect.noteLink();
     m_model.blockSignals(false); // a deletion with a syntax error may have left them blocked
     m_model.setConnected(true);
     m_model.emitAppStateChanged();
@@ -196,7 +205,6 @@ void BoxLink::showOpened()
         m_view.showStatus(tr("Die Demo läuft."));
         return;
     }
-    m_view.rememberAddress(m_connector.hostAddress());
     m_view.showStatus(tr("Verbunden mit %1.").arg(m_connector.hostAddress()));
 }
 
@@ -213,6 +221,28 @@ void BoxLink::closed()
     if (wasConnected)
         m_view.showStatus(wasRecording ? tr("Verbindung getrennt, Aufnahme beendet. Alle Daten sind erhalten.")
                                        : tr("Verbindung getrennt."));
+    if (!wasConnected || !m_wanted || isDemo())
+        return;
+    m_reconnect.begin(m_connector.hostAddress());
+    emit lost(m_connector.hostAddress(), wasRecording);
+}
+
+void BoxLink::noteProven()
+{
+    m_reconnect.noteBack();
+    m_dialogs.withdraw(); // what they say is no longer true
+}
+
+void BoxLink::noteMute()
+{
+    if (m_reconnect.isLinkUnproven())
+        loseSilent();
+}
+
+void BoxLink::loseSilent()
+{
+    m_connector.disconnectFromHost();
+    onError(QAbstractSocket::RemoteHostClosedError);
 }
 
 void BoxLink::onError(QAbstractSocket::SocketError error)
@@ -223,8 +253,18 @@ void BoxLink::onError(QAbstractSocket::SocketError error)
         m_view.showProgress(tr("Die Mesotra Box startet neu. Verbinden mit %1 ...").arg(m_connector.hostAddress()));
         m_restart.retryLater();
     } else if (m_wanted) {
-        emit failed(error);
+        m_reconnect.noteError(error);
+        if (!m_reconnect.isActive() || m_reconnect.takeReport())
+            emit failed(error);
+        else if (!m_occupancy.isUnderWay(Task::Fetch))
+            m_view.hideProgress(); // of an attempt that the user did not want to wait for
     }
+}
+
+void BoxLink::retryAfterLoss()
+{
+    if (m_wanted && !isConnected())
+        m_connector.connect(m_reconnect.address());
 }
 
 void BoxLink::retryAfterRestart()
@@ -245,30 +285,17 @@ void BoxLink::reportError(QAbstractSocket::SocketError error)
     }
     m_questions.drop(Question::LinkError);
     const UninvitedQuestions uninvited(m_view.questions());
-    showError(error);
-    offerReconnect();
+    m_dialogs.tell(error);
+    if (!isConnected()) // the box may be back while the message was open
+        offerReconnect(linkAdvice(error, m_connector.hostAddress()));
 }
 
-void BoxLink::showError(QAbstractSocket::SocketError error)
+void BoxLink::offerReconnect(const QString &reason)
 {
-    QString text;
-    if (error == QAbstractSocket::RemoteHostClosedError)
-        text = tr("Die Mesotra Hardware ist nicht mehr erreichbar.");
-    else if (error == QAbstractSocket::HostNotFoundError)
-        text = tr("Die Mesotra Hardware wurde nicht gefunden! Bitte IP-Adresse überprüfen!");
-    else if (error == QAbstractSocket::ConnectionRefusedError)
-        text = tr("Die Verbindung wurde abgelehnt!\n(Die IP-Adresse wurde jedoch gefunden.)");
-    else
-        return;
-    m_occupancy.ask([&] { m_view.showMessage(text, tr("Netzwerk Fehler")); });
-}
-
-void BoxLink::offerReconnect()
-{
-    const std::optional<QString> address = m_occupancy.ask([this] { return m_view.askAddress(m_address); });
+    const std::optional<QString> address = m_dialogs.askAddress(m_address, reason);
     if (!address) {
         qCDebug(lcController) << "dialog rejected";
-        m_wanted = false;
+        m_wanted = isConnected() || m_reconnect.isActive(); // the box may be back, or is still waited for
         return;
     }
     // The dialog accepts valid addresses only; prompts scripted by a test may not.

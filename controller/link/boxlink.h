@@ -2,10 +2,14 @@
 
 #include "controller/desk.h"
 #include "controller/link/boxrestart.h"
+#include "controller/link/linkdialogs.h"
+#include "controller/link/reconnect.h"
 
 #include <QAbstractSocket>
 #include <QObject>
 #include <QString>
+
+#include <vector>
 
 class DeferredQuestions;
 class DemoBox;
@@ -19,13 +23,24 @@ class BoxLink : public QObject
     Q_OBJECT
 
 public:
-    /// All references must outlive the link. `address` is connected to first; empty: the user is asked.
+    /// Where to connect to.
+    struct Target
+    {
+        QString address;              ///< connected to first; empty: the user is asked
+        std::vector<int> retryDelays; ///< ms before each attempt after a loss; the last one repeats
+    };
+
+    /// All references must outlive the link.
     BoxLink(const Desk &desk, MesotraConnector &connector, const DemoBox &demoBox, DeferredQuestions &questions,
-            Recorder &recorder, const QString &address);
+            Recorder &recorder, Target target);
 
     [[nodiscard]] bool isConnected() const;
     /// What "connect" uses: as configured, then the last one typed in this session.
     [[nodiscard]] QString address() const { return m_address; }
+    /// True from an attempt to connect until it has failed or the link was given up.
+    [[nodiscard]] bool isWanted() const { return m_wanted; }
+    /// The attempts after a loss. Others may hold them.
+    [[nodiscard]] Reconnect &reconnect() { return m_reconnect; }
     /// False, and a status message, if the text could not be written to the box.
     bool send(const QString &text);
     void showNotConnected();
@@ -55,14 +70,24 @@ public:
     void opened();
     void closed();
     void onError(QAbstractSocket::SocketError error);
+    /// The first line came that only a box says.
+    void noteProven();
+    /// The box does not answer. A link that was made again by itself is dropped then: the box is not back.
+    void noteMute();
+    /// No sign of life comes any more: drops the link, which counts as lost.
+    void loseSilent();
     /// Tells the user and offers to connect again, at once or when nothing else is under way.
     void reportError(QAbstractSocket::SocketError error);
 
 signals:
+    /// An attempt to connect begins, or a link is there that another part has made.
+    void wanted();
     /// The user or an error has ended the link or the attempt. Also if there was neither.
     void left();
     /// The model knows that the box is connected; nothing has been sent to it yet.
     void established();
+    /// A link that nobody has given up has ended. Attempts to get it back follow.
+    void lost(const QString &address, bool wasRecording);
     /// The link has ended; the model still takes it for connected.
     void closing();
     /// An error of a link that is wanted.
@@ -79,8 +104,8 @@ private:
     void want();
     void showOpened();
     void retryAfterRestart();
-    void showError(QAbstractSocket::SocketError error);
-    void offerReconnect();
+    void retryAfterLoss();
+    void offerReconnect(const QString &reason);
 
     View &m_view;
     Model &m_model;
@@ -89,7 +114,9 @@ private:
     const DemoBox &m_demoBox;
     DeferredQuestions &m_questions;
     Recorder &m_recorder;
+    LinkDialogs m_dialogs;
     BoxRestart m_restart;
+    Reconnect m_reconnect;
     QString m_address;
     QString m_measuredHost; // of the box whose values are shown; empty for a simulated one
     bool m_wanted = false;  // errors of a link that the user gave up are of no interest

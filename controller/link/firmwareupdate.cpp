@@ -23,8 +23,10 @@ void FirmwareUpdate::run()
         const auto askFile = [this](const QString &title, const QString &filter) {
             return m_desk.view.askOpenFile(title, filter);
         };
+        m_link.reconnect().setHeld(true); // the dialog makes links of its own
         UpdateDialog dialog(&m_desk.view, askFile, &m_connector, m_link.address(), m_restartWait);
         QObject::connect(&dialog, &UpdateDialog::restartSent, &m_link, &BoxLink::expectRestart);
         (void)dialog.exec(); // both buttons only close it
+        m_link.reconnect().setHeld(false);
     });
 }

@@ -13,6 +13,8 @@
 #include "view/window/prompts/questions.h"
 #include "view/window/view.h"
 
+#include <utility>
+
 namespace {
 
 constexpr int kFirstPeriod = 100; // of every connection, in ms
@@ -37,11 +39,33 @@ void SamplingPeriod::setBoxPeriod(int milliseconds)
 
 void SamplingPeriod::begin()
 {
+    m_ownPeriod = m_desk.model.numChannels(0) > 0 ? m_desk.model.clock() : kFirstPeriod;
+    m_isFirstReplaced = false;
     m_connector.setClock(samplingPeriodLabel(kFirstPeriod));
     setBoxPeriod(kFirstPeriod);
-    if (m_desk.model.clock() != kFirstPeriod)
+    if (m_desk.model.clock() != kFirstPeriod && m_ownPeriod == kFirstPeriod)
         m_edits.markModified();
     m_desk.model.setClock(kFirstPeriod);
+}
+
+void SamplingPeriod::restore()
+{
+    if (m_ownPeriod == kFirstPeriod)
+        return;
+    m_isFirstReplaced = true; // or its echo would change the time axis of what was recorded
+    m_desk.model.setClock(m_ownPeriod);
+    if (!samplingPeriodLabel(m_ownPeriod).isEmpty())
+        m_desk.view.showStatus(tr("Die Box misst jetzt wie das Projekt mit %1 ms je Wert.").arg(m_ownPeriod));
+    matchProject();
+}
+
+void SamplingPeriod::repeat()
+{
+    const QString label = samplingPeriodLabel(m_boxPeriod);
+    if (label.isEmpty())
+        (void)m_connector.write(QStringLiteral("t=%1\n").arg(m_boxPeriod)); // the silence goes on if it fails
+    else
+        m_connector.setClock(label);
 }
 
 void SamplingPeriod::choose(const QString &label)
@@ -59,6 +83,7 @@ void SamplingPeriod::choose(const QString &label)
             return m_desk.view.questions().yesNoDestructive(tr("Abtastrate ändern"), question);
         }))
         return;
+    m_isFirstReplaced = false;
     m_connector.setClock(label); // project and plots follow with the echo
 }
 
@@ -69,6 +94,8 @@ void SamplingPeriod::takeEcho(const QString &message)
         qCDebug(lcController) << "ERROR";
         return;
     }
+    if (std::exchange(m_isFirstReplaced, false) && *clock == kFirstPeriod)
+        return;
     m_desk.model.blockSignals(false);
     if (*clock != m_desk.model.clock())
         m_edits.markModified();

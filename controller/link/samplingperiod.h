@@ -19,6 +19,13 @@ public:
 
     /// Asks the box that has just been connected for 100 ms.
     void begin();
+    /// After begin() and what else every connection begins with: if the project holds measurements, it gets its own
+    /// period back, and the box is asked for that.
+    void restore();
+    /// What the box was last asked for, or has reported, in ms; 0: unknown.
+    [[nodiscard]] int boxPeriod() const { return m_boxPeriod; }
+    /// Asks the box once more for what it has, as a sign of life.
+    void repeat();
     /// The user chose one by its label, such as "100ms". Takes effect with the echo of the box.
     void choose(const QString &label);
     void takeEcho(const QString &message);
@@ -36,5 +43,7 @@ private:
     MesotraConnector &m_connector;
     ProjectEdits &m_edits;
     const Recorder &m_recorder;
-    int m_boxPeriod = 0; // ms; 0: unknown
+    int m_boxPeriod = 0;            // ms; 0: unknown
+    int m_ownPeriod = 0;            // of a project with measurements, between begin() and restore()
+    bool m_isFirstReplaced = false; // the echo of the first period is still to come and says nothing
 };

@@ -65,6 +65,7 @@ bool Recorder::endWithLink()
     const bool wasRunning = std::exchange(m_running, false);
     if (wasRunning)
         m_model.endRecording();
+    forgetSeries(); // a box that went on recording may be back with lines that belong to no shot
     return wasRunning;
 }
 

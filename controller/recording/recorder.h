@@ -48,7 +48,8 @@ public:
     void started();
     void stopped();
     void takeSampleLine(const QString &message);
-    /// Ends a recording that is running; true if there was one. The listener is not told.
+    /// Ends a recording that is running; true if there was one. No measurement receives samples until the next one
+    /// begins. The listener is not told.
     [[nodiscard]] bool endWithLink();
     /// Milliseconds since the previous call, 0 at the first one; for the log of the sample lines.
     [[nodiscard]] qint64 restartLineClock();

@@ -15,14 +15,16 @@ constexpr qint64 kNoTime = std::numeric_limits<qint64>::min();
 
 bool operator==(const ShotNotes &a, const ShotNotes &b)
 {
-    return a.label == b.label && a.timestamp == b.timestamp && a.period == b.period && a.others == b.others;
+    return a.label == b.label && a.timestamp == b.timestamp && a.period == b.period && a.missing == b.missing
+           && a.others == b.others;
 }
 
 QDataStream &operator<<(QDataStream &stream, const ShotNotes &notes)
 {
     stream << notes.label;
     stream << (notes.timestamp.isValid() ? notes.timestamp.toMSecsSinceEpoch() : kNoTime);
-    stream << qint32(notes.period) << QJsonDocument(notes.others).toJson(QJsonDocument::Compact);
+    stream << qint32(notes.period) << qint32(notes.missing)
+           << QJsonDocument(notes.others).toJson(QJsonDocument::Compact);
     return stream;
 }
 
@@ -30,9 +32,11 @@ QDataStream &operator>>(QDataStream &stream, ShotNotes &notes)
 {
     qint64 time = kNoTime;
     qint32 period = 0;
+    qint32 missing = 0;
     QByteArray others;
-    stream >> notes.label >> time >> period >> others;
+    stream >> notes.label >> time >> period >> missing >> others;
     notes.period = qMax(0, period);
+    notes.missing = qMax(0, missing);
     notes.others = QJsonDocument::fromJson(others).object();
     notes.timestamp = time == kNoTime ? QDateTime() : QDateTime::fromMSecsSinceEpoch(time);
     return stream;
@@ -41,7 +45,7 @@ QDataStream &operator>>(QDataStream &stream, ShotNotes &notes)
 ShotNotes notesOf(const ProjectMeta &meta, int shot)
 {
     const ShotMeta known = meta.shot(shot);
-    return {known.label, known.timestamp, known.period, known.others};
+    return {known.label, known.timestamp, known.period, known.missing, known.others};
 }
 
 void setNotes(ProjectMeta &meta, int shot, const ShotNotes &notes)
@@ -49,5 +53,6 @@ void setNotes(ProjectMeta &meta, int shot, const ShotNotes &notes)
     meta.setLabel(shot, notes.label);
     meta.setTimestamp(shot, notes.timestamp);
     meta.setPeriod(shot, notes.period);
+    meta.setMissingValues(shot, notes.missing);
     meta.setOthers(shot, notes.others);
 }

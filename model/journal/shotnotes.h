@@ -13,6 +13,7 @@ struct ShotNotes
     QString label;
     QDateTime timestamp; ///< null for none
     int period = 0;      ///< ms per sample; 0 if unknown
+    int missing = 0;     ///< values of each sensor that never came
     QJsonObject others;  ///< what another version of the program keeps
 };
 

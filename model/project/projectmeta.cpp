@@ -34,6 +34,7 @@ const QString kLabelKey = QStringLiteral("label");
 const QString kTimeKey = QStringLiteral("time");
 // Later additions. A program that does not know them reads all the rest, so the version stays the same.
 const QString kPeriodKey = QStringLiteral("period");
+const QString kMissingKey = QStringLiteral("missing");
 const QString kUnitKey = QStringLiteral("unit");
 const QString kUnitOfKey = QStringLiteral("unitOf");
 const QString kNameKey = QStringLiteral("name");
@@ -93,6 +94,9 @@ QJsonObject shotToJson(const ProjectMeta &meta, std::size_t shot, quint32 check)
     const int period = elementOf(meta.periods, shot);
     if (period > 0)
         object.insert(kPeriodKey, period);
+    const int missing = elementOf(meta.missingValues, shot);
+    if (missing > 0)
+        object.insert(kMissingKey, missing);
     return object;
 }
 
@@ -166,6 +170,7 @@ void readShots(ProjectMeta &meta, const QJsonArray &shots, const ShotChecks &che
     meta.labels.resize(count);
     meta.timestamps.resize(count);
     meta.periods.resize(count);
+    meta.missingValues.resize(count);
     meta.shotOthers.resize(count);
     for (std::size_t i = 0; i < count; ++i) {
         const QJsonObject shot = shots.at(static_cast<int>(i)).toObject();
@@ -177,7 +182,8 @@ void readShots(ProjectMeta &meta, const QJsonArray &shots, const ShotChecks &che
         const QDateTime timestamp = QDateTime::fromString(time, Qt::ISODateWithMs);
         meta.timestamps[i] = timestamp.isValid() ? timestamp.toLocalTime() : QDateTime();
         meta.periods[i] = std::clamp(shot.value(kPeriodKey).toInt(), 0, kLongestPeriod);
-        meta.shotOthers[i] = without(shot, {kCheckKey, kLabelKey, kTimeKey, kPeriodKey});
+        meta.missingValues[i] = std::max(0, shot.value(kMissingKey).toInt());
+        meta.shotOthers[i] = without(shot, {kCheckKey, kLabelKey, kTimeKey, kPeriodKey, kMissingKey});
     }
 }
 
@@ -241,6 +247,7 @@ bool ProjectMeta::isBlank() const
            && std::none_of(timestamps.begin(), timestamps.end(),
                            [](const QDateTime &timestamp) { return timestamp.isValid(); })
            && std::all_of(periods.begin(), periods.end(), [](int period) { return period == 0; })
+           && std::all_of(missingValues.begin(), missingValues.end(), [](int count) { return count == 0; })
            && std::all_of(shotOthers.begin(), shotOthers.end(), [](const QJsonObject &shot) { return shot.isEmpty(); })
            && std::all_of(units.begin(), units.end(), [](const SensorUnit &unit) { return unit.unit.isEmpty(); })
            && importedFiles.isEmpty() && others.isEmpty();
@@ -266,6 +273,16 @@ void ProjectMeta::setTimestamp(int shot, const QDateTime &timestamp)
     setElement(timestamps, static_cast<std::size_t>(shot), timestamp);
 }
 
+int ProjectMeta::missing(int shot) const
+{
+    return elementOf(missingValues, static_cast<std::size_t>(shot));
+}
+
+void ProjectMeta::setMissingValues(int shot, int count)
+{
+    setElement(missingValues, static_cast<std::size_t>(shot), count);
+}
+
 int ProjectMeta::period(int shot) const
 {
     return elementOf(periods, static_cast<std::size_t>(shot));
@@ -282,6 +299,7 @@ void ProjectMeta::keepShots(int count)
     keepElements(labels, most);
     keepElements(timestamps, most);
     keepElements(periods, most);
+    keepElements(missingValues, most);
     keepElements(shotOthers, most);
 }
 
@@ -294,7 +312,7 @@ void ProjectMeta::setOthers(int shot, const QJsonObject &values)
 ShotMeta ProjectMeta::shot(int shot) const
 {
     const auto index = static_cast<std::size_t>(shot);
-    return {label(shot), timestamp(shot), period(shot), elementOf(shotOthers, index)};
+    return {label(shot), timestamp(shot), period(shot), missing(shot), elementOf(shotOthers, index)};
 }
 
 void ProjectMeta::insertShot(int shot, const ShotMeta &meta)
@@ -303,6 +321,7 @@ void ProjectMeta::insertShot(int shot, const ShotMeta &meta)
     insertElement(labels, index, meta.label);
     insertElement(timestamps, index, meta.timestamp);
     insertElement(periods, index, meta.period);
+    insertElement(missingValues, index, meta.missing);
     insertElement(shotOthers, index, meta.others);
 }
 
@@ -312,6 +331,7 @@ void ProjectMeta::removeShot(int shot)
     removeElement(labels, index);
     removeElement(timestamps, index);
     removeElement(periods, index);
+    removeElement(missingValues, index);
     removeElement(shotOthers, index);
 }
 
@@ -334,8 +354,8 @@ bool operator==(const SensorUnit &a, const SensorUnit &b)
 bool operator==(const ProjectMeta &a, const ProjectMeta &b)
 {
     return a.sensors == b.sensors && a.labels == b.labels && a.timestamps == b.timestamps && a.periods == b.periods
-           && a.shotOthers == b.shotOthers && a.importedFiles == b.importedFiles && a.others == b.others
-           && a.units == b.units;
+           && a.missingValues == b.missingValues && a.shotOthers == b.shotOthers && a.importedFiles == b.importedFiles
+           && a.others == b.others && a.units == b.units;
 }
 
 QString metaFileName(const QString &projectFile)

@@ -52,7 +52,8 @@ struct ShotMeta
 {
     QString label;
     QDateTime timestamp;
-    int period = 0; ///< ms; 0 if unknown
+    int period = 0;  ///< ms; 0 if unknown
+    int missing = 0; ///< values of each sensor that never came
     QJsonObject others;
 };
 
@@ -65,6 +66,7 @@ struct ProjectMeta
     std::vector<QString> labels;         ///< one per shot, from the first on; may be shorter than the list of shots
     std::vector<QDateTime> timestamps;   ///< the same; a null date-time for a shot without one
     std::vector<int> periods;            ///< the same; sampling periods in ms, 0 if unknown
+    std::vector<int> missingValues;      ///< the same; how many values of each sensor never came
     std::vector<QJsonObject> shotOthers; ///< the same; what another version of the program keeps
     QSet<QByteArray> importedFiles;      ///< fingerprints of logger files
     QJsonObject others;                  ///< what another version of the program keeps
@@ -84,6 +86,9 @@ struct ProjectMeta
     [[nodiscard]] int period(int shot) const;
     void setPeriod(int shot, int milliseconds);
     void setOthers(int shot, const QJsonObject &values);
+    /// 0 for a shot that is complete, as far as that is known.
+    [[nodiscard]] int missing(int shot) const;
+    void setMissingValues(int shot, int count);
     [[nodiscard]] ShotMeta shot(int shot) const;
     /// All that the shots from there on have moves up by one.
     void insertShot(int shot, const ShotMeta &meta);

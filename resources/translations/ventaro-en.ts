@@ -110,6 +110,22 @@
         <source>Symbole. Apache 2.0.</source>
         <translation>Icons. Apache 2.0.</translation>
     </message>
+    <message>
+        <source>wird nicht geführt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>leer, da nichts ungespeichert ist</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Schreiben auf den Datenträger: zuletzt %1 ms, höchstens %2 ms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sicherung</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>BlackBoxDays</name>
@@ -187,6 +203,14 @@
         <source>Zuletzt verbunden</source>
         <translation>Recent boxes</translation>
     </message>
+    <message>
+        <source>antwortet</source>
+        <translation>answers</translation>
+    </message>
+    <message>
+        <source>keine Antwort</source>
+        <translation>no answer</translation>
+    </message>
 </context>
 <context>
     <name>BoxDescriptions</name>
@@ -256,24 +280,6 @@
     <message>
         <source>Die Mesotra Box startet neu. Verbinden mit %1 ...</source>
         <translation>The Mesotra box is restarting. Connecting to %1 ...</translation>
-    </message>
-    <message>
-        <source>Die Mesotra Hardware ist nicht mehr erreichbar.</source>
-        <translation>The Mesotra hardware can no longer be reached.</translation>
-    </message>
-    <message>
-        <source>Die Mesotra Hardware wurde nicht gefunden! Bitte IP-Adresse überprüfen!</source>
-        <translation>The Mesotra hardware was not found! Please check the IP address!</translation>
-    </message>
-    <message>
-        <source>Die Verbindung wurde abgelehnt!
-(Die IP-Adresse wurde jedoch gefunden.)</source>
-        <translation>The connection was refused!
-(The IP address was found, however.)</translation>
-    </message>
-    <message>
-        <source>Netzwerk Fehler</source>
-        <translation>Network error</translation>
     </message>
 </context>
 <context>
@@ -367,6 +373,13 @@
     <message>
         <source>Verbindungsaufbau</source>
         <translation>Connection</translation>
+    </message>
+</context>
+<context>
+    <name>Continuation</name>
+    <message>
+        <source>Fortsetzung nach Verbindungsabbruch</source>
+        <translation>Continued after a lost connection</translation>
     </message>
 </context>
 <context>
@@ -962,6 +975,21 @@
     </message>
 </context>
 <context>
+    <name>Journal</name>
+    <message>
+        <source>kein Speicherplatz</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>keine Schreibrechte</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ungespeicherte Änderungen können nicht gesichert werden (%1: %2). Die Aufzeichnung läuft weiter; bitte das Projekt speichern.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>LimitsPanel</name>
     <message>
         <source>Cp %1</source>
@@ -1006,6 +1034,92 @@
     <message>
         <source>Abstand des Mittelwerts von der näheren Grenze / 3 Sigma. %1</source>
         <translation>Distance of the mean from the nearer limit / 3 sigma. %1</translation>
+    </message>
+</context>
+<context>
+    <name>LinkDialogs</name>
+    <message>
+        <source>Die Mesotra Hardware ist nicht mehr erreichbar.</source>
+        <translation>The Mesotra hardware can no longer be reached.</translation>
+    </message>
+    <message>
+        <source>Die Mesotra Hardware wurde nicht gefunden! Bitte IP-Adresse überprüfen!</source>
+        <translation>The Mesotra hardware was not found! Please check the IP address!</translation>
+    </message>
+    <message>
+        <source>Die Verbindung wurde abgelehnt!
+(Die IP-Adresse wurde jedoch gefunden.)</source>
+        <translation>The connection was refused!
+(The IP address was found, however.)</translation>
+    </message>
+    <message>
+        <source>Netzwerk Fehler</source>
+        <translation>Network error</translation>
+    </message>
+</context>
+<context>
+    <name>LinkParts</name>
+    <message>
+        <source>Die Box antwortet nicht (%1).</source>
+        <translation>The box does not answer (%1).</translation>
+    </message>
+</context>
+<context>
+    <name>LinkReason</name>
+    <message>
+        <source>Verbindung abgelehnt</source>
+        <translation>connection refused</translation>
+    </message>
+    <message>
+        <source>%1 ist im Netzwerk, nimmt aber keine Verbindung an. Läuft die Box schon? Nach dem Einschalten braucht sie einen Moment.</source>
+        <translation>%1 is on the network but accepts no connection. Is the box running yet? It needs a moment after being switched on.</translation>
+    </message>
+    <message>
+        <source>Name unbekannt</source>
+        <translation>unknown name</translation>
+    </message>
+    <message>
+        <source>Das Netzwerk kennt den Namen %1 nicht. Bitte die Schreibweise prüfen oder die IPv4-Adresse der Box eingeben.</source>
+        <translation>The network does not know the name %1. Please check the spelling or enter the IPv4 address of the box.</translation>
+    </message>
+    <message>
+        <source>kein Weg zur Box</source>
+        <translation>no route to the box</translation>
+    </message>
+    <message>
+        <source>Von diesem Rechner führt kein Weg zu %1. Bitte Netzwerkkabel und WLAN prüfen, und ob Rechner und Box im selben Netz sind.</source>
+        <translation>There is no route from this computer to %1. Please check the network cable and Wi-Fi, and whether computer and box are on the same network.</translation>
+    </message>
+    <message>
+        <source>keine Antwort</source>
+        <translation>no answer</translation>
+    </message>
+    <message>
+        <source>%1 antwortet nicht. Ist die Box eingeschaltet, und stimmt die Adresse?</source>
+        <translation>%1 does not answer. Is the box switched on, and is the address right?</translation>
+    </message>
+    <message>
+        <source>Verbindung abgerissen</source>
+        <translation>connection broken</translation>
+    </message>
+    <message>
+        <source>Die Verbindung zu %1 ist abgerissen. Bitte Stromversorgung und Netzwerkkabel der Box prüfen.</source>
+        <translation>The connection to %1 has broken. Please check the power supply and the network cable of the box.</translation>
+    </message>
+    <message>
+        <source>Störung im Netzwerk</source>
+        <translation>network fault</translation>
+    </message>
+    <message>
+        <source>Die Verbindung zu %1 ist gestört. Bitte Box und Netzwerk prüfen.</source>
+        <translation>The connection to %1 is disturbed. Please check the box and the network.</translation>
+    </message>
+</context>
+<context>
+    <name>LinkReport</name>
+    <message>
+        <source>Die Verbindung wird nicht mehr von selbst aufgebaut.</source>
+        <translation>The connection is no longer made by itself.</translation>
     </message>
 </context>
 <context>
@@ -2092,6 +2206,126 @@ Bitte zuerst ein großes Bild löschen oder durch ein kleineres ersetzen.</sourc
     </message>
 </context>
 <context>
+    <name>Recovery</name>
+    <message>
+        <source>(ohne Namen)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Projekt: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Datei: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stand: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Messungen: %1</source>
+        <translation>Measurements: %1</translation>
+    </message>
+    <message>
+        <source>Messwerte: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die Projektdatei wurde danach noch geändert: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wiederherstellung</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Das Programm wurde beendet, bevor dieses Projekt gespeichert war:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>„Später“ lässt alles, wie es ist; beim nächsten Start wird wieder gefragt.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wiederherstellen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Später</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Verwerfen</source>
+        <translation>Discard</translation>
+    </message>
+    <message>
+        <source>Ungespeicherte Änderungen aus einem früheren Lauf sind nicht lesbar. Sie bleiben aufgehoben:
+%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die ungespeicherten Änderungen bleiben aufgehoben.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Achtung: Diese ungespeicherten Änderungen gehen endgültig verloren!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Behalten</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Endgültig verwerfen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 kann nicht gelöscht werden.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Das geöffnete Projekt ist noch nicht gespeichert.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Es wird durch das wiederhergestellte Projekt ersetzt.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speichern und wiederherstellen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Loading...</source>
+        <translation>Loading...</translation>
+    </message>
+    <message>
+        <source>Das Projekt kann nicht wiederhergestellt werden: Der Speicher reicht nicht. Die Daten bleiben aufgehoben; nach einem Neustart kann es noch einmal versucht werden.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Projekt wiederhergestellt; es ist noch nicht gespeichert.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fehlende Messungen: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Messungen ohne ihren Anfang: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fehlende Bilder: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die Projektdatei fehlt oder wurde inzwischen geändert. Nicht alles konnte wiederhergestellt werden:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>RowRanges</name>
     <message>
         <source>Bereich von %1</source>
@@ -2207,6 +2441,10 @@ Bitte zuerst ein großes Bild löschen oder durch ein kleineres ersetzen.</sourc
     <message>
         <source>Änderung der Abtastrate</source>
         <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die Box misst jetzt wie das Projekt mit %1 ms je Wert.</source>
+        <translation>The box now measures like the project, at %1 ms per value.</translation>
     </message>
 </context>
 <context>
@@ -2581,6 +2819,13 @@ Enter: edit</translation>
     </message>
 </context>
 <context>
+    <name>ShotWatch</name>
+    <message>
+        <source>Messung %1: %2 Werte fehlen.</source>
+        <translation>Measurement %1: %2 values are missing.</translation>
+    </message>
+</context>
+<context>
     <name>Startup</name>
     <message>
         <source>Ventaro ist für diesen Rechner nicht freigeschaltet.
@@ -2591,6 +2836,104 @@ Kennung dieses Rechners:
 
 Identification of this computer:
 %1</translation>
+    </message>
+</context>
+<context>
+    <name>StateLine</name>
+    <message>
+        <source>Nicht mehr versuchen</source>
+        <translation>Stop trying</translation>
+    </message>
+    <message>
+        <source>Die Verbindung nicht mehr von selbst aufbauen</source>
+        <translation>Do not make the connection by itself any more</translation>
+    </message>
+    <message>
+        <source>Gesehen</source>
+        <translation>Seen</translation>
+    </message>
+    <message>
+        <source>Die Meldung ausblenden</source>
+        <translation>Hide this message</translation>
+    </message>
+</context>
+<context>
+    <name>StateText</name>
+    <message>
+        <source>Simulierte Box</source>
+        <translation>Simulated box</translation>
+    </message>
+    <message>
+        <source>seit %1</source>
+        <translation>since %1</translation>
+    </message>
+    <message>
+        <source>Messung %1</source>
+        <translation>Measurement %1</translation>
+    </message>
+    <message>
+        <source>%1 Werte</source>
+        <translation>%1 values</translation>
+    </message>
+    <message>
+        <source>%1 Werte/s</source>
+        <translation>%1 values/s</translation>
+    </message>
+    <message>
+        <source>Verbindung unterbrochen %1–%2</source>
+        <translation>link was lost %1–%2</translation>
+    </message>
+    <message>
+        <source>letzte Messung: %1 Werte fehlen</source>
+        <translation>last measurement: %1 values are missing</translation>
+    </message>
+    <message>
+        <source>Nicht verbunden</source>
+        <translation>Not connected</translation>
+    </message>
+    <message>
+        <source>Verbindung verloren</source>
+        <translation>Connection lost</translation>
+    </message>
+    <message>
+        <source>um %1</source>
+        <translation>at %1</translation>
+    </message>
+    <message>
+        <source>%1. Versuch in %2 s</source>
+        <translation>attempt %1 in %2 s</translation>
+    </message>
+    <message>
+        <source>Aufzeichnung geht dann weiter</source>
+        <translation>recording will go on then</translation>
+    </message>
+    <message>
+        <source>keine Daten seit %1 s</source>
+        <translation>No data for %1 s</translation>
+    </message>
+    <message>
+        <source>Die Box antwortet nicht</source>
+        <translation>The box does not answer</translation>
+    </message>
+    <message>
+        <source>Netzwerkkabel und Stromversorgung prüfen</source>
+        <translation>check network cable and power supply</translation>
+    </message>
+    <message>
+        <source>Aufzeichnung läuft</source>
+        <translation>Recording</translation>
+    </message>
+    <message>
+        <source>Verbunden</source>
+        <translation>Connected</translation>
+    </message>
+    <message>
+        <source>Messungen: %1</source>
+        <translation>Measurements: %1</translation>
+    </message>
+    <message>
+        <source>Verbindung wird aufgebaut ...</source>
+        <translation>Connecting ...</translation>
     </message>
 </context>
 <context>

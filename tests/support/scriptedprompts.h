@@ -40,6 +40,8 @@ public:
     QStringList fileDialogs; ///< "title|filter"
     QStringList fileStarts;  ///< where those for files started
     int addressDialogs = 0;
+    QString addressReason;
+    int withdrawn = 0; ///< dialogs that the program closed by itself
     int unexpected = 0;
     int mostOpenAtOnce = 0;
 
@@ -89,11 +91,14 @@ public:
     std::optional<QString> askAddress(const QString &) override
     {
         ++addressDialogs;
+        const int withdrawnBefore = withdrawn;
         const QString address = answer(addresses, QString());
-        if (address.isEmpty())
+        if (address.isEmpty() || withdrawn != withdrawnBefore)
             return std::nullopt;
         return address;
     }
+    void withdraw() override { ++withdrawn; }
+    void setAddressReason(const QString &reason) override { addressReason = reason; }
 
     void setUninvited(bool uninvitedNow) override { m_isUninvited = uninvitedNow; }
 

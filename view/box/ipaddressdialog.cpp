@@ -29,6 +29,11 @@ IPAddressDialog::IPAddressDialog(const QString &current, Validator isValid, QWid
                       .arg(theme::colorBackground));
     auto *heading = new QLabel(tr("<b>Verbindung abgebrochen</b>"), this);
     heading->setStyleSheet(QStringLiteral("QLabel {font-size: 28px; color: %1;}").arg(theme::colorPrimary));
+    m_reason = new QLabel(this);
+    m_reason->setObjectName(QStringLiteral("labelReason"));
+    m_reason->setTextFormat(Qt::PlainText);
+    m_reason->setWordWrap(true);
+    m_reason->hide();
     auto *label = new QLabel(tr("Unter anderer IP-Adresse verbinden:"), this);
     m_edit = new QtMaterialTextField(this);
     m_edit->setText(current);
@@ -62,10 +67,17 @@ void IPAddressDialog::layOut(QLabel *heading, QLabel *label)
     column->setContentsMargins(32, 24, 32, 24);
     column->setSpacing(12);
     column->addWidget(heading);
+    column->addWidget(m_reason);
     column->addWidget(label);
     column->addWidget(m_edit);
     column->addLayout(buttons);
     setMinimumWidth(kWidth);
+}
+
+void IPAddressDialog::setReason(const QString &reason)
+{
+    m_reason->setText(reason);
+    m_reason->setVisible(!reason.isEmpty());
 }
 
 QString IPAddressDialog::address() const

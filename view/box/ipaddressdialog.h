@@ -19,6 +19,8 @@ public:
     /// Without a validator every text that is not blank is valid.
     IPAddressDialog(const QString &current, Validator isValid, QWidget *parent = nullptr);
 
+    /// Why the user is asked, below the heading; empty: nothing is shown.
+    void setReason(const QString &reason);
     /// As typed, without blanks around it.
     [[nodiscard]] QString address() const;
 
@@ -27,6 +29,7 @@ private:
     void layOut(QLabel *heading, QLabel *label);
 
     Validator m_isValid;
+    QLabel *m_reason = nullptr;
     QtMaterialTextField *m_edit = nullptr;
     QPushButton *m_ok = nullptr;
     QPushButton *m_cancel = nullptr;

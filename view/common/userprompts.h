@@ -31,6 +31,10 @@ public:
     [[nodiscard]] virtual QString openFolder(const QString &title, const QString &folder) = 0;
     /// The reconnect dialog; nothing if it was rejected. The answer looks like an IPv4 address or a host name.
     [[nodiscard]] virtual std::optional<QString> askAddress(const QString &current) = 0;
+    /// Closes the dialog that is open, if any, as if the user had.
+    virtual void withdraw() {}
+    /// Why askAddress() is about to be asked; empty: without a reason.
+    virtual void setAddressReason(const QString & /*reason*/) {}
     /// Decides which texts askAddress() accepts; an implementation may ignore it.
     // NOLINTNEXTLINE(performance-unnecessary-value-param): who has use for it keeps it
     virtual void setAddressValidator(std::function<bool(const QString &)> /*isValid*/) {}

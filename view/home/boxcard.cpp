@@ -80,6 +80,34 @@ void BoxCard::setAddresses(const QStringList &addresses)
     showAddresses();
 }
 
+void BoxCard::setDescriptions(const QHash<QString, QString> &descriptions)
+{
+    m_descriptions = descriptions;
+    showAddresses();
+}
+
+void BoxCard::setAnswer(const QString &address, bool answers)
+{
+    m_answers.insert(address, answers);
+    showAddresses();
+}
+
+void BoxCard::forgetAnswers()
+{
+    if (m_answers.isEmpty())
+        return;
+    m_answers.clear();
+    showAddresses();
+}
+
+QString BoxCard::answerText(const QString &address) const
+{
+    const auto found = m_answers.constFind(address);
+    if (found == m_answers.constEnd())
+        return {};
+    return *found ? tr("antwortet") : tr("keine Antwort");
+}
+
 void BoxCard::showConnectText()
 {
     if (!m_connectAction)
@@ -108,7 +136,7 @@ void BoxCard::showAddresses()
     for (std::size_t i = 0; i < m_addressButtons.size(); ++i) {
         const QString address = m_addresses.value(static_cast<int>(i));
         RecentButton *button = m_addressButtons[i];
-        button->setEntry(address);
+        button->setEntry(address, m_descriptions.value(address), answerText(address));
         button->setToolTip(tr("Mit %1 verbinden").arg(address));
         button->setAccessibleName(button->toolTip());
         button->setVisible(!address.isEmpty());

@@ -4,6 +4,7 @@
 #include "view/common/demostate.h"
 #include "view/home/homecard.h"
 
+#include <QHash>
 #include <QStringList>
 
 #include <array>
@@ -25,6 +26,11 @@ public:
     void setDemoState(DemoState state);
     /// The newest first.
     void setAddresses(const QStringList &addresses);
+    [[nodiscard]] QStringList addresses() const { return m_addresses; }
+    /// By address.
+    void setDescriptions(const QHash<QString, QString> &descriptions);
+    void setAnswer(const QString &address, bool answers);
+    void forgetAnswers();
 
 signals:
     void connectRequested(const QString &address);
@@ -40,11 +46,14 @@ private:
     void showConnectText();
     void showDemo();
     void showAddresses();
+    [[nodiscard]] QString answerText(const QString &address) const;
     void retranslateUi();
 
     const QAction *m_connectAction = nullptr;
     DemoState m_demoState = DemoState::Unavailable;
     QStringList m_addresses;
+    QHash<QString, QString> m_descriptions;
+    QHash<QString, bool> m_answers; ///< of those that were asked
     QPushButton *m_connect = nullptr;
     QPushButton *m_demo = nullptr;
     QLabel *m_demoHint = nullptr;

@@ -154,6 +154,31 @@ void TabHome::setRecentAddresses(const QStringList &addresses)
     m_boxCard->setAddresses(addresses);
 }
 
+QStringList TabHome::recentAddresses() const
+{
+    return m_boxCard->addresses();
+}
+
+void TabHome::setBoxDescriptions(const QHash<QString, QString> &descriptions)
+{
+    m_boxCard->setDescriptions(descriptions);
+}
+
+void TabHome::describeBox(const QString &address, const QString &description)
+{
+    emit boxDescribed(address, description);
+}
+
+void TabHome::setBoxAnswer(const QString &address, bool answers)
+{
+    m_boxCard->setAnswer(address, answers);
+}
+
+void TabHome::forgetBoxAnswers()
+{
+    m_boxCard->forgetAnswers();
+}
+
 void TabHome::updateFromModel()
 {
     if (m_model)

@@ -3,6 +3,7 @@
 #include "view/common/demostate.h"
 #include "view/home/boxstatecard.h"
 
+#include <QHash>
 #include <QWidget>
 
 class BoxCard;
@@ -35,6 +36,15 @@ public:
     /// Looks again which of them are there.
     void refreshRecentProjects();
     void setRecentAddresses(const QStringList &addresses);
+    [[nodiscard]] QStringList recentAddresses() const;
+    /// What the boxes at these addresses have said about themselves.
+    void setBoxDescriptions(const QHash<QString, QString> &descriptions);
+    /// A box at one of the recent addresses has said this about itself.
+    void describeBox(const QString &address, const QString &description);
+    /// Whether the box takes connections now.
+    void setBoxAnswer(const QString &address, bool answers);
+    /// It is not known any more which of them do.
+    void forgetBoxAnswers();
     /// Connection and number of shots, from the model.
     void updateFromModel();
 
@@ -43,6 +53,7 @@ signals:
     void openRequested(const QString &file);
     void projectRemoved(const QString &file);
     void demoClicked();
+    void boxDescribed(const QString &address, const QString &description);
 
 protected:
     void changeEvent(QEvent *event) override;

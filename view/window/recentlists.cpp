@@ -13,6 +13,8 @@ namespace {
 constexpr int kLongestPath = 4096;
 const QString kProjectsKey = QStringLiteral("recentProjects");
 const QString kAddressesKey = QStringLiteral("recentAddresses");
+const QString kDescriptionsKey = QStringLiteral("recentBoxDescriptions"); // in the order of the addresses
+constexpr int kLongestDescription = 200;
 
 bool isProjectPath(const QString &text)
 {
@@ -27,6 +29,7 @@ RecentLists::RecentLists(TabHome *page)
     : m_page(page)
 {
     connect(page, &TabHome::projectRemoved, this, &RecentLists::forgetProject);
+    connect(page, &TabHome::boxDescribed, this, &RecentLists::describeBox);
 }
 
 void RecentLists::read()
@@ -36,8 +39,19 @@ void RecentLists::read()
     m_addresses = recentlist::fromSettings(stored.value(kAddressesKey), [this](const QString &address) {
         return !address.isEmpty() && (!m_isValidAddress || m_isValidAddress(address));
     });
+    const QStringList described = stored.value(kAddressesKey).toStringList();
+    const QStringList descriptions = stored.value(kDescriptionsKey).toStringList();
+    m_descriptions.clear();
+    for (const QString &address : qAsConst(m_addresses))
+        m_descriptions.insert(address, descriptions.value(described.indexOf(address)).left(kLongestDescription));
     m_page->setRecentProjects(m_projects);
+    showBoxes();
+}
+
+void RecentLists::showBoxes()
+{
     m_page->setRecentAddresses(m_addresses);
+    m_page->setBoxDescriptions(m_descriptions);
 }
 
 void RecentLists::setAddressValidator(std::function<bool(const QString &)> isValid)
@@ -73,6 +87,25 @@ void RecentLists::rememberAddress(const QString &address)
 {
     read();
     m_addresses = recentlist::withFront(m_addresses, address, Qt::CaseInsensitive);
-    programSettings().setValue(kAddressesKey, m_addresses);
-    m_page->setRecentAddresses(m_addresses);
+    storeBoxes();
+}
+
+void RecentLists::describeBox(const QString &address, const QString &description)
+{
+    read();
+    if (!m_addresses.contains(address))
+        return;
+    m_descriptions.insert(address, description.left(kLongestDescription));
+    storeBoxes();
+}
+
+void RecentLists::storeBoxes()
+{
+    QStringList descriptions;
+    for (const QString &address : qAsConst(m_addresses))
+        descriptions << m_descriptions.value(address);
+    QSettings settings = programSettings();
+    settings.setValue(kAddressesKey, m_addresses);
+    settings.setValue(kDescriptionsKey, descriptions);
+    showBoxes();
 }

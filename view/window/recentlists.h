@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QObject>
 #include <QStringList>
 
@@ -26,9 +27,13 @@ public:
 private:
     void forgetProject(const QString &file);
     void storeProjects();
+    void describeBox(const QString &address, const QString &description);
+    void storeBoxes();
+    void showBoxes();
 
     TabHome *m_page;
     QStringList m_projects;
     QStringList m_addresses;
+    QHash<QString, QString> m_descriptions; // of the boxes, by address
     std::function<bool(const QString &)> m_isValidAddress;
 };

@@ -33,6 +33,7 @@ void fill(Model &model)
     meta.sensors[2].chosenQuantity = "mean"_s;
     meta.sensors[2].at("mean"_s) = {"mean"_s, true, 1.0, std::nullopt};
     meta.sensors[2].at("marker1"_s) = {"marker1"_s, false, std::nullopt, 0.3};
+    meta.setMissingValues(2, 34);
     model.setProjectMeta(meta);
     model.setShotLabel(1, "Anfahrteil \"ö\"\n"_s);
     model.setTimestamp(0, kMorning);
@@ -67,6 +68,8 @@ private slots:
         QCOMPARE(opened.timestamp(0), kMorning);
         QVERIFY(!opened.timestamp(1).isValid());
         QCOMPARE(opened.timestamp(2), kMorning.addSecs(60));
+        QCOMPARE(opened.projectMeta().missing(0), 0);
+        QCOMPARE(opened.projectMeta().missing(2), 34);
         QVERIFY(!opened.isProjectModified());
         opened.clear();
         QVERIFY(opened.projectMeta() == ProjectMeta());
@@ -151,6 +154,7 @@ private slots:
         QVERIFY(model.deleteChannel(0));
         QCOMPARE(model.shotLabel(0), "Anfahrteil \"ö\"\n"_s);
         QCOMPARE(model.timestamp(1), kMorning.addSecs(60));
+        QCOMPARE(model.projectMeta().missing(1), 34);
         model.clearData();
         addShots(model, 2);
         QCOMPARE(model.shotLabel(0), QString());

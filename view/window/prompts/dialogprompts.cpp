@@ -293,9 +293,21 @@ QString DialogPrompts::openFolder(const QString &title, const QString &folder)
 std::optional<QString> DialogPrompts::askAddress(const QString &current)
 {
     IPAddressDialog dialog(current, m_isValid, m_window);
+    dialog.setReason(m_addressReason);
     if (run(dialog) == QDialog::Accepted)
         return dialog.address();
     return std::nullopt;
+}
+
+void DialogPrompts::withdraw()
+{
+    if (auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
+        dialog->reject();
+}
+
+void DialogPrompts::setAddressReason(const QString &reason)
+{
+    m_addressReason = reason;
 }
 
 void DialogPrompts::setAddressValidator(std::function<bool(const QString &)> isValid)

@@ -27,6 +27,8 @@ public:
     [[nodiscard]] QString saveFileName(const QString &title, const QString &start, const QString &filter) override;
     [[nodiscard]] QString openFolder(const QString &title, const QString &folder) override;
     [[nodiscard]] std::optional<QString> askAddress(const QString &current) override;
+    void withdraw() override;
+    void setAddressReason(const QString &reason) override;
     void setAddressValidator(std::function<bool(const QString &)> isValid) override;
     void setUninvited(bool uninvited) override { m_isUninvited = uninvited; }
 
@@ -42,6 +44,7 @@ private:
 
     QPointer<QWidget> m_window;
     std::function<bool(const QString &)> m_isValid;
+    QString m_addressReason;
     int m_typingPause;
     bool m_isUninvited = false;
 };

@@ -186,6 +186,17 @@ std::optional<QString> Questions::address(const QString &current)
     return oneAtATime(std::optional<QString>(), [&] { return m_prompts->askAddress(current); });
 }
 
+void Questions::setAddressReason(const QString &reason)
+{
+    m_prompts->setAddressReason(reason);
+}
+
+void Questions::withdraw()
+{
+    if (m_asking)
+        m_prompts->withdraw();
+}
+
 void Questions::setAddressValidator(std::function<bool(const QString &)> isValid)
 {
     m_prompts->setAddressValidator(std::move(isValid));

@@ -68,6 +68,10 @@ public:
                                              const FileStart &start = {});
     [[nodiscard]] QString folder(const QString &title);
     [[nodiscard]] std::optional<QString> address(const QString &current);
+    /// Shown by the next one of address().
+    void setAddressReason(const QString &reason);
+    /// Closes the dialog that is open, if any, as if the user had.
+    void withdraw();
     void setAddressValidator(std::function<bool(const QString &)> isValid);
 
     /// Where file dialogs start; empty: where the dialog itself does.
