@@ -47,3 +47,5 @@ enum class ScpOutcome { Done, Refused, NotStarted, NotFinished, Failed, Crashed,
 [[nodiscard]] ScpOutcome scpOutcome(const ScpResult &result);
 /// What the user is told; nothing after a success or if the user ended the run.
 [[nodiscard]] std::optional<ScpMessage> scpMessage(const ScpResult &result, const ScpCommand &command);
+/// What the user is told if the tool has found another key at the box than before.
+[[nodiscard]] std::optional<ScpMessage> newKeyMessage(const ScpResult &result);
