@@ -12,6 +12,7 @@ namespace {
 
 constexpr int kMetaVersion = 1;
 constexpr int kMostQuantities = 1000; // of one sensor
+constexpr int kLongestOrigin = 5000;  // characters of each of its texts
 
 const QString kVersionKey = QStringLiteral("metaVersion");
 const QString kSensorsKey = QStringLiteral("sensors");
@@ -27,6 +28,10 @@ const QString kUpperKey = QStringLiteral("upperLimit");
 const QString kCheckKey = QStringLiteral("check");
 const QString kLabelKey = QStringLiteral("label");
 const QString kTimeKey = QStringLiteral("time");
+const QString kOriginKey = QStringLiteral("origin");
+const QString kBoxKey = QStringLiteral("box");
+const QString kFileKey = QStringLiteral("file");
+const QString kHashKey = QStringLiteral("sha1");
 
 std::optional<double> toLimit(const QJsonValue &value)
 {
@@ -54,13 +59,29 @@ QJsonObject toJson(const SensorMeta &sensor)
             {kQuantitiesKey, quantities}};
 }
 
-QJsonObject toJson(quint32 check, const QString &label, const QDateTime &timestamp)
+QJsonObject toJson(const ShotOrigin &origin)
+{
+    QJsonObject object{{kFileKey, origin.file}, {kHashKey, QString::fromLatin1(origin.hash.toHex())}};
+    if (!origin.box.isEmpty())
+        object.insert(kBoxKey, origin.box);
+    return object;
+}
+
+ShotOrigin toOrigin(const QJsonObject &object)
+{
+    const auto text = [&object](const QString &key) { return object.value(key).toString().left(kLongestOrigin); };
+    return {text(kBoxKey), text(kFileKey), QByteArray::fromHex(text(kHashKey).toLatin1())};
+}
+
+QJsonObject toJson(quint32 check, const QString &label, const QDateTime &timestamp, const ShotOrigin &origin)
 {
     QJsonObject object{{kCheckKey, double(check)}};
     if (!label.isEmpty())
         object.insert(kLabelKey, label);
     if (timestamp.isValid())
         object.insert(kTimeKey, timestamp.toUTC().toString(Qt::ISODateWithMs));
+    if (origin.isKnown())
+        object.insert(kOriginKey, toJson(origin));
     return object;
 }
 
@@ -101,6 +122,7 @@ void readShots(ProjectMeta &meta, const QJsonArray &shots, const ShotChecks &che
     const std::size_t count = std::min(checks.size(), static_cast<std::size_t>(shots.size()));
     meta.labels.resize(count);
     meta.timestamps.resize(count);
+    meta.origins.resize(count);
     for (std::size_t i = 0; i < count; ++i) {
         const QJsonObject shot = shots.at(static_cast<int>(i)).toObject();
         // Another check number: the project was changed without this file, and the label belongs to another shot.
@@ -110,6 +132,7 @@ void readShots(ProjectMeta &meta, const QJsonArray &shots, const ShotChecks &che
         const QString time = shot.value(kTimeKey).toString();
         const QDateTime timestamp = QDateTime::fromString(time, Qt::ISODateWithMs);
         meta.timestamps[i] = timestamp.isValid() ? timestamp.toLocalTime() : QDateTime();
+        meta.origins[i] = toOrigin(shot.value(kOriginKey).toObject());
     }
 }
 
@@ -137,7 +160,8 @@ bool ProjectMeta::isBlank() const
     return sensors == ProjectMeta().sensors
            && std::all_of(labels.begin(), labels.end(), [](const QString &label) { return label.isEmpty(); })
            && std::none_of(timestamps.begin(), timestamps.end(),
-                           [](const QDateTime &timestamp) { return timestamp.isValid(); });
+                           [](const QDateTime &timestamp) { return timestamp.isValid(); })
+           && std::none_of(origins.begin(), origins.end(), [](const ShotOrigin &origin) { return origin.isKnown(); });
 }
 
 QString ProjectMeta::label(int shot) const
@@ -160,11 +184,22 @@ void ProjectMeta::setTimestamp(int shot, const QDateTime &timestamp)
     setElement(timestamps, static_cast<std::size_t>(shot), timestamp);
 }
 
+ShotOrigin ProjectMeta::origin(int shot) const
+{
+    return elementOf(origins, static_cast<std::size_t>(shot));
+}
+
+void ProjectMeta::setOrigin(int shot, const ShotOrigin &origin)
+{
+    setElement(origins, static_cast<std::size_t>(shot), origin);
+}
+
 void ProjectMeta::keepShots(int count)
 {
     const auto most = static_cast<std::size_t>(count);
     labels.resize(std::min(most, labels.size()));
     timestamps.resize(std::min(most, timestamps.size()));
+    origins.resize(std::min(most, origins.size()));
 }
 
 void ProjectMeta::removeShot(int shot)
@@ -174,6 +209,8 @@ void ProjectMeta::removeShot(int shot)
         labels.erase(labels.begin() + shot);
     if (index < timestamps.size())
         timestamps.erase(timestamps.begin() + shot);
+    if (index < origins.size())
+        origins.erase(origins.begin() + shot);
 }
 
 bool operator==(const QuantityMeta &a, const QuantityMeta &b)
@@ -189,7 +226,7 @@ bool operator==(const SensorMeta &a, const SensorMeta &b)
 
 bool operator==(const ProjectMeta &a, const ProjectMeta &b)
 {
-    return a.sensors == b.sensors && a.labels == b.labels && a.timestamps == b.timestamps;
+    return a.sensors == b.sensors && a.labels == b.labels && a.timestamps == b.timestamps && a.origins == b.origins;
 }
 
 QString metaFileName(const QString &projectFile)
@@ -204,7 +241,8 @@ bool writeProjectMeta(QIODevice &target, const ProjectMeta &meta, const ShotChec
         sensors.append(toJson(sensor));
     QJsonArray shots;
     for (std::size_t i = 0; i < checks.size(); ++i)
-        shots.append(toJson(checks[i], elementOf(meta.labels, i), elementOf(meta.timestamps, i)));
+        shots.append(
+            toJson(checks[i], elementOf(meta.labels, i), elementOf(meta.timestamps, i), elementOf(meta.origins, i)));
     const QJsonObject root{{kVersionKey, kMetaVersion}, {kSensorsKey, sensors}, {kShotsKey, shots}};
     const QByteArray text = QJsonDocument(root).toJson(QJsonDocument::Compact);
     return target.write(text) == text.size();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/project/shotorigin.h"
 #include "model/sensordescription.h"
 
 #include <QDateTime>
@@ -43,6 +44,7 @@ struct ProjectMeta
     std::array<SensorMeta, kNumSensors> sensors;
     std::vector<QString> labels;       ///< one per shot, from the first on; may be shorter than the list of shots
     std::vector<QDateTime> timestamps; ///< the same; a null date-time for a shot without one
+    std::vector<ShotOrigin> origins;   ///< the same; unknown for a shot that was not imported
 
     /// True if there is nothing that a file would have to keep.
     [[nodiscard]] bool isBlank() const;
@@ -53,9 +55,11 @@ struct ProjectMeta
     /// A null date-time for a shot without one.
     [[nodiscard]] QDateTime timestamp(int shot) const;
     void setTimestamp(int shot, const QDateTime &timestamp);
-    /// Labels and time stamps of the shots behind move down by one.
+    [[nodiscard]] ShotOrigin origin(int shot) const;
+    void setOrigin(int shot, const ShotOrigin &origin);
+    /// Labels, time stamps and origins of the shots behind move down by one.
     void removeShot(int shot);
-    /// Drops labels and time stamps behind the first `count` shots.
+    /// Drops labels, time stamps and origins behind the first `count` shots.
     void keepShots(int count);
     void clearShots() { keepShots(0); }
 };
