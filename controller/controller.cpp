@@ -133,7 +133,7 @@ void Controller::onSaveProjectAs()
 void Controller::onImportBlackBox()
 {
     qCDebug(lcController) << Q_FUNC_INFO;
-    d->loggerList.requestIfPossible();
+    d->logger.list.requestIfPossible();
 }
 
 void Controller::onFirmwareUpdate()
@@ -213,31 +213,31 @@ void Controller::onTabOszi_checkBoxMarkerAbsClicked(bool absolute)
 void Controller::onTabBlackBox_listClicked()
 {
     qCDebug(lcController) << Q_FUNC_INFO;
-    d->loggerList.request();
+    d->logger.list.request();
 }
 
 void Controller::onTabBlackBox_importClicked(const QStringList &files)
 {
     qCDebug(lcController) << Q_FUNC_INFO;
-    d->loggerImport.run(files);
+    d->logger.import.run(files);
 }
 
 void Controller::onTabBlackBox_fetchBlackBoxDataClicked()
 {
     qCDebug(lcController) << Q_FUNC_INFO;
-    d->loggerFetch.fetchSelected();
+    d->logger.fetch.fetchSelected();
 }
 
 void Controller::onTabBlackBox_openLocalFolderClicked()
 {
     qCDebug(lcController) << Q_FUNC_INFO;
-    d->loggerFetch.openLocalFolder();
+    d->logger.local.open();
 }
 
 QStringList Controller::copyLocalDirToTmpDir(const QString &localDirectory, const QDir &temporaryDirectory)
 {
     qCDebug(lcController) << Q_FUNC_INFO;
-    return d->loggerFetch.copyLocal(localDirectory, temporaryDirectory);
+    return d->logger.local.copy(localDirectory, temporaryDirectory);
 }
 
 // --- The link and its messages ---

@@ -36,9 +36,8 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     , saving({view, model, occupancy}, progress, lines, edits)
     , files({view, model, occupancy}, progress, lines, edits, saving)
     , pictures({view, model, occupancy}, edits)
-    , loggerList({view, model, occupancy}, link)
-    , loggerFetch({view, model, occupancy}, connector, demo, transfers, options.temporaryDirectory)
-    , loggerImport({view, model, occupancy}, progress, lines, edits, recorder)
+    , logger({{view, model, occupancy}, link, connector, demo, transfers, progress, lines, edits, recorder},
+             options.temporaryDirectory)
 {
     setUpTransfers(options);
     handleMessages();
@@ -67,9 +66,9 @@ void ControllerParts::handleMessages()
     dispatch.setHandler(MessageKind::RunStarted, [this](const QString &) { recorder.started(); });
     dispatch.setHandler(MessageKind::RunStopped, [this](const QString &) { recorder.stopped(); });
     dispatch.setHandler(MessageKind::ClockEcho, [this](const QString &message) { period.takeEcho(message); });
-    dispatch.setHandler(MessageKind::ListBegin, [this](const QString &) { loggerList.begin(); });
-    dispatch.setHandler(MessageKind::ListEnd, [this](const QString &) { loggerList.finish(); });
-    dispatch.setHandler(MessageKind::Other, [this](const QString &message) { loggerList.take(message); });
+    dispatch.setHandler(MessageKind::ListBegin, [this](const QString &) { logger.list.begin(); });
+    dispatch.setHandler(MessageKind::ListEnd, [this](const QString &) { logger.list.finish(); });
+    dispatch.setHandler(MessageKind::Other, [this](const QString &message) { logger.list.take(message); });
 }
 
 /// Receivers of the same signal are called in the order of these lines. Parts that are no QObjects are called by a
@@ -84,8 +83,10 @@ void ControllerParts::connectLink(View &view)
     // What the box sent before the end of the link comes first.
     QObject::connect(&link, &BoxLink::closing, &link, [this] { lines.flush(); });
     QObject::connect(&link, &BoxLink::closing, &descriptions, &BoxDescriptions::stopWaiting);
-    QObject::connect(&link, &BoxLink::closing, &loggerList, &LoggerList::reset);
+    QObject::connect(&link, &BoxLink::closing, &logger.list, &LoggerList::reset);
     QObject::connect(&link, &BoxLink::left, &demo, &DemoLink::stop);
+    QObject::connect(&link, &BoxLink::left, &logger.list, &LoggerList::forget);
+    QObject::connect(&link, &BoxLink::established, &logger.list, [this] { logger.list.show(connector.hostAddress()); });
     QObject::connect(&link, &BoxLink::demoLost, &demo, [this] { demo.onFailed(DemoBox::End::Ended); });
     QObject::connect(&demoBox, &DemoBox::listening, &demo, &DemoLink::onListening);
     QObject::connect(&demoBox, &DemoBox::failed, &demo, &DemoLink::onFailed);
@@ -111,9 +112,9 @@ void ControllerParts::connectView(View &view)
     QObject::connect(&view, &View::connectToAddress, &link, &BoxLink::connectToAddress);
     QObject::connect(&view, &View::terminalSend, &link, &BoxLink::sendTerminalLine);
     QObject::connect(&view, &View::about, &view, &View::showAbout);
-    // The progress shown is that of an attempt to connect or of a fetch; the other one ignores this.
+    // The progress shown is that of an attempt to connect, of a fetch or of a copy; the others ignore this.
     QObject::connect(&view, &View::progressCancelled, &link, &BoxLink::giveUp);
-    QObject::connect(&view, &View::progressCancelled, &link, [this] { loggerFetch.cancel(); });
+    QObject::connect(&view, &View::progressCancelled, &link, [this] { logger.cancel(); });
 }
 
 void ControllerParts::connectTabs(View &view)

@@ -7,9 +7,7 @@
 #include "controller/link/firmwareupdate.h"
 #include "controller/link/projectoffer.h"
 #include "controller/link/samplingperiod.h"
-#include "controller/logger/loggerfetch.h"
-#include "controller/logger/loggerimport.h"
-#include "controller/logger/loggerlist.h"
+#include "controller/logger/loggerparts.h"
 #include "controller/logger/transferdialogs.h"
 #include "controller/occupancy.h"
 #include "controller/project/fileprogress.h"
@@ -62,9 +60,7 @@ struct ControllerParts
     ProjectSaving saving;
     ProjectFiles files;
     ProjectPictures pictures;
-    LoggerList loggerList;
-    LoggerFetch loggerFetch;
-    LoggerImport loggerImport;
+    LoggerParts logger;
 
 private:
     void setUpTransfers(const ControllerOptions &options);

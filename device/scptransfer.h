@@ -50,6 +50,8 @@ public:
     [[nodiscard]] bool hadNewKey() const { return m_hadNewKey; }
     /// Puts a local file onto the box.
     ScpOutcome upload(const QString &address, const QString &fileName);
+    /// Where a transfer for this address goes: to the default one if it is empty.
+    [[nodiscard]] QString usedAddress(const QString &address) const { return account(address).address; }
     /// True while the tool runs or is being started or ended.
     [[nodiscard]] bool isRunning() const { return m_running; }
     /// Ends the tool, if it runs.

@@ -18,11 +18,11 @@ ScpMessage failed(const ScpResult &result)
     const QString output = result.standardOutput + QLatin1String("\n*******\n") + result.standardError;
     const QString text = ScpTexts::tr("SCP was NOT successful!!\n\nPlease check output:") + output;
     if (!isRefusedKey(result.standardError))
-        return {ScpTexts::tr("SCP Problem"), text, true};
+        return {ScpTexts::tr("SCP Problem"), text, true, true};
     const QString next = ScpTexts::tr("Unter dieser Adresse antwortet ein anderes Gerät als bisher, und so ist es "
                                       "eingestellt: Ein solches wird abgewiesen (VENTARO_SCP_REFUSE_NEW_KEY). Ist es "
                                       "die richtige Box, bitte die Einstellung für eine Übertragung weglassen.");
-    return {ScpTexts::tr("SCP Problem"), text + QLatin1String("\n\n") + next, true};
+    return {ScpTexts::tr("SCP Problem"), text + QLatin1String("\n\n") + next, true, true};
 }
 
 } // namespace
@@ -54,7 +54,7 @@ std::optional<ScpMessage> scpMessage(const ScpResult &result, const ScpCommand &
     case ScpOutcome::Failed:
         return failed(result);
     case ScpOutcome::Crashed:
-        return ScpMessage{ScpTexts::tr("Problem"), ScpTexts::tr("The tool stopped!"), false};
+        return ScpMessage{ScpTexts::tr("Problem"), ScpTexts::tr("The tool stopped!"), false, true};
     case ScpOutcome::Done:
     case ScpOutcome::Refused:
     case ScpOutcome::Cancelled:

@@ -39,6 +39,7 @@ struct ScpMessage
     QString title;
     QString text;
     bool isWarning = false;
+    bool isOfThisTransfer = false; ///< the next one may succeed
 };
 
 /// How a transfer ended for its caller; everything but Done and Cancelled has been reported to the user.
