@@ -17,5 +17,7 @@ struct ControllerOptions
     QString temporaryDirectory = QStringLiteral("tmp-blackbox-dir"); ///< for what is fetched; created when missing
     QString demoProgram;                                             ///< empty: the simulator beside the program
     int demoStartTimeout = DemoBox::kStartTimeout;                   ///< ms
+    int stopWait = 500;     ///< ms; how long the box may take to confirm the end of a recording that is to be saved
+    int typingPause = 1000; ///< ms without a key before a question that the box causes may open over a field
     int restartWait = 3000; ///< ms; how long the firmware dialog waits for a connection
 };

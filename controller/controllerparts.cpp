@@ -11,33 +11,32 @@
 ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptions &options)
     : connector(options.port)
     , demoBox(options.demoProgram, options.demoStartTimeout)
-    , occupancy(view, model)
+    , occupancy(view, model, options.typingPause)
     , questions(occupancy)
     , progress(view, model)
     , display(view)
     , edits(model)
     , recorder(model, edits, connector, display)
-    , lines(connector, model,
-            [this, &view](const QString &line) {
-                view.terminalReceived(line); // when its turn comes, like its effect
-                dispatch.dispatch(line);
-            })
+    , lines(connector, model, [this, &view](const QString &line) { takeLine(view, line); })
     , link({view, model, occupancy}, connector, demoBox, questions, recorder, options.deviceAddress)
     , demo({view, model, occupancy}, demoBox, link, questions)
     , descriptions(view, model, connector, edits, recorder,
                    {options.deviceDescriptionTimeout, options.sensorDescriptionTimeout})
     , period({view, model, occupancy}, connector, edits, recorder)
     , offer({view, model, occupancy}, questions, lines, edits)
-    , transfers({view, model, occupancy})
     , firmware({view, model, occupancy}, connector, link, demo, options.restartWait)
     , recording({view, model, occupancy}, recorder, link)
     , deletion({view, model, occupancy}, edits, recorder)
     , tabEdits(view, model, edits)
     , saving({view, model, occupancy}, progress, lines, edits)
-    , files({view, model, occupancy}, progress, lines, edits, saving)
+    , files({view, model, occupancy}, progress, lines, edits, saving,
+            RecordingEnd({view, model, occupancy}, connector, recorder, options.stopWait))
+    , openNotice({view, model, occupancy})
     , pictures({view, model, occupancy}, edits)
-    , logger({{view, model, occupancy}, link, connector, demo, transfers, progress, lines, edits, recorder},
+    , logger({{view, model, occupancy}, link, connector, demo, progress, lines, edits, recorder},
              options.temporaryDirectory)
+    , undoHistory(model)
+    , undo({view, model, occupancy}, undoHistory, edits, recorder)
 {
     setUpTransfers(options);
     handleMessages();
@@ -54,11 +53,18 @@ ControllerParts::~ControllerParts()
     QObject::disconnect(&demoBox, nullptr, nullptr, nullptr);
 }
 
+/// When its turn comes.
+void ControllerParts::takeLine(View &view, const QString &line)
+{
+    view.terminalReceived(line);
+    dispatch.dispatch(line);
+}
+
 void ControllerParts::setUpTransfers(const ControllerOptions &options)
 {
     connector.scp().setOptions(
         {options.scpToolFile, theme::deviceUser, theme::devicePassword, options.deviceAddress, options.scpTimeouts});
-    transfers.attach(connector.scp());
+    logger.dialogs.attach(connector.scp());
 }
 
 void ControllerParts::handleMessages()
@@ -87,6 +93,7 @@ void ControllerParts::connectLink(View &view)
     QObject::connect(&link, &BoxLink::left, &demo, &DemoLink::stop);
     QObject::connect(&link, &BoxLink::left, &logger.list, &LoggerList::forget);
     QObject::connect(&link, &BoxLink::established, &logger.list, [this] { logger.list.show(connector.hostAddress()); });
+    QObject::connect(&link, &BoxLink::left, &link, [this] { offer.withdraw(); });
     QObject::connect(&link, &BoxLink::demoLost, &demo, [this] { demo.onFailed(DemoBox::End::Ended); });
     QObject::connect(&demoBox, &DemoBox::listening, &demo, &DemoLink::onListening);
     QObject::connect(&demoBox, &DemoBox::failed, &demo, &DemoLink::onFailed);
@@ -97,11 +104,18 @@ void ControllerParts::connectLink(View &view)
 
 void ControllerParts::connectFiles()
 {
+    QObject::connect(&files, &ProjectFiles::boxDismissed, &link, &BoxLink::leaveForAnother);
     QObject::connect(&files, &ProjectFiles::boxGivenUp, &link, &BoxLink::leave);
+    QObject::connect(&files, &ProjectFiles::projectReplaced, &files, [this] {
+        offer.forgetAnswers();
+        recorder.restartShotClock();
+    });
     QObject::connect(&files, &ProjectFiles::cleared, &descriptions, &BoxDescriptions::describeAgain);
     QObject::connect(&files, &ProjectFiles::measurementsReplaced, &files, [this] { recorder.forgetSeries(); });
     QObject::connect(&files, &ProjectFiles::shown, &files, [this] { recorder.announceRunning(); });
     QObject::connect(&files, &ProjectFiles::shown, &period, &SamplingPeriod::matchProject);
+    QObject::connect(&files, &ProjectFiles::projectReplaced, &openNotice, &OpenNotice::show);
+    QObject::connect(&undo, &UndoControl::samplingPeriodChanged, &period, &SamplingPeriod::matchProject);
     QObject::connect(&files, &ProjectFiles::quitting, &files, [this] { recorder.requestStop(); });
 }
 
@@ -134,6 +148,7 @@ void ControllerParts::connectTabs(View &view)
 
     const TabSensors *sensors = view.tabSensors();
     QObject::connect(sensors, &TabSensors::sensorNameEdited, &tabEdits, &TabEdits::setSensorName);
+    QObject::connect(sensors, &TabSensors::sensorUnitEdited, &tabEdits, &TabEdits::setSensorUnit);
     QObject::connect(sensors, &TabSensors::sensorColorEdited, &tabEdits, &TabEdits::setSensorColor);
     QObject::connect(sensors, &TabSensors::sensorLimitsEdited, &tabEdits, &TabEdits::setSensorLimits);
 }

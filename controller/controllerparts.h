@@ -8,10 +8,10 @@
 #include "controller/link/projectoffer.h"
 #include "controller/link/samplingperiod.h"
 #include "controller/logger/loggerparts.h"
-#include "controller/logger/transferdialogs.h"
 #include "controller/occupancy.h"
 #include "controller/project/fileprogress.h"
 #include "controller/project/measurementdeletion.h"
+#include "controller/project/opennotice.h"
 #include "controller/project/projectfiles.h"
 #include "controller/project/projectpictures.h"
 #include "controller/project/projectsaving.h"
@@ -22,6 +22,8 @@
 #include "controller/recording/recorder.h"
 #include "controller/recordingactions.h"
 #include "controller/recordingdisplay.h"
+#include "controller/undo/undocontrol.h"
+#include "controller/undo/undohistory.h"
 #include "device/demobox.h"
 #include "device/mesotraconnector.h"
 
@@ -52,17 +54,20 @@ struct ControllerParts
     BoxDescriptions descriptions;
     SamplingPeriod period;
     ProjectOffer offer;
-    TransferDialogs transfers;
     FirmwareUpdate firmware;
     RecordingActions recording;
     MeasurementDeletion deletion;
     TabEdits tabEdits;
     ProjectSaving saving;
     ProjectFiles files;
+    OpenNotice openNotice;
     ProjectPictures pictures;
     LoggerParts logger;
+    UndoHistory undoHistory;
+    UndoControl undo;
 
 private:
+    void takeLine(View &view, const QString &line);
     void setUpTransfers(const ControllerOptions &options);
     void handleMessages();
     void connectLink(View &view);

@@ -8,9 +8,10 @@
 
 #include <algorithm>
 
-Occupancy::Occupancy(View &view, const Model &model)
+Occupancy::Occupancy(View &view, const Model &model, int typingPause)
     : m_view(view)
     , m_model(model)
+    , m_typing(typingPause)
 {}
 
 bool Occupancy::isOccupied() const
@@ -22,7 +23,7 @@ bool Occupancy::isOccupied() const
 bool Occupancy::mayInterrupt() const
 {
     // Pages open dialogs that nobody counts here.
-    return !isOccupied() && !QApplication::activeModalWidget();
+    return !isOccupied() && !QApplication::activeModalWidget() && !m_typing.isTyping();
 }
 
 bool Occupancy::refuseWhileOccupied()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "controller/typingwatch.h"
+
 #include <QCoreApplication>
 
 #include <array>
@@ -21,7 +23,8 @@ class Occupancy
 
 public:
     /// Both must outlive the occupancy.
-    Occupancy(View &view, const Model &model);
+    /// `typingPause`: ms after the last key during which the user counts as typing.
+    Occupancy(View &view, const Model &model, int typingPause);
 
     void begin(Task task) { ++count(task); }
     void end(Task task) { --count(task); }
@@ -29,7 +32,8 @@ public:
 
     /// True while a task is under way, the view asks something, or a file is being read or written.
     [[nodiscard]] bool isOccupied() const;
-    /// True if a question that the user did not cause may be asked now: neither occupied, nor any modal window open.
+    /// True if a question that the user did not cause may be asked now: neither occupied, nor any modal window open,
+    /// nor is a text being typed.
     [[nodiscard]] bool mayInterrupt() const;
     /// True, and a status message, if what the user asked for has to wait.
     [[nodiscard]] bool refuseWhileOccupied();
@@ -46,6 +50,7 @@ private:
 
     View &m_view;
     const Model &m_model;
+    TypingWatch m_typing;
     std::array<int, 3> m_counts{};
 };
 

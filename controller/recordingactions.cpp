@@ -3,6 +3,7 @@
 #include "controller/link/boxlink.h"
 #include "controller/occupancy.h"
 #include "controller/recording/recorder.h"
+#include "model/edit/editscope.h"
 #include "view/window/view.h"
 
 RecordingActions::RecordingActions(const Desk &desk, Recorder &recorder, BoxLink &link)
@@ -36,5 +37,6 @@ void RecordingActions::calibrate()
         m_desk.occupancy.ask(
             [this] { m_desk.view.showMessage(tr("Die Sensoren werden kalibriert."), tr("Kalibrierung")); });
     }
+    const EditScope edit(&m_desk.model, [] { return tr("Kalibrierung"); });
     m_recorder.calibrate();
 }

@@ -10,11 +10,11 @@ bool isSavedAlike(const SensorDescription &a, const SensorDescription &b)
         return a.numSensorGroups() == b.numSensorGroups();
     const SensorGroup &left = a.sensorGroup(0);
     const SensorGroup &right = b.sensorGroup(0);
-    // The file has room for five sensors and for nothing but these properties of them.
+    // The files have room for five sensors and for nothing but these properties of them.
     bool alike = left.numSensors() == right.numSensors();
     for (int i = 0; alike && i < std::min(kNumSensors, left.numSensors()); ++i)
         alike = left.sensorName(i) == right.sensorName(i) && left.sensorMinimum(i) == right.sensorMinimum(i)
-                && left.sensorMaximum(i) == right.sensorMaximum(i);
+                && left.sensorMaximum(i) == right.sensorMaximum(i) && left.sensorUnit(i) == right.sensorUnit(i);
     return alike;
 }
 

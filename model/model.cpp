@@ -1,8 +1,9 @@
 #include "model/model.h"
 
 #include "model/arrayindex.h"
+#include "model/edit/editscope.h"
 #include "model/logging.h"
-#include "model/project/projecteditor.h"
+#include "model/modeleditor.h"
 
 #include <cmath>
 
@@ -14,31 +15,6 @@ double finiteOrZero(double value)
 }
 
 } // namespace
-
-/// What the parts that read files may call of the model. Not the model itself: the log names functions by their
-/// signatures, which would begin with "virtual" then.
-class Model::Editor final : public ProjectEditor
-{
-public:
-    explicit Editor(Model &model)
-        : m_model(model)
-    {}
-    void clear() override { m_model.clear(); }
-    void setCurrentFile(const QString &absolutePath) override { m_model.setCurrentFile(absolutePath); }
-    void setProjectModifiedFlag(bool modified) override { m_model.setProjectModifiedFlag(modified); }
-    [[nodiscard]] double offset(int sensor) const override { return m_model.offset(sensor); }
-    void setOffset(int sensor, double offset) override { m_model.setOffset(sensor, offset); }
-    void setPhaseName(int phase, const QString &name) override { m_model.setPhaseName(phase, name); }
-    void setVerticalMarkerAbsolute(int index, int pos) override { m_model.setVerticalMarkerAbsolute(index, pos); }
-    void setSensorDescription(const SensorDescription &all) override { m_model.setSensorDescription(all); }
-    void setSensorName(int sensor, const QString &name) override { m_model.setSensorName(sensor, name); }
-    void setSensorMinimum(int group, int sensor, double to) override { m_model.setSensorMinimum(group, sensor, to); }
-    void setSensorMaximum(int group, int sensor, double to) override { m_model.setSensorMaximum(group, sensor, to); }
-    void setTimestamp(int shot, const QDateTime &time) override { m_model.setTimestamp(shot, time); }
-
-private:
-    Model &m_model;
-};
 
 Model::Model(const QString &fileToOpen, QObject *parent)
     : QObject(parent)
@@ -99,12 +75,19 @@ void Model::setTimestamp(int measurement, const QDateTime &timestamp)
         m_project.meta.setTimestamp(measurement, timestamp);
 }
 
+void Model::setSamplingPeriod(int measurement, int milliseconds)
+{
+    qCDebug(lcModel) << Q_FUNC_INFO << measurement << milliseconds;
+    if (hasShot(measurement, Q_FUNC_INFO))
+        m_project.meta.setPeriod(measurement, qBound(0, milliseconds, kMaxClock));
+}
+
 void Model::setShotLabel(int measurement, const QString &label)
 {
     qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " measurement=" << measurement << " label=" << label;
     if (!hasShot(measurement, Q_FUNC_INFO))
         return;
-    m_project.meta.setLabel(measurement, label);
+    m_project.setLabel(measurement, label);
     m_changes.project(Q_FUNC_INFO);
 }
 
@@ -128,6 +111,7 @@ void Model::setOffset(int sensor, double offset)
 void Model::resetOffsets()
 {
     qCDebug(lcModel) << Q_FUNC_INFO;
+    const EditScope edit(this, [] { return tr("Zurücksetzen der Offsets"); });
     m_project.settings.offsets.fill(0.0);
     m_changes.project(Q_FUNC_INFO);
 }
@@ -244,6 +228,15 @@ void Model::setSensorName(int sensor, const QString &name)
     m_changes.projectIf(group, Q_FUNC_INFO);
 }
 
+void Model::setSensorUnit(int sensor, const QString &unit)
+{
+    qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " sensor=" << sensor << " unit=" << unit;
+    SensorGroup *group = m_project.groupWith(0, sensor, Q_FUNC_INFO);
+    if (group)
+        group->setSensorUnit(sensor, unit.left(SensorGroup::kLongestUnit));
+    m_changes.projectIf(group, Q_FUNC_INFO);
+}
+
 void Model::setSensorMinimum(int group, int sensor, double minimum)
 {
     qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " val=" << minimum;
@@ -272,7 +265,7 @@ void Model::setClock(int milliseconds)
 void Model::setFileList(const QStringList &files)
 {
     qCDebug(lcModel) << Q_FUNC_INFO << files;
-    m_import.files().setFiles(files);
+    m_import.setFiles(files);
 }
 
 // --- State -----------------------------------------------------------------------------------------------------
@@ -314,6 +307,7 @@ void Model::clear()
     m_project.clearImages(Q_FUNC_INFO);
     clearData();
     m_changes.project(Q_FUNC_INFO);
+    m_edits.forgetProject();
     qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " END";
 }
 

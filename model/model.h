@@ -2,6 +2,7 @@
 
 #include "model/blackbox/blackboximport.h"
 #include "model/devicedescription.h"
+#include "model/edit/modeledits.h"
 #include "model/indexcheck.h"
 #include "model/modelchanges.h"
 #include "model/modelfiles.h"
@@ -59,6 +60,8 @@ public:
     {
         return m_project.shots.id(sensor, measurement);
     }
+    /// The measurement that has this id; -1 if there is none.
+    [[nodiscard]] int indexOfMeasurement(int sensor, quint64 id) const { return m_project.shots.indexOf(sensor, id); }
     /// Appends one empty measurement to one sensor; returns its index, -1 for a bad sensor. Emits nothing.
     int appendMeasurement(int sensor) { return hasSensor(sensor, Q_FUNC_INFO) ? m_project.shots.append(sensor) : -1; }
     /// Appends one sample; a number that is not finite counts as 0. False for indices out of range. Emits nothing.
@@ -91,6 +94,13 @@ public:
         return hasShot(measurement, Q_FUNC_INFO) ? m_project.meta.timestamp(measurement) : QDateTime();
     }
     void setTimestamp(int measurement, const QDateTime &timestamp);
+    /// Milliseconds per sample when the measurement began; 0 if unknown, as for those of logger files. Kept beside the
+    /// project file, too.
+    [[nodiscard]] int samplingPeriod(int measurement) const
+    {
+        return hasShot(measurement, Q_FUNC_INFO) ? m_project.meta.period(measurement) : 0;
+    }
+    void setSamplingPeriod(int measurement, int milliseconds); ///< emits nothing
     /// What the user calls a measurement; empty for one without a label.
     [[nodiscard]] QString shotLabel(int measurement) const
     {
@@ -141,13 +151,21 @@ public:
     void setProjectData(const ProjectData &data);
     [[nodiscard]] QString comment() const { return m_project.settings.comment; }
     void setComment(const QString &comment);
-    [[nodiscard]] QPixmap image(int index) const { return valueAt(m_project.images.pixmaps(), index, Q_FUNC_INFO); }
+    /// Null also for a picture that the project has but that is not shown; images() tells.
+    [[nodiscard]] QPixmap image(int index) const
+    {
+        return isIndex(index, kNumImages, Q_FUNC_INFO) ? m_project.images.shown(index) : QPixmap();
+    }
+    [[nodiscard]] const ImageStore &images() const { return m_project.images; }
+    /// A null image also removes a picture that is not shown.
     void setImage(int index, const QPixmap &image);
     [[nodiscard]] const SensorDescription &sensorDescription() const { return m_project.settings.sensors; }
     void setSensorDescription(const SensorDescription &description); ///< emits nothing
     [[nodiscard]] const DeviceDescription &deviceDescription() const { return m_deviceDescription; }
     void setDeviceDescription(const DeviceDescription &description); ///< emits nothing; takes over both versions
     void setSensorName(int sensor, const QString &name);
+    /// Kept beside the project file; cut after SensorGroup::kLongestUnit characters.
+    void setSensorUnit(int sensor, const QString &unit);
     void setSensorMinimum(int group, int sensor, double minimum);
     void setSensorMaximum(int group, int sensor, double maximum);
     [[nodiscard]] QString hardwareVersion() const { return m_project.settings.hardwareVersion; }
@@ -158,18 +176,21 @@ public:
     void setClock(int milliseconds); ///< takes the nearest value in range
     static constexpr int kMaxClock = ProjectSettings::kMaxClock;
 
-    /// The logger files that were imported, absolute; neither part of the project file, nor changed by deletions.
-    /// Nothing uses the list yet.
+    /// The logger files that were imported since the project was opened, absolute; not changed by deletions. Nothing
+    /// uses the list yet.
     [[nodiscard]] QStringList fileList() const { return m_import.files().files(); }
     void setFileList(const QStringList &files);
-    /// The fingerprints of the files on the list, which tell them from later files of the same name.
-    [[nodiscard]] QSet<QByteArray> importedFiles() const { return m_import.files().fingerprints(); }
+    /// The fingerprints of all files that were imported, which tell them from later files of the same name. Kept beside
+    /// the project file.
+    [[nodiscard]] QSet<QByteArray> importedFiles() const { return m_project.meta.importedFiles; }
 
     // --- State -------------------------------------------------------------------------------------------------
     [[nodiscard]] bool isConnected() const { return m_connected; }
     void setConnected(bool connected); ///< emits nothing
     [[nodiscard]] bool isProjectModified() const { return m_files.isModified(); }
     void setProjectModifiedFlag(bool modified);
+    /// Edits that can be undone: see EditScope.
+    [[nodiscard]] ModelEdits &edits() { return m_edits; }
     [[nodiscard]] QString currentFile() const { return m_files.currentFile(); }
     void setCurrentFile(const QString &absolutePath);
     /// True while open(), save(), saveCsv() or addBlackBoxFile() runs: no second one, no deletion and no quit may start
@@ -180,7 +201,13 @@ public:
     void clear();
 
     // --- Files -------------------------------------------------------------------------------------------------
+    /// Reads a file completely, for the open() that follows, so that nobody is asked about a file that cannot be
+    /// opened. False if it cannot.
+    [[nodiscard]] bool readAhead(const QString &fileName) { return m_files.readAhead(fileName, Q_FUNC_INFO); }
+    void forgetReadAhead() { m_files.forgetReadAhead(); }
     [[nodiscard]] bool open(const QString &fileName);
+    /// What is not understood of the project that was opened.
+    [[nodiscard]] const OpenLosses &openLosses() const { return m_files.openLosses(); }
     [[nodiscard]] bool save(const QString &fileName);
     /// False if the last save() wrote the project, but not the file beside it.
     [[nodiscard]] bool isProjectMetaSaved() const { return m_files.isMetaSaved(); }
@@ -235,4 +262,5 @@ private:
     std::unique_ptr<Editor> m_editor;
     ModelFiles m_files;
     BlackBoxImport m_import;
+    ModelEdits m_edits{*this, m_project, m_import.files(), m_changes};
 };

@@ -6,6 +6,7 @@
 #include "model/project/csvexport.h"
 #include "model/project/filework.h"
 #include "model/project/metafile.h"
+#include "model/project/metatransfer.h"
 #include "model/project/pacer.h"
 #include "model/project/project.h"
 #include "model/project/projectdocument.h"
@@ -14,6 +15,7 @@
 #include "model/project/projecttransfer.h"
 #include "model/project/projectwriter.h"
 
+#include <QDateTime>
 #include <QDebug>
 #include <QFile>
 #include <QFileInfo>
@@ -26,6 +28,15 @@ struct ModelFiles::Opened
     ImageStore images;
 };
 
+/// A project that was read and not opened yet, and what tells whether its file is still the same.
+struct ModelFiles::ReadAhead
+{
+    QString fileName;
+    QDateTime modified;
+    qint64 size = 0;
+    std::unique_ptr<Opened> opened;
+};
+
 ModelFiles::ModelFiles(ProjectEditor &editor, Project &project, ModelChanges &changes, FileWork &work)
     : m_editor(editor)
     , m_project(project)
@@ -33,8 +44,11 @@ ModelFiles::ModelFiles(ProjectEditor &editor, Project &project, ModelChanges &ch
     , m_work(work)
 {}
 
+ModelFiles::~ModelFiles() = default;
+
 void ModelFiles::setCurrentFile(const QString &absolutePath)
 {
+    m_openLosses = {}; // a saved file holds what the project does
     if (std::exchange(m_currentFile, absolutePath) != absolutePath)
         m_changes.fileState();
 }
@@ -45,27 +59,66 @@ void ModelFiles::setModified(bool modified)
         m_changes.fileState();
 }
 
+bool ModelFiles::readAhead(const QString &fileName, const char *function)
+{
+    forgetReadAhead();
+    if (m_work.refuses(function))
+        return false;
+    const QFileInfo before(fileName); // looked up now: what is written while it is read makes it out of date
+    const QDateTime modified = before.lastModified();
+    const qint64 size = before.size();
+    std::unique_ptr<Opened> opened = readFile(fileName, function);
+    if (opened)
+        m_readAhead = std::make_unique<ReadAhead>(ReadAhead{fileName, modified, size, std::move(opened)});
+    return m_readAhead != nullptr;
+}
+
+void ModelFiles::forgetReadAhead()
+{
+    m_readAhead.reset();
+}
+
 bool ModelFiles::open(const QString &fileName, const char *function)
 {
     if (m_work.refuses(function))
         return false;
-    QFile file(fileName);
-    // Only regular files: opening a FIFO would block.
-    if (!QFileInfo(fileName).isFile() || !file.open(QIODevice::ReadOnly)) {
-        qCDebug(lcModel).noquote().nospace() << function << " could not open file:" << fileName;
+    std::unique_ptr<Opened> opened = takeReadAhead(fileName);
+    if (!opened)
+        opened = readFile(fileName, function);
+    if (!opened)
         return false;
-    }
-    std::optional<Opened> opened = read(file);
-    if (!opened) {
-        qCDebug(lcModel).noquote().nospace() << function << " jdoc is no object!";
-        return false;
-    }
     apply(*opened, QFileInfo(fileName).absoluteFilePath(), function);
     m_changes.opened(function);
     // Receivers may have set it: to them, opening looks like a change.
     m_editor.setProjectModifiedFlag(false);
     qCDebug(lcModel) << function << " END";
     return true;
+}
+
+/// nullptr if there is nothing, or another file, or one that was changed or replaced since.
+std::unique_ptr<ModelFiles::Opened> ModelFiles::takeReadAhead(const QString &fileName)
+{
+    const std::unique_ptr<ReadAhead> ahead = std::move(m_readAhead);
+    const QFileInfo now(fileName);
+    if (!ahead || ahead->fileName != fileName || ahead->modified != now.lastModified() || ahead->size != now.size())
+        return nullptr;
+    return std::move(ahead->opened);
+}
+
+std::unique_ptr<ModelFiles::Opened> ModelFiles::readFile(const QString &fileName, const char *function)
+{
+    QFile file(fileName);
+    // Only regular files: opening a FIFO would block.
+    if (!QFileInfo(fileName).isFile() || !file.open(QIODevice::ReadOnly)) {
+        qCDebug(lcModel).noquote().nospace() << function << " could not open file:" << fileName;
+        return nullptr;
+    }
+    std::optional<Opened> opened = read(file);
+    if (!opened) {
+        qCDebug(lcModel).noquote().nospace() << function << " jdoc is no object!";
+        return nullptr;
+    }
+    return std::make_unique<Opened>(*std::move(opened));
 }
 
 // All that can fail, takes long or lets events in happens here, before the model is touched.
@@ -86,11 +139,16 @@ std::optional<ModelFiles::Opened> ModelFiles::read(QFile &file)
 void ModelFiles::apply(Opened &opened, const QString &absolutePath, const char *function)
 {
     const ModelChanges::Silence silence(m_changes);
+    OpenLosses losses = lossesOf(opened.document, opened.images);
     m_editor.clear();
     m_project.images = std::move(opened.images);
     applyDocument(opened.document, absolutePath, m_editor, m_project, function);
-    if (std::optional<ProjectMeta> meta = openMeta(absolutePath, m_project.shots, function))
-        m_project.meta = *std::move(meta);
+    MetaReading reading = openMeta(absolutePath, m_project.shots, function);
+    losses.meta = reading.state;
+    losses.metaFile = reading.fileName;
+    if (reading.state == MetaState::Read)
+        applyMeta(std::move(reading.meta), m_project);
+    m_openLosses = std::move(losses);
 }
 
 bool ModelFiles::save(const QString &fileName, const char *function)
@@ -99,10 +157,11 @@ bool ModelFiles::save(const QString &fileName, const char *function)
         return false;
     // Events come in while the project is written, so what goes into the file beside it is taken now.
     const quint64 changesBefore = countChanges();
-    const ProjectMeta meta = m_project.meta;
+    const ProjectMeta meta = metaOf(m_project);
     const ShotChecks checks = shotChecks(m_project.shots);
     if (!writeProject(fileName))
         return false;
+    forgetReadAhead(); // it may be of this file
     m_metaSaved = saveMeta(fileName, meta, checks);
     const bool isUpToDate = countChanges() == changesBefore;
     m_editor.setCurrentFile(QFileInfo(fileName).absoluteFilePath());

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "model/project/openlosses.h"
+
 #include <QString>
 
+#include <memory>
 #include <optional>
 
 class FileWork;
@@ -18,12 +21,24 @@ public:
     /// All of them must outlive this.
     ModelFiles(ProjectEditor &editor, Project &project, ModelChanges &changes, FileWork &work);
 
-    /// False, with the model as it was, if the file cannot be read or holds no project.
+    ModelFiles(const ModelFiles &) = delete;
+    ModelFiles &operator=(const ModelFiles &) = delete;
+    ~ModelFiles();
+
+    /// Reads a file completely, for the open() that follows; the model stays as it is. False if that open() would fail.
+    [[nodiscard]] bool readAhead(const QString &fileName, const char *function);
+    /// For an open() that will not follow.
+    void forgetReadAhead();
+    /// False, with the model as it was, if the file cannot be read or holds no project. Uses what was read ahead unless
+    /// the file has changed since.
     [[nodiscard]] bool open(const QString &fileName, const char *function);
     [[nodiscard]] bool save(const QString &fileName, const char *function);
     [[nodiscard]] bool saveCsv(const QString &fileName, const char *function);
     /// False if the last save() wrote the project, but not the file beside it.
     [[nodiscard]] bool isMetaSaved() const { return m_metaSaved; }
+
+    /// Of the file that was opened, until it is saved, another one is opened or a project begins.
+    [[nodiscard]] const OpenLosses &openLosses() const { return m_openLosses; }
 
     [[nodiscard]] QString currentFile() const { return m_currentFile; }
     void setCurrentFile(const QString &absolutePath);
@@ -32,6 +47,9 @@ public:
 
 private:
     struct Opened;
+    struct ReadAhead;
+    [[nodiscard]] std::unique_ptr<Opened> readFile(const QString &fileName, const char *function);
+    [[nodiscard]] std::unique_ptr<Opened> takeReadAhead(const QString &fileName);
     [[nodiscard]] std::optional<Opened> read(QFile &file);
     void apply(Opened &opened, const QString &absolutePath, const char *function);
     [[nodiscard]] bool writeProject(const QString &fileName);
@@ -42,7 +60,9 @@ private:
     Project &m_project;
     ModelChanges &m_changes;
     FileWork &m_work;
+    std::unique_ptr<ReadAhead> m_readAhead;
     QString m_currentFile; // absolute
+    OpenLosses m_openLosses;
     bool m_modified = false;
     bool m_metaSaved = true;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/project/unknownmembers.h"
 #include "model/projectdata.h"
 #include "model/sensordescription.h"
 #include "model/verticalmarkers.h"
@@ -28,6 +29,9 @@ struct ProjectSettings
     /// Ranges of the oscilloscope's rows, which begin with what an empty plot shows.
     std::array<double, kNumSensors> osziMinimum{};
     std::array<double, kNumSensors> osziMaximum{255.0, 255.0, 255.0, 255.0, 255.0};
+    // What another program has added to the file; written again.
+    UnknownMembers unknown;
+    UnknownMembers unknownInView; ///< among the settings of the oscilloscope
 
     static constexpr int kMaxClock = 3600000;
 };

@@ -19,6 +19,13 @@ QString shownSensorName(const QString &ownName, int sensor)
     return ownName.isEmpty() ? QCoreApplication::translate("SensorDescription", "Sensor %1").arg(sensor + 1) : ownName;
 }
 
+QString shownSensorName(const SensorDescription &description, int sensor)
+{
+    const bool isDescribed =
+        description.numSensorGroups() > 0 && sensor >= 0 && sensor < description.sensorGroup(0).numSensors();
+    return shownSensorName(isDescribed ? description.sensorGroup(0).sensorName(sensor) : QString(), sensor);
+}
+
 void SensorGroup::setNumSensors(int n)
 {
     const int count = qBound(0, n, kMaxSensors);

@@ -43,6 +43,7 @@ public:
     void SetSensorColor(int i, const QColor &color); ///< nothing uses it yet
 
     static constexpr int kMaxSensors = 1000;
+    static constexpr int kLongestUnit = 20; ///< characters; of one that is typed or read from a file
 
 private:
     struct Sensor
@@ -85,3 +86,6 @@ public:
 private:
     QVector<SensorGroup> m_groups;
 };
+
+/// The name to show for a sensor of the first group; by its position if that has no such sensor.
+[[nodiscard]] QString shownSensorName(const SensorDescription &description, int sensor);

@@ -52,6 +52,26 @@ quint64 ShotStore::id(int sensor, int measurement) const
     return find(sensor, measurement) ? m_ids[at(sensor)][at(measurement)] : 0;
 }
 
+int ShotStore::indexOf(int sensor, quint64 id) const
+{
+    if (!isSensor(sensor) || id == 0)
+        return -1;
+    const std::vector<quint64> &ids = m_ids[at(sensor)];
+    const auto found = std::find(ids.rbegin(), ids.rend(), id);
+    return static_cast<int>(std::distance(found, ids.rend())) - 1;
+}
+
+StoredShot ShotStore::shot(int measurement) const
+{
+    StoredShot shot;
+    for (int sensor = 0; sensor < kNumSensors; ++sensor) {
+        shot.ids[at(sensor)] = id(sensor, measurement);
+        if (shot.ids[at(sensor)] != 0)
+            shot.samples[at(sensor)] = m_channels[at(sensor)][at(measurement)];
+    }
+    return shot;
+}
+
 double ShotStore::latest(int sensor) const
 {
     const SampleList *newest = find(sensor, count(sensor) - 1);
@@ -78,7 +98,7 @@ int ShotStore::append(int sensor, SampleList samples)
 {
     if (!isSensor(sensor))
         return -1;
-    m_channels[at(sensor)].push_back(std::make_unique<SampleList>(std::move(samples)));
+    m_channels[at(sensor)].push_back(std::make_shared<SampleList>(std::move(samples)));
     m_ids[at(sensor)].push_back(++m_lastId);
     countStructureChange();
     return count(sensor) - 1;
@@ -113,15 +133,47 @@ bool ShotStore::remove(int measurement)
     if (measurement < 0 || measurement >= shotCount())
         return false;
     for (std::size_t sensor = 0; sensor < m_channels.size(); ++sensor) {
-        Channel &channel = m_channels[sensor];
-        if (at(measurement) >= channel.size())
-            continue; // another sensor is ahead of this one
-        m_removed.push_back(std::move(channel[at(measurement)]));
-        channel.erase(channel.begin() + measurement);
-        m_ids[sensor].erase(m_ids[sensor].begin() + measurement);
+        if (at(measurement) < m_channels[sensor].size()) // another sensor may be ahead of this one
+            removeFrom(sensor, measurement);
     }
     countStructureChange();
     return true;
+}
+
+StoredShot ShotStore::take(const ShotIds &ids)
+{
+    StoredShot shot;
+    shot.ids = ids;
+    for (std::size_t sensor = 0; sensor < m_channels.size(); ++sensor) {
+        const int index = indexOf(static_cast<int>(sensor), ids[sensor]);
+        if (index < 0)
+            continue;
+        shot.samples[sensor] = m_channels[sensor][at(index)];
+        removeFrom(sensor, index);
+    }
+    countStructureChange();
+    return shot;
+}
+
+void ShotStore::removeFrom(std::size_t sensor, int measurement)
+{
+    Channel &channel = m_channels[sensor];
+    m_removed.push_back(std::move(channel[at(measurement)]));
+    channel.erase(channel.begin() + measurement);
+    m_ids[sensor].erase(m_ids[sensor].begin() + measurement);
+}
+
+void ShotStore::insert(int measurement, const StoredShot &shot)
+{
+    for (std::size_t sensor = 0; sensor < m_channels.size(); ++sensor) {
+        if (!shot.samples[sensor])
+            continue;
+        Channel &channel = m_channels[sensor];
+        const auto place = std::clamp<std::ptrdiff_t>(measurement, 0, static_cast<std::ptrdiff_t>(channel.size()));
+        channel.insert(channel.begin() + place, shot.samples[sensor]);
+        m_ids[sensor].insert(m_ids[sensor].begin() + place, shot.ids[sensor]);
+    }
+    countStructureChange();
 }
 
 void ShotStore::clear()

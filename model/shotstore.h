@@ -2,18 +2,18 @@
 
 #include "model/samplelist.h"
 #include "model/sensordescription.h"
+#include "model/storedshot.h"
 
 #include <array>
-#include <memory>
 #include <vector>
 
 /// The samples of all measurements: for each sensor an ordered list of measurements. A SampleList keeps its address
 /// until its measurement is removed; a removed one is kept alive until discardRemoved(), as plots may still point at
-/// it. An index out of range is not logged and changes nothing.
+/// it, and as long as somebody else has a share in it. An index out of range is not logged and changes nothing.
 class ShotStore
 {
 public:
-    using Samples = std::unique_ptr<SampleList>;
+    using Samples = std::shared_ptr<SampleList>;
     using Channel = std::vector<Samples>;
 
     /// Measurements of one sensor.
@@ -25,6 +25,10 @@ public:
     /// A number that no other measurement of this store has or had; 0 if there is no such measurement. While it stays
     /// the same, samples have been appended to the measurement but none changed.
     [[nodiscard]] quint64 id(int sensor, int measurement) const;
+    /// The measurement of the sensor that has this id; -1 if there is none. Fast for the newest ones.
+    [[nodiscard]] int indexOf(int sensor, quint64 id) const;
+    /// A share in the measurement of every sensor that has it.
+    [[nodiscard]] StoredShot shot(int measurement) const;
     /// Changes whenever a measurement is added or removed (not when a sample is appended).
     [[nodiscard]] quint64 structureRevision() const { return m_structureRevision; }
     /// Changes with every change, appended samples included.
@@ -44,6 +48,11 @@ public:
     void setChannel(int sensor, Channel channel);
     /// Removes one measurement of every sensor that has it; false if none has.
     [[nodiscard]] bool remove(int measurement);
+    /// Removes those of a shot's measurements that are in the store, wherever they are, and returns a share in them.
+    [[nodiscard]] StoredShot take(const ShotIds &ids);
+    /// Puts measurements back that were removed, with their ids, and moves those from the index on up; behind the last
+    /// one if the index is higher.
+    void insert(int measurement, const StoredShot &shot);
     void clear();
     /// Frees the samples of removed measurements: call once no plot points at them any more.
     void discardRemoved() { m_removed.clear(); }
@@ -52,6 +61,7 @@ public:
 
 private:
     [[nodiscard]] SampleList *find(int sensor, int measurement) const;
+    void removeFrom(std::size_t sensor, int measurement);
     void countStructureChange();
 
     std::array<Channel, kNumSensors> m_channels;

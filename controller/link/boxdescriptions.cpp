@@ -5,6 +5,7 @@
 #include "controller/recording/recorder.h"
 #include "controller/sensornews.h"
 #include "device/mesotraconnector.h"
+#include "model/edit/editscope.h"
 #include "model/model.h"
 #include "view/window/view.h"
 
@@ -63,6 +64,9 @@ void BoxDescriptions::takeSensors(const QString &message)
     SensorDescription description = before; // the box does not describe colours
     applySensorDescription(parseSensorDescription(message), description);
     m_model.blockSignals(false);
+    // What the first box says about unknown sensors replaces nothing that anybody could want back.
+    const EditScope edit(isAnySensorNamed(before) ? &m_model : nullptr,
+                         [] { return tr("Übernahme der Sensorbeschreibung"); });
     // A project without a file or any edit contains nothing to lose: connecting alone must not lead to questions.
     if (!m_model.currentFile().isEmpty() && !isSavedAlike(before, description))
         m_edits.markModified();

@@ -8,6 +8,7 @@
 #include "device/mesotraconnector.h"
 #include "device/protocol/hostaddress.h"
 #include "model/model.h"
+#include "view/window/prompts/questions.h"
 #include "view/window/view.h"
 
 #include <utility>
@@ -243,6 +244,7 @@ void BoxLink::reportError(QAbstractSocket::SocketError error)
         return;
     }
     m_questions.drop(Question::LinkError);
+    const UninvitedQuestions uninvited(m_view.questions());
     showError(error);
     offerReconnect();
 }

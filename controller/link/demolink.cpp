@@ -5,6 +5,7 @@
 #include "controller/logging.h"
 #include "controller/occupancy.h"
 #include "model/model.h"
+#include "view/window/prompts/questions.h"
 #include "view/window/view.h"
 
 namespace {
@@ -77,6 +78,7 @@ void DemoLink::onFailed(DemoBox::End end)
     m_link.leave();
     showState();
     m_questions.put(Question::DemoWarning, [this, text = failureText(end)] {
+        const UninvitedQuestions uninvited(m_desk.view.questions());
         m_desk.occupancy.ask([&] { m_desk.view.showWarning(text, tr("Demo")); });
     });
 }

@@ -10,6 +10,7 @@
 #include "controller/recording/projectedits.h"
 #include "controller/recording/recorder.h"
 #include "controller/sensornews.h"
+#include "model/edit/editscope.h"
 #include "model/model.h"
 #include "view/blackbox/tabblackbox.h"
 #include "view/window/prompts/questions.h"
@@ -34,8 +35,11 @@ void LoggerImport::run(const QStringList &files)
     const QStringList wanted = withoutUnwantedRepeats(files, origins);
     const Sensors sensors = wanted.isEmpty() ? Sensors::Cancelled : askAboutSensors(wanted);
     // The answers take their time; a recording may have begun.
-    if (sensors != Sensors::Cancelled && !refuseWhileRecording())
-        import(wanted, origins, sensors);
+    if (sensors == Sensors::Cancelled || refuseWhileRecording())
+        return;
+    const ImportSummary summary = importAsOneStep(wanted, origins, sensors);
+    m_edits.applyKept(); // made while files were being read
+    show(summary);
 }
 
 /// Reads all files once, as a whole, which is what tells them apart.
@@ -46,14 +50,16 @@ ImportOrigins LoggerImport::examine(const QStringList &files)
     return ImportOrigins(m_folders, m_local, files, turns.counter());
 }
 
-void LoggerImport::import(const QStringList &files, const ImportOrigins &origins, Sensors sensors)
+ImportSummary LoggerImport::importAsOneStep(const QStringList &files, const ImportOrigins &origins, Sensors sensors)
 {
+    const EditScope edit(&m_desk.model, [count = files.size()] {
+        return count == 1 ? tr("Import einer Datei") : tr("Import von %1 Dateien").arg(count);
+    });
     const SensorDescription before = m_desk.model.sensorDescription();
-    const ImportSummary summary = readFiles(files, origins);
+    ImportSummary summary = readFiles(files, origins);
     if (summary.numUnreadable() < files.size())
         finish(before, sensors);
-    m_edits.applyKept(); // made while files were being read
-    show(summary);
+    return summary;
 }
 
 /// The newest measurement is the one being recorded, in all views; so it must stay the last.
@@ -69,7 +75,7 @@ bool LoggerImport::refuseWhileRecording()
     return true;
 }
 
-/// Files that the project has already are left out unless the user wants them again.
+/// Files that the project has already are left out unless the user wants them again. None if the question is closed.
 QStringList LoggerImport::withoutUnwantedRepeats(const QStringList &files, const ImportOrigins &origins)
 {
     const QStringList fresh = origins.filesWithout(m_desk.model.importedFiles());
@@ -79,7 +85,16 @@ QStringList LoggerImport::withoutUnwantedRepeats(const QStringList &files, const
     const QString question =
         repeats == 1 ? tr("Eine der Dateien ist schon in diesem Projekt.\nNoch einmal importieren?")
                      : tr("%1 der Dateien sind schon in diesem Projekt.\nNoch einmal importieren?").arg(repeats);
-    return m_desk.occupancy.ask([&] { return m_desk.view.askYesNo(tr("BlackBox"), question); }) ? files : fresh;
+    const QString hint = fresh.isEmpty() ? QString()
+                                         : tr("\"Nein\" importiert nur die neuen Dateien. Escape oder Schließen bricht "
+                                              "den Import ab.");
+    const QMessageBox::StandardButton answer = m_desk.occupancy.ask([&] {
+        return m_desk.view.questions().ask(
+            {tr("BlackBox"), question, QMessageBox::Yes | QMessageBox::No, QMessageBox::No, false, hint});
+    });
+    if (answer == QMessageBox::NoButton)
+        return {};
+    return answer == QMessageBox::Yes ? files : fresh;
 }
 
 /// Asked only if the project knows something that the files say differently.

@@ -34,7 +34,8 @@ private:
     [[nodiscard]] bool refuseWhileRecording();
     enum class Sensors { OfFiles, OfProject, Cancelled };
 
-    void import(const QStringList &files, const ImportOrigins &origins, Sensors sensors);
+    [[nodiscard]] ImportSummary importAsOneStep(const QStringList &files, const ImportOrigins &origins,
+                                                Sensors sensors);
     [[nodiscard]] ImportOrigins examine(const QStringList &files);
     [[nodiscard]] QStringList withoutUnwantedRepeats(const QStringList &files, const ImportOrigins &origins);
     [[nodiscard]] Sensors askAboutSensors(const QStringList &files);

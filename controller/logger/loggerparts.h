@@ -5,6 +5,7 @@
 #include "controller/logger/loggerfetch.h"
 #include "controller/logger/loggerimport.h"
 #include "controller/logger/loggerlist.h"
+#include "controller/logger/transferdialogs.h"
 
 /// The parts around the logger files, from the list of the box to the shots of the project.
 struct LoggerParts
@@ -16,7 +17,6 @@ struct LoggerParts
         BoxLink &link;
         MesotraConnector &connector;
         const DemoLink &demo;
-        TransferDialogs &dialogs;
         FileProgress &progress;
         LineQueue &lines;
         ProjectEdits &edits;
@@ -29,6 +29,7 @@ struct LoggerParts
     /// Ends the transfer that is under way.
     void cancel();
 
+    TransferDialogs dialogs; ///< also of a firmware upload
     BoxFolders folders;
     LoggerList list;
     LoggerFetch fetch;

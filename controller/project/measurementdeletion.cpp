@@ -2,16 +2,24 @@
 
 #include "controller/logging.h"
 #include "controller/occupancy.h"
+#include "controller/project/deletionquestion.h"
 #include "controller/recording/projectedits.h"
 #include "controller/recording/recorder.h"
+#include "model/edit/editscope.h"
 #include "model/model.h"
-#include "view/common/measurementrange.h"
 #include "view/oscilloscope/taboszilloscope.h"
+#include "view/window/prompts/questions.h"
 #include "view/window/view.h"
 
 #include <algorithm>
 
 namespace {
+
+QString deletionText(int count)
+{
+    return count == 1 ? MeasurementDeletion::tr("Löschen einer Messung")
+                      : MeasurementDeletion::tr("Löschen von %1 Messungen").arg(count);
+}
 
 int measurementCount(const Model &model)
 {
@@ -33,54 +41,55 @@ void MeasurementDeletion::deleteRange(const QString &range)
 {
     if (m_desk.occupancy.refuseWhileOccupied())
         return;
-    const QString question = tr("Folgende Datensätze werden gelöscht:\n") + range;
-    if (!m_desk.occupancy.ask([&] { return m_desk.view.askYesNo(tr("Daten löschen"), question); }))
+    // Carried out as shown: measurements that are recorded while the question is open were not asked about.
+    const DeletionPlan plan = planDeletion(range, measurementCount(m_desk.model));
+    const QString question = tr("Folgende Datensätze werden gelöscht:\n") + range + QLatin1String("\n\n")
+                             + DeletionQuestion::details(plan, range, m_desk.model);
+    if (!m_desk.occupancy.ask([&] { return m_desk.view.questions().yesNoDestructive(tr("Daten löschen"), question); }))
         return;
     // Not a ChangeScope: after a malformed part the signals stay blocked, see breakOff().
     m_desk.model.blockSignals(true);
-    const Result result = removeParts(range);
-    if (result.removed > 0)
+    const int removed = removeAsOneStep(plan);
+    if (removed > 0)
         m_edits.markModified(); // also if a later part is malformed
-    if (result.complete)
-        finish();
-    else
+    if (plan.malformed)
         breakOff(range);
+    else
+        finish();
 }
 
-MeasurementDeletion::Result MeasurementDeletion::removeParts(const QString &range)
+int MeasurementDeletion::removeAsOneStep(const DeletionPlan &plan)
 {
-    Result result;
-    const QVector<RangePart> parts = parseMeasurementRange(range);
-    for (const RangePart &part : parts) {
-        if (!part.isSingle() && !part.isSpan()) {
-            qCDebug(lcController).noquote().nospace()
-                << "syntax error in range!!  (range=" << part.pieces.join(QLatin1Char(',')) << ")";
-            result.complete = false;
-            break;
-        }
-        const qint64 first = part.numbers.constFirst();
-        const qint64 last = part.numbers.constLast();
-        result.removed += remove(first - 1 - result.removed, last - first + 1);
-        qCDebug(lcController).noquote().nospace() << "numRemoved=" << result.removed << " (part=" << part.text << ")";
-    }
-    return result;
+    const EditScope edit(&m_desk.model, [] { return deletionText(1); });
+    const int removed = remove(plan);
+    edit.setText([removed] { return deletionText(removed); });
+    return removed;
 }
 
-/// Deletes `count` measurements from index `first` on; returns how many existed. Goes from the last one down, which
-/// leaves the same measurements as deleting `first` again and again, but moves each of those behind only once.
-int MeasurementDeletion::remove(qint64 first, qint64 count)
+/// Returns how many measurements were removed.
+int MeasurementDeletion::remove(const DeletionPlan &plan)
 {
-    if (count <= 0)
-        return 0; // a span that runs backwards
-    const qint64 existing = first < 0 ? 0 : std::clamp<qint64>(measurementCount(m_desk.model) - first, 0, count);
     int removed = 0;
-    for (qint64 index = first + existing - 1; index >= first && existing > 0; --index) {
-        if (!m_desk.model.deleteChannel(static_cast<int>(index)))
-            continue;
-        m_recorder.measurementRemoved(static_cast<int>(index));
-        ++removed;
+    for (const DeletionPlan::Step &step : plan.steps) {
+        removed += remove(step);
+        qCDebug(lcController).noquote().nospace() << "numRemoved=" << removed << " (part=" << step.part.text << ")";
     }
-    if (removed < count)
+    if (plan.malformed)
+        qCDebug(lcController).noquote().nospace()
+            << "syntax error in range!!  (range=" << plan.malformed->pieces.join(QLatin1Char(',')) << ")";
+    return removed;
+}
+
+/// Goes from the last one down, which leaves the same measurements as deleting the first one again and again, but moves
+/// each of those behind only once.
+int MeasurementDeletion::remove(const DeletionPlan::Step &step)
+{
+    int removed = 0;
+    for (int index = step.first + step.removed.size() - 1; index >= step.first; --index) {
+        if (m_desk.model.deleteChannel(index))
+            ++removed;
+    }
+    if (removed < step.wanted)
         qCDebug(lcController) << "model::deleteChannel returned false!!";
     return removed;
 }
@@ -102,10 +111,14 @@ void MeasurementDeletion::breakOff(const QString &range)
 
 void MeasurementDeletion::deleteAll()
 {
-    if (m_desk.occupancy.refuseWhileOccupied()
-        || !m_desk.occupancy.ask([this] { return m_desk.view.askToClearData(); }))
+    if (m_desk.occupancy.refuseWhileOccupied())
+        return;
+    const int count = measurementCount(m_desk.model);
+    if (!m_desk.occupancy.ask(
+            [&] { return m_desk.view.questions().toClearData(DeletionQuestion::detailsOfAll(count)); }))
         return;
     m_desk.model.blockSignals(false);
+    const EditScope edit(&m_desk.model, [] { return tr("Löschen aller Messdaten"); });
     m_desk.model.setFileList({}); // what was imported can be imported again
     m_desk.model.clearData();
     m_recorder.forgetSeries(); // a recording that runs begins another measurement

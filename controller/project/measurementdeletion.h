@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controller/desk.h"
+#include "controller/project/deletionplan.h"
 
 #include <QCoreApplication>
 
@@ -22,15 +23,9 @@ public:
     void deleteAll();
 
 private:
-    /// What the deletion of a range has done.
-    struct Result
-    {
-        int removed = 0;
-        bool complete = true; ///< false: ended at a malformed part
-    };
-
-    [[nodiscard]] Result removeParts(const QString &range);
-    [[nodiscard]] int remove(qint64 first, qint64 count);
+    [[nodiscard]] int removeAsOneStep(const DeletionPlan &plan);
+    [[nodiscard]] int remove(const DeletionPlan &plan);
+    [[nodiscard]] int remove(const DeletionPlan::Step &step);
     void finish();
     void breakOff(const QString &range);
 

@@ -8,12 +8,13 @@
 #include "controller/recording/projectedits.h"
 #include "model/model.h"
 #include "view/home/tabhome.h"
+#include "view/window/prompts/questions.h"
 #include "view/window/view.h"
 
 #include <QCoreApplication>
 
 ProjectFiles::ProjectFiles(const Desk &desk, FileProgress &progress, LineQueue &lines, ProjectEdits &edits,
-                           ProjectSaving &saving)
+                           ProjectSaving &saving, const RecordingEnd &recording)
     : m_view(desk.view)
     , m_model(desk.model)
     , m_occupancy(desk.occupancy)
@@ -21,6 +22,7 @@ ProjectFiles::ProjectFiles(const Desk &desk, FileProgress &progress, LineQueue &
     , m_lines(lines)
     , m_edits(edits)
     , m_saving(saving)
+    , m_recording(recording)
 {
     if (!m_model.currentFile().isEmpty())
         m_view.rememberProject(m_model.currentFile());
@@ -33,13 +35,15 @@ void ProjectFiles::newProject()
     if (m_occupancy.refuseWhileOccupied())
         return;
     m_view.commitInput();
-    if (m_model.isProjectModified()) {
-        const bool save = m_occupancy.ask([this] { return m_view.askToSave(); });
-        if (save && !m_saving.saveUnsavedChanges())
+    // While a shot is being recorded, there is always more to save than a moment ago.
+    if (m_model.isProjectModified() || m_recording.isRecording()) {
+        const SaveAnswer answer = askToSave();
+        if (answer == SaveAnswer::Stay || (answer == SaveAnswer::Save && !saveChanges()))
             return;
-        if (!save)
-            emit boxGivenUp();
+        if (answer == SaveAnswer::Discard)
+            emit boxDismissed();
     }
+    m_recording.finishForGood();
     m_model.blockSignals(false);
     m_model.clear();
     emit cleared();
@@ -50,6 +54,18 @@ void ProjectFiles::newProject()
         m_view.forgetLiveValues();
     m_view.setConnected(m_model.isConnected());
     emit shown();
+    emit projectReplaced();
+}
+
+SaveAnswer ProjectFiles::askToSave()
+{
+    return m_occupancy.ask([this] { return m_view.questions().toSaveOrStay(); });
+}
+
+/// Ends the recording when the file is chosen, so that all of it is in the file.
+bool ProjectFiles::saveChanges()
+{
+    return m_saving.saveUnsavedChanges([this] { m_recording.finish(); });
 }
 
 void ProjectFiles::open()
@@ -57,8 +73,9 @@ void ProjectFiles::open()
     if (m_occupancy.refuseWhileOccupied())
         return;
     m_view.commitInput();
-    const QString fileName =
-        m_occupancy.ask([this] { return m_view.askOpenFile(tr("Projekt öffnen"), ProjectSaving::filter()); });
+    const QString fileName = m_occupancy.ask([this] {
+        return m_view.questions().openFile(tr("Projekt öffnen"), ProjectSaving::filter(), {Questions::kProjectFolder});
+    });
     if (fileName.isEmpty()) {
         qCDebug(lcController) << " filename is empty!";
         return;
@@ -77,9 +94,10 @@ void ProjectFiles::openNamed(const QString &fileName)
 
 void ProjectFiles::replaceWith(const QString &fileName)
 {
-    if (m_model.isProjectModified() && m_occupancy.ask([this] { return m_view.askToSave(); })
-        && !m_saving.saveUnsavedChanges())
+    if (!mayReplaceWith(fileName)) {
+        m_model.forgetReadAhead();
         return;
+    }
     const quint64 structure = m_model.structureRevision();
     const bool opened = load(fileName);
     if (opened)
@@ -90,6 +108,49 @@ void ProjectFiles::replaceWith(const QString &fileName)
     if (m_model.structureRevision() != structure)
         emit measurementsReplaced();
     showOpened(fileName, opened);
+    if (opened)
+        emit projectReplaced();
+}
+
+/// Asks about what would be lost, but not for a file that cannot be opened.
+bool ProjectFiles::mayReplaceWith(const QString &fileName)
+{
+    if (!m_model.isProjectModified() && !m_recording.isRecording())
+        return true;
+    if (!readAhead(fileName)) {
+        showOpened(fileName, false);
+        return false;
+    }
+    if (m_recording.isRecording() && !mayEndRecording())
+        return false;
+    if (m_model.isProjectModified()) {
+        const SaveAnswer answer = askToSave();
+        if (answer == SaveAnswer::Stay || (answer == SaveAnswer::Save && !saveChanges()))
+            return false;
+    }
+    m_recording.finishForGood(); // the rest of the shot must not land in the other project
+    return true;
+}
+
+bool ProjectFiles::mayEndRecording()
+{
+    Choice choice;
+    choice.title = tr("Projekt öffnen");
+    choice.text = tr("Eine Aufzeichnung läuft. Sie wird beendet, bevor das andere Projekt geöffnet wird.");
+    choice.answers = QStringList{tr("Weiter aufzeichnen"), tr("Beenden und öffnen")};
+    return m_occupancy.ask([&] { return m_view.questions().choose(choice); }) == 1;
+}
+
+bool ProjectFiles::readAhead(const QString &fileName)
+{
+    bool readable = false;
+    {
+        const ProgressScope progress(m_progress, tr("Loading..."));
+        const LineHold hold(m_lines);
+        readable = m_model.readAhead(fileName);
+    }
+    m_edits.applyKept(); // the project that is open is still the one that they were meant for
+    return readable;
 }
 
 bool ProjectFiles::load(const QString &fileName)
@@ -109,12 +170,12 @@ void ProjectFiles::showOpened(const QString &fileName, bool opened)
     if (opened)
         m_view.rememberProject(m_model.currentFile());
     else
-        warn(tr("Cannot open file %1 !.").arg(fileName));
+        warnOfFailure(fileName);
 }
 
-void ProjectFiles::warn(const QString &text)
+void ProjectFiles::warnOfFailure(const QString &fileName)
 {
-    m_occupancy.ask([&] { m_view.showWarning(text, tr("Problem")); });
+    m_occupancy.ask([&] { m_view.showWarning(tr("Cannot open file %1 !.").arg(fileName), tr("Problem")); });
 }
 
 // --- Quit ---
@@ -138,7 +199,9 @@ bool ProjectFiles::confirmQuit()
     qCDebug(lcController).noquote().nospace() << Q_FUNC_INFO << " modelChanged=" << m_model.isProjectModified();
     if (!m_model.isProjectModified() && !m_occupancy.ask([this] { return m_view.askToQuit(); }))
         return false;
-    // Samples may have come in while that question was open; then the other question has to be asked too.
+    // Samples may have come in while that question was open or be under way; then the other one has to be asked too.
+    if (!m_model.isProjectModified())
+        m_recording.finish();
     return !m_model.isProjectModified() || confirmLosingChanges();
 }
 
@@ -146,7 +209,7 @@ bool ProjectFiles::confirmLosingChanges()
 {
     switch (m_occupancy.ask([this] { return m_view.askToSaveAndQuit(); })) {
     case QMessageBox::Save: // changes made during the save are still unsaved
-        return m_saving.saveUnsavedChanges() && (!m_model.isProjectModified() || confirmQuit());
+        return saveChanges() && (!m_model.isProjectModified() || confirmQuit());
     case QMessageBox::Discard:
         return true;
     default:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controller/desk.h"
+#include "controller/recordingend.h"
 
 #include <QObject>
 
@@ -8,16 +9,18 @@ class FileProgress;
 class LineQueue;
 class ProjectEdits;
 class ProjectSaving;
+enum class SaveAnswer;
 
-/// New, open and quit: everything that gives up the project that is open, with the questions about unsaved changes.
+/// New, open and quit: everything that gives up the project that is open, with the questions about unsaved changes. A
+/// recording that runs is ended first, so that its last samples are in the project that they belong to.
 class ProjectFiles : public QObject
 {
     Q_OBJECT
 
 public:
     /// All references must outlive the files. The project that is open already is remembered as a recent one.
-    ProjectFiles(const Desk &desk, FileProgress &progress, LineQueue &lines, ProjectEdits &edits,
-                 ProjectSaving &saving);
+    ProjectFiles(const Desk &desk, FileProgress &progress, LineQueue &lines, ProjectEdits &edits, ProjectSaving &saving,
+                 const RecordingEnd &recording);
 
     void newProject();
     void open();
@@ -26,8 +29,12 @@ public:
     void quit();
 
 signals:
-    /// The user is leaving what was recorded with the box that is connected.
+    /// What was recorded with the box that is connected is thrown away.
+    void boxDismissed();
+    /// The program leaves the box, whose recording has been stopped.
     void boxGivenUp();
+    /// The project in the model is another one now.
+    void projectReplaced();
     /// The model has been cleared for a new project.
     void cleared();
     /// The measurements in the model are not those from before.
@@ -39,9 +46,14 @@ signals:
 
 private:
     void replaceWith(const QString &fileName);
+    [[nodiscard]] bool mayReplaceWith(const QString &fileName);
+    [[nodiscard]] bool mayEndRecording();
+    [[nodiscard]] SaveAnswer askToSave();
+    [[nodiscard]] bool saveChanges();
+    [[nodiscard]] bool readAhead(const QString &fileName);
     [[nodiscard]] bool load(const QString &fileName);
     void showOpened(const QString &fileName, bool opened);
-    void warn(const QString &text);
+    void warnOfFailure(const QString &fileName);
     [[nodiscard]] bool confirmQuit();
     [[nodiscard]] bool confirmLosingChanges();
 
@@ -52,4 +64,5 @@ private:
     LineQueue &m_lines;
     ProjectEdits &m_edits;
     ProjectSaving &m_saving;
+    RecordingEnd m_recording;
 };

@@ -4,9 +4,11 @@
 #include "controller/occupancy.h"
 #include "controller/recording/projectedits.h"
 #include "controller/waitcursor.h"
+#include "model/edit/editscope.h"
 #include "model/model.h"
 #include "model/project/photo.h"
 #include "model/project/projectimage.h"
+#include "view/window/prompts/questions.h"
 #include "view/window/view.h"
 
 #include <QDir>
@@ -47,11 +49,10 @@ QString faultText(PhotoFault fault, const QString &file)
 }
 
 /// The file is whole, or as it was.
-bool writePicture(const QPixmap &picture, const QString &fileName)
+bool writePicture(const QByteArray &png, const QString &fileName)
 {
-    const WaitCursor cursor;
     QSaveFile file(fileName);
-    return file.open(QIODevice::WriteOnly) && file.write(toPng(picture)) > 0 && file.commit();
+    return file.open(QIODevice::WriteOnly) && file.write(png) > 0 && file.commit();
 }
 
 } // namespace
@@ -70,7 +71,9 @@ void ProjectPictures::choose(int image)
     qCDebug(lcController) << Q_FUNC_INFO << image;
     if (m_occupancy.refuseWhileOccupied())
         return;
-    const QString file = m_occupancy.ask([this] { return m_view.askOpenFile(tr("Bild auswählen"), pictureFilter()); });
+    const QString file = m_occupancy.ask([this] {
+        return m_view.questions().openFile(tr("Bild auswählen"), pictureFilter(), {Questions::kPictureFolder});
+    });
     if (!file.isEmpty())
         (void)takeFile(image, file); // whoever chose it has been told of a failure
 }
@@ -92,7 +95,7 @@ void ProjectPictures::takeFiles(int image, const QStringList &files)
 int ProjectPictures::takeIntoFreeTiles(const QStringList &files, int taken)
 {
     for (int image = 0; image < Model::kNumImages && taken < files.size(); ++image) {
-        if (!m_model.image(image).isNull())
+        if (m_model.images().state(image) != PictureState::None)
             continue;
         if (!takeFile(image, files.at(taken)))
             return 0;
@@ -106,16 +109,16 @@ void ProjectPictures::take(int image, const QImage &picture)
     qCDebug(lcController) << Q_FUNC_INFO << image << picture.size();
     if (m_occupancy.refuseWhileOccupied() || picture.isNull() || !mayReplace(image))
         return;
-    set(image, QPixmap::fromImage(fittedPhoto(picture)));
+    (void)set(image, QPixmap::fromImage(fittedPhoto(picture))); // whoever gave it has been told of a failure
 }
 
 /// Whoever chooses a file in a dialog has decided; what is dropped or pasted may have missed its tile.
 bool ProjectPictures::mayReplace(int image)
 {
-    if (m_model.image(image).isNull())
+    if (m_model.images().state(image) == PictureState::None)
         return true;
     const QString question = tr("Bild %1 wird durch ein anderes ersetzt.\nFortfahren?").arg(image + 1);
-    return m_occupancy.ask([&] { return m_view.askYesNo(tr("Bild ersetzen"), question); });
+    return m_occupancy.ask([&] { return m_view.questions().yesNoDestructive(tr("Bild ersetzen"), question); });
 }
 
 bool ProjectPictures::takeFile(int image, const QString &file)
@@ -126,15 +129,31 @@ bool ProjectPictures::takeFile(int image, const QString &file)
         photo = readPhoto(file);
     }
     if (photo.fault == PhotoFault::None)
-        set(image, QPixmap::fromImage(photo.image));
-    else
-        m_occupancy.ask([&] { m_view.showWarning(faultText(photo.fault, file), tr("Problem")); });
-    return photo.fault == PhotoFault::None;
+        return set(image, QPixmap::fromImage(photo.image));
+    m_occupancy.ask([&] { m_view.showWarning(faultText(photo.fault, file), tr("Problem")); });
+    return false;
 }
 
-void ProjectPictures::set(int image, const QPixmap &picture)
+/// False if there is no room for it, of which the user has been told.
+bool ProjectPictures::set(int image, const QPixmap &picture)
 {
-    m_edits.apply([this, image, picture] { m_model.setImage(image, picture); });
+    const qint64 others = m_model.images().pixelsBeside(image);
+    if (others + qint64(picture.width()) * picture.height() > ImageStore::kMostPixels) {
+        const QString text = tr("Für Bild %1 ist kein Platz mehr: Alle Bilder eines Projekts zusammen dürfen höchstens "
+                                "%2 Millionen Bildpunkte haben, die anderen haben schon %3 Millionen.\n"
+                                "Bitte zuerst ein großes Bild löschen oder durch ein kleineres ersetzen.");
+        const QString most = QString::number(ImageStore::kMostPixels / 1000000);
+        const QString used = QString::number(others / 1000000);
+        m_occupancy.ask([&] { m_view.showWarning(text.arg(QString::number(image + 1), most, used), tr("Problem")); });
+        return false;
+    }
+    m_edits.apply([this, image, picture] {
+        const EditScope edit(&m_model, [image, replaces = m_model.images().state(image) != PictureState::None] {
+            return (replaces ? tr("Ersetzen von Bild %1") : tr("Einfügen von Bild %1")).arg(image + 1);
+        });
+        m_model.setImage(image, picture);
+    });
+    return true;
 }
 
 // --- Pictures go ---
@@ -142,33 +161,44 @@ void ProjectPictures::set(int image, const QPixmap &picture)
 void ProjectPictures::remove(int image)
 {
     qCDebug(lcController) << Q_FUNC_INFO << image;
-    if (m_occupancy.refuseWhileOccupied() || m_model.image(image).isNull())
+    if (m_occupancy.refuseWhileOccupied() || m_model.images().state(image) == PictureState::None)
         return;
     const QString question = tr("Bild %1 wird aus dem Projekt gelöscht.\nFortfahren?").arg(image + 1);
-    if (!m_occupancy.ask([&] { return m_view.askYesNo(tr("Bild löschen"), question); }))
+    if (!m_occupancy.ask([&] { return m_view.questions().yesNoDestructive(tr("Bild löschen"), question); }))
         return;
     m_model.blockSignals(false);
+    const EditScope edit(&m_model, [image] { return tr("Löschen von Bild %1").arg(image + 1); });
     (m_view.*kDeletions.at(static_cast<std::size_t>(image)))();
 }
 
 void ProjectPictures::save(int image)
 {
     qCDebug(lcController) << Q_FUNC_INFO << image;
-    const QPixmap picture = m_model.image(image);
-    if (m_occupancy.refuseWhileOccupied() || picture.isNull())
+    const PictureState state = m_model.images().state(image);
+    if (m_occupancy.refuseWhileOccupied() || state == PictureState::None || state == PictureState::Undecodable)
         return;
     const QString file = askFileToSave();
     if (file.isEmpty())
         return;
-    if (writePicture(picture, file))
+    if (writePicture(bytesOf(image), file))
         m_view.showStatus(tr("Bild gespeichert: %1").arg(file));
     else
         m_occupancy.ask([this] { m_view.showWarning(tr("Das Bild konnte nicht gespeichert werden!"), tr("Problem")); });
 }
 
+/// A picture that is shown smaller, or not at all, as it is in the project.
+QByteArray ProjectPictures::bytesOf(int image) const
+{
+    const WaitCursor cursor;
+    const QByteArray original = m_model.images().original(image);
+    return original.isEmpty() ? toPng(m_model.image(image)) : original;
+}
+
 /// Empty: cancelled.
 QString ProjectPictures::askFileToSave()
 {
-    return m_occupancy.ask(
-        [this] { return m_view.askSaveFileWithSuffix(tr("Bild speichern"), tr("PNG-Bild (*.png)"), kPictureSuffix); });
+    return m_occupancy.ask([this] {
+        return m_view.questions().saveFileWithSuffix(tr("Bild speichern"), tr("PNG-Bild (*.png)"), kPictureSuffix,
+                                                     Qt::CaseInsensitive, {}, {Questions::kPictureFolder});
+    });
 }

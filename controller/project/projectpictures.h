@@ -29,7 +29,8 @@ private:
     [[nodiscard]] bool mayReplace(int image);
     [[nodiscard]] int takeIntoFreeTiles(const QStringList &files, int taken);
     [[nodiscard]] bool takeFile(int image, const QString &file);
-    void set(int image, const QPixmap &picture);
+    [[nodiscard]] bool set(int image, const QPixmap &picture);
+    [[nodiscard]] QByteArray bytesOf(int image) const;
     [[nodiscard]] QString askFileToSave();
 
     View &m_view;

@@ -2,10 +2,14 @@
 
 #include "controller/occupancy.h"
 #include "controller/project/fileprogress.h"
+#include "controller/project/proposedname.h"
 #include "controller/recording/linehold.h"
 #include "controller/recording/projectedits.h"
 #include "model/model.h"
+#include "view/window/prompts/questions.h"
 #include "view/window/view.h"
+
+#include <QScopedValueRollback>
 
 namespace {
 
@@ -27,8 +31,9 @@ QString ProjectSaving::filter()
     return tr("Ventaro Dateien (*.vnt)");
 }
 
-bool ProjectSaving::saveUnsavedChanges()
+bool ProjectSaving::saveUnsavedChanges(const std::function<void()> &beforeWriting)
 {
+    const QScopedValueRollback<std::function<void()>> called(m_beforeWriting, beforeWriting);
     m_saved = false;
     emit m_view.saveProject(); // as if the user had asked for it; ends in save()
     return m_saved;
@@ -38,7 +43,8 @@ void ProjectSaving::save()
 {
     m_saved = false;
     const QString fileName = m_model.currentFile();
-    if (fileName.isEmpty()) {
+    // A file of another kind that was opened by mistake is not replaced.
+    if (fileName.isEmpty() || m_model.openLosses().isForeign) {
         saveAs();
         return;
     }
@@ -63,12 +69,26 @@ void ProjectSaving::saveAs()
 QString ProjectSaving::askFileToSave()
 {
     // Without the suffix the dialog for opening would not show the file.
-    return m_occupancy.ask(
-        [this] { return m_view.askSaveFileWithSuffix(tr("Projekt speichern"), filter(), kProjectSuffix); });
+    return m_occupancy.ask([this] {
+        return m_view.questions().saveFileWithSuffix(tr("Projekt speichern"), filter(), kProjectSuffix,
+                                                     Qt::CaseInsensitive, {},
+                                                     {Questions::kProjectFolder, proposedFile()});
+    });
+}
+
+/// The file that the project has; else one named after the project.
+QString ProjectSaving::proposedFile() const
+{
+    if (!m_model.currentFile().isEmpty())
+        return m_model.currentFile();
+    const QString name = proposedFileName(m_model.projectData().name);
+    return name.isEmpty() ? QString() : name + kProjectSuffix;
 }
 
 bool ProjectSaving::saveTo(const QString &fileName)
 {
+    if (m_beforeWriting)
+        m_beforeWriting();
     bool saved = false;
     {
         const ProgressScope progress(m_progress, tr("Saving..."));

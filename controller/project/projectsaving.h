@@ -4,6 +4,8 @@
 
 #include <QCoreApplication>
 
+#include <functional>
+
 class FileProgress;
 class LineQueue;
 class ProjectEdits;
@@ -19,14 +21,16 @@ public:
 
     /// Of dialogs that choose a project file.
     [[nodiscard]] static QString filter();
-    /// Under the current name, or as saveAs() if there is none.
+    /// Under the current name, or as saveAs() if there is none or if the file that has it is no project.
     void save();
     void saveAs();
     /// True if the user's changes are in a file afterwards; if not, whatever was about to replace them must not happen.
-    [[nodiscard]] bool saveUnsavedChanges();
+    /// `beforeWriting` is called when the file is chosen.
+    [[nodiscard]] bool saveUnsavedChanges(const std::function<void()> &beforeWriting);
 
 private:
     [[nodiscard]] QString askFileToSave();
+    [[nodiscard]] QString proposedFile() const;
     [[nodiscard]] bool saveTo(const QString &fileName);
     void showSaved(const QString &fileName);
     void warn(const QString &text);
@@ -37,5 +41,6 @@ private:
     FileProgress &m_progress;
     LineQueue &m_lines;
     ProjectEdits &m_edits;
-    bool m_saved = false; // how the last save ended
+    std::function<void()> m_beforeWriting; // of the save that is under way; mostly none
+    bool m_saved = false;                  // how the last save ended
 };

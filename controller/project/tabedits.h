@@ -2,6 +2,8 @@
 
 #include <QObject>
 
+#include <functional>
+
 class Model;
 class ProjectEdits;
 class QColor;
@@ -32,12 +34,15 @@ public:
 
     // --- Sensors ---
     void setSensorName(int sensor, const QString &name);
+    void setSensorUnit(int sensor, const QString &unit);
     void setSensorColor(int sensor, const QColor &color);
     /// The row of the oscilloscope takes them as its range, as it does with those that a box describes.
     void setSensorLimits(int group, int sensor, double minimum, double maximum);
 
 private:
     [[nodiscard]] int sampleAt(int pos_ms) const;
+    void applyToMarker(int index, const std::function<void()> &change);
+    void applyToSensor(int sensor, const std::function<void()> &change);
 
     View &m_view;
     Model &m_model;

@@ -7,15 +7,15 @@
 #include "model/changescope.h"
 #include "model/model.h"
 
-#include <QDateTime>
-
 #include <utility>
 
-Recorder::Recorder(Model &model, ProjectEdits &edits, MesotraConnector &connector, RecordingListener &listener)
+Recorder::Recorder(Model &model, ProjectEdits &edits, MesotraConnector &connector, RecordingListener &listener,
+                   ShotClock clock)
     : m_model(model)
     , m_edits(edits)
     , m_connector(connector)
     , m_listener(listener)
+    , m_clock(std::move(clock))
 {}
 
 void Recorder::setValuesInThousandths(bool inThousandths)
@@ -71,8 +71,9 @@ bool Recorder::endWithLink()
 void Recorder::beginMeasurement()
 {
     for (int position = 0; position < kNumSensors; ++position)
-        m_series.setIndex(position, m_model.appendMeasurement(position));
-    m_model.setTimestamp(m_series.index(0), QDateTime::currentDateTime());
+        m_series.setIndex(position, m_model.appendMeasurement(position), m_model);
+    m_model.setTimestamp(m_series.index(0, m_model), m_clock.now());
+    m_model.setSamplingPeriod(m_series.index(0, m_model), m_model.clock());
     m_listener.measurementBegun();
     // A deletion that ended with a syntax error has left them blocked.
     m_model.blockSignals(false);
@@ -108,7 +109,7 @@ bool Recorder::store(const SampleLine &sample)
 
 double Recorder::secondsOfNewestSample() const
 {
-    const SampleList *samples = m_model.measurement(0, m_series.index(0));
+    const SampleList *samples = m_model.measurement(0, m_series.index(0, m_model));
     return samples && !samples->isEmpty() ? (samples->size() - 1) * (m_model.clock() / 1000.0) : 0.0;
 }
 

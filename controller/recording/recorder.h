@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controller/recording/recordingseries.h"
+#include "controller/recording/shotclock.h"
 #include "device/protocol/sampleline.h"
 
 #include <QElapsedTimer>
@@ -19,13 +20,16 @@ class RecordingListener;
 class Recorder
 {
 public:
-    /// All four must outlive the recorder.
-    Recorder(Model &model, ProjectEdits &edits, MesotraConnector &connector, RecordingListener &listener);
+    /// The four references must outlive the recorder.
+    Recorder(Model &model, ProjectEdits &edits, MesotraConnector &connector, RecordingListener &listener,
+             ShotClock clock = ShotClock());
 
     /// True from the echo of a start to the echo of the stop, or to the end of the link.
     [[nodiscard]] bool isRunning() const { return m_running; }
     /// The measurement of a sensor position (0 to 4) that receives the samples; -1 for none.
-    [[nodiscard]] int seriesIndex(int position) const { return m_series.index(position); }
+    [[nodiscard]] int seriesIndex(int position) const { return m_series.index(position, m_model); }
+    /// The ids of the shot that grows; 0 for each sensor while no recording runs.
+    [[nodiscard]] ShotIds growingShot() const { return m_running ? m_series.ids() : ShotIds(); }
     /// Tells the listener again that a recording runs, if one does.
     void announceRunning() const;
     [[nodiscard]] bool areValuesInThousandths() const { return m_inThousandths; }
@@ -49,9 +53,10 @@ public:
     /// Milliseconds since the previous call, 0 at the first one; for the log of the sample lines.
     [[nodiscard]] qint64 restartLineClock();
 
+    /// Time stamps follow the computer's clock again; see ShotClock.
+    void restartShotClock() { m_clock.restart(); }
+
     // --- What happens to the measurements ---
-    /// Keeps the indices right after one measurement was removed from the model.
-    void measurementRemoved(int measurement) { m_series.measurementRemoved(measurement); }
     /// No measurement receives samples until the next one begins.
     void forgetSeries() { m_series.clear(); }
 
@@ -66,6 +71,7 @@ private:
     MesotraConnector &m_connector;
     RecordingListener &m_listener;
     RecordingSeries m_series;
+    ShotClock m_clock;
     QElapsedTimer m_sinceLine;
     std::optional<SampleLine> m_unstoredAnswer; // came while calibrating and found no measurement to land in
     bool m_running = false;

@@ -2,23 +2,34 @@
 
 #include "model/model.h"
 
-#include <algorithm>
-
-int RecordingSeries::index(int position) const
+int RecordingSeries::index(int position, const Model &model) const
 {
-    return position >= 0 && position < kNumSensors ? m_indices[static_cast<std::size_t>(position)] : -1;
+    if (position < 0 || position >= kNumSensors)
+        return -1;
+    const auto i = static_cast<std::size_t>(position);
+    if (m_ids[i] == 0)
+        return -1;
+    if (m_revisions[i] != model.structureRevision()) {
+        m_revisions[i] = model.structureRevision();
+        m_indices[i] = model.indexOfMeasurement(position, m_ids[i]);
+    }
+    return m_indices[i];
 }
 
-void RecordingSeries::setIndex(int position, int measurement)
+void RecordingSeries::setIndex(int position, int measurement, const Model &model)
 {
-    if (position >= 0 && position < kNumSensors)
-        m_indices[static_cast<std::size_t>(position)] = measurement;
+    if (position < 0 || position >= kNumSensors)
+        return;
+    const auto i = static_cast<std::size_t>(position);
+    m_ids[i] = model.measurementId(position, measurement);
+    m_indices[i] = measurement;
+    m_revisions[i] = model.structureRevision();
 }
 
 bool RecordingSeries::isComplete(const Model &model) const
 {
     for (int position = 0; position < kNumSensors; ++position)
-        if (!model.measurement(position, index(position)))
+        if (!model.measurement(position, index(position, model)))
             return false;
     return true;
 }
@@ -26,21 +37,11 @@ bool RecordingSeries::isComplete(const Model &model) const
 bool RecordingSeries::isEmpty(const Model &model) const
 {
     for (int position = 0; position < kNumSensors; ++position) {
-        const SampleList *samples = model.measurement(position, index(position));
+        const SampleList *samples = model.measurement(position, index(position, model));
         if (!samples || !samples->isEmpty())
             return false;
     }
     return true;
-}
-
-void RecordingSeries::measurementRemoved(int measurement)
-{
-    for (int &index : m_indices) {
-        if (index == measurement)
-            index = -1;
-        else if (index > measurement)
-            --index;
-    }
 }
 
 bool RecordingSeries::append(const std::array<double, kNumSensors> &values, Model &model) const
@@ -49,7 +50,7 @@ bool RecordingSeries::append(const std::array<double, kNumSensors> &values, Mode
     for (int position = 0; position < kNumSensors; ++position) {
         const auto i = static_cast<std::size_t>(position);
         // A position without a measurement has an index that the model refuses without a word.
-        taken = model.appendSample(position, m_indices[i], values[i]) || taken;
+        taken = model.appendSample(position, index(position, model), values[i]) || taken;
     }
     return taken;
 }

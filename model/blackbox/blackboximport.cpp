@@ -1,6 +1,5 @@
 #include "model/blackbox/blackboximport.h"
 
-#include "model/arrayindex.h"
 #include "model/logging.h"
 #include "model/modelchanges.h"
 #include "model/project/filework.h"
@@ -33,10 +32,27 @@ bool BlackBoxImport::add(const QString &fileName, const char *function)
         return false;
     apply(*document, function);
     m_files.add(QFileInfo(fileName).absoluteFilePath());
+    remember(fileName);
     // Also without a new shot, as the description of the sensors may have changed.
     m_changes.project(function);
     m_changes.data(function);
     return true;
+}
+
+void BlackBoxImport::setFiles(const QStringList &files)
+{
+    m_files.setFiles(files);
+    m_project.meta.importedFiles.clear();
+    for (const QString &file : files)
+        remember(file);
+}
+
+// A file that is gone has no fingerprint. An empty one in the set would match every unreadable file.
+void BlackBoxImport::remember(const QString &file)
+{
+    const QByteArray fingerprint = blackBoxFingerprint(file);
+    if (!fingerprint.isEmpty())
+        m_project.meta.importedFiles.insert(fingerprint);
 }
 
 // Nothing if the file could not be read to its end: half a shot would look like a whole one.
@@ -63,10 +79,9 @@ void BlackBoxImport::apply(BlackBoxDocument &document, const char *function)
     m_editor.setSensorDescription(document.sensors);
     if (!document.hasMeasurement())
         return;
-    for (int sensor = 0; sensor < kNumSensors; ++sensor)
-        m_project.shots.append(sensor, std::move(document.samples[at(sensor)]));
+    const int shot = m_project.appendShot(std::move(document.samples));
     if (!document.timestamp)
         return;
-    m_editor.setTimestamp(m_project.shots.count(0) - 1, *document.timestamp);
+    m_editor.setTimestamp(shot, *document.timestamp);
     m_changes.project(function);
 }

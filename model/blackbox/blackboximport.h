@@ -21,6 +21,8 @@ public:
     /// Appends the shot of a file, unless it holds none, takes over what it says about the sensors and puts it on
     /// the list of files. False if it is no regular file or cannot be read. `function` is the one that log lines name.
     [[nodiscard]] bool add(const QString &fileName, const char *function);
+    /// Replaces the list of files, and the fingerprints that the project keeps.
+    void setFiles(const QStringList &files);
     /// What the last add() could not take over.
     [[nodiscard]] BlackBoxLosses losses() const { return m_losses; }
     [[nodiscard]] const ImportedFiles &files() const { return m_files; }
@@ -29,6 +31,7 @@ public:
 private:
     [[nodiscard]] std::optional<BlackBoxDocument> read(QFile &file, const char *function);
     void apply(BlackBoxDocument &document, const char *function);
+    void remember(const QString &file);
 
     ProjectEditor &m_editor;
     Project &m_project;

@@ -8,6 +8,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstring>
+#include <utility>
 
 namespace {
 
@@ -129,6 +130,33 @@ bool JsonReader::skipValue(Token token)
     return token != Token::Invalid;
 }
 
+bool JsonReader::copyValue(QByteArray &text, int most)
+{
+    (void)peekBehindBlanks(); // they are no part of the value
+    m_copy = QByteArray();
+    m_copyFrom = m_pos;
+    m_mostCopied = most;
+    m_skipStrings = true;
+    const bool valid = skipValue(next());
+    m_skipStrings = false;
+    copyUpToHere();
+    m_copyFrom = nullptr;
+    text = std::exchange(m_copy, {});
+    return valid;
+}
+
+void JsonReader::copyUpToHere()
+{
+    const auto size = m_pos - m_copyFrom;
+    if (size > m_mostCopied - m_copy.size()) {
+        m_mostCopied = -1;
+        m_copy = QByteArray();
+    } else {
+        m_copy.append(m_copyFrom, static_cast<int>(size));
+    }
+    m_copyFrom = m_pos;
+}
+
 int JsonReader::peekBehindBlanks()
 {
     static constexpr char kBlanks[] = "        ";
@@ -150,6 +178,8 @@ bool JsonReader::refill()
 {
     if (m_atEnd)
         return false;
+    if (m_copyFrom)
+        copyUpToHere();
     const auto rest = static_cast<int>(m_end - m_pos);
     const auto offset = static_cast<int>(m_pos - m_buffer.constData());
     if (rest > m_buffer.size() / 2)
@@ -158,6 +188,7 @@ bool JsonReader::refill()
     std::memmove(data, data + offset, static_cast<std::size_t>(rest));
     const qint64 got = m_source.read(data + rest, m_buffer.size() - rest);
     m_pos = data;
+    m_copyFrom = m_copyFrom ? data : nullptr;
     m_end = data + rest + qMax<qint64>(got, 0);
     m_atEnd = got <= 0;
     m_failed = m_failed || got < 0;

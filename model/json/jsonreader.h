@@ -35,6 +35,8 @@ public:
     [[nodiscard]] Token next();
     /// Of the last key, or of the last string unless strings are skipped.
     [[nodiscard]] QString text() const;
+    /// The same as the document has it, with its escapes; valid until the next token.
+    [[nodiscard]] const QByteArray &escapedText() const { return m_text; }
     /// Of the last number.
     [[nodiscard]] double number() const { return m_number; }
 
@@ -44,6 +46,10 @@ public:
     /// Reads on to the end of the value that `token` began; false if it is not valid.
     [[nodiscard]] bool skipValue(Token token);
 
+    /// Reads the next value and copies its text, byte for byte. A text of more than `most` bytes is not copied, and
+    /// `text` is empty then. False if the value is not valid.
+    [[nodiscard]] bool copyValue(QByteArray &text, int most);
+
     /// As many as QJsonDocument takes.
     static constexpr std::size_t kMaxDepth = 1024;
 
@@ -52,6 +58,7 @@ private:
 
     [[nodiscard]] int peekBehindBlanks();
     [[nodiscard]] bool refill();
+    void copyUpToHere();
     void skipByteOrderMark();
     Token fail();
     Token separator(int c);
@@ -71,8 +78,11 @@ private:
     const char *m_pos = nullptr;
     const char *m_end = nullptr;
     qint64 m_bytesRead = 0;
-    std::vector<bool> m_inObject; // one entry per level
-    QByteArray m_text;            // as the file has it, with its escapes
+    std::vector<bool> m_inObject;     // one entry per level
+    QByteArray m_text;                // as the file has it, with its escapes
+    QByteArray m_copy;                // of the value that is being copied
+    const char *m_copyFrom = nullptr; // what is not copied yet; nullptr while nothing is to be copied
+    int m_mostCopied = 0;             // negative once the value has turned out to be longer
     double m_number = 0.0;
     Expected m_expected = Expected::Value;
     bool m_atEnd = false;

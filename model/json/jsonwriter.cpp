@@ -44,9 +44,14 @@ void JsonWriter::end(char bracket)
 
 void JsonWriter::key(const char *name)
 {
+    escapedKey(QByteArray::fromRawData(name, static_cast<int>(std::strlen(name))));
+}
+
+void JsonWriter::escapedKey(const QByteArray &name)
+{
     beginItem();
     append("\"", 1);
-    append(name, static_cast<int>(std::strlen(name)));
+    append(name.constData(), name.size());
     append("\": ", 3);
     m_afterKey = true;
 }
@@ -69,6 +74,17 @@ void JsonWriter::value(bool truth)
 {
     beginItem();
     truth ? append("true", 4) : append("false", 5);
+}
+
+void JsonWriter::json(const QByteArray &text)
+{
+    beginItem();
+    append(text.constData(), text.size());
+}
+
+void JsonWriter::base64(const QByteArray &bytes)
+{
+    json('"' + bytes.toBase64() + '"');
 }
 
 void JsonWriter::values(const double *numbers, int count)

@@ -18,9 +18,15 @@ public:
     void endArray() { end(']'); }
     /// ASCII without anything to escape.
     void key(const char *name);
+    /// The same with its escapes, as it was read.
+    void escapedKey(const QByteArray &name);
     void value(const QString &text);
     void value(double number);
     void value(bool truth);
+    /// A value that is JSON text already; written as it is.
+    void json(const QByteArray &text);
+    /// Encodes bytes as Base64.
+    void base64(const QByteArray &bytes);
     /// Many elements of the current array.
     void values(const double *numbers, int count);
 

@@ -10,6 +10,7 @@
 
 #include <cstring>
 #include <new>
+#include <utility>
 
 namespace {
 
@@ -36,17 +37,39 @@ quint32 mixedWith(quint32 hash, const SampleList *samples)
     return count == 0 ? hash : mixedWith(mixedWith(hash, samples->constFirst()), samples->constLast());
 }
 
-std::optional<ProjectMeta> readMetaFile(const QString &fileName, const ShotStore &shots)
+/// False for what is no regular file, too: reading from a pipe would not return.
+bool openRegular(QFile &file)
+{
+    return QFileInfo(file.fileName()).isFile() && file.open(QIODevice::ReadOnly) && file.size() <= kLargestMeta;
+}
+
+std::optional<ProjectMeta> readMetaFile(const QString &fileName, const ShotChecks &checks)
 {
     QFile file(fileName);
-    // Reading from a pipe would not return.
-    if (!QFileInfo(fileName).isFile() || !file.open(QIODevice::ReadOnly) || file.size() > kLargestMeta)
+    if (!openRegular(file))
         return {};
     try {
-        return readProjectMeta(file, shotChecks(shots));
+        return readProjectMeta(file, checks);
     } catch (const std::bad_alloc &) {
         return {};
     }
+}
+
+bool isNewer(const QString &fileName)
+{
+    QFile file(fileName);
+    return openRegular(file) && isNewerProjectMeta(file);
+}
+
+/// What somebody may still need is not replaced, whenever it came there.
+bool keepUnreadableFile(const QString &fileName)
+{
+    // What is no file cannot be replaced anyway, which is noticed later.
+    if (!QFileInfo(fileName).isFile() || readMetaFile(fileName, {}))
+        return true;
+    const QString name = badMetaName(fileName);
+    qCDebug(lcModel).noquote().nospace() << "keeping " << fileName << " as " << name;
+    return !name.isEmpty() && QFile::rename(fileName, name);
 }
 
 } // namespace
@@ -66,10 +89,11 @@ ShotChecks shotChecks(const ShotStore &shots)
 bool saveMeta(const QString &projectFile, const ProjectMeta &meta, const ShotChecks &checks)
 {
     const QString fileName = metaFileName(projectFile);
-    if (meta.isBlank() && !QFileInfo::exists(fileName))
+    const bool isFree = keepUnreadableFile(fileName);
+    if (isFree && meta.isBlank() && !QFileInfo::exists(fileName))
         return true;
     try {
-        if (replaceFile(fileName, [&](QIODevice &target) { return writeProjectMeta(target, meta, checks); }))
+        if (isFree && replaceFile(fileName, [&](QIODevice &target) { return writeProjectMeta(target, meta, checks); }))
             return true;
     } catch (const std::bad_alloc &) {
         // told below, like any other failure
@@ -78,13 +102,35 @@ bool saveMeta(const QString &projectFile, const ProjectMeta &meta, const ShotChe
     return false;
 }
 
-std::optional<ProjectMeta> openMeta(const QString &projectFile, const ShotStore &shots, const char *function)
+QString badMetaName(const QString &metaFile)
 {
-    const QString fileName = metaFileName(projectFile);
-    if (!QFileInfo::exists(fileName))
-        return {};
-    std::optional<ProjectMeta> meta = readMetaFile(fileName, shots);
-    if (!meta)
-        qCDebug(lcModel).noquote().nospace() << function << " ERROR: could not read file:" << fileName;
-    return meta;
+    constexpr int kMost = 1000;
+    const QString first = metaFile + QLatin1String(".bad");
+    QString name = first;
+    for (int number = 2; QFileInfo::exists(name) || QFileInfo(name).isSymLink(); ++number) {
+        if (number > kMost)
+            return {};
+        name = first + QString::number(number);
+    }
+    return name;
+}
+
+MetaReading openMeta(const QString &projectFile, const ShotStore &shots, const char *function)
+{
+    MetaReading reading;
+    reading.fileName = metaFileName(projectFile);
+    const QString besideLink = projectFile + QLatin1String(".meta"); // where earlier versions wrote it
+    if (!QFileInfo::exists(reading.fileName) && QFileInfo::exists(besideLink))
+        reading.fileName = besideLink;
+    if (!QFileInfo::exists(reading.fileName))
+        return reading;
+    std::optional<ProjectMeta> meta = readMetaFile(reading.fileName, shotChecks(shots));
+    if (meta) {
+        reading.meta = *std::move(meta);
+        reading.state = MetaState::Read;
+        return reading;
+    }
+    qCDebug(lcModel).noquote().nospace() << function << " ERROR: could not read file:" << reading.fileName;
+    reading.state = isNewer(reading.fileName) ? MetaState::Newer : MetaState::Damaged;
+    return reading;
 }

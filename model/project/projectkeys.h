@@ -26,6 +26,9 @@ inline constexpr char kSensorMaximum[] = "sensor maxValues";
 inline constexpr char kSensorMinimum[] = "sensor minValues";
 inline constexpr char kFirmwareVersion[] = "swVersion";
 
+/// Belongs to the format, but is neither read nor written.
+inline constexpr char kReserved[] = "measurement";
+
 inline constexpr char kViewData[] = "ViewData";
 // Within the view data.
 inline constexpr char kMarkersAbsolute[] = "checkBoxMarkerAbsolute";

@@ -1,18 +1,23 @@
 #include "model/project/projectmeta.h"
 
+#include <QFileInfo>
 #include <QIODevice>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
+#include <initializer_list>
 
 namespace {
 
 constexpr int kMetaVersion = 1;
 constexpr int kMostQuantities = 1000; // of one sensor
 constexpr int kLongestOrigin = 5000;  // characters of each of its texts
+constexpr int kMostImported = 100000;
+constexpr int kLongestPeriod = 3600000; // ms
+constexpr int kLongestFingerprint = 100;
 
 const QString kVersionKey = QStringLiteral("metaVersion");
 const QString kSensorsKey = QStringLiteral("sensors");
@@ -32,6 +37,14 @@ const QString kOriginKey = QStringLiteral("origin");
 const QString kBoxKey = QStringLiteral("box");
 const QString kFileKey = QStringLiteral("file");
 const QString kHashKey = QStringLiteral("sha1");
+// Later additions. A program that does not know them reads all the rest, so the version stays the same.
+const QString kPeriodKey = QStringLiteral("period");
+const QString kUnitKey = QStringLiteral("unit");
+const QString kUnitOfKey = QStringLiteral("unitOf");
+const QString kNameKey = QStringLiteral("name");
+const QString kMinimumKey = QStringLiteral("min");
+const QString kMaximumKey = QStringLiteral("max");
+const QString kImportedKey = QStringLiteral("imported");
 
 std::optional<double> toLimit(const QJsonValue &value)
 {
@@ -48,17 +61,6 @@ QJsonObject toJson(const QuantityMeta &quantity)
     return object;
 }
 
-QJsonObject toJson(const SensorMeta &sensor)
-{
-    QJsonArray quantities;
-    for (const QuantityMeta &quantity : sensor.quantities)
-        quantities.append(toJson(quantity));
-    return {{kStartKey, sensor.startThreshold},
-            {kStopKey, sensor.stopThreshold},
-            {kChosenKey, sensor.chosenQuantity},
-            {kQuantitiesKey, quantities}};
-}
-
 QJsonObject toJson(const ShotOrigin &origin)
 {
     QJsonObject object{{kFileKey, origin.file}, {kHashKey, QString::fromLatin1(origin.hash.toHex())}};
@@ -73,15 +75,21 @@ ShotOrigin toOrigin(const QJsonObject &object)
     return {text(kBoxKey), text(kFileKey), QByteArray::fromHex(text(kHashKey).toLatin1())};
 }
 
-QJsonObject toJson(quint32 check, const QString &label, const QDateTime &timestamp, const ShotOrigin &origin)
+QJsonObject toJson(const SensorMeta &sensor, const SensorUnit &unit)
 {
-    QJsonObject object{{kCheckKey, double(check)}};
-    if (!label.isEmpty())
-        object.insert(kLabelKey, label);
-    if (timestamp.isValid())
-        object.insert(kTimeKey, timestamp.toUTC().toString(Qt::ISODateWithMs));
-    if (origin.isKnown())
-        object.insert(kOriginKey, toJson(origin));
+    QJsonArray quantities;
+    for (const QuantityMeta &quantity : sensor.quantities)
+        quantities.append(toJson(quantity));
+    QJsonObject object = sensor.others;
+    object.insert(kStartKey, sensor.startThreshold);
+    object.insert(kStopKey, sensor.stopThreshold);
+    object.insert(kChosenKey, sensor.chosenQuantity);
+    object.insert(kQuantitiesKey, quantities);
+    if (unit.unit.isEmpty())
+        return object;
+    object.insert(kUnitKey, unit.unit);
+    object.insert(kUnitOfKey,
+                  QJsonObject{{kNameKey, unit.name}, {kMinimumKey, unit.minimum}, {kMaximumKey, unit.maximum}});
     return object;
 }
 
@@ -89,6 +97,25 @@ template <typename Value>
 Value elementOf(const std::vector<Value> &values, std::size_t index)
 {
     return index < values.size() ? values[index] : Value();
+}
+
+QJsonObject shotToJson(const ProjectMeta &meta, std::size_t shot, quint32 check)
+{
+    QJsonObject object = elementOf(meta.shotOthers, shot);
+    object.insert(kCheckKey, double(check));
+    const QString label = elementOf(meta.labels, shot);
+    if (!label.isEmpty())
+        object.insert(kLabelKey, label);
+    const QDateTime timestamp = elementOf(meta.timestamps, shot);
+    if (timestamp.isValid())
+        object.insert(kTimeKey, timestamp.toUTC().toString(Qt::ISODateWithMs));
+    const int period = elementOf(meta.periods, shot);
+    if (period > 0)
+        object.insert(kPeriodKey, period);
+    const ShotOrigin origin = elementOf(meta.origins, shot);
+    if (origin.isKnown())
+        object.insert(kOriginKey, toJson(origin));
+    return object;
 }
 
 template <typename Value>
@@ -99,12 +126,50 @@ void setElement(std::vector<Value> &values, std::size_t index, const Value &valu
     values[index] = value;
 }
 
+template <typename Value>
+void removeElement(std::vector<Value> &values, std::size_t index)
+{
+    if (index < values.size())
+        values.erase(values.begin() + static_cast<std::ptrdiff_t>(index));
+}
+
+template <typename Value>
+void keepElements(std::vector<Value> &values, std::size_t count)
+{
+    values.resize(std::min(count, values.size()));
+}
+
+QJsonObject without(QJsonObject object, std::initializer_list<QString> known)
+{
+    for (const QString &key : known)
+        object.remove(key);
+    return object;
+}
+
+SensorUnit toUnit(const QJsonObject &object)
+{
+    const QJsonObject sensor = object.value(kUnitOfKey).toObject();
+    return {object.value(kUnitKey).toString().left(SensorGroup::kLongestUnit), sensor.value(kNameKey).toString(),
+            sensor.value(kMinimumKey).toDouble(), sensor.value(kMaximumKey).toDouble()};
+}
+
+// A list that ends before the place stays as it is for a value that says nothing.
+template <typename Value>
+void insertElement(std::vector<Value> &values, std::size_t index, const Value &value)
+{
+    if (index < values.size())
+        values.insert(values.begin() + static_cast<std::ptrdiff_t>(index), value);
+    else if (!(value == Value()))
+        setElement(values, index, value);
+}
+
 SensorMeta toSensor(const QJsonObject &object)
 {
     SensorMeta sensor;
     sensor.startThreshold = toLimit(object.value(kStartKey)).value_or(0.0);
     sensor.stopThreshold = toLimit(object.value(kStopKey)).value_or(0.0);
     sensor.chosenQuantity = object.value(kChosenKey).toString();
+    sensor.others = without(object, {kStartKey, kStopKey, kChosenKey, kQuantitiesKey, kUnitKey, kUnitOfKey});
     const QJsonArray quantities = object.value(kQuantitiesKey).toArray();
     for (int i = 0; i < std::min(kMostQuantities, quantities.size()); ++i) {
         const QJsonObject settings = quantities.at(i).toObject();
@@ -123,9 +188,11 @@ void readShots(ProjectMeta &meta, const QJsonArray &shots, const ShotChecks &che
     meta.labels.resize(count);
     meta.timestamps.resize(count);
     meta.origins.resize(count);
+    meta.periods.resize(count);
+    meta.shotOthers.resize(count);
     for (std::size_t i = 0; i < count; ++i) {
         const QJsonObject shot = shots.at(static_cast<int>(i)).toObject();
-        // Another check number: the project was changed without this file, and the label belongs to another shot.
+        // Another check number: the project was changed without this file, and all this belongs to another shot.
         if (shot.value(kCheckKey).toDouble(-1.0) != double(checks[i]))
             continue;
         meta.labels[i] = shot.value(kLabelKey).toString().left(ProjectMeta::kLongestLabel);
@@ -133,7 +200,43 @@ void readShots(ProjectMeta &meta, const QJsonArray &shots, const ShotChecks &che
         const QDateTime timestamp = QDateTime::fromString(time, Qt::ISODateWithMs);
         meta.timestamps[i] = timestamp.isValid() ? timestamp.toLocalTime() : QDateTime();
         meta.origins[i] = toOrigin(shot.value(kOriginKey).toObject());
+        meta.periods[i] = std::clamp(shot.value(kPeriodKey).toInt(), 0, kLongestPeriod);
+        meta.shotOthers[i] = without(shot, {kCheckKey, kLabelKey, kTimeKey, kPeriodKey, kOriginKey});
     }
+}
+
+QSet<QByteArray> toFingerprints(const QJsonArray &texts)
+{
+    QSet<QByteArray> fingerprints;
+    for (int i = 0; i < std::min(kMostImported, texts.size()); ++i) {
+        const QByteArray fingerprint = QByteArray::fromHex(texts.at(i).toString().toLatin1());
+        if (!fingerprint.isEmpty() && fingerprint.size() <= kLongestFingerprint)
+            fingerprints.insert(fingerprint);
+    }
+    return fingerprints;
+}
+
+QJsonArray toJson(const QSet<QByteArray> &fingerprints)
+{
+    QStringList texts;
+    for (const QByteArray &fingerprint : fingerprints)
+        texts.append(QString::fromLatin1(fingerprint.toHex()));
+    texts.sort(); // the same project gives the same file
+    return QJsonArray::fromStringList(texts);
+}
+
+/// Nothing if that is too long.
+QJsonObject readRoot(QIODevice &source)
+{
+    const QByteArray text = source.read(kLargestMeta + 1);
+    return text.size() > kLargestMeta ? QJsonObject() : QJsonDocument::fromJson(text).object();
+}
+
+/// What follows the point is a version that only adds to what is there.
+int versionOf(const QJsonObject &root)
+{
+    const double version = root.value(kVersionKey).toDouble();
+    return version >= 1.0 && version < 1e6 ? static_cast<int>(version) : 0;
 }
 
 } // namespace
@@ -161,7 +264,11 @@ bool ProjectMeta::isBlank() const
            && std::all_of(labels.begin(), labels.end(), [](const QString &label) { return label.isEmpty(); })
            && std::none_of(timestamps.begin(), timestamps.end(),
                            [](const QDateTime &timestamp) { return timestamp.isValid(); })
-           && std::none_of(origins.begin(), origins.end(), [](const ShotOrigin &origin) { return origin.isKnown(); });
+           && std::none_of(origins.begin(), origins.end(), [](const ShotOrigin &origin) { return origin.isKnown(); })
+           && std::all_of(periods.begin(), periods.end(), [](int period) { return period == 0; })
+           && std::all_of(shotOthers.begin(), shotOthers.end(), [](const QJsonObject &shot) { return shot.isEmpty(); })
+           && std::all_of(units.begin(), units.end(), [](const SensorUnit &unit) { return unit.unit.isEmpty(); })
+           && importedFiles.isEmpty() && others.isEmpty();
 }
 
 QString ProjectMeta::label(int shot) const
@@ -194,23 +301,50 @@ void ProjectMeta::setOrigin(int shot, const ShotOrigin &origin)
     setElement(origins, static_cast<std::size_t>(shot), origin);
 }
 
+int ProjectMeta::period(int shot) const
+{
+    return elementOf(periods, static_cast<std::size_t>(shot));
+}
+
+void ProjectMeta::setPeriod(int shot, int milliseconds)
+{
+    setElement(periods, static_cast<std::size_t>(shot), milliseconds);
+}
+
 void ProjectMeta::keepShots(int count)
 {
     const auto most = static_cast<std::size_t>(count);
-    labels.resize(std::min(most, labels.size()));
-    timestamps.resize(std::min(most, timestamps.size()));
-    origins.resize(std::min(most, origins.size()));
+    keepElements(labels, most);
+    keepElements(timestamps, most);
+    keepElements(periods, most);
+    keepElements(origins, most);
+    keepElements(shotOthers, most);
+}
+
+ShotMeta ProjectMeta::shot(int shot) const
+{
+    const auto index = static_cast<std::size_t>(shot);
+    return {label(shot), timestamp(shot), period(shot), elementOf(shotOthers, index), origin(shot)};
+}
+
+void ProjectMeta::insertShot(int shot, const ShotMeta &meta)
+{
+    const auto index = static_cast<std::size_t>(shot);
+    insertElement(labels, index, meta.label);
+    insertElement(timestamps, index, meta.timestamp);
+    insertElement(periods, index, meta.period);
+    insertElement(origins, index, meta.origin);
+    insertElement(shotOthers, index, meta.others);
 }
 
 void ProjectMeta::removeShot(int shot)
 {
     const auto index = static_cast<std::size_t>(shot);
-    if (index < labels.size())
-        labels.erase(labels.begin() + shot);
-    if (index < timestamps.size())
-        timestamps.erase(timestamps.begin() + shot);
-    if (index < origins.size())
-        origins.erase(origins.begin() + shot);
+    removeElement(labels, index);
+    removeElement(timestamps, index);
+    removeElement(periods, index);
+    removeElement(origins, index);
+    removeElement(shotOthers, index);
 }
 
 bool operator==(const QuantityMeta &a, const QuantityMeta &b)
@@ -221,45 +355,64 @@ bool operator==(const QuantityMeta &a, const QuantityMeta &b)
 bool operator==(const SensorMeta &a, const SensorMeta &b)
 {
     return a.startThreshold == b.startThreshold && a.stopThreshold == b.stopThreshold
-           && a.chosenQuantity == b.chosenQuantity && a.quantities == b.quantities;
+           && a.chosenQuantity == b.chosenQuantity && a.quantities == b.quantities && a.others == b.others;
+}
+
+bool operator==(const SensorUnit &a, const SensorUnit &b)
+{
+    return a.unit == b.unit && a.name == b.name && a.minimum == b.minimum && a.maximum == b.maximum;
 }
 
 bool operator==(const ProjectMeta &a, const ProjectMeta &b)
 {
-    return a.sensors == b.sensors && a.labels == b.labels && a.timestamps == b.timestamps && a.origins == b.origins;
+    return a.sensors == b.sensors && a.labels == b.labels && a.timestamps == b.timestamps && a.periods == b.periods
+           && a.origins == b.origins && a.shotOthers == b.shotOthers && a.importedFiles == b.importedFiles
+           && a.others == b.others && a.units == b.units;
 }
 
 QString metaFileName(const QString &projectFile)
 {
-    return projectFile + QLatin1String(".meta");
+    const QString real = QFileInfo(projectFile).canonicalFilePath(); // empty if there is no such file
+    return (real.isEmpty() ? projectFile : real) + QLatin1String(".meta");
 }
 
 bool writeProjectMeta(QIODevice &target, const ProjectMeta &meta, const ShotChecks &checks)
 {
     QJsonArray sensors;
-    for (const SensorMeta &sensor : meta.sensors)
-        sensors.append(toJson(sensor));
+    for (std::size_t i = 0; i < meta.sensors.size(); ++i)
+        sensors.append(toJson(meta.sensors[i], meta.units[i]));
     QJsonArray shots;
     for (std::size_t i = 0; i < checks.size(); ++i)
-        shots.append(
-            toJson(checks[i], elementOf(meta.labels, i), elementOf(meta.timestamps, i), elementOf(meta.origins, i)));
-    const QJsonObject root{{kVersionKey, kMetaVersion}, {kSensorsKey, sensors}, {kShotsKey, shots}};
+        shots.append(shotToJson(meta, i, checks[i]));
+    QJsonObject root = meta.others;
+    root.insert(kVersionKey, kMetaVersion);
+    root.insert(kSensorsKey, sensors);
+    root.insert(kShotsKey, shots);
+    if (!meta.importedFiles.isEmpty())
+        root.insert(kImportedKey, toJson(meta.importedFiles));
     const QByteArray text = QJsonDocument(root).toJson(QJsonDocument::Compact);
     return target.write(text) == text.size();
 }
 
 std::optional<ProjectMeta> readProjectMeta(QIODevice &source, const ShotChecks &checks)
 {
-    const QByteArray text = source.read(kLargestMeta + 1);
-    if (text.size() > kLargestMeta)
-        return {};
-    const QJsonObject root = QJsonDocument::fromJson(text).object();
-    if (root.value(kVersionKey).toInt() != kMetaVersion)
+    const QJsonObject root = readRoot(source);
+    if (versionOf(root) != kMetaVersion)
         return {};
     ProjectMeta meta;
     const QJsonArray sensors = root.value(kSensorsKey).toArray();
-    for (int i = 0; i < std::min(kNumSensors, sensors.size()); ++i)
-        meta.sensors[static_cast<std::size_t>(i)] = toSensor(sensors.at(i).toObject());
+    for (int i = 0; i < std::min(kNumSensors, sensors.size()); ++i) {
+        const QJsonObject sensor = sensors.at(i).toObject();
+        meta.sensors[static_cast<std::size_t>(i)] = toSensor(sensor);
+        meta.units[static_cast<std::size_t>(i)] = toUnit(sensor);
+    }
     readShots(meta, root.value(kShotsKey).toArray(), checks);
+    meta.importedFiles = toFingerprints(root.value(kImportedKey).toArray());
+    meta.others = without(root, {kVersionKey, kSensorsKey, kShotsKey, kImportedKey});
     return meta;
+}
+
+bool isNewerProjectMeta(QIODevice &source)
+{
+    return versionOf(readRoot(source)) > kMetaVersion;
 }

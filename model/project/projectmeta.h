@@ -3,14 +3,16 @@
 #include "model/project/shotorigin.h"
 #include "model/sensordescription.h"
 
+#include <QByteArray>
 #include <QDateTime>
+#include <QJsonObject>
+#include <QSet>
 #include <QString>
 
 #include <array>
 #include <optional>
 #include <vector>
 
-class QByteArray;
 class QIODevice;
 
 /// What the evaluation knows of one quantity of one sensor. The model gives the key no meaning.
@@ -29,11 +31,31 @@ struct SensorMeta
     double stopThreshold = 0.0;
     QString chosenQuantity;               ///< a key; empty for none
     std::vector<QuantityMeta> quantities; ///< no key twice
+    QJsonObject others;                   ///< what another version of the program keeps here
 
     /// nullptr if the quantity has no settings.
     [[nodiscard]] const QuantityMeta *find(const QString &key) const;
     /// The settings of the quantity, which are appended if there are none.
     [[nodiscard]] QuantityMeta &at(const QString &key);
+};
+
+/// The unit of a sensor, and what the sensor was like that has it.
+struct SensorUnit
+{
+    QString unit; ///< empty for none
+    QString name;
+    double minimum = 0.0;
+    double maximum = 0.0;
+};
+
+/// What is kept of one shot beside its samples.
+struct ShotMeta
+{
+    QString label;
+    QDateTime timestamp;
+    int period = 0; ///< ms; 0 if unknown
+    QJsonObject others;
+    ShotOrigin origin;
 };
 
 /// What belongs to a project but has no key in the project file; it is kept in a file beside it.
@@ -42,9 +64,15 @@ struct ProjectMeta
     static constexpr int kLongestLabel = 200; ///< characters
 
     std::array<SensorMeta, kNumSensors> sensors;
-    std::vector<QString> labels;       ///< one per shot, from the first on; may be shorter than the list of shots
-    std::vector<QDateTime> timestamps; ///< the same; a null date-time for a shot without one
-    std::vector<ShotOrigin> origins;   ///< the same; unknown for a shot that was not imported
+    std::vector<QString> labels;         ///< one per shot, from the first on; may be shorter than the list of shots
+    std::vector<QDateTime> timestamps;   ///< the same; a null date-time for a shot without one
+    std::vector<int> periods;            ///< the same; sampling periods in ms, 0 if unknown
+    std::vector<ShotOrigin> origins;     ///< the same; unknown for a shot that was not imported
+    std::vector<QJsonObject> shotOthers; ///< the same; what another version of the program keeps
+    QSet<QByteArray> importedFiles;      ///< fingerprints of logger files
+    QJsonObject others;                  ///< what another version of the program keeps
+    /// Filled only for and from a file: the project has the units in its description of the sensors.
+    std::array<SensorUnit, kNumSensors> units;
 
     /// True if there is nothing that a file would have to keep.
     [[nodiscard]] bool isBlank() const;
@@ -55,31 +83,40 @@ struct ProjectMeta
     /// A null date-time for a shot without one.
     [[nodiscard]] QDateTime timestamp(int shot) const;
     void setTimestamp(int shot, const QDateTime &timestamp);
+    /// Milliseconds; 0 if unknown.
+    [[nodiscard]] int period(int shot) const;
+    void setPeriod(int shot, int milliseconds);
     [[nodiscard]] ShotOrigin origin(int shot) const;
     void setOrigin(int shot, const ShotOrigin &origin);
-    /// Labels, time stamps and origins of the shots behind move down by one.
+    [[nodiscard]] ShotMeta shot(int shot) const;
+    /// All that the shots from there on have moves up by one.
+    void insertShot(int shot, const ShotMeta &meta);
+    /// All that the shots behind have moves down by one.
     void removeShot(int shot);
-    /// Drops labels, time stamps and origins behind the first `count` shots.
+    /// Drops what shots behind the first `count` have.
     void keepShots(int count);
     void clearShots() { keepShots(0); }
 };
 
 [[nodiscard]] bool operator==(const QuantityMeta &a, const QuantityMeta &b);
 [[nodiscard]] bool operator==(const SensorMeta &a, const SensorMeta &b);
+[[nodiscard]] bool operator==(const SensorUnit &a, const SensorUnit &b);
 [[nodiscard]] bool operator==(const ProjectMeta &a, const ProjectMeta &b);
 
 /// One number per shot, which tells whether it is still the shot that a label and a time stamp were written for.
 using ShotChecks = std::vector<quint32>;
 
-/// The name of the file beside a project file.
+/// The name of the file beside a project file; of a link, beside the file that the link leads to.
 [[nodiscard]] QString metaFileName(const QString &projectFile);
 
-/// Writes the settings as JSON text: per shot its check, label and time stamp. False if the device takes less than it
+/// Writes the settings as JSON text: per shot its check and what it has. False if the device takes less than it
 /// is given.
 [[nodiscard]] bool writeProjectMeta(QIODevice &target, const ProjectMeta &meta, const ShotChecks &checks);
 
 /// None if the device holds something else than settings of a version that is known, or more than kLargestMeta bytes.
-/// Single values that make no sense are left out. Labels and time stamps are taken over only for shots whose check is
-/// the one given. May throw std::bad_alloc.
+/// Single values that make no sense are left out. What shots have is taken over only for those whose check is the one
+/// given. May throw std::bad_alloc.
 [[nodiscard]] std::optional<ProjectMeta> readProjectMeta(QIODevice &source, const ShotChecks &checks);
-constexpr qint64 kLargestMeta = 16LL << 20;
+/// True for settings of a version that is not known yet.
+[[nodiscard]] bool isNewerProjectMeta(QIODevice &source);
+constexpr qint64 kLargestMeta = 32LL << 20;

@@ -4,6 +4,7 @@
 #include "model/json/jsonreader.h"
 #include "model/project/pacer.h"
 #include "model/project/projectdocument.h"
+#include "model/project/projectimage.h"
 #include "model/project/projectkeys.h"
 #include "model/project/samplecollector.h"
 
@@ -14,6 +15,7 @@
 #include <functional>
 #include <limits>
 #include <new>
+#include <utility>
 
 namespace {
 
@@ -22,6 +24,11 @@ using Token = JsonReader::Token;
 
 constexpr int kMostItems = 64; // of a list that does not hold samples
 constexpr std::size_t kMostMeasurements = 10000000;
+// Of what the program only keeps, in bytes.
+constexpr int kMostUnknown = 64 << 20;
+constexpr int kUnknownCost = 200; // of one member, beside its text
+constexpr int kLongestKey = 1 << 16;
+constexpr int kLongestPicture = 1 << 28;
 
 int toInteger(double number)
 {
@@ -57,7 +64,13 @@ private:
         m_viewFields.insert(QLatin1String(key), [this, &value] { return readValue(value); });
     }
 
-    [[nodiscard]] bool readMember(const Fields &fields, const QString &key);
+    void expectReserved();
+    [[nodiscard]] bool readMember(const Fields &fields, UnknownMembers &unknown);
+    [[nodiscard]] bool keepUnknown(const QString &name, UnknownMembers &unknown);
+    [[nodiscard]] bool skipHugeKey();
+    [[nodiscard]] bool readVersion();
+    /// Notes that a value is not of the type that its field needs; null stands for no value at all.
+    void noteType(Token token, bool fits) { m_isOdd = m_isOdd || (!fits && token != Token::Null); }
     [[nodiscard]] bool readValue(std::optional<QString> &text);
     [[nodiscard]] bool readValue(std::optional<double> &number);
     [[nodiscard]] bool readValue(std::optional<int> &number);
@@ -77,6 +90,8 @@ private:
     Fields m_fields;
     Fields m_viewFields;
     SampleCollector m_samples;
+    int m_unknownRoom = kMostUnknown;
+    bool m_isOdd = false; // the value just read is not what it should be
     ProjectDocument m_document;
 };
 
@@ -88,11 +103,12 @@ ProjectReader::ProjectReader(JsonReader &json, const std::function<void()> &paus
     expectNumbers();
     expectNumberedKeys();
     expectViewData();
+    expectReserved();
 }
 
 void ProjectReader::expectTexts()
 {
-    expect(kFileVersion, m_document.fileVersion);
+    m_fields.insert(QLatin1String(kFileVersion), [this] { return readVersion(); });
     expect(kName, m_document.name);
     expect(kNumber, m_document.number);
     expect(kUser, m_document.user);
@@ -136,24 +152,76 @@ void ProjectReader::expectViewData()
     expectInView(kOsziMaximum, m_document.viewData.osziMaximum);
 }
 
+void ProjectReader::expectReserved()
+{
+    m_fields.insert(QLatin1String(kReserved), [this] {
+        const Token token = m_json.next();
+        noteType(token, false);
+        return m_json.skipValue(token);
+    });
+}
+
 std::optional<ProjectDocument> ProjectReader::read()
 {
     if (m_json.next() != Token::BeginObject)
         return {};
     Token token = m_json.next();
     for (; token == Token::Key; token = m_json.next()) {
-        if (!readMember(m_fields, m_json.text()))
+        if (!readMember(m_fields, m_document.rest.unknown))
             return {};
     }
     if (token != Token::EndObject || m_json.next() != Token::End)
         return {};
+    sortMembers(m_document.rest.unknown);
     return std::move(m_document);
 }
 
-bool ProjectReader::readMember(const Fields &fields, const QString &key)
+bool ProjectReader::readMember(const Fields &fields, UnknownMembers &unknown)
 {
-    const auto field = fields.constFind(key);
-    return field == fields.constEnd() ? m_json.skipValue(m_json.next()) : (*field)();
+    if (m_json.escapedText().size() > kLongestKey)
+        return skipHugeKey();
+    const QString name = m_json.text();
+    const auto field = fields.constFind(name);
+    if (field == fields.constEnd())
+        return keepUnknown(name, unknown);
+    m_document.rest.hasKnownKey = true;
+    m_isOdd = false;
+    const bool valid = (*field)();
+    if (std::exchange(m_isOdd, false))
+        m_document.rest.lost.add(name);
+    return valid;
+}
+
+bool ProjectReader::keepUnknown(const QString &name, UnknownMembers &unknown)
+{
+    UnknownMember member{name, m_json.escapedText(), {}};
+    const int room = m_unknownRoom - kUnknownCost - member.key.size();
+    if (!m_json.copyValue(member.value, room))
+        return false;
+    if (member.value.isEmpty()) {
+        m_document.rest.lost.add(name);
+        return true;
+    }
+    m_unknownRoom = room - member.value.size();
+    unknown.append(std::move(member));
+    return true;
+}
+
+/// No text for people; it would take several times its size as a QString.
+bool ProjectReader::skipHugeKey()
+{
+    m_document.rest.lost.add(QString::fromUtf8(m_json.escapedText().left(NameList::kLongestName)));
+    return m_json.skipValue(m_json.next());
+}
+
+bool ProjectReader::readVersion()
+{
+    m_document.fileVersion.reset();
+    const Token token = m_json.next();
+    m_document.rest.numericVersion = token == Token::Number ? m_json.number() : 0.0;
+    if (token == Token::String)
+        m_document.fileVersion = m_json.text();
+    return m_json.skipValue(token);
 }
 
 // Each of these empties the field first: an earlier value of the same key does not count.
@@ -161,6 +229,7 @@ bool ProjectReader::readValue(std::optional<QString> &text)
 {
     text.reset();
     const Token token = m_json.next();
+    noteType(token, token == Token::String);
     if (token == Token::String)
         text = m_json.text();
     return m_json.skipValue(token);
@@ -170,6 +239,7 @@ bool ProjectReader::readValue(std::optional<double> &number)
 {
     number.reset();
     const Token token = m_json.next();
+    noteType(token, token == Token::Number);
     if (token == Token::Number)
         number = m_json.number();
     return m_json.skipValue(token);
@@ -187,7 +257,9 @@ bool ProjectReader::readValue(std::optional<bool> &truth)
 {
     truth.reset();
     const Token token = m_json.next();
-    if (token == Token::True || token == Token::False)
+    const bool isTruth = token == Token::True || token == Token::False;
+    noteType(token, isTruth);
+    if (isTruth)
         truth = token == Token::True;
     return m_json.skipValue(token);
 }
@@ -209,11 +281,12 @@ bool ProjectReader::readValue(std::optional<QStringList> &texts)
 
 bool ProjectReader::readValue(QByteArray &image)
 {
-    image.clear();
-    const Token token = m_json.next();
-    if (token == Token::String)
-        image = QByteArray::fromBase64(m_json.text().toLatin1());
-    return m_json.skipValue(token);
+    QByteArray json;
+    if (!m_json.copyValue(json, kLongestPicture))
+        return false;
+    m_isOdd = m_isOdd || json.isEmpty(); // too large
+    image = encodedImage(std::move(json));
+    return true;
 }
 
 bool ProjectReader::readValue(ProjectViewData &viewData)
@@ -221,14 +294,16 @@ bool ProjectReader::readValue(ProjectViewData &viewData)
     viewData = {};
     viewData.kind = ProjectViewData::Kind::NoObject;
     Token token = m_json.next();
+    noteType(token, token == Token::BeginObject);
     if (token != Token::BeginObject)
         return m_json.skipValue(token);
     viewData.kind = ProjectViewData::Kind::Empty;
     for (token = m_json.next(); token == Token::Key; token = m_json.next()) {
         viewData.kind = ProjectViewData::Kind::Given;
-        if (!readMember(m_viewFields, m_json.text()))
+        if (!readMember(m_viewFields, viewData.unknown))
             return false;
     }
+    sortMembers(viewData.unknown);
     return token == Token::EndObject;
 }
 
@@ -236,6 +311,7 @@ bool ProjectReader::readValue(std::optional<SampleRuns> &runs)
 {
     runs.reset();
     Token token = m_json.next();
+    noteType(token, token == Token::BeginArray);
     if (token != Token::BeginArray)
         return m_json.skipValue(token);
     runs.emplace();
@@ -275,6 +351,7 @@ bool ProjectReader::readItems(std::optional<Items> &items, const ToItem &toItem)
 {
     items.reset();
     Token token = m_json.next();
+    noteType(token, token == Token::BeginArray);
     if (token != Token::BeginArray)
         return m_json.skipValue(token);
     items.emplace();

@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr int kCurrentFileVersion = 7;
-
 template <typename Item, std::size_t Count>
 QVector<Item> toList(const std::array<Item, Count> &items)
 {
@@ -34,6 +32,7 @@ void describeProject(ProjectDocument &document, const ProjectSettings &settings)
     document.mesotraType = settings.mesotraType;
     document.hardwareVersion = settings.hardwareVersion;
     document.firmwareVersion = settings.firmwareVersion;
+    document.rest.unknown = settings.unknown;
 }
 
 void describeView(ProjectDocument &document, const ProjectSettings &settings)
@@ -42,6 +41,7 @@ void describeView(ProjectDocument &document, const ProjectSettings &settings)
     document.viewData.markersAbsolute = settings.markersAbsolute;
     document.viewData.osziMinimum = toList(settings.osziMinimum);
     document.viewData.osziMaximum = toList(settings.osziMaximum);
+    document.viewData.unknown = settings.unknownInView;
     document.markers = toList(settings.markers);
     document.phases.emplace();
     for (const QString &name : settings.phaseNames)
@@ -102,6 +102,8 @@ void applyDescription(const ProjectDocument &document, ProjectSettings &settings
     take(document.firmwareVersion, settings.firmwareVersion);
     take(document.comment, settings.comment);
     take(document.clock, settings.clock);
+    settings.unknown = document.rest.unknown;
+    settings.unknownInView = document.viewData.unknown;
     settings.clock = qBound(1, settings.clock, ProjectSettings::kMaxClock);
 }
 
@@ -251,7 +253,7 @@ void applyDocument(ProjectDocument &document, const QString &absolutePath, Proje
     qCDebug(lcModel).noquote().nospace() << function << " file version=" << version;
     applyDescription(document, settings);
     editor.setCurrentFile(absolutePath);
-    if (version.toInt() < kCurrentFileVersion) // 0 for what is no integer
+    if (version.toInt() < ProjectDocument::kFileVersion) // 0 for what is no integer
         useDistanceSensors(settings.sensors);
     for (int sensor = 0; sensor < kNumSensors; ++sensor)
         applySamples(sensor, document.samples[at(sensor)], project.shots);

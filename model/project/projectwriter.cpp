@@ -4,6 +4,7 @@
 #include "model/json/jsonwriter.h"
 #include "model/project/pacer.h"
 #include "model/project/projectdocument.h"
+#include "model/project/projectimage.h"
 #include "model/project/projectkeys.h"
 
 namespace {
@@ -12,6 +13,44 @@ using namespace projectkeys;
 
 // Samples of a measurement that are written before the pacer checks the clock.
 constexpr int kSamplesAtOnce = 512;
+
+/// Writes the members of one object. The caller gives the known ones in sorted order; the others are put between them.
+class Members
+{
+public:
+    Members(JsonWriter &json, const UnknownMembers &others)
+        : m_json(json)
+        , m_others(others)
+    {
+        m_json.beginObject();
+    }
+    JsonWriter &key(const char *name)
+    {
+        while (m_next < m_others.size() && m_others[m_next].name < QLatin1String(name))
+            writeOther();
+        m_json.key(name);
+        return m_json;
+    }
+    JsonWriter &key(const QString &name) { return key(name.toLatin1().constData()); }
+    void end()
+    {
+        while (m_next < m_others.size())
+            writeOther();
+        m_json.endObject();
+    }
+
+private:
+    void writeOther()
+    {
+        const UnknownMember &other = m_others[m_next++];
+        m_json.escapedKey(other.key);
+        m_json.json(other.value);
+    }
+
+    JsonWriter &m_json;
+    const UnknownMembers &m_others;
+    int m_next = 0;
+};
 
 void writeValue(JsonWriter &json, int number)
 {
@@ -25,11 +64,11 @@ void writeValue(JsonWriter &json, const Value &value)
 }
 
 template <typename Items>
-void writeItems(JsonWriter &json, const char *key, const std::optional<Items> &items)
+void writeItems(Members &members, const char *key, const std::optional<Items> &items)
 {
     if (!items)
         return;
-    json.key(key);
+    JsonWriter &json = members.key(key);
     json.beginArray();
     for (const auto &item : *items)
         writeValue(json, item);
@@ -37,29 +76,29 @@ void writeItems(JsonWriter &json, const char *key, const std::optional<Items> &i
 }
 
 template <typename Value>
-void writeField(JsonWriter &json, const char *key, const std::optional<Value> &value)
+void writeField(Members &members, const char *key, const std::optional<Value> &value)
 {
-    if (!value)
-        return;
-    json.key(key);
-    writeValue(json, *value);
+    if (value)
+        writeValue(members.key(key), *value);
 }
 
-void writeField(JsonWriter &json, const QString &key, const std::optional<QString> &text)
+void writePicture(JsonWriter &json, const QByteArray &picture)
 {
-    writeField(json, key.toLatin1().constData(), text);
+    if (picture.isEmpty() || isPng(picture))
+        json.base64(picture);
+    else
+        json.json(picture);
 }
 
-void writeViewData(JsonWriter &json, const ProjectViewData &viewData)
+void writeViewData(Members &members, const ProjectViewData &viewData)
 {
     if (viewData.kind != ProjectViewData::Kind::Given)
         return;
-    json.key(kViewData);
-    json.beginObject();
-    writeField(json, kMarkersAbsolute, viewData.markersAbsolute);
-    writeItems(json, kOsziMaximum, viewData.osziMaximum);
-    writeItems(json, kOsziMinimum, viewData.osziMinimum);
-    json.endObject();
+    Members view(members.key(kViewData), viewData.unknown);
+    writeField(view, kMarkersAbsolute, viewData.markersAbsolute);
+    writeItems(view, kOsziMaximum, viewData.osziMaximum);
+    writeItems(view, kOsziMinimum, viewData.osziMinimum);
+    view.end();
 }
 
 void writeMeasurement(JsonWriter &json, const SampleRun &run, Pacer &pacer)
@@ -74,13 +113,13 @@ void writeMeasurement(JsonWriter &json, const SampleRun &run, Pacer &pacer)
     json.endArray();
 }
 
-void writeSamples(JsonWriter &json, const ProjectDocument &document, Pacer &pacer)
+void writeSamples(Members &members, const ProjectDocument &document, Pacer &pacer)
 {
     for (int sensor = 0; sensor < kNumSensors; ++sensor) {
         const std::optional<SampleRuns> &runs = document.samples[at(sensor)];
         if (!runs)
             continue;
-        json.key(samples(sensor).toLatin1().constData());
+        JsonWriter &json = members.key(samples(sensor));
         json.beginArray();
         for (const SampleRun &run : *runs) {
             writeMeasurement(json, run, pacer);
@@ -90,32 +129,32 @@ void writeSamples(JsonWriter &json, const ProjectDocument &document, Pacer &pace
     }
 }
 
-void writeHead(JsonWriter &json, const ProjectDocument &document)
+void writeHead(Members &members, const ProjectDocument &document)
 {
-    writeViewData(json, document.viewData);
-    writeField(json, kClock, document.clock);
-    writeField(json, kComment, document.comment);
-    writeItems(json, kCorrections, document.corrections);
-    writeField(json, kFileVersion, std::optional(QStringLiteral("7")));
-    writeField(json, kHardwareVersion, document.hardwareVersion);
-    writeItems(json, kMarkers, document.markers);
-    writeField(json, kMesotraType, document.mesotraType);
+    writeViewData(members, document.viewData);
+    writeField(members, kClock, document.clock);
+    writeField(members, kComment, document.comment);
+    writeItems(members, kCorrections, document.corrections);
+    writeField(members, kFileVersion, std::optional(QString::number(ProjectDocument::kFileVersion)));
+    writeField(members, kHardwareVersion, document.hardwareVersion);
+    writeItems(members, kMarkers, document.markers);
+    writeField(members, kMesotraType, document.mesotraType);
 }
 
-void writeDescription(JsonWriter &json, const ProjectDocument &document)
+void writeDescription(Members &members, const ProjectDocument &document)
 {
-    writeField(json, kClosingForce, document.closingForce);
-    writeField(json, kInjectionTime, document.injectionTime);
-    writeField(json, kPressure, document.pressure);
-    writeField(json, kPressTime, document.pressTime);
-    writeItems(json, kPhases, document.phases);
-    writeField(json, kCustomer, document.customer);
-    writeField(json, kDate, document.date);
+    writeField(members, kClosingForce, document.closingForce);
+    writeField(members, kInjectionTime, document.injectionTime);
+    writeField(members, kPressure, document.pressure);
+    writeField(members, kPressTime, document.pressTime);
+    writeItems(members, kPhases, document.phases);
+    writeField(members, kCustomer, document.customer);
+    writeField(members, kDate, document.date);
     for (int i = 0; i < kNumProjectImages; ++i)
-        writeField(json, image(i), QString::fromLatin1(document.images[at(i)].toBase64()));
-    writeField(json, kName, document.name);
-    writeField(json, kNumber, document.number);
-    writeField(json, kUser, document.user);
+        writePicture(members.key(image(i)), document.images[at(i)]);
+    writeField(members, kName, document.name);
+    writeField(members, kNumber, document.number);
+    writeField(members, kUser, document.user);
 }
 
 } // namespace
@@ -123,16 +162,16 @@ void writeDescription(JsonWriter &json, const ProjectDocument &document)
 bool projectfile::write(QIODevice &target, const ProjectDocument &document, Pacer &pacer)
 {
     JsonWriter json(target);
-    json.beginObject();
     // The keys in sorted order, as QJsonObject keeps them.
-    writeHead(json, document);
-    writeDescription(json, document);
-    writeSamples(json, document, pacer);
-    writeItems(json, kSensorMaximum, document.sensorMaximum);
-    writeItems(json, kSensorMinimum, document.sensorMinimum);
+    Members members(json, document.rest.unknown);
+    writeHead(members, document);
+    writeDescription(members, document);
+    writeSamples(members, document, pacer);
+    writeItems(members, kSensorMaximum, document.sensorMaximum);
+    writeItems(members, kSensorMinimum, document.sensorMinimum);
     for (int sensor = 0; sensor < kNumSensors; ++sensor)
-        writeField(json, sensorName(sensor), document.sensorNames[at(sensor)]);
-    writeField(json, kFirmwareVersion, document.firmwareVersion);
-    json.endObject();
+        writeField(members, sensorName(sensor).toLatin1().constData(), document.sensorNames[at(sensor)]);
+    writeField(members, kFirmwareVersion, document.firmwareVersion);
+    members.end();
     return json.finish();
 }

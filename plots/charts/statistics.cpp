@@ -65,6 +65,20 @@ FiveNumbers fiveNumbers(const QVector<double> &sorted)
             sorted.at(static_cast<int>(3 * n / 4)), sorted.constLast()};
 }
 
+UsualTimes withoutBreaks(const QVector<double> &times)
+{
+    QVector<double> sorted;
+    std::copy_if(times.cbegin(), times.cend(), std::back_inserter(sorted), [](double time) { return time >= 0.0; });
+    std::sort(sorted.begin(), sorted.end());
+    const double usual = median(sorted);
+    const double longest = usual > 0.0 ? usual * kBreakFactor : std::numeric_limits<double>::infinity();
+    UsualTimes result;
+    std::copy_if(times.cbegin(), times.cend(), std::back_inserter(result.values),
+                 [longest](double time) { return time >= 0.0 && time <= longest; });
+    result.leftOut = times.size() - result.values.size();
+    return result;
+}
+
 double density(double x, Moments moments)
 {
     const double square = moments.sigma * moments.sigma;

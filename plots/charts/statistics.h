@@ -34,6 +34,18 @@ struct FiveNumbers
 [[nodiscard]] double median(const QVector<double> &sorted);
 [[nodiscard]] FiveNumbers fiveNumbers(const QVector<double> &sorted);
 
+/// The times between shots that belong to production.
+struct UsualTimes
+{
+    QVector<double> values; ///< in their order
+    int leftOut = 0;        ///< how many are missing
+};
+
+/// Leaves out breaks, which are longer than kBreakFactor times the median, and times below 0, which come from a clock
+/// that was set. With a median of 0 there are no breaks.
+[[nodiscard]] UsualTimes withoutBreaks(const QVector<double> &times);
+constexpr double kBreakFactor = 5.0;
+
 /// exp(-(x - mean)^2 * 0.5 * sigma * sigma) / sqrt(2 pi sigma * sigma): the exponent is multiplied by sigma squared,
 /// where a normal density divides by it. Infinite for a sigma of 0.
 [[nodiscard]] double density(double x, Moments moments);

@@ -85,6 +85,7 @@ private slots:
         columns<int, int>("answer", "shots");
         row("again", int(QMessageBox::Yes), 5);
         row("new ones only", int(QMessageBox::No), 3);
+        row("closed", int(QMessageBox::NoButton), 2);
     }
 
     void asksBeforeRepeating()
@@ -101,7 +102,7 @@ private slots:
         QCOMPARE(bench.prompts->questions.size(), std::size_t(1));
         QVERIFY(bench.prompts->questions[0].text.startsWith("2 der Dateien"_s));
         QCOMPARE(bench.shots(), shots);
-        QCOMPARE(bench.firstSamples().last(), 3.0);
+        QCOMPARE(bench.firstSamples().last(), shots == 2 ? 2.0 : 3.0);
     }
 
     void tellsWhichNamesAndLimitsChange_data()

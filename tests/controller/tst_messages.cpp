@@ -4,6 +4,8 @@
 #include "tests/support/rows.h"
 #include "view/blackbox/tabblackbox.h"
 
+#include <QLineEdit>
+
 namespace {
 
 const QByteArray kProject =
@@ -118,6 +120,57 @@ private slots:
                          == QStringList({"zu"_s, "ein"_s, "nach"_s, "kalt"_s, "auf"_s}).at(phase),
                      yes);
         QCOMPARE(bench.model.isProjectModified(), yes);
+    }
+
+    void projectDescriptionIsAskedAboutOnce()
+    {
+        Bench bench;
+        bench.prompts->answers = {QMessageBox::No, QMessageBox::NoButton, QMessageBox::Yes};
+        const auto sayAndWait = [&](const char *name, std::size_t asked) {
+            for (int i = 0; i < 3; ++i)
+                bench.say(projectNamed(name));
+            QTest::qWait(130);
+            QCOMPARE(bench.prompts->questions.size(), asked);
+        };
+        sayAndWait("A", 1);
+        sayAndWait("A", 1);
+        sayAndWait("B", 2);
+        sayAndWait("A", 2); // declined, whatever came in between
+        bench.model.setProjectModifiedFlag(false);
+        emit bench.view.newProject();
+        sayAndWait("A", 3); // for another project
+        QCOMPARE(bench.model.projectData().name, "A"_s);
+        sayAndWait("A", 3); // would change nothing
+        QCOMPARE(bench.prompts->uninvited, 3);
+        const QVector<Comparison::Row> &rows = bench.prompts->comparisons[2].rows;
+        QCOMPARE(rows.size(), 9 + kNumCyclePhases);
+        QCOMPARE(rows[0].offered, "A"_s);
+        QVERIFY(rows[0].isDifferent());
+    }
+
+    void projectDescriptionIsNotAskedAfterTheUserLeft()
+    {
+        Bench bench;
+        bench.say(projectNamed("Deckel"));
+        emit bench.view.connectToAddress("127.0.0.1"_s); // leaves whatever box there was
+        QTest::qWait(150);
+        QVERIFY(bench.prompts->questions.empty());
+    }
+
+    void projectQuestionWaitsForTyping()
+    {
+        ControllerOptions options;
+        options.typingPause = 200;
+        Bench bench(options);
+        QLineEdit field;
+        bench.say(projectNamed("Deckel"));
+        for (int i = 0; i < 4; ++i) {
+            QTest::keyClick(&field, Qt::Key_A);
+            QTest::qWait(60);
+            QVERIFY(bench.prompts->questions.empty());
+        }
+        QTRY_COMPARE(bench.prompts->questions.size(), std::size_t(1));
+        QCOMPARE(field.text(), "aaaa"_s);
     }
 
     void floodOfProjectDescriptionsDoesNotStackQuestions()

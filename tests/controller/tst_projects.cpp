@@ -1,7 +1,11 @@
 #include "bench.h"
+#include "controller/project/proposedname.h"
 #include "tests/support/literals.h"
 #include "tests/support/rows.h"
+#include "view/project/tabproject.h"
+#include "view/window/prompts/questions.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -15,7 +19,7 @@ private slots:
 
     void unsavedChanges_data()
     {
-        // how: "drop": a file on the window
+        // how: "drop": a file on the window; answer: 0: not asked, -1: the box is closed
         columns<QByteArray, int, QString, bool>("how", "answer", "saveName", "goesOn");
         row("new, nothing to save", "new"_ba, 0, QString(), true);
         row("new, Speichern", "new"_ba, int(QMessageBox::Save), path("new.vnt"_s), true);
@@ -24,6 +28,9 @@ private slots:
         row("new, Speichern fails", "new"_ba, int(QMessageBox::Save), path("no/such/a.vnt"_s), false);
         row("open, Speichern", "open"_ba, int(QMessageBox::Save), path("kept.vnt"_s), true);
         row("open, cancelled", "open"_ba, int(QMessageBox::Save), QString(), false);
+        row("new, closed", "new"_ba, -1, QString(), false);
+        row("open, closed", "open"_ba, -1, QString(), false);
+        row("drop, closed", "drop"_ba, -1, QString(), false);
         row("drop, cancelled", "drop"_ba, int(QMessageBox::Save), QString(), false);
         row("drop, Verwerfen", "drop"_ba, int(QMessageBox::Discard), QString(), true);
     }
@@ -40,7 +47,7 @@ private slots:
         bench.recordShots(2);
         bench.model.setProjectModifiedFlag(answer != 0);
         if (answer)
-            bench.prompts->answers = {QMessageBox::StandardButton(answer)};
+            bench.prompts->answers = {answer < 0 ? QMessageBox::NoButton : QMessageBox::StandardButton(answer)};
         bench.prompts->saveNames = {saveName};
         bench.prompts->openNames = {file};
         if (how == "new")
@@ -108,51 +115,167 @@ private slots:
         QVERIFY(bench.prompts->questions.empty());
     }
 
+    void openFails_data()
+    {
+        columns<bool, bool>("modified", "recording");
+        row("nothing to lose", false, false);
+        row("unsaved changes", true, false); // nobody is asked about them for nothing
+        row("recording", true, true);
+    }
+
     void openFails()
     {
+        QFETCH(bool, modified);
+        QFETCH(bool, recording);
         Bench bench;
         bench.recordShots(1);
-        bench.model.setProjectModifiedFlag(false);
+        if (recording)
+            bench.say("run=1");
+        bench.model.setProjectModifiedFlag(modified);
         bench.prompts->openNames = {path("gone %1 %2.vnt"_s)};
         emit bench.view.openProject();
         QCOMPARE(bench.prompts->warnings.size(), std::size_t(1));
         QCOMPARE(bench.prompts->warnings[0].text, "Cannot open file "_s + path("gone %1 %2.vnt"_s) + " !."_s);
-        QCOMPARE(bench.firstSamples(), QVector<double>{1});
-        QCOMPARE(bench.controller.seriesIndex(0), 0);
+        QVERIFY(bench.prompts->questions.empty() && bench.prompts->asked.empty());
+        QCOMPARE(bench.model.isProjectModified(), modified);
+        QCOMPARE(bench.firstSamples().value(0), 1.0);
+        QCOMPARE(bench.controller.seriesIndex(0), recording ? 1 : 0);
+        QCOMPARE(bench.controller.isRecordingRunning(), recording);
     }
 
-    void recordingGoesOnInTheNextProject_data()
+    /// What is saved at the question is what is opened afterwards, also if it is the same file.
+    void reopeningTheSameFileShowsWhatWasSaved()
     {
-        columns<QByteArray>("next");
-        for (const char *next : {"new", "open", "clear"})
-            row(next, QByteArray(next));
+        Bench bench;
+        bench.recordShots(1);
+        bench.prompts->saveNames = {path("same.vnt"_s)};
+        emit bench.view.saveProject();
+        bench.recordShots(1);
+        bench.prompts->answers = {QMessageBox::Save};
+        emit bench.view.openProjectFile(path("same.vnt"_s));
+        QCOMPARE(bench.firstSamples(), (QVector<double>{1, 2}));
+        QVERIFY(!bench.model.isProjectModified());
     }
 
-    void recordingGoesOnInTheNextProject()
+    void editsWhileReadingAheadAreKept()
+    {
+        QVERIFY(Model(QString()).save(path("ahead.vnt"_s)));
+        Bench bench;
+        bench.recordShots(1);
+        bool renamed = false;
+        bench.model.setYield([&](int) {
+            if (!std::exchange(renamed, true))
+                bench.controller.onTabProject_onPhaseEditChanged(1, "umbenannt"_s);
+        });
+        bench.prompts->answers = {QMessageBox::NoButton};
+        emit bench.view.openProjectFile(path("ahead.vnt"_s));
+        QVERIFY(renamed);
+        QCOMPARE(bench.model.phaseName(1), "umbenannt"_s);
+        QCOMPARE(bench.shots(), 1);
+    }
+
+    void replacingWhileRecording_data()
+    {
+        // choice: of the question about the recording, -2: not asked; answer: of that about saving
+        columns<QByteArray, int, int, bool>("next", "choice", "answer", "replaced");
+        row("open, stay", "open"_ba, 0, 0, false);
+        row("open, closed", "open"_ba, Choice::kClosed, 0, false);
+        row("open, then stay", "open"_ba, 1, int(QMessageBox::NoButton), false);
+        row("open, Verwerfen", "open"_ba, 1, int(QMessageBox::Discard), true);
+        row("open, Speichern", "open"_ba, 1, int(QMessageBox::Save), true);
+        row("new, closed", "new"_ba, -2, int(QMessageBox::NoButton), false);
+        row("new, Verwerfen", "new"_ba, -2, int(QMessageBox::Discard), true);
+        row("new, Speichern", "new"_ba, -2, int(QMessageBox::Save), true);
+    }
+
+    void replacingWhileRecording()
     {
         QFETCH(QByteArray, next);
-        const QString file = path("before.vnt"_s);
+        QFETCH(int, choice);
+        QFETCH(int, answer);
+        QFETCH(bool, replaced);
+        QVERIFY(Model(QString()).save(path("before.vnt"_s)));
         Bench bench;
-        bench.recordShots(2);
-        QVERIFY(bench.model.save(file));
         bench.say("run=1");
         bench.say("0;3;3;3;3;3");
-        bench.prompts->answers = {next == "clear" ? QMessageBox::Ok : QMessageBox::Discard};
-        bench.prompts->openNames = {file};
-        bench.model.setProjectModifiedFlag(next != "new"); // without the question the link stays
-        if (next == "new")
-            bench.prompts->answers.clear(), emit bench.view.newProject();
-        else if (next == "open")
-            emit bench.view.openProject();
+        bench.model.setProjectModifiedFlag(next == "open"); // a shot that grows is unsaved anyway
+        bench.prompts->choices = {choice};
+        bench.prompts->answers = {QMessageBox::StandardButton(answer)};
+        bench.prompts->saveNames = {path("recorded.vnt"_s)};
+        if (next == "open")
+            emit bench.view.openProjectFile(path("before.vnt"_s));
         else
-            bench.controller.onTabProject_clearDataClicked();
-        QVERIFY(bench.controller.isRecordingRunning());
-        QCOMPARE(bench.controller.seriesIndex(0), -1); // nothing gets into shots that came from elsewhere
+            emit bench.view.newProject();
+        QCOMPARE(bench.prompts->asked.size(), std::size_t(choice == -2 ? 0 : 1));
+        QVERIFY(bench.prompts->asked.empty() || bench.prompts->asked[0].safest == 0);
+        QCOMPARE(bench.controller.isRecordingRunning(), !replaced);
+        bench.say("0;4;4;4;4;4"); // whatever the box still sends
+        QCOMPARE(bench.samples(0, 0), replaced ? QVector<double>() : (QVector<double>{3, 4}));
+        QCOMPARE(bench.shots(), replaced ? 0 : 1);
+        QVERIFY(bench.slotsMatchModel());
+    }
+
+    void recordingGoesOnAfterClearing()
+    {
+        Bench bench;
+        bench.recordShots(2);
+        bench.say("run=1");
+        bench.say("0;3;3;3;3;3");
+        bench.prompts->answers = {QMessageBox::Ok};
+        bench.controller.onTabProject_clearDataClicked();
+        QVERIFY(bench.prompts->questions[0].text.startsWith(
+            "Achtung: Alle Messdaten werden gelöscht!\n\nDas sind 3 Messungen.\n"_s));
+        QCOMPARE(bench.controller.seriesIndex(0), -1);
         bench.say("0;4;4;4;4;4");
         bench.say("0;5;5;5;5;5");
-        QCOMPARE(bench.firstSamples(), next == "open" ? (QVector<double>{1, 2, 4}) : QVector<double>{4});
-        QCOMPARE(bench.samples(0, bench.shots() - 1), (QVector<double>{4, 5}));
+        QCOMPARE(bench.samples(0, 0), (QVector<double>{4, 5}));
         QVERIFY(bench.slotsMatchModel());
+    }
+
+    void proposedNames_data()
+    {
+        columns<QString, QString>("name", "proposed");
+        const auto row = [](const char *name, const char *proposed) {
+            ::row(name, QString::fromUtf8(name), QString::fromUtf8(proposed));
+        };
+        row("Deckel 4", "Deckel 4.vnt");
+        row("a/b\\c:d*e?f\"g<h>i|j", "a b c d e f g h i j.vnt");
+        row("  ../../etc ", "etc.vnt");
+        row("-rf Größe. ", "rf Größe.vnt");
+        row("zwei\nZeilen\t!", "zwei Zeilen !.vnt");
+        row("Con.alt", "_Con.alt.vnt");
+        row(" ... ", "");
+        row("", "");
+    }
+
+    void proposedNames()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, proposed);
+        Bench bench;
+        ProjectData data;
+        data.name = name;
+        bench.model.setProjectData(data);
+        bench.view.questions().setLastFolder(m_folder.path());
+        emit bench.view.saveProject();
+        QCOMPARE(bench.prompts->fileStarts, QStringList{proposed.isEmpty() ? m_folder.path() : path(proposed)});
+        QVERIFY(proposedFileName("ü"_s.repeated(300)).toUtf8().size() <= 200);
+    }
+
+    void projectsAndPicturesHaveFoldersOfTheirOwn()
+    {
+        for (const char *folder : {"projekte", "bilder"})
+            QVERIFY(QDir(m_folder.path()).mkpath(QString::fromLatin1(folder)));
+        Bench bench;
+        bench.prompts->saveNames = {path("projekte/a.vnt"_s)};
+        emit bench.view.saveProject();
+        bench.prompts->openNames = {path("bilder/none.png"_s), QString(), QString()};
+        emit bench.view.tabProject()->imageButtonClicked(0);
+        QCOMPARE(bench.prompts->warnings.size(), std::size_t(1));
+        emit bench.view.openProject();
+        emit bench.view.tabProject()->imageButtonClicked(0);
+        QCOMPARE(bench.prompts->fileStarts.mid(2), (QStringList{path("projekte"_s), path("bilder"_s)}));
+        QCOMPARE(bench.view.questions().lastFolder(), path("bilder"_s));
     }
 
     void linesAndEditsDuringSaveComeAfterwards()
@@ -192,6 +315,7 @@ private slots:
         row("Speichern, fails", true, int(QMessageBox::Save), path("no/such/q.vnt"_s), false);
         row("Verwerfen", true, int(QMessageBox::Discard), QString(), true);
         row("Abbrechen", true, int(QMessageBox::Cancel), QString(), false);
+        row("closed", true, int(QMessageBox::NoButton), path("closed.vnt"_s), false);
     }
 
     void quit()

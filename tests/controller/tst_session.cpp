@@ -2,9 +2,11 @@
 
 #include "tests/support/files.h"
 #include "tests/support/literals.h"
+#include "tests/support/rows.h"
 #include "view/project/tabproject.h"
 
 #include <QComboBox>
+#include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -23,6 +25,16 @@ void editProject(Bench &bench)
     bench.model.setComment("Größe \"7\"\n\tZeile 2"_s);
     bench.prompts->whileOpen = [] { QTest::qWait(30); };
     emit bench.view.calibrate();
+}
+
+void leave(View &view, const QByteArray &how, const QString &other)
+{
+    if (how == "quit")
+        emit view.quit();
+    else if (how == "new")
+        emit view.newProject();
+    else
+        emit view.openProjectFile(other);
 }
 
 } // namespace
@@ -102,6 +114,55 @@ private slots:
         QVERIFY(rig.bench.prompts->messages.empty());
         QCOMPARE(rig.bench.prompts->addressDialogs, 0);
         QVERIFY(rig.bench.samples(0, 0).size() > 0);
+    }
+
+    void leavingWhileRecording_data()
+    {
+        // answer: to the question about saving; saved: whether everything that the box sent has to be in the file
+        columns<QByteArray, int, bool>("how", "answer", "saved");
+        row("quit, Speichern", "quit"_ba, int(QMessageBox::Save), true);
+        row("new, Speichern", "new"_ba, int(QMessageBox::Save), true);
+        row("new, Verwerfen", "new"_ba, int(QMessageBox::Discard), false);
+        row("open, Speichern", "open"_ba, int(QMessageBox::Save), true);
+        row("open, Verwerfen", "open"_ba, int(QMessageBox::Discard), false);
+    }
+
+    /// At the shortest period, all that the box sends until it is stopped is in the file, and it is stopped.
+    void leavingWhileRecording()
+    {
+        QFETCH(QByteArray, how);
+        QFETCH(int, answer);
+        QFETCH(bool, saved);
+        const QString file = m_folder.filePath(QString::fromLatin1(QTest::currentDataTag()) + ".vnt"_s);
+        const QString other = m_folder.filePath("other.vnt"_s);
+        QVERIFY(Model(QString()).save(other));
+        Rig rig;
+        Bench &bench = rig.bench;
+        QVERIFY(rig.connectQuickly());
+        emit bench.view.terminalSend("t=1"_s);
+        QTRY_COMPARE(bench.model.clock(), 1);
+        QVERIFY(rig.start());
+        QTRY_VERIFY(rig.sent.size() > 30);
+        bench.prompts->answers = {QMessageBox::StandardButton(answer)};
+        bench.prompts->choices = {1};
+        bench.prompts->saveNames = {file};
+        bench.prompts->whileOpen = [] { QTest::qWait(20); }; // samples come in while a box is up
+        leave(bench.view, how, other);
+        QTRY_VERIFY(rig.box.receivedCommands().contains("run=0"_s));
+        QVERIFY(!bench.controller.isRecordingRunning());
+        QTest::qWait(30);
+        const int sent = rig.sent.size();
+        QTest::qWait(30);
+        QCOMPARE(rig.sent.size(), sent); // the box has stopped
+        QCOMPARE(bench.model.isConnected(), how == "open" || (how == "new" && saved));
+        QCOMPARE(QFile::exists(file), saved);
+        if (saved) {
+            const Model written(file);
+            QCOMPARE(written.numChannels(0), 1);
+            QCOMPARE(*written.measurement(2, 0), rig.sentValues(2));
+        }
+        if (how != "quit")
+            QCOMPARE(bench.shots(), 0);
     }
 
     /// The user chooses the period of the project; a new one brings its own, which the box takes, and keeps the

@@ -22,8 +22,8 @@ public:
         QMessageBox::StandardButtons buttons;
     };
 
-    std::deque<QMessageBox::StandardButton> answers;
-    std::deque<int> choices; ///< indices of answers to a Choice
+    std::deque<QMessageBox::StandardButton> answers; ///< NoButton closes the box
+    std::deque<int> choices;                         ///< indices of answers to a Choice
     std::deque<QString> openNames;
     std::deque<QString> saveNames;
     std::deque<QString> folders;
@@ -31,22 +31,27 @@ public:
     /// Runs while a dialog is up, as the event loop of a real one would.
     std::function<void()> whileOpen;
 
-    std::vector<Shown> questions;
+    std::vector<StandardQuestion> questions; ///< comparisons too
+    std::vector<Comparison> comparisons;
+    int uninvited = 0;           ///< how many dialogs opened that the user did not cause
     std::vector<Choice> asked;   ///< with answers in words of their own
     std::vector<Shown> messages; ///< informations and warnings
     std::vector<Shown> warnings;
     QStringList fileDialogs; ///< "title|filter"
+    QStringList fileStarts;  ///< where those for files started
     int addressDialogs = 0;
     int unexpected = 0;
     int mostOpenAtOnce = 0;
 
-    QMessageBox::StandardButton ask(const QString &title, const QString &text,
-                                    QMessageBox::StandardButtons buttons) override
+    QMessageBox::StandardButton ask(const StandardQuestion &question) override
     {
-        questions.push_back({title, text, buttons});
-        const QMessageBox::StandardButton cancel =
-            buttons & QMessageBox::Cancel ? QMessageBox::Cancel : QMessageBox::No;
-        return answer(answers, cancel);
+        questions.push_back(question);
+        return answer(answers, QMessageBox::NoButton);
+    }
+    QMessageBox::StandardButton compare(const Comparison &comparison) override
+    {
+        comparisons.push_back(comparison);
+        return ask({comparison.title, comparison.text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No});
     }
     int choose(const Choice &choice) override
     {
@@ -64,13 +69,15 @@ public:
         warnings.push_back(messages.back());
         stayOpen();
     }
-    QString openFileName(const QString &title, const QString &, const QString &filter) override
+    QString openFileName(const QString &title, const QString &start, const QString &filter) override
     {
+        fileStarts << start;
         fileDialogs << title + QLatin1Char('|') + filter;
         return answer(openNames, QString());
     }
-    QString saveFileName(const QString &title, const QString &, const QString &filter) override
+    QString saveFileName(const QString &title, const QString &start, const QString &filter) override
     {
+        fileStarts << start;
         fileDialogs << title + QLatin1Char('|') + filter;
         return answer(saveNames, QString());
     }
@@ -88,6 +95,8 @@ public:
         return address;
     }
 
+    void setUninvited(bool uninvitedNow) override { m_isUninvited = uninvitedNow; }
+
 private:
     template <typename Answer>
     Answer answer(std::deque<Answer> &script, Answer result)
@@ -104,6 +113,7 @@ private:
 
     void stayOpen()
     {
+        uninvited += m_isUninvited ? 1 : 0;
         mostOpenAtOnce = std::max(mostOpenAtOnce, ++m_open);
         if (whileOpen)
             whileOpen();
@@ -111,6 +121,7 @@ private:
     }
 
     int m_open = 0;
+    bool m_isUninvited = false;
 };
 
 /// A script for the window that is to be made with it, which owns it; the test keeps a pointer.

@@ -1,6 +1,7 @@
 #include "view/evaluation/tabevaluation.h"
 
 #include "app/theme.h"
+#include "model/edit/editscope.h"
 #include "model/model.h"
 #include "plots/evaluation/common/evaluationdata.h"
 #include "plots/evaluation/dashboard/dashboard.h"
@@ -144,6 +145,8 @@ void TabEvaluation::onRuntimePage_thresholdsChanged()
     qCDebug(lcView) << Q_FUNC_INFO;
     if (!m_model)
         return;
+    const EditScope edit(
+        m_model, [] { return tr("Schwellen der Laufzeit"); }, QStringLiteral("thresholds"));
     ProjectMeta meta = m_model->projectMeta();
     for (int sensor = 0; sensor < kNumSensors; ++sensor) {
         meta.sensors[static_cast<std::size_t>(sensor)].startThreshold = m_runtimePage->startThreshold(sensor);

@@ -70,7 +70,7 @@ QWidget *MarkerBar::createAbsolute()
     m_absoluteCaption->setObjectName(QStringLiteral("labelMarkerAbsolute"));
     m_clear = oszicontrols::createClearButton(QStringLiteral("buttonClearMarkers"), group);
     connect(m_absolute, &QCheckBox::clicked, this, &MarkerBar::absoluteClicked);
-    connect(m_clear, &QPushButton::clicked, this, &MarkerBar::clear);
+    connect(m_clear, &QPushButton::clicked, this, &MarkerBar::clearClicked);
     QHBoxLayout *layout = oszicontrols::layOutGroup(group);
     layout->addWidget(m_absolute);
     layout->addWidget(m_absoluteCaption);

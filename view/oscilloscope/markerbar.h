@@ -36,8 +36,12 @@ public:
     /// The pointer was released: a marker that was placed is no longer armed.
     void release();
     void disarm();
+    /// Reports all markers as moved to the beginning.
+    void clear();
 
 signals:
+    /// The user wants clear().
+    void clearClicked();
     /// The user moved a marker to a time / to a distance from the marker before it, in milliseconds.
     void markerChangedAbsolute(int index, int milliseconds);
     void markerChangedRelative(int index, int milliseconds);
@@ -62,7 +66,6 @@ private:
     void retranslateMarker(int index);
     void arm(int index);
     void report(int index, int milliseconds);
-    void clear();
 
     std::array<Marker, kNumVerticalMarkers> m_markers{};
     QCheckBox *m_absolute = nullptr;

@@ -1,5 +1,6 @@
 #include "view/oscilloscope/oszipage.h"
 
+#include "model/edit/editscope.h"
 #include "model/model.h"
 #include "plots/oscilloscope/osziwidget.h"
 #include "view/oscilloscope/markerbar.h"
@@ -88,6 +89,10 @@ void OsziPage::connectPointing()
     connect(&m_readOut, &KeyReadOut::ended, this, &OsziPage::releasePointer);
     connect(m_rows, &OsziRows::cancelled, m_markers, &MarkerBar::disarm);
     connect(m_markers, &MarkerBar::armedChanged, m_rows, &OsziRows::setPlacing);
+    connect(m_markers, &MarkerBar::clearClicked, this, [this] {
+        const EditScope edit(m_model, [] { return tr("Löschen der Marker"); }); // of all four, which come one by one
+        m_markers->clear();
+    });
 }
 
 // --- What the user does ---

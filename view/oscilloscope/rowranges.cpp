@@ -1,5 +1,6 @@
 #include "view/oscilloscope/rowranges.h"
 
+#include "model/edit/editscope.h"
 #include "model/model.h"
 #include "plots/oscilloscope/osziwidget.h"
 #include "view/common/logging.h"
@@ -70,6 +71,7 @@ bool RowRanges::takeMaximum(const QObject *box)
     const int position = positionOf(m_rows, box, &OsziRow::maxBox);
     if (position < 0 || !m_model)
         return false;
+    const std::unique_ptr<EditScope> edit = editOf(position);
     // The plot may have refused what was typed, so it is asked for the value.
     m_model->setOsziMaximum(position, m_rows.plot(position)->maxValue());
     return true;
@@ -80,6 +82,14 @@ bool RowRanges::takeMinimum(const QObject *box)
     const int position = positionOf(m_rows, box, &OsziRow::minBox);
     if (position < 0 || !m_model)
         return false;
+    const std::unique_ptr<EditScope> edit = editOf(position);
     m_model->setOsziMinimum(position, m_rows.plot(position)->minValue());
     return true;
+}
+
+std::unique_ptr<EditScope> RowRanges::editOf(int position) const
+{
+    const QString name = shownSensorName(m_model->sensorDescription(), position);
+    return std::make_unique<EditScope>(
+        m_model, [name] { return tr("Bereich von %1").arg(name); }, QStringLiteral("range.%1").arg(position));
 }

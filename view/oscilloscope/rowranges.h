@@ -2,8 +2,12 @@
 
 #include "view/oscilloscope/valueaxis.h"
 
+#include <QCoreApplication>
 #include <QPointer>
 
+#include <memory>
+
+class EditScope;
 class Model;
 class OsziRow;
 class OsziRows;
@@ -12,6 +16,8 @@ class QObject;
 /// Keeps the value ranges of the rows and those in the model's view data the same.
 class RowRanges
 {
+    Q_DECLARE_TR_FUNCTIONS(RowRanges)
+
 public:
     /// The rows must outlive it.
     explicit RowRanges(OsziRows &rows);
@@ -31,6 +37,9 @@ public:
     bool takeMinimum(const QObject *box);
 
 private:
+    /// One step for undo while somebody types.
+    [[nodiscard]] std::unique_ptr<EditScope> editOf(int position) const;
+
     OsziRows &m_rows;
     QPointer<Model> m_model;
 };

@@ -153,7 +153,7 @@ void ShotBar::requestDeletion()
 
 void ShotBar::clearDeletion()
 {
-    m_deletion->clear();
+    m_deletion->setText(QString()); // unlike clear() it leaves nothing that Ctrl+Z could bring back
 }
 
 void ShotBar::changeEvent(QEvent *event)

@@ -106,10 +106,12 @@ void ImageTile::layOut()
     column->addLayout(foot);
 }
 
-void ImageTile::setPicture(const QPixmap &picture)
+void ImageTile::setPicture(const QPixmap &picture, PictureState state, QSize size)
 {
-    if (picture.cacheKey() == this->picture().cacheKey())
+    if (picture.cacheKey() == this->picture().cacheKey() && state == m_state && size == m_size)
         return;
+    m_state = state;
+    m_size = size;
     m_picture->setPicture(picture);
     showState();
 }
@@ -119,15 +121,39 @@ QPixmap ImageTile::picture() const
     return m_picture->picture();
 }
 
+QString ImageTile::sizeText() const
+{
+    const QString size = tr("%1 × %2 Bildpunkte").arg(m_size.width()).arg(m_size.height());
+    return m_state == PictureState::Reduced ? size + tr(", verkleinert gezeigt") : size;
+}
+
+/// Empty for a picture that is shown.
+QString ImageTile::notice() const
+{
+    switch (m_state) {
+    case PictureState::TooLarge:
+        return tr("Zu groß zum Anzeigen:") + QLatin1Char('\n') + sizeText();
+    case PictureState::Undecodable:
+        return tr("Das Bild in der Datei kann nicht gelesen werden. Es bleibt erhalten.");
+    default:
+        return {};
+    }
+}
+
 void ImageTile::showState()
 {
-    const bool isEmpty = picture().isNull();
-    const QString size = tr("%1 × %2 Bildpunkte").arg(picture().width()).arg(picture().height());
-    m_delete->setVisible(!isEmpty);
-    m_choose->setToolTip(isEmpty ? tr("Bild auswählen") : tr("Anderes Bild auswählen"));
-    m_picture->setToolTip(isEmpty ? tr("Bild auswählen, ablegen oder einfügen (Strg+V)")
-                                  : size + QLatin1Char('\n') + tr("Klicken zum Vergrößern, Entf zum Löschen"));
-    m_picture->setAccessibleDescription(isEmpty ? tr("kein Bild") : size);
+    const QString shown = sizeText() + QLatin1Char('\n') + tr("Klicken zum Vergrößern, Entf zum Löschen");
+    m_delete->setVisible(isFull());
+    m_choose->setToolTip(isFull() ? tr("Anderes Bild auswählen") : tr("Bild auswählen"));
+    m_picture->setNotice(notice());
+    if (!notice().isEmpty())
+        m_picture->setToolTip(notice() + QLatin1Char('\n') + tr("Klicken für ein anderes Bild, Entf zum Löschen"));
+    else
+        m_picture->setToolTip(isFull() ? shown : tr("Bild auswählen, ablegen oder einfügen (Strg+V)"));
+    if (isFull())
+        m_picture->setAccessibleDescription(notice().isEmpty() ? sizeText() : notice());
+    else
+        m_picture->setAccessibleDescription(tr("kein Bild"));
 }
 
 void ImageTile::copy() const
@@ -177,7 +203,7 @@ void ImageTile::keyPressEvent(QKeyEvent *event)
         paste();
     else if (event->matches(QKeySequence::Copy))
         copy();
-    else if (isDelete && !picture().isNull())
+    else if (isDelete && isFull())
         emit deleteRequested();
     else
         ShadowFrame::keyPressEvent(event);
@@ -185,7 +211,7 @@ void ImageTile::keyPressEvent(QKeyEvent *event)
 
 void ImageTile::contextMenuEvent(QContextMenuEvent *event)
 {
-    const bool isFull = !picture().isNull();
+    const bool isShown = !picture().isNull();
     const QMimeData *clipboard = QGuiApplication::clipboard()->mimeData();
     auto *menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
@@ -198,13 +224,14 @@ void ImageTile::contextMenuEvent(QContextMenuEvent *event)
         action->setEnabled(isEnabled);
         connect(action, &QAction::triggered, this, slot);
     };
-    add(tr("&Vergrößern"), "magnify-plus.png", Qt::Key_Return, isFull, &ImageTile::enlargeRequested);
+    add(tr("&Vergrößern"), "magnify-plus.png", Qt::Key_Return, isShown, &ImageTile::enlargeRequested);
     add(tr("&Auswählen..."), "folder-open.png", {}, true, &ImageTile::chooseRequested);
     add(tr("&Einfügen"), "clipboard-text.png", QKeySequence::Paste, clipboard && hasPicture(*clipboard),
         &ImageTile::paste);
-    add(tr("&Kopieren"), "image.png", QKeySequence::Copy, isFull, &ImageTile::copy);
-    add(tr("&Speichern unter..."), "content-save-as.png", {}, isFull, &ImageTile::saveRequested);
-    add(tr("&Löschen..."), "delete.png", QKeySequence::Delete, isFull, &ImageTile::deleteRequested);
+    add(tr("&Kopieren"), "image.png", QKeySequence::Copy, isShown, &ImageTile::copy);
+    add(tr("&Speichern unter..."), "content-save-as.png", {}, isShown || m_state == PictureState::TooLarge,
+        &ImageTile::saveRequested);
+    add(tr("&Löschen..."), "delete.png", QKeySequence::Delete, isFull(), &ImageTile::deleteRequested);
     menu->popup(event->globalPos());
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "kit/small/shadowframe.h"
+#include "model/project/imagestore.h"
 
 #include <QImage>
 #include <QPixmap>
@@ -23,8 +24,9 @@ public:
     /// The number, from 1, is part of the names of object and children.
     explicit ImageTile(int number, QWidget *parent = nullptr);
 
-    /// Null: none. Emits nothing.
-    void setPicture(const QPixmap &picture);
+    /// Emits nothing. The picture is null for one that the project has but that is not shown; `size` is that of the
+    /// picture in the project.
+    void setPicture(const QPixmap &picture, PictureState state, QSize size);
     [[nodiscard]] QPixmap picture() const;
 
 signals:
@@ -54,7 +56,13 @@ private:
     [[nodiscard]] bool take(const QMimeData *source);
     void refuse();
 
+    [[nodiscard]] bool isFull() const { return m_state != PictureState::None; }
+    [[nodiscard]] QString sizeText() const;
+    [[nodiscard]] QString notice() const;
+
     int m_number;
+    PictureState m_state = PictureState::None;
+    QSize m_size; ///< of the picture in the project
     TilePicture *m_picture;
     QLabel *m_caption;
     QPushButton *m_choose;

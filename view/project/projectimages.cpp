@@ -76,7 +76,8 @@ void ProjectImages::addTile(int image)
 void ProjectImages::showFrom(const Model &model)
 {
     for (int image = 0; image < Model::kNumImages; ++image)
-        m_tiles[static_cast<std::size_t>(image)]->setPicture(model.image(image));
+        m_tiles[static_cast<std::size_t>(image)]->setPicture(model.image(image), model.images().state(image),
+                                                             model.images().size(image));
 }
 
 void ProjectImages::enlarge(int image)

@@ -14,6 +14,7 @@ constexpr int kMargin = 6;
 constexpr double kVeil = 0.88; // of white over the picture, so that words on it can be read
 
 const QColor kRefusalColor(0xC6, 0x28, 0x28);
+const QString kPictureIcon = QStringLiteral("image.png");
 
 } // namespace
 
@@ -44,6 +45,12 @@ void TilePicture::setTexts(const QString &invitation, const QString &welcome, co
     update();
 }
 
+void TilePicture::setNotice(const QString &notice)
+{
+    m_notice = notice;
+    update();
+}
+
 QSize TilePicture::sizeHint() const
 {
     return {200, 130};
@@ -61,11 +68,13 @@ void TilePicture::paintEvent(QPaintEvent * /*event*/)
     if (!m_picture.isNull())
         paintPicture(painter);
     if (m_drop == Drop::Welcome)
-        paintPlace(painter, theme::qColorPrimary, m_welcome);
+        paintPlace(painter, theme::qColorPrimary, kPictureIcon, m_welcome);
     else if (m_drop == Drop::Refused)
-        paintPlace(painter, kRefusalColor, m_refusal);
+        paintPlace(painter, kRefusalColor, kPictureIcon, m_refusal);
+    else if (m_picture.isNull() && !m_notice.isEmpty())
+        paintPlace(painter, kRefusalColor, QStringLiteral("alert.png"), m_notice);
     else if (m_picture.isNull())
-        paintPlace(painter, theme::qColorDark, m_invitation);
+        paintPlace(painter, theme::qColorDark, kPictureIcon, m_invitation);
     drawFocus(painter);
 }
 
@@ -85,7 +94,7 @@ void TilePicture::paintPicture(QPainter &painter)
 }
 
 /// A dashed frame with an icon and words in it.
-void TilePicture::paintPlace(QPainter &painter, const QColor &color, const QString &text) const
+void TilePicture::paintPlace(QPainter &painter, const QColor &color, const QString &iconFile, const QString &text) const
 {
     const QRectF frame = QRectF(contentsRect()).adjusted(1.5, 1.5, -1.5, -1.5);
     if (!m_picture.isNull())
@@ -98,8 +107,7 @@ void TilePicture::paintPlace(QPainter &painter, const QColor &color, const QStri
     const int textHeight = painter.fontMetrics().boundingRect(QRect(0, 0, inner.width(), 10000), flags, text).height();
     const int iconSize = std::clamp(inner.height() - textHeight, 0, kIconSize);
     const int top = inner.top() + std::max(0, inner.height() - textHeight - iconSize) / 2;
-    actionIcon(QStringLiteral("image.png"), color)
-        .paint(&painter, QRect(inner.left(), top, inner.width(), iconSize), Qt::AlignCenter);
+    actionIcon(iconFile, color).paint(&painter, QRect(inner.left(), top, inner.width(), iconSize), Qt::AlignCenter);
     painter.setPen(color);
     painter.drawText(QRect(inner.left(), top + iconSize, inner.width(), textHeight), flags, text);
 }

@@ -21,6 +21,9 @@ public:
     /// The texts without a picture, while a picture is dragged over the tile, and after something else was dropped.
     void setTexts(const QString &invitation, const QString &welcome, const QString &refusal);
 
+    /// What is said of a picture that cannot be shown; empty for none.
+    void setNotice(const QString &notice);
+
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
@@ -29,7 +32,7 @@ protected:
 
 private:
     void paintPicture(QPainter &painter);
-    void paintPlace(QPainter &painter, const QColor &color, const QString &text) const;
+    void paintPlace(QPainter &painter, const QColor &color, const QString &iconFile, const QString &text) const;
 
     QPixmap m_picture;
     QPixmap m_scaled; ///< for the size and the screen it was last painted on
@@ -37,4 +40,5 @@ private:
     QString m_invitation;
     QString m_welcome;
     QString m_refusal;
+    QString m_notice;
 };

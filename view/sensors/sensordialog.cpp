@@ -33,6 +33,7 @@ SensorDialog::SensorDialog(const SensorInfo &sensor, QWidget *parent)
     layOut();
     check();
     connect(m_name, &QLineEdit::textChanged, this, &SensorDialog::check);
+    connect(m_unit, &QLineEdit::textChanged, this, &SensorDialog::showUnit);
     connect(m_lower, &LimitField::edited, this, &SensorDialog::check);
     connect(m_upper, &LimitField::edited, this, &SensorDialog::check);
     connect(m_colorButton, &ColoredButton::colorPicked, this, &SensorDialog::takeColor);
@@ -40,13 +41,25 @@ SensorDialog::SensorDialog(const SensorInfo &sensor, QWidget *parent)
     connect(m_cancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
-void SensorDialog::createFields()
+void SensorDialog::createTexts()
 {
     m_name = new QLineEdit(m_before.name, this);
     m_name->setObjectName(QStringLiteral("lineEditSensorName"));
     m_name->setMaxLength(kLongestName);
     m_name->setEnabled(m_before.canRename());
     m_name->selectAll();
+    m_unit = new QLineEdit(m_before.unit, this);
+    m_unit->setObjectName(QStringLiteral("lineEditSensorUnit"));
+    m_unit->setMaxLength(SensorGroup::kLongestUnit);
+    m_unit->setEnabled(m_before.canRename());
+    m_hint = new QLabel(this);
+    m_hint->setObjectName(QStringLiteral("labelSensorHint"));
+    m_hint->setStyleSheet(QStringLiteral("QLabel {font-size: 16px; color: #B00020;}"));
+}
+
+void SensorDialog::createFields()
+{
+    createTexts();
     m_colorButton = new ColoredButton(this);
     m_colorButton->setObjectName(QStringLiteral("buttonSensorColor"));
     m_colorButton->setAutoDefault(false);
@@ -59,14 +72,10 @@ void SensorDialog::createFields()
     m_upper = new LimitField(this);
     m_lower->setSuggestion(0.0);
     m_upper->setSuggestion(100.0);
-    for (LimitField *field : {m_lower, m_upper})
-        field->setUnit(m_before.unit);
+    showUnit();
     m_lower->setLimit(m_before.limits.lower);
     m_upper->setLimit(m_before.limits.upper);
     m_shownLimits = enteredLimits();
-    m_hint = new QLabel(this);
-    m_hint->setObjectName(QStringLiteral("labelSensorHint"));
-    m_hint->setStyleSheet(QStringLiteral("QLabel {font-size: 16px; color: #B00020;}"));
     m_ok = new QtMaterialRaisedButton(tr("Ü&bernehmen"), this);
     m_ok->setObjectName(QStringLiteral("buttonOK"));
     m_ok->setDefault(true);
@@ -79,6 +88,7 @@ void SensorDialog::nameFields()
 {
     m_lower->setTitle(tr("Untere Grenze"));
     m_upper->setTitle(tr("Obere Grenze"));
+    m_unit->setToolTip(tr("Eine Box, die ihre Sensoren beschreibt, bringt ihre eigenen Einheiten mit."));
     m_lower->setToolTip(tr("Ausgeschaltet gibt es keine Grenze."));
     m_upper->setToolTip(m_lower->toolTip());
     m_colorButton->setToolTip(tr("Farbe wählen"));
@@ -92,10 +102,7 @@ void SensorDialog::layOut()
     form->setVerticalSpacing(10);
     form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
     form->addRow(tr("&Name"), m_name);
-    auto *unit = new QLabel(m_before.unit.isEmpty() ? QStringLiteral("–") : m_before.unit, this);
-    unit->setTextFormat(Qt::PlainText);
-    unit->setToolTip(tr("Die Einheit kommt von der Box."));
-    form->addRow(tr("Einheit"), unit);
+    form->addRow(tr("&Einheit"), m_unit);
     form->addRow(tr("&Farbe"), m_colorButton);
     auto *buttons = new QHBoxLayout;
     buttons->addStretch(1);
@@ -116,6 +123,12 @@ void SensorDialog::takeColor(const QColor &color)
 {
     m_color = color;
     m_colorButton->setColor(color);
+}
+
+void SensorDialog::showUnit()
+{
+    for (LimitField *field : {m_lower, m_upper})
+        field->setUnit(m_unit->text().simplified());
 }
 
 SensorLimits SensorDialog::enteredLimits() const
@@ -150,6 +163,7 @@ SensorInfo SensorDialog::sensor() const
         edited.ownName = m_name->text().simplified();
         edited.name = edited.ownName;
     }
+    edited.unit = m_unit->text().simplified();
     edited.color = m_color;
     if (!(enteredLimits() == m_shownLimits)) // the fields round: untouched limits stay exact
         edited.limits = enteredLimits();

@@ -11,7 +11,7 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 
-/// Name, colour and limits of one sensor. Show it with open(); what was entered is read after accepted().
+/// Name, unit, colour and limits of one sensor. Show it with open(); what was entered is read after accepted().
 class SensorDialog : public QDialog
 {
     Q_OBJECT
@@ -24,6 +24,8 @@ public:
 
 private:
     void createFields();
+    void createTexts();
+    void showUnit();
     void layOut();
     void nameFields();
     void takeColor(const QColor &color);
@@ -35,6 +37,7 @@ private:
     QColor m_color;
     SensorLimits m_shownLimits;
     QLineEdit *m_name = nullptr;
+    QLineEdit *m_unit = nullptr;
     ColoredButton *m_colorButton = nullptr;
     LimitField *m_lower = nullptr;
     LimitField *m_upper = nullptr;

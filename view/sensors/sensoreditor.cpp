@@ -1,5 +1,7 @@
 #include "view/sensors/sensoreditor.h"
 
+#include "model/edit/editscope.h"
+#include "model/model.h"
 #include "view/sensors/sensorchoices.h"
 #include "view/sensors/sensordialog.h"
 #include "view/sensors/sensortreemodel.h"
@@ -13,6 +15,11 @@ SensorEditor::SensorEditor(const SensorTreeModel &sensors, SensorChoices &choice
     , m_choices(choices)
     , m_parent(parent)
 {}
+
+void SensorEditor::setModel(Model *model)
+{
+    m_model = model;
+}
 
 void SensorEditor::openDialog(int sensor)
 {
@@ -33,10 +40,13 @@ void SensorEditor::rename(int sensor, const QString &name)
 
 void SensorEditor::applyEdit(const SensorInfo &before, const SensorInfo &after)
 {
+    const EditScope edit(m_model, [name = before.name] { return tr("Änderung von %1").arg(name); });
     if (after.ownName != before.ownName) {
         keepChoices(before, after.ownName);
         emit nameEdited(before.sensor, after.ownName);
     }
+    if (after.unit != before.unit)
+        emit unitEdited(before.sensor, after.unit);
     if (after.color != before.color)
         emit colorEdited(before.channel, after.color);
     if (!(after.limits == before.limits))

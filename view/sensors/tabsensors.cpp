@@ -99,6 +99,7 @@ void TabSensors::connectParts()
     connect(m_page, &TilePage::resetRequested, this, &TabSensors::resetHeld);
     connect(m_page, &TilePage::enlargedChanged, m_side, &QWidget::setHidden);
     connect(m_editor, &SensorEditor::nameEdited, this, &TabSensors::sensorNameEdited);
+    connect(m_editor, &SensorEditor::unitEdited, this, &TabSensors::sensorUnitEdited);
     connect(m_editor, &SensorEditor::colorEdited, this, &TabSensors::sensorColorEdited);
     connect(m_editor, &SensorEditor::limitsEdited, this, &TabSensors::sensorLimitsEdited);
 }
@@ -106,6 +107,7 @@ void TabSensors::connectParts()
 void TabSensors::setModel(Model *model)
 {
     m_model = model;
+    m_editor->setModel(model);
     connect(model, &Model::appStateChanged, this, &TabSensors::followLink);
     updateDescription();
     updateValues();

@@ -45,6 +45,7 @@ public:
 signals:
     // What the user edited; it is shown once the model has it.
     void sensorNameEdited(int sensor, const QString &name);
+    void sensorUnitEdited(int sensor, const QString &unit);
     void sensorColorEdited(int sensor, const QColor &color);
     /// SensorLimits::kNoLower and kNoUpper for a limit that is not set.
     void sensorLimitsEdited(int group, int sensor, double minimum, double maximum);

@@ -53,7 +53,7 @@ Questions &View::questions()
 bool View::askToSave()
 {
     qCDebug(lcView) << Q_FUNC_INFO;
-    return d->questions.toSave();
+    return d->questions.toSaveOrStay() != SaveAnswer::Discard;
 }
 
 bool View::askToQuit()

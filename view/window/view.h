@@ -40,10 +40,11 @@ public:
 
     // --- Questions and messages: one at a time ---
     /// While a question or message is open, a further message waits for its turn, and a further question is answered
-    /// at once with what changes nothing: save, not quit, cancel, no, no file, no address.
+    /// at once with what changes nothing: not quit, cancel, no, no file, no address.
     [[nodiscard]] bool isAsking() const;
     /// For questions that are not among the following.
     [[nodiscard]] Questions &questions();
+    /// False only for "Verwerfen". Who must know of a box that was closed asks questions().toSaveOrStay().
     [[nodiscard]] bool askToSave();
     [[nodiscard]] bool askToQuit();
     [[nodiscard]] QMessageBox::StandardButton askToSaveAndQuit();

@@ -15,6 +15,7 @@ const QString kPosition = QStringLiteral("mainwindow_pos");
 const QString kSize = QStringLiteral("mainwindow_size");
 const QString kMaximized = QStringLiteral("mainwindow_maximized");
 const QString kLastFolder = QStringLiteral("lastDir");
+const QString kTopicFolder = QStringLiteral("lastDir_"); // followed by the topic
 const QString kLanguage = QStringLiteral("language");
 
 QVector<QRect> screensForWindows()
@@ -43,6 +44,8 @@ void WindowMemory::read()
     readPlacement();
     const QSettings stored = programSettings();
     m_questions.setLastFolder(stored.value(kLastFolder).toString());
+    for (const QString &topic : {Questions::kProjectFolder, Questions::kPictureFolder})
+        m_questions.setFolderOf(topic, stored.value(kTopicFolder + topic).toString());
     const QString language = stored.value(kLanguage).toString();
     m_languages.loadLanguage(m_languages.isOffered(language) ? language : m_languages.language());
 }
@@ -69,6 +72,10 @@ void WindowMemory::write() const
     stored.setValue(kSize, filling ? m_placement.size : m_window->size());
     stored.setValue(kMaximized, m_window->isMaximized());
     stored.setValue(kLastFolder, m_questions.lastFolder());
+    for (const QString &topic : {Questions::kProjectFolder, Questions::kPictureFolder}) {
+        if (!m_questions.folderOf(topic).isEmpty())
+            stored.setValue(kTopicFolder + topic, m_questions.folderOf(topic));
+    }
 }
 
 bool WindowMemory::eventFilter(QObject *watched, QEvent *event)

@@ -8,7 +8,7 @@ class MultiLanguageUtils;
 class QMainWindow;
 class Questions;
 
-/// What the window keeps in the settings until the next start of the program: its place, the last folder of the file
+/// What the window keeps in the settings until the next start of the program: its place, the last folders of the file
 /// dialogs and the language. The language is stored as soon as the user chooses it, the rest by write().
 class WindowMemory : public QObject
 {

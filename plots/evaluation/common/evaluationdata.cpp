@@ -1,5 +1,6 @@
 #include "plots/evaluation/common/evaluationdata.h"
 
+#include "model/edit/editscope.h"
 #include "plots/common/localnumber.h"
 #include "plots/common/logging.h"
 
@@ -168,6 +169,8 @@ void EvaluationData::setShown(int sensor, const Quantity &quantity, bool shown)
     const QVector<Quantity> before = shownQuantities(sensor);
     if (before.contains(quantity) == shown || (!shown && before.size() == 1))
         return;
+    const QString name = sensorName(sensor);
+    const EditScope step(m_model, [name] { return tr("Spalten von %1").arg(name); });
     edit(sensor, [&](SensorMeta &settings) {
         // The usual quantities are shown without being stored; the first change has to store them, too.
         for (const Quantity &other : before)
@@ -204,6 +207,10 @@ void EvaluationData::setLimits(int sensor, const Quantity &quantity, const Toler
 {
     if (!isFinite(limits.lower) || !isFinite(limits.upper) || limits == this->limits(sensor, quantity))
         return;
+    const QString name = QStringLiteral("%1, %2").arg(sensorName(sensor), quantityName(quantity));
+    const EditScope step(
+        m_model, [name] { return tr("Grenzen von %1").arg(name); },
+        QStringLiteral("limits.%1.%2").arg(QString::number(sensor), quantity.key()));
     edit(sensor, [&](SensorMeta &settings) {
         QuantityMeta &entry = settings.at(quantity.key());
         entry.lowerLimit = limits.lower;

@@ -32,8 +32,20 @@ void CycleTile::set(const Content &content)
 void CycleTile::describe()
 {
     setAccessibleName(tr("Zykluszeit: %1, Schüsse: %2").arg(secondsText(m_content.latestCycle)).arg(m_content.shots));
-    setToolTip(tr("Zeit vom Beginn des vorigen Schusses bis zum Beginn des letzten; ohne Zeitstempel die Dauer der "
-                  "Aufzeichnung"));
+    const QString tip =
+        tr("Zeit vom Beginn des vorigen Schusses bis zum Beginn des letzten; ohne Zeitstempel die Dauer "
+           "der Aufzeichnung");
+    const QString breaks = tr("Nicht im Mittel: %1 Pausen, länger als das Fünffache des Medians").arg(m_content.breaks);
+    setToolTip(m_content.breaks > 0 ? tip + QLatin1Char('\n') + breaks : tip);
+}
+
+QString CycleTile::meanTitle() const
+{
+    if (m_content.cyclesInMean == 0)
+        return tr("Mittel");
+    if (m_content.breaks > 0)
+        return tr("Mittel von %1, ohne Pausen").arg(m_content.cyclesInMean);
+    return tr("Mittel der letzten %1").arg(m_content.cyclesInMean);
 }
 
 void CycleTile::paintEvent(QPaintEvent *event)
@@ -57,8 +69,7 @@ void CycleTile::paintEvent(QPaintEvent *event)
     const QString time = m_content.latestTimestamp.isValid()
                              ? m_content.latestTimestamp.toString(QStringLiteral("yyyy/MM/dd hh:mm:ss"))
                              : QStringLiteral("–");
-    const QString mean =
-        m_content.cyclesInMean > 0 ? tr("Mittel der letzten %1").arg(m_content.cyclesInMean) : tr("Mittel");
+    const QString mean = meanTitle();
     const QString titles[] = {mean, tr("Schüsse"), tr("Letzter Schuss")};
     const QString texts[] = {secondsText(m_content.meanCycle), QString::number(m_content.shots), time};
     for (int i = 0; i < 3; ++i) {

@@ -18,6 +18,7 @@ public:
         std::optional<double> latestCycle; ///< seconds; std::nullopt without a shot
         std::optional<double> meanCycle;   ///< seconds
         int cyclesInMean = 0;
+        int breaks = 0;            ///< cycles too long for the mean
         QDateTime latestTimestamp; ///< of the newest shot; may be invalid
     };
 
@@ -31,5 +32,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    [[nodiscard]] QString meanTitle() const;
+
     Content m_content;
 };

@@ -1,5 +1,6 @@
 #include "plots/evaluation/dashboard/dashboard.h"
 
+#include "plots/charts/statistics.h"
 #include "plots/common/logging.h"
 #include "plots/evaluation/common/evaluationdata.h"
 #include "plots/evaluation/dashboard/cycletile.h"
@@ -76,11 +77,14 @@ void Dashboard::showCycle()
     content.latestCycle = data()->cycleSeconds(content.shots - 1);
     // The first shot has no cycle before it.
     const int first = std::max(1, content.shots - DashboardTile::kSparklineShots);
-    double sum = 0.0;
-    for (int shot = first; shot < content.shots; ++shot, ++content.cyclesInMean)
-        sum += data()->cycleSeconds(shot).value_or(0.0);
+    QVector<double> cycles;
+    for (int shot = first; shot < content.shots; ++shot)
+        cycles.append(data()->cycleSeconds(shot).value_or(0.0));
+    const statistics::UsualTimes usual = statistics::withoutBreaks(cycles);
+    content.cyclesInMean = usual.values.size();
+    content.breaks = usual.leftOut;
     if (content.cyclesInMean > 0)
-        content.meanCycle = sum / content.cyclesInMean;
+        content.meanCycle = statistics::mean(usual.values);
     if (content.shots > 0)
         content.latestTimestamp = data()->model()->timestamp(content.shots - 1);
     m_cycleTile->set(content);

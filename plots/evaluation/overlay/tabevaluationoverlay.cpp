@@ -1,5 +1,6 @@
 #include "plots/evaluation/overlay/tabevaluationoverlay.h"
 
+#include "model/edit/editscope.h"
 #include "model/model.h"
 #include "plots/common/logging.h"
 #include "plots/evaluation/common/sensorselection.h"
@@ -275,6 +276,7 @@ void TabEvaluationOverlay::onTable_labelEdited(int shot, const QString &label)
     qCDebug(lcPlots) << Q_FUNC_INFO << "shot=" << shot << "label=" << label;
     if (!model())
         return;
+    const EditScope edit(model(), [shot] { return tr("Bezeichnung von Messung %1").arg(shot + 1); });
     model()->setShotLabel(shot, label);
     model()->setProjectModifiedFlag(true);
     recompute();

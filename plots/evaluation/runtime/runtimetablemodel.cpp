@@ -30,7 +30,7 @@ QString figure(double value)
     return QString::number(value, 'g', 6);
 }
 
-std::optional<statistics::Moments> momentsOf(const std::vector<RuntimeRow> &rows, int column)
+QVector<double> numbersOf(const std::vector<RuntimeRow> &rows, int column)
 {
     QVector<double> numbers;
     numbers.reserve(static_cast<int>(rows.size()));
@@ -38,6 +38,11 @@ std::optional<statistics::Moments> momentsOf(const std::vector<RuntimeRow> &rows
         if (const std::optional<double> number = numberIn(row, column))
             numbers.append(*number);
     }
+    return numbers;
+}
+
+std::optional<statistics::Moments> momentsOf(const QVector<double> &numbers)
+{
     return numbers.isEmpty() ? std::nullopt : std::optional(statistics::moments(numbers));
 }
 
@@ -67,8 +72,11 @@ void RuntimeTableModel::setRows(const std::vector<RuntimeRow> &rows)
 
 void RuntimeTableModel::computeSummary()
 {
-    for (int column = 0; column < NumColumns; ++column)
-        m_moments[static_cast<size_t>(column)] = momentsOf(m_rows, column);
+    for (int column = 0; column < Pause; ++column)
+        m_moments[static_cast<size_t>(column)] = momentsOf(numbersOf(m_rows, column));
+    const statistics::UsualTimes pauses = statistics::withoutBreaks(numbersOf(m_rows, Pause));
+    m_moments[Pause] = momentsOf(pauses.values);
+    m_breaks = pauses.leftOut;
 }
 
 int RuntimeTableModel::rowCount(const QModelIndex &parent) const
@@ -99,10 +107,28 @@ QString RuntimeTableModel::summaryText(bool sigmas, int column) const
 {
     if (column == Number)
         return sigmas ? tr("Sigma") : tr("Mittelwert");
+    if (column == Timestamp)
+        return breaksText();
     const std::optional<statistics::Moments> &moments = m_moments[static_cast<size_t>(column)];
     if (!moments)
         return {};
     return figure(sigmas ? moments->sigma : moments->mean);
+}
+
+QString RuntimeTableModel::breaksText() const
+{
+    if (m_breaks == 0)
+        return {};
+    return m_breaks == 1 ? tr("ohne 1 lange Pause") : tr("ohne %1 lange Pausen").arg(m_breaks);
+}
+
+QVariant RuntimeTableModel::tip(const QModelIndex &index) const
+{
+    const bool isOfPauses = index.column() == Pause || (index.column() == Timestamp && m_breaks > 0);
+    return index.row() >= numShots() && isOfPauses
+               ? QVariant(tr("Pausen, die länger sind als das Fünffache des Medians, zählen hier nicht mit, ebenso "
+                             "solche, bei denen die Uhr zurückgestellt wurde."))
+               : QVariant();
 }
 
 QVariant RuntimeTableModel::data(const QModelIndex &index, int role) const
@@ -116,6 +142,8 @@ QVariant RuntimeTableModel::data(const QModelIndex &index, int role) const
                       : summaryText(index.row() == numShots() + 1, index.column());
     case Qt::TextAlignmentRole:
         return int(Qt::AlignVCenter | (index.column() <= Timestamp ? Qt::AlignLeft : Qt::AlignRight));
+    case Qt::ToolTipRole:
+        return tip(index);
     case Qt::BackgroundRole:
         return isShot ? QVariant() : QVariant(theme::qColorLight);
     default:

@@ -18,7 +18,8 @@ struct RuntimeRow
 
 [[nodiscard]] bool operator==(const RuntimeRow &a, const RuntimeRow &b);
 
-/// The shots' runtimes, one per row, followed by a row of means and a row of sigmas of the columns with numbers.
+/// The shots' runtimes, one per row, followed by a row of means and a row of sigmas of the columns with numbers. Breaks
+/// are not part of the mean pause and its sigma; how many were left out is said beside the titles of both rows.
 class RuntimeTableModel : public ShotTableModel
 {
     Q_OBJECT
@@ -43,8 +44,11 @@ public:
 private:
     [[nodiscard]] QString shotText(int shot, int column) const;
     [[nodiscard]] QString summaryText(bool sigmas, int column) const;
+    [[nodiscard]] QString breaksText() const;
+    [[nodiscard]] QVariant tip(const QModelIndex &index) const;
     void computeSummary();
 
     std::vector<RuntimeRow> m_rows;
     std::array<std::optional<statistics::Moments>, NumColumns> m_moments; // none for a column without numbers
+    int m_breaks = 0;                                                     // pauses that the summary leaves out
 };

@@ -16,6 +16,7 @@
 namespace {
 
 using Shots = QVector<QVector<double>>;
+using Seconds = QVector<qint64>;
 
 /// Counts what a window would show.
 struct Counter : RecordingListener
@@ -68,6 +69,49 @@ class TestRecording : public QObject
     Q_OBJECT
 
 private slots:
+    void shotClock_data()
+    {
+        // wall: seconds of the computer's clock at each shot; counted: those really passed; stamped: what shots get
+        columns<Seconds, Seconds, Seconds>("wall", "counted", "stamped");
+        row("in step", Seconds{0, 30, 60}, Seconds{0, 30, 60}, Seconds{0, 30, 60});
+        row("set back by a day", Seconds{0, 30, 60 - 86400}, Seconds{5, 35, 65}, Seconds{0, 30, 60});
+        row("set forward by a year", Seconds{0, 31536000}, Seconds{1000, 1030}, Seconds{0, 30});
+        row("corrected a little", Seconds{0, 29, 61}, Seconds{0, 30, 60}, Seconds{0, 30, 60});
+    }
+
+    void shotClock()
+    {
+        QFETCH(Seconds, wall);
+        QFETCH(Seconds, counted);
+        QFETCH(Seconds, stamped);
+        // Across the change to winter time, where there is one: local times repeat, time does not.
+        const QDateTime start(QDate(2026, 10, 25), QTime(0, 59, 45), Qt::UTC);
+        int shot = 0;
+        const auto times = [&] { return std::make_pair(wall.at(shot), counted.at(shot)); };
+        ShotClock clock([&] { return start.addSecs(times().first); }, [&] { return times().second * 1000; });
+        for (; shot < wall.size(); ++shot)
+            QCOMPARE(clock.now(), start.addSecs(stamped.at(shot)));
+        --shot;
+        clock.restart(); // for another project
+        QCOMPARE(clock.now(), start.addSecs(wall.constLast()));
+        QCOMPARE(clock.now().timeSpec(), Qt::LocalTime);
+    }
+
+    void shotsAreStampedByTheShotClock()
+    {
+        Headless box;
+        const QDateTime before = QDateTime::currentDateTime().addMSecs(-1);
+        box.say("run=1");
+        QTest::qWait(20);
+        box.say("run=1"); // nothing has come: no second shot
+        box.say("0;1;1");
+        box.say("run=0");
+        box.say("run=1");
+        const qint64 pause = box.model.timestamp(0).msecsTo(box.model.timestamp(1));
+        QVERIFY2(pause >= 19 && pause < 1000, qPrintable(QString::number(pause)));
+        QVERIFY(box.model.timestamp(0) >= before);
+    }
+
     void lines_data()
     {
         // shots: of the second sensor
@@ -109,7 +153,6 @@ private slots:
         for (const char *line : {"run=1", "0;1;1", "run=0", "run=1", "0;2;2"})
             program.say(line);
         QVERIFY(program.model.deleteChannel(0));
-        program.recorder.measurementRemoved(0);
         program.say("0;3;3");
         QCOMPARE(program.shots(0), (Shots{{2, 3}}));
         program.model.clearData();

@@ -129,6 +129,46 @@ private slots:
         QVERIFY(!model.isProjectModified() && !model.signalsBlocked());
     }
 
+    /// What is opened is what is in the file then, however long ago it was read.
+    void opensWhatWasReadAhead_data()
+    {
+        // meanwhile: what happens before it is opened
+        columns<QByteArray, int>("meanwhile", "shots");
+        row("nothing", ""_ba, 3);
+        row("changed", "write"_ba, 1);
+        row("saved by this program", "save"_ba, 2);
+        row("forgotten", "forget"_ba, 3);
+        row("removed", "remove"_ba, 2);
+    }
+
+    void opensWhatWasReadAhead()
+    {
+        QFETCH(QByteArray, meanwhile);
+        QFETCH(int, shots);
+        const QString file = path("ahead.vnt");
+        Model written{QString()};
+        addMeasurements(written, 3, 1);
+        QVERIFY(written.save(file));
+        Model model{QString()};
+        addMeasurements(model, 2, 1);
+        QVERIFY(!model.readAhead(path("none.vnt")));
+        QVERIFY(model.readAhead(file));
+        QCOMPARE(model.numChannels(0), 2);
+        QVERIFY(model.currentFile().isEmpty() && !model.isBusy());
+        Model other{QString()};
+        addMeasurements(other, 1, 1);
+        if (meanwhile == "write")
+            QVERIFY(other.save(file));
+        else if (meanwhile == "save")
+            QVERIFY(model.save(file));
+        else if (meanwhile == "forget")
+            model.forgetReadAhead();
+        else if (meanwhile == "remove")
+            QVERIFY(QFile::remove(file));
+        QCOMPARE(model.open(file), meanwhile != "remove");
+        QCOMPARE(model.numChannels(0), shots);
+    }
+
     void failedOpenTouchesNothing_data()
     {
         columns<QByteArray, QString>("text", "error");

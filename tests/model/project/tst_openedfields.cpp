@@ -19,6 +19,8 @@ QByteArray pngOf(const QImage &image)
 } // namespace
 
 // What opening makes of each field of a project file: given, missing or of another type.
+Q_DECLARE_METATYPE(PictureState)
+
 class TestOpenedFields : public QObject
 {
     Q_OBJECT
@@ -138,27 +140,46 @@ private slots:
 
     void readsImages_data()
     {
-        columns<QByteArray, QSize>("json", "size");
+        columns<QByteArray, QSize, PictureState>("json", "size", "state");
         const QByteArray png = pngOf(QImage(3, 9, QImage::Format_ARGB32));
-        QByteArray huge = png;
-        huge.replace(16, 8, QByteArray::fromHex("0000ffff0000ffff")); // width and height in its head
-        row("image", QByteArray('"' + png.toBase64() + '"'), QSize(3, 9));
-        row("gigabytes", QByteArray('"' + huge.toBase64() + '"'), QSize());
-        row("cut", QByteArray('"' + png.left(20).toBase64() + '"'), QSize());
-        row("not Base64", R"("\u00e4%&")"_ba, QSize());
+        // 65535 by 65535 pixels, and the beginning of a row.
+        const QByteArray huge = QByteArray::fromHex("89504e470d0a1a0a0000000d494844520000ffff0000ffff080200000039674e07"
+                                                    "0000001149444154789c63601805a360140c77000003e80001b3a6d346");
+        row("image", QByteArray('"' + png.toBase64() + '"'), QSize(3, 9), PictureState::Whole);
+        row("gigabytes", QByteArray('"' + huge.toBase64() + '"'), QSize(), PictureState::TooLarge);
+        row("cut", QByteArray('"' + png.left(60).toBase64() + '"'), QSize(), PictureState::Undecodable);
+        row("empty", R"("")"_ba, QSize(), PictureState::None);
+        row("other type", R"({"a": [1,2]})"_ba, QSize(), PictureState::Undecodable);
+        row("other format", R"("R0lGODlhAQABAAAAACw=")"_ba, QSize(), PictureState::Undecodable);
+        row("not Base64", R"("\u00e4%&")"_ba, QSize(), PictureState::Undecodable);
     }
+
+    /// What is not shown is written as it was read, until there is another picture or none.
 
     void readsImages()
     {
         QFETCH(QByteArray, json);
         QFETCH(QSize, size);
+        QFETCH(PictureState, state);
         writeFile(path("image.vnt"), "{\"projectImage4\":" + json + "}");
         const LogCapture log;
         Model model(path("image.vnt"));
         QCOMPARE(model.currentFile(), path("image.vnt"));
         QCOMPARE(model.image(4).size(), size.isValid() ? size : QSize(0, 0));
-        QVERIFY(model.save(path("again.vnt")));
-        QCOMPARE(contentOf(path("again.vnt")).contains(json), size.isValid());
+        QVERIFY(model.images().state(4) == state);
+        QVERIFY(model.save(path("again.vnt")) && model.open(path("again.vnt")) && model.save(path("again.vnt")));
+        QVERIFY(contentOf(path("again.vnt")).contains(json));
+        QVERIFY(model.open(path("image.vnt")));
+        const QPixmap stand = model.images().pixmaps()[4];
+        model.setImage(4, QPixmap(2, 2));
+        QVERIFY(model.images().state(4) == PictureState::Whole && model.save(path("other.vnt")));
+        QVERIFY(json == R"("")" || !contentOf(path("other.vnt")).contains(json));
+        model.setImage(4, stand); // as undoing that does
+        QVERIFY(model.images().state(4) == state && model.save(path("back.vnt")));
+        QVERIFY(state == PictureState::Whole || contentOf(path("back.vnt")).contains(json));
+        model.setImage(4, QPixmap());
+        QVERIFY(model.images().state(4) == PictureState::None && model.save(path("none.vnt")));
+        QVERIFY(contentOf(path("none.vnt")).contains(R"("projectImage4": "")"));
     }
 
 private:

@@ -8,6 +8,7 @@
 #include "tests/support/rows.h"
 
 #include <QBuffer>
+#include <QElapsedTimer>
 
 #include <cmath>
 #include <cstring>
@@ -200,7 +201,7 @@ private slots:
         row("rounded and cut", R"({"clock":99.5,"markers":[1.5,"2",null],"phases":["a",5],"paramPressure":-1e99})"_ba,
             R"({"clock":100,"markers":[2,0,0],"paramPressure":-2147483648,"phases":["a",""]})"_ba);
         row("empty view", R"({"ViewData":{}})"_ba, "{}"_ba);
-        row("view of no use", R"({"ViewData":{"x":1}})"_ba, R"({"ViewData":{}})"_ba);
+        row("view of no use", R"({"ViewData":{"x":1}})"_ba, R"({"ViewData":{"x":1}})"_ba);
         row("view replaced", R"({"ViewData":{"osziMinValues":[1]},"ViewData":{"checkBoxMarkerAbsolute":true}})"_ba,
             R"({"ViewData":{"checkBoxMarkerAbsolute":true}})"_ba);
     }
@@ -217,6 +218,98 @@ private slots:
         for (const char *image : {"projectImage", "projectImage1", "projectImage2", "projectImage3", "projectImage4"})
             QCOMPARE(found.take(QLatin1String(image)).toString("none"_s), QString());
         QCOMPARE(QJsonDocument(found).toJson(QJsonDocument::Compact), written);
+    }
+
+    void givesBackUnknownKeys_data()
+    {
+        columns<QByteArray>("member");
+        row("odd blanks", "\"zusatz\": {\"b\" : [1,  2.50,1e5],\n\t\"a\":{ }}"_ba);
+        row("escapes", "\"k\\\"ey\\\\\\u00e4\": \"\\/\\u0041\\ud800\""_ba);
+        row("not UTF-8", "\"a\xff\": \"\xfe\""_ba);
+        row("numbers of many digits", "\"n\": 12345678901234567890.10000000000000000001E-0005"_ba);
+        row("longer than the buffer", QByteArray("\"long\": [" + "\"12 \\\" ]\", "_ba.repeated(20000) + "null]"));
+        row("behind all others", R"("zz": false)"_ba);
+        row("before all others", R"("AA": "")"_ba);
+        row("picture of another kind", R"("projectImage2": {"format": "jxl", "data": "AAAA"})"_ba);
+        row("picture with line breaks", R"("projectImage2": "iVBO\nRw0KGgo=")"_ba);
+    }
+
+    void givesBackUnknownKeys()
+    {
+        QFETCH(QByteArray, member);
+        const auto document = read("{" + member + R"(, "clock": 5, "swVersion": "1"})");
+        QVERIFY(document);
+        const QByteArray written = write(*document);
+        QVERIFY2(written.contains("\n    " + member), written.left(2000).constData());
+        const auto again = read(written);
+        QVERIFY(again);
+        QCOMPARE(write(*again), written);
+        QCOMPARE(document->rest.lost.count, 0);
+        // The same among the settings of the view.
+        const auto view = read("{\"ViewData\":{" + member + "}}");
+        QVERIFY(view && write(*view).contains("\n        " + member));
+    }
+
+    /// Other keys between those of the format, all in the order of Qt.
+    void putsUnknownKeysInTheirPlaces()
+    {
+        QJsonObject json = QJsonDocument::fromJson(write(fullDocument({}))).object();
+        for (const char *key : {"A", "ViewDatb", "clocl", "fileVersion2", "projectImage11", "sensor 6", "sensor A",
+                                "sensorName 0", "\u00e4", "~", ""})
+            json[QString::fromUtf8(key)] = QJsonArray{1.5, "x"_s, QJsonObject{{"y"_s, true}}};
+        QJsonObject view = json["ViewData"_s].toObject();
+        view["oszi"_s] = QJsonObject{{"a"_s, 1}};
+        json["ViewData"_s] = view;
+        const QByteArray text = QJsonDocument(json).toJson();
+        const auto document = read(text);
+        QVERIFY(document);
+        QCOMPARE(write(*document), text);
+    }
+
+    void unknownKeysThatComeTwice()
+    {
+        const auto document = read(R"({"x":1,"b":2,"\u0078":3,"b":4,"c":5,"b":6})");
+        QVERIFY(document);
+        QCOMPARE(document->rest.unknown.size(), 3);
+        QCOMPARE(document->rest.unknown[0].value + document->rest.unknown[1].value + document->rest.unknown[2].value,
+                 "653"_ba);
+    }
+
+    void notesWhatIsLost_data()
+    {
+        columns<QByteArray, QString>("text", "lost");
+        row("nothing", R"({"clock":5,"comment":null,"y":[1]})"_ba, "");
+        row("wrong types", R"({"sensor 1":{},"clock":"5","markers":3,"ViewData":[1],"fileVersion":7})"_ba,
+            "sensor 1,clock,markers,ViewData");
+        row("within the view", R"({"ViewData":{"checkBoxMarkerAbsolute":1,"osziMinValues":[]}})"_ba,
+            "checkBoxMarkerAbsolute");
+        row("reserved", R"({"measurement":[1,2]})"_ba, "measurement");
+        row("too large", QByteArray("{\"x\":1,\"big\":[" + QByteArray(70000000, ' ') + "],\"y\":2}"), "big");
+        row("huge key", QByteArray("{\"" + QByteArray(70000, 'k') + "\":1}"), QString(40, QLatin1Char('k')));
+    }
+
+    void notesWhatIsLost()
+    {
+        QFETCH(QByteArray, text);
+        const auto document = read(text);
+        QVERIFY(document);
+        QTEST(document->rest.lost.names.join(QLatin1Char(',')), "lost");
+    }
+
+    /// A file of nothing but unknown keys neither takes long nor much memory, and as many are kept as fit.
+    void boundsUnknownKeys()
+    {
+        QByteArray text = "{";
+        for (int i = 0; i < 1000000; ++i)
+            text += "\"k" + QByteArray::number(i) + "\":1,";
+        QElapsedTimer timer;
+        timer.start();
+        const auto document = read(text + "\"clock\":7}");
+        QVERIFY(timer.elapsed() < 20000);
+        QVERIFY(document && document->clock == 7);
+        QCOMPARE(document->rest.unknown.size() + document->rest.lost.count, 1000000);
+        QVERIFY(document->rest.unknown.size() > 200000 && document->rest.unknown.size() < 400000);
+        QCOMPARE(document->rest.lost.names.size(), int(NameList::kMostNames));
     }
 
     /// Somebody else's list may have grown, and keeps its samples; the document's own list is handed over.

@@ -7,6 +7,9 @@
 
 #include <QBuffer>
 #include <QElapsedTimer>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QTemporaryDir>
 
 #include <sys/stat.h>
@@ -68,6 +71,67 @@ private slots:
         QVERIFY(!opened.isProjectModified());
         opened.clear();
         QVERIFY(opened.projectMeta() == ProjectMeta());
+    }
+
+    void unitsPeriodsAndImportsAreKept()
+    {
+        Model model{QString()};
+        fill(model);
+        model.setSensorUnit(2, "bar"_s);
+        model.setSensorUnit(4, QString(30, QLatin1Char('x')));
+        for (int shot = 0; shot < 3; ++shot)
+            model.setSamplingPeriod(shot, shot * 50);
+        writeFile(path("shot.bb"), "A=[1,2,3,4,5]\n");
+        QVERIFY(model.addBlackBoxFile(path("shot.bb")));
+        const QSet<QByteArray> imported = model.importedFiles();
+        QCOMPARE(imported.size(), 1);
+        QVERIFY(model.deleteChannel(0));
+        QVERIFY(model.save(path("u.vnt")));
+        Model opened(path("u.vnt"));
+        const SensorGroup &group = opened.sensorDescription().sensorGroup(0);
+        QCOMPARE(group.sensorUnit(2), "bar"_s);
+        QCOMPARE(group.sensorUnit(3), QString());
+        QCOMPARE(group.sensorUnit(4), QString(SensorGroup::kLongestUnit, QLatin1Char('x')));
+        QCOMPARE(opened.samplingPeriod(0), 50);
+        QCOMPARE(opened.samplingPeriod(1), 100);
+        QCOMPARE(opened.samplingPeriod(2), 0); // nobody knows how fast the logger was
+        QCOMPARE(opened.importedFiles(), imported);
+        opened.clear();
+        QVERIFY(opened.importedFiles().isEmpty());
+    }
+
+    /// The project was changed without the file beside it: a unit may not fit the sensor any more.
+    void unitsOfOtherSensorsAreNotTaken()
+    {
+        Model model{QString()};
+        for (int sensor = 0; sensor < kNumSensors; ++sensor) {
+            model.setSensorName(sensor, "s%1"_s.arg(sensor));
+            model.setSensorUnit(sensor, "bar"_s);
+        }
+        QVERIFY(model.save(path("units.vnt")));
+        QByteArray project = contentOf(path("units.vnt"));
+        writeFile(path("units.vnt"), project.replace("\"s1\"", "\"s9\""));
+        const Model opened(path("units.vnt"));
+        QCOMPARE(opened.sensorDescription().sensorGroup(0).sensorUnit(0), "bar"_s);
+        QCOMPARE(opened.sensorDescription().sensorGroup(0).sensorUnit(1), QString());
+    }
+
+    void isFoundThroughLinks()
+    {
+        Model model{QString()};
+        fill(model);
+        QVERIFY(QDir().mkpath(path("real")) && model.save(path("real/p.vnt")));
+        QVERIFY(QFile::link(path("real/p.vnt"), path("link.vnt")));
+        QVERIFY(model.open(path("link.vnt")));
+        QCOMPARE(model.shotLabel(1), "Anfahrteil \"ö\"\n"_s);
+        model.setShotLabel(1, "through the link"_s);
+        QVERIFY(model.save(path("link.vnt")));
+        QVERIFY(contentOf(path("real/p.vnt.meta")).contains("through the link"));
+        QVERIFY(!QFile::exists(path("link.vnt.meta")));
+        // Earlier versions wrote it beside the link.
+        QVERIFY(QFile::rename(path("real/p.vnt.meta"), path("link.vnt.meta")));
+        QVERIFY(model.open(path("link.vnt")));
+        QCOMPARE(model.shotLabel(1), "through the link"_s);
     }
 
     void theProjectFileStaysAsItIs()
@@ -135,7 +199,47 @@ private slots:
         QVERIFY(log.contains("ERROR: could not read file:"_s));
         QCOMPARE(model.numChannels(4), 2);
         QVERIFY(model.projectMeta() == ProjectMeta());
-        QFile::remove(path("c.vnt.meta"));
+        QVERIFY(model.openLosses().meta == (text.contains(":2") ? MetaState::Newer : MetaState::Damaged));
+        QVERIFY(model.openLosses().isAny());
+        // It is not replaced by what the program has, be it nothing.
+        for (const char *kept : {"c.vnt.meta.bad", "c.vnt.meta.bad2"}) {
+            QVERIFY(!QFile::exists(path(kept)));
+            QVERIFY(model.save(path("c.vnt")) && model.isProjectMetaSaved());
+            QVERIFY(contentOf(path(kept)) == text);
+            QVERIFY(model.open(path("c.vnt")) && !model.openLosses().isAny());
+            writeFile(path("c.vnt.meta"), text); // damaged a second time
+            model.setShotLabel(0, "new"_s);
+        }
+        for (const char *name : {"c.vnt.meta", "c.vnt.meta.bad", "c.vnt.meta.bad2"})
+            QVERIFY(QFile::remove(path(name)));
+    }
+
+    /// What a version to come adds to the file without changing the rest.
+    void unknownKeysAreKept()
+    {
+        Model model{QString()};
+        fill(model);
+        QVERIFY(model.save(path("k.vnt")));
+        QJsonObject root = QJsonDocument::fromJson(contentOf(path("k.vnt.meta"))).object();
+        root["metaVersion"_s] = 1.5;
+        root["more"_s] = QJsonArray{1, 2};
+        QJsonArray sensors = root["sensors"_s].toArray();
+        QJsonObject sensor = sensors[3].toObject();
+        sensor["color"_s] = "red"_s;
+        sensors[3] = sensor;
+        root["sensors"_s] = sensors;
+        QJsonArray shots = root["shots"_s].toArray();
+        QJsonObject shot = shots[1].toObject();
+        shot["part"_s] = true;
+        shots[1] = shot;
+        root["shots"_s] = shots;
+        writeFile(path("k.vnt.meta"), QJsonDocument(root).toJson());
+        QVERIFY(model.open(path("k.vnt")) && model.deleteChannel(0) && model.save(path("k2.vnt")));
+        root = QJsonDocument::fromJson(contentOf(path("k2.vnt.meta"))).object();
+        QCOMPARE(root["more"_s], QJsonValue(QJsonArray{1, 2}));
+        QCOMPARE(root["sensors"_s].toArray()[3].toObject()["color"_s].toString(), "red"_s);
+        QVERIFY(root["shots"_s].toArray()[0].toObject()["part"_s].toBool());
+        QVERIFY(!root["shots"_s].toArray()[1].toObject().contains("part"_s));
     }
 
     void onlyRegularFilesAreRead()
@@ -175,12 +279,14 @@ private slots:
 
     void badEntriesAreLeftOut()
     {
-        const auto meta = readText("{\"metaVersion\":1,\"sensors\":[7,{\"startThreshold\":\"x\",\"stopThreshold\":2,"
-                                   "\"quantities\":[{\"quantity\":\"mean\",\"lowerLimit\":\"low\",\"upperLimit\":4},3,"
-                                   "{\"quantity\":\"mean\",\"upperLimit\":5},{\"upperLimit\":6}]},{},{},{},{},{}],"
-                                   "\"shots\":[{\"check\":1,\"label\":5,\"time\":\"soon\"},\"no\",{\"check\":3,"
-                                   "\"label\":\"l\"},{\"check\":4,\"label\":\"too many\"}]}",
-                                   {1, 2, 3});
+        const auto meta =
+            readText("{\"metaVersion\":1,\"sensors\":[7,{\"startThreshold\":\"x\",\"stopThreshold\":2,"
+                     "\"quantities\":[{\"quantity\":\"mean\",\"lowerLimit\":\"low\",\"upperLimit\":4},3,"
+                     "{\"quantity\":\"mean\",\"upperLimit\":5},{\"upperLimit\":6}]},{},{},{},{},{}],"
+                     "\"shots\":[{\"check\":1,\"label\":5,\"time\":\"soon\",\"period\":-5},\"no\",{\"check\":3,"
+                     "\"label\":\"l\"},{\"check\":4,\"label\":\"too many\"}],"
+                     "\"imported\":[5,\"\",\"xyz\",\"0aff\"]}",
+                     {1, 2, 3});
         QVERIFY(meta);
         QCOMPARE(meta->sensors[1].startThreshold, 0.0);
         QCOMPARE(meta->sensors[1].stopThreshold, 2.0);
@@ -190,6 +296,8 @@ private slots:
         QCOMPARE(meta->labels.size(), size_t(3));
         QCOMPARE(meta->labels[2], "l"_s);
         QVERIFY(!meta->timestamps[0].isValid());
+        QCOMPARE(meta->period(0), 0);
+        QCOMPARE(meta->importedFiles, QSet<QByteArray>{QByteArray::fromHex("0aff")});
     }
 
     void noticesAShortWrite()

@@ -27,6 +27,27 @@ class StatisticsTest : public QObject
     Q_OBJECT
 
 private slots:
+    void breaks_data()
+    {
+        using Row = QVector<double>;
+        columns<Row, Row>("times", "usual");
+        row("none", Row{}, Row{});
+        row("one", Row{3600}, Row{3600});
+        row("a lunch break", Row{30, 31, 1800, 29}, Row{30, 31, 29});
+        row("five times is no break", Row{10, 10, 50, 10, 50.1}, Row{10, 10, 50, 10});
+        row("a clock set back by a day", Row{30, -86394, 30}, Row{30, 30});
+        row("shorter than the resolution", Row{0, 0, 0, 1}, Row{0, 0, 0, 1});
+        row("only backwards", Row{-1}, Row{});
+    }
+
+    void breaks()
+    {
+        QFETCH(QVector<double>, times);
+        const statistics::UsualTimes result = statistics::withoutBreaks(times);
+        QTEST(result.values, "usual");
+        QCOMPARE(result.leftOut, times.size() - result.values.size());
+    }
+
     // Means and sigmas were computed with exact fractions, medians by another program.
     void figures_data()
     {

@@ -289,8 +289,10 @@ private slots:
         QFETCH(QString, title);
         QFETCH(QString, text);
         QFETCH(int, buttons);
+        const QString hint =
+            buttons & QMessageBox::Save ? "Escape oder Schließen bricht ab, und nichts ändert sich."_s : QString();
         QMessageBox box;
-        fillMessageBox(box, title, text, QMessageBox::StandardButtons(buttons));
+        fillMessageBox(box, {title, text, QMessageBox::StandardButtons(buttons), QMessageBox::NoButton, false, hint});
         makePanel(box, "help-circle-outline.png"_s);
         box.show();
         QVERIFY(QTest::qWaitForWindowExposed(&box));

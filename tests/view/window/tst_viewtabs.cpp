@@ -183,28 +183,6 @@ private slots:
         QTEST(PageTable::keyOf(page).toString(), "key");
     }
 
-    void escapeAnswers_data()
-    {
-        columns<int, int>("buttons", "answer");
-        row("cancel", int(QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel), int(QMessageBox::Cancel));
-        row("no", int(QMessageBox::Yes | QMessageBox::No), int(QMessageBox::No));
-        row("nothing is thrown away", int(QMessageBox::Save | QMessageBox::Discard), int(QMessageBox::Save));
-        row("the last", int(QMessageBox::Ok | QMessageBox::Discard), int(QMessageBox::Ok));
-        row("the only one", int(QMessageBox::Ok), int(QMessageBox::Ok));
-    }
-
-    void escapeAnswers()
-    {
-        QFETCH(int, buttons);
-        QFETCH(int, answer);
-        QCOMPARE(int(escapeAnswer(QMessageBox::StandardButtons(buttons))), answer);
-        QMessageBox box;
-        fillMessageBox(box, QString(), QString(), QMessageBox::StandardButtons(buttons));
-        box.show();
-        QTest::keyClick(&box, Qt::Key_Escape);
-        QCOMPARE(int(box.standardButton(box.clickedButton())), answer);
-    }
-
     void addressDialogAcceptsValidOnly()
     {
         IPAddressDialog dialog("alt"_s, [](const QString &text) { return text == "10.0.0.2"_s; });

@@ -7,6 +7,9 @@
 #include <QFileInfo>
 #include <QTimer>
 
+const QString Questions::kProjectFolder = QStringLiteral("projects");
+const QString Questions::kPictureFolder = QStringLiteral("pictures");
+
 Questions::Questions(std::unique_ptr<UserPrompts> prompts)
     : m_prompts(std::move(prompts))
 {}
@@ -27,43 +30,60 @@ Answer Questions::oneAtATime(Answer refusal, Question question)
     return answer;
 }
 
-QMessageBox::StandardButton Questions::ask(const QString &title, const QString &text,
-                                           QMessageBox::StandardButtons buttons, QMessageBox::StandardButton refusal)
+QMessageBox::StandardButton Questions::ask(const StandardQuestion &question)
 {
-    return oneAtATime(refusal, [&] { return m_prompts->ask(title, text, buttons); });
+    return oneAtATime(QMessageBox::NoButton, [&] { return m_prompts->ask(question); });
 }
 
-bool Questions::toSave()
+SaveAnswer Questions::toSaveOrStay()
 {
-    // Refused means yes: nothing may be thrown away because another box was open.
-    return ask(theme::applicationName, tr("Projekt speichern?"), QMessageBox::Save | QMessageBox::Discard,
-               QMessageBox::Save)
-           == QMessageBox::Save;
+    switch (ask({theme::applicationName, tr("Projekt speichern?"), QMessageBox::Save | QMessageBox::Discard,
+                 QMessageBox::Save, false, tr("Escape oder Schließen bricht ab, und nichts ändert sich.")})) {
+    case QMessageBox::Save:
+        return SaveAnswer::Save;
+    case QMessageBox::Discard:
+        return SaveAnswer::Discard;
+    default:
+        return SaveAnswer::Stay;
+    }
 }
 
 bool Questions::toQuit()
 {
-    return ask(theme::applicationName, tr("Ventaro beenden?"), QMessageBox::Ok | QMessageBox::Cancel,
-               QMessageBox::Cancel)
+    return ask({theme::applicationName, tr("Ventaro beenden?"), QMessageBox::Ok | QMessageBox::Cancel,
+                QMessageBox::Ok}) // nothing is unsaved
            == QMessageBox::Ok;
 }
 
 QMessageBox::StandardButton Questions::toSaveAndQuit()
 {
-    return ask(theme::applicationName, tr("Vor dem Beenden Ventaro Projekt speichern?"),
-               QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Cancel);
+    const QMessageBox::StandardButton answer =
+        ask({theme::applicationName, tr("Vor dem Beenden Ventaro Projekt speichern?"),
+             QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, QMessageBox::Save});
+    return answer == QMessageBox::NoButton ? QMessageBox::Cancel : answer;
 }
 
-bool Questions::toClearData()
+bool Questions::toClearData(const QString &details)
 {
-    return ask(theme::applicationName, tr("Achtung: Alle Messdaten werden gelöscht!"),
-               QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel)
+    const QString text = tr("Achtung: Alle Messdaten werden gelöscht!");
+    return ask({theme::applicationName, details.isEmpty() ? text : text + QLatin1String("\n\n") + details,
+                QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel, true})
            == QMessageBox::Ok;
 }
 
 bool Questions::yesNo(const QString &title, const QString &text)
 {
-    return ask(title, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+    return ask({title, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No}) == QMessageBox::Yes;
+}
+
+bool Questions::yesNoDestructive(const QString &title, const QString &text)
+{
+    return ask({title, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No, true}) == QMessageBox::Yes;
+}
+
+bool Questions::compare(const Comparison &comparison)
+{
+    return oneAtATime(QMessageBox::NoButton, [&] { return m_prompts->compare(comparison); }) == QMessageBox::Yes;
 }
 
 int Questions::choose(const Choice &choice)
@@ -106,37 +126,51 @@ void Questions::showWaitingMessage()
 
 // --- Files and addresses -----------------------------------------------------------------------------------------
 
-void Questions::rememberFolderOf(const QString &file)
+QString Questions::startPath(const FileStart &start) const
 {
-    if (!file.isEmpty())
-        m_lastFolder = QFileInfo(file).absolutePath();
+    QString folder = m_folders.value(start.topic);
+    if (folder.isEmpty() || !QFileInfo(folder).isDir()) // such as that of a stick that was pulled out
+        folder = m_lastFolder;
+    return start.proposal.isEmpty() ? folder : QDir(folder).filePath(start.proposal);
 }
 
-QString Questions::openFile(const QString &title, const QString &filter)
+void Questions::rememberFolderOf(const QString &file, const QString &topic)
 {
-    const QString file = oneAtATime(QString(), [&] { return m_prompts->openFileName(title, m_lastFolder, filter); });
-    rememberFolderOf(file);
+    if (file.isEmpty())
+        return;
+    m_lastFolder = QFileInfo(file).absolutePath();
+    if (!topic.isEmpty())
+        m_folders.insert(topic, m_lastFolder);
+}
+
+QString Questions::openFile(const QString &title, const QString &filter, const FileStart &start)
+{
+    const QString file =
+        oneAtATime(QString(), [&] { return m_prompts->openFileName(title, startPath(start), filter); });
+    rememberFolderOf(file, start.topic);
     return file;
 }
 
-QString Questions::saveFile(const QString &title, const QString &filter)
+QString Questions::saveFile(const QString &title, const QString &filter, const FileStart &start)
 {
-    const QString file = oneAtATime(QString(), [&] { return m_prompts->saveFileName(title, m_lastFolder, filter); });
-    rememberFolderOf(file);
+    const QString file =
+        oneAtATime(QString(), [&] { return m_prompts->saveFileName(title, startPath(start), filter); });
+    rememberFolderOf(file, start.topic);
     return file;
 }
 
 QString Questions::saveFileWithSuffix(const QString &title, const QString &filter, const QString &suffix,
-                                      Qt::CaseSensitivity sensitivity, const QString &overwriteTitle)
+                                      Qt::CaseSensitivity sensitivity, const QString &overwriteTitle,
+                                      const FileStart &start)
 {
-    const QString chosen = saveFile(title, filter);
+    const QString chosen = saveFile(title, filter, start);
     if (chosen.isEmpty())
         return chosen;
     const QString file = chosen.endsWith(suffix, sensitivity) ? chosen : chosen + suffix;
     if (file == chosen || !QFileInfo::exists(file)) // the dialog has asked about the name chosen in it
         return file;
     const QString text = tr("Die Datei \"%1\" ist schon vorhanden. Überschreiben?").arg(QDir::toNativeSeparators(file));
-    return yesNo(overwriteTitle.isEmpty() ? title : overwriteTitle, text) ? file : QString();
+    return yesNoDestructive(overwriteTitle.isEmpty() ? title : overwriteTitle, text) ? file : QString();
 }
 
 QString Questions::folder(const QString &title)

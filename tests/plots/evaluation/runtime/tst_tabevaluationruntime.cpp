@@ -71,6 +71,21 @@ private slots:
         QCOMPARE(cell(3, RuntimeTableModel::Pause), "29.5"_s);
     }
 
+    void breaksAreNotPartOfTheMeanPause()
+    {
+        const QDateTime start(QDate(2026, 3, 9), QTime(11, 0), Qt::UTC);
+        for (const int second : {0, 30, 58, 90, 1890, 1920})
+            addShot(*m_model, shotOf(12, 100, 47), 1.0, start.addSecs(second));
+        m_page->update();
+        QCOMPARE(cell(3, RuntimeTableModel::Pause), "1800"_s);
+        QCOMPARE(rowTexts(6).mid(0, 2), QStringList({"Mittelwert"_s, "ohne 1 lange Pause"_s}));
+        QCOMPARE(cell(6, RuntimeTableModel::Pause), "30"_s);
+        const QAbstractItemModel *table = child<QTableView>("tableRuntime")->model();
+        const auto tip = [table](int row) { return table->index(row, RuntimeTableModel::Pause).data(Qt::ToolTipRole); };
+        QVERIFY(tip(6).toString().contains("Fünffache"_s));
+        QVERIFY(!tip(3).isValid());
+    }
+
     void figuresHaveADecimalPointInEveryLanguage()
     {
         QLocale::setDefault(QLocale(QLocale::German));

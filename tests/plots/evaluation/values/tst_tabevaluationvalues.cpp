@@ -225,6 +225,19 @@ private slots:
         QCOMPARE(content.cyclesInMean, 1);
     }
 
+    void breaksAreNotPartOfTheMeanCycle()
+    {
+        const QDateTime start(QDate(2026, 3, 9), QTime(6, 0));
+        Pages pages;
+        for (const int second : {0, 20, 40, 3640, 3660})
+            addShot(pages.model, {1.0}, 1.0, start.addSecs(second));
+        pages.show();
+        const CycleTile *tile = pages.dashboard.findChild<CycleTile *>();
+        QCOMPARE(tile->content().meanCycle.value_or(-1.0), 20.0);
+        QCOMPARE(tile->content().cyclesInMean, 3);
+        QVERIFY(tile->toolTip().contains("Fünffache"_s));
+    }
+
     void worksWithoutAModel()
     {
         EvaluationData data;
