@@ -65,9 +65,11 @@ void TransferDialogs::askToGoOn(const ScpMessage &message)
     Choice choice;
     choice.title = message.title;
     choice.text = message.text;
-    choice.hint = m_others == 1 ? tr("Danach kommt noch 1 Tag.") : tr("Danach kommen noch %1 Tage.").arg(m_others);
+    choice.hint = m_others == 1 ? tr("Noch 1 weiterer Tag ist ausgewählt.")
+                                : tr("Noch %1 weitere Tage sind ausgewählt.").arg(m_others);
     choice.answers = QStringList{tr("Weitere Tage holen"), tr("Weitere Tage auslassen")};
     choice.safest = 1;
+    choice.isDestructive = message.isWarning; // for its icon
     m_hasAsked = true;
     m_isGivenUp = m_desk.occupancy.ask([&] { return m_desk.view.questions().choose(choice); }) != 0;
 }
