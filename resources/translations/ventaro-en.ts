@@ -141,6 +141,10 @@
         <source>importiert</source>
         <translation>imported</translation>
     </message>
+    <message>
+        <source>teilweise</source>
+        <translation>partly</translation>
+    </message>
 </context>
 <context>
     <name>BlackBoxFiles</name>
@@ -193,6 +197,10 @@
     <message>
         <source>Namen und Grenzen der Sensoren kommen jetzt von der Box.</source>
         <translation>The names and limits of the sensors now come from the box.</translation>
+    </message>
+    <message>
+        <source>Übernahme der Sensorbeschreibung</source>
+        <translation>taking over the sensor description</translation>
     </message>
 </context>
 <context>
@@ -399,6 +407,14 @@
         <source>Letzter Schuss</source>
         <translation>Latest shot</translation>
     </message>
+    <message>
+        <source>Nicht im Mittel: %1 Pausen, länger als das Fünffache des Medians</source>
+        <translation>Not part of the mean: %1 breaks, longer than five times the median</translation>
+    </message>
+    <message>
+        <source>Mittel von %1, ohne Pausen</source>
+        <translation>Mean of %1, without breaks</translation>
+    </message>
 </context>
 <context>
     <name>Dashboard</name>
@@ -514,6 +530,53 @@
     </message>
 </context>
 <context>
+    <name>DeletionQuestion</name>
+    <message>
+        <source>Messung %1</source>
+        <translation>Measurement %1</translation>
+    </message>
+    <message>
+        <source>... und %1 weitere, zuletzt Messung %2</source>
+        <translation>... and %1 more, the last one is measurement %2</translation>
+    </message>
+    <message>
+        <source>Keine Messung wird gelöscht.</source>
+        <translation>No measurement will be deleted.</translation>
+    </message>
+    <message>
+        <source>Das ist 1 Messung:</source>
+        <translation>This is 1 measurement:</translation>
+    </message>
+    <message>
+        <source>Das sind %1 Messungen:</source>
+        <translation>These are %1 measurements:</translation>
+    </message>
+    <message>
+        <source>Achtung: Das sind andere als eingegeben, weil nach jeder Löschung die folgenden Messungen nachrücken.</source>
+        <translation>Attention: these are others than those entered, because after each deletion the measurements behind move up.</translation>
+    </message>
+    <message>
+        <source>Ab &quot;%1&quot; ist die Eingabe fehlerhaft. Dieser Teil und alles dahinter wird nicht gelöscht.</source>
+        <translation>From &quot;%1&quot; on the input is malformed. This part and all behind it will not be deleted.</translation>
+    </message>
+    <message>
+        <source>Mit Strg+Z lässt sich das rückgängig machen.</source>
+        <translation>This can be undone with Ctrl+Z.</translation>
+    </message>
+    <message>
+        <source>Es gibt keine Messung.</source>
+        <translation>There is no measurement.</translation>
+    </message>
+    <message>
+        <source>Das ist 1 Messung.</source>
+        <translation>This is 1 measurement.</translation>
+    </message>
+    <message>
+        <source>Das sind %1 Messungen.</source>
+        <translation>These are %1 measurements.</translation>
+    </message>
+</context>
+<context>
     <name>DemoLink</name>
     <message>
         <source>Die Demo ist nicht möglich: Der Simulator lässt sich nicht starten.</source>
@@ -623,6 +686,14 @@
     <message>
         <source>Phase %1</source>
         <translation>Phase %1</translation>
+    </message>
+    <message>
+        <source>Spalten von %1</source>
+        <translation>columns of %1</translation>
+    </message>
+    <message>
+        <source>Grenzen von %1</source>
+        <translation>limits of %1</translation>
     </message>
 </context>
 <context>
@@ -838,6 +909,41 @@
         <source>&amp;Speichern unter...</source>
         <translation>&amp;Save as...</translation>
     </message>
+    <message>
+        <source>, verkleinert gezeigt</source>
+        <translation>, shown reduced</translation>
+    </message>
+    <message>
+        <source>Zu groß zum Anzeigen:</source>
+        <translation>Too large to be shown:</translation>
+    </message>
+    <message>
+        <source>Das Bild in der Datei kann nicht gelesen werden. Es bleibt erhalten.</source>
+        <translation>The picture in the file cannot be read. It is kept.</translation>
+    </message>
+    <message>
+        <source>Klicken für ein anderes Bild, Entf zum Löschen</source>
+        <translation>Click for another picture, Del to delete</translation>
+    </message>
+</context>
+<context>
+    <name>ImportPreview</name>
+    <message>
+        <source>Name „%1“ wird „%2“</source>
+        <translation>name “%1” becomes “%2”</translation>
+    </message>
+    <message>
+        <source>Einheit „%1“ wird „%2“</source>
+        <translation>unit “%1” becomes “%2”</translation>
+    </message>
+    <message>
+        <source>Grenzen %1 werden %2</source>
+        <translation>limits %1 become %2</translation>
+    </message>
+    <message>
+        <source>Sensor %1: %2</source>
+        <translation>Sensor %1: %2</translation>
+    </message>
 </context>
 <context>
     <name>ImportSummary</name>
@@ -926,14 +1032,37 @@
     </message>
 </context>
 <context>
-    <name>LoggerFetch</name>
+    <name>LocalFolder</name>
+    <message>
+        <source>Ordner mit BlackBox-Dateien auswählen</source>
+        <translation>Choose a folder with BlackBox files</translation>
+    </message>
+    <message>
+        <source>Dateien kopieren...</source>
+        <translation>Copying files...</translation>
+    </message>
     <message>
         <source>Problem</source>
         <translation>Problem</translation>
     </message>
     <message>
-        <source>Der Ordner %1 kann nicht angelegt werden.</source>
-        <translation>The folder %1 cannot be created.</translation>
+        <source>%1 Dateien konnten nicht kopiert werden und fehlen in der Liste:</source>
+        <translation>%1 files could not be copied and are missing in the list:</translation>
+    </message>
+    <message>
+        <source>Abgebrochen; %1 Dateien sind kopiert.</source>
+        <translation>Cancelled; %1 files have been copied.</translation>
+    </message>
+    <message>
+        <source>Keine BlackBox-Dateien (*.bb) in %1</source>
+        <translation>No BlackBox files (*.bb) in %1</translation>
+    </message>
+</context>
+<context>
+    <name>LoggerFetch</name>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
     </message>
     <message>
         <source>Dateien übertragen...</source>
@@ -944,12 +1073,18 @@
         <translation>%1 of %2 days transferred.</translation>
     </message>
     <message>
-        <source>Ordner mit BlackBox-Dateien auswählen</source>
-        <translation>Choose a folder with BlackBox files</translation>
+        <source>Die Dateien vom %1 konnten nicht in den Ordner der Box verschoben werden:
+%2</source>
+        <translation>The files of %1 could not be moved into the folder of the box:
+%2</translation>
     </message>
     <message>
-        <source>Keine BlackBox-Dateien (*.bb) in %1</source>
-        <translation>No BlackBox files (*.bb) in %1</translation>
+        <source>%1 von %2 Dateien</source>
+        <translation>%1 of %2 files</translation>
+    </message>
+    <message>
+        <source>%1 Dateien</source>
+        <translation>%1 files</translation>
     </message>
 </context>
 <context>
@@ -983,6 +1118,38 @@ Import them again?</translation>
     <message>
         <source>Problem</source>
         <translation>Problem</translation>
+    </message>
+    <message>
+        <source>&quot;Nein&quot; importiert nur die neuen Dateien. Escape oder Schließen bricht den Import ab.</source>
+        <translation>&quot;No&quot; imports the new files only. Escape or closing cancels the import.</translation>
+    </message>
+    <message>
+        <source>Import einer Datei</source>
+        <translation>import of a file</translation>
+    </message>
+    <message>
+        <source>Import von %1 Dateien</source>
+        <translation>import of %1 files</translation>
+    </message>
+    <message>
+        <source>Die Dateien beschreiben die Sensoren anders als das Projekt:</source>
+        <translation>The files describe the sensors differently from the project:</translation>
+    </message>
+    <message>
+        <source>Die Dateien stimmen darin nicht überein; die letzte gilt.</source>
+        <translation>The files do not agree on this; the last one counts.</translation>
+    </message>
+    <message>
+        <source>Die Messwerte werden in beiden Fällen importiert.</source>
+        <translation>The measured values are imported in both cases.</translation>
+    </message>
+    <message>
+        <source>Angaben der Dateien</source>
+        <translation>Use the files&apos;</translation>
+    </message>
+    <message>
+        <source>Angaben des Projekts</source>
+        <translation>Keep the project&apos;s</translation>
     </message>
 </context>
 <context>
@@ -1052,6 +1219,18 @@ Esc cancels.</translation>
         <source>Fehler im Bereich &quot;%1&quot;: ab dort wurde nichts gelöscht.</source>
         <translation>Error in the range &quot;%1&quot;: nothing was deleted from there on.</translation>
     </message>
+    <message>
+        <source>Löschen einer Messung</source>
+        <translation>deletion of a measurement</translation>
+    </message>
+    <message>
+        <source>Löschen von %1 Messungen</source>
+        <translation>deletion of %1 measurements</translation>
+    </message>
+    <message>
+        <source>Löschen aller Messdaten</source>
+        <translation>deletion of all measurement data</translation>
+    </message>
 </context>
 <context>
     <name>Model</name>
@@ -1074,6 +1253,10 @@ Esc cancels.</translation>
     <message>
         <source>WZ öffnen</source>
         <translation>Mould opening</translation>
+    </message>
+    <message>
+        <source>Zurücksetzen der Offsets</source>
+        <translation>reset of the offsets</translation>
     </message>
 </context>
 <context>
@@ -1134,6 +1317,75 @@ Esc cancels.</translation>
     </message>
 </context>
 <context>
+    <name>OpenNotice</name>
+    <message>
+        <source>%1 und %2 weitere</source>
+        <translation>%1 and %2 more</translation>
+    </message>
+    <message>
+        <source>Ohne die Datei &quot;%1&quot; fehlen Zeitstempel, Bezeichnungen, Einheiten, Grenzen und Schwellen.</source>
+        <translation>Without the file &quot;%1&quot; time stamps, labels, units, limits and thresholds are missing.</translation>
+    </message>
+    <message>
+        <source>Hinweise zum Projekt</source>
+        <translation>Notes on the project</translation>
+    </message>
+    <message>
+        <source>Damit nichts verloren geht, kann das Projekt unter einem anderen Namen gespeichert werden.</source>
+        <translation>To lose nothing, save the project under another name.</translation>
+    </message>
+    <message>
+        <source>Die Datei &quot;%1&quot; sieht nicht wie ein Projekt aus: Sie enthält keine einzige Angabe eines Projekts.
+Sie wird beim Speichern nicht ersetzt; das Programm fragt dann nach einem anderen Namen.</source>
+        <translation>The file &quot;%1&quot; does not look like a project: it holds nothing that belongs to one.
+Saving does not replace it; the program will ask for another name.</translation>
+    </message>
+    <message>
+        <source>Das Projekt wurde mit einer neueren Version des Programms gespeichert (Dateiversion %1).
+Beim Speichern bekommt es die Dateiversion %2.</source>
+        <translation>The project was saved by a newer version of the program (file version %1).
+Saving gives it the file version %2.</translation>
+    </message>
+    <message>
+        <source>Unbekannte Angaben, die erhalten bleiben und wieder gespeichert werden: %1.</source>
+        <translation>Unknown entries, which are kept and saved again: %1.</translation>
+    </message>
+    <message>
+        <source>Angaben, die nicht gelesen werden konnten und beim Speichern verloren gehen: %1.</source>
+        <translation>Entries that could not be read and will be lost when the project is saved: %1.</translation>
+    </message>
+    <message>
+        <source>Nicht lesbar: %1.</source>
+        <translation>Not readable: %1.</translation>
+    </message>
+    <message>
+        <source>Zu groß zum Anzeigen, da alle Bilder zusammen höchstens %1 Millionen Bildpunkte haben dürfen: %2.</source>
+        <translation>Too large to be shown, as all pictures together may have at most %1 million pixels: %2.</translation>
+    </message>
+    <message>
+        <source>Was in der Datei steht, bleibt erhalten, bis dort ein anderes Bild gewählt wird.</source>
+        <translation>What the file holds is kept until another picture is chosen there.</translation>
+    </message>
+    <message>
+        <source>Bild %1</source>
+        <translation>Picture %1</translation>
+    </message>
+    <message>
+        <source>Die Datei &quot;%1&quot; neben dem Projekt ist von einer neueren Version des Programms.</source>
+        <translation>The file &quot;%1&quot; beside the project is from a newer version of the program.</translation>
+    </message>
+    <message>
+        <source>Die Datei &quot;%1&quot; neben dem Projekt ist beschädigt oder nicht lesbar.</source>
+        <translation>The file &quot;%1&quot; beside the project is damaged or cannot be read.</translation>
+    </message>
+    <message>
+        <source>Es fehlen Zeitstempel, Bezeichnungen, Einheiten, Grenzen und Schwellen.
+Beim Speichern wird sie nicht ersetzt, sondern als &quot;%1&quot; aufgehoben.</source>
+        <translation>Time stamps, labels, units, limits and thresholds are missing.
+Saving does not replace it, but keeps it as &quot;%1&quot;.</translation>
+    </message>
+</context>
+<context>
     <name>OsziHead</name>
     <message>
         <source>Gesperrt: Bereiche, Raster, Korrekturen, Marker und Messungen sind vor Änderungen geschützt. Klicken zum Entsperren.</source>
@@ -1154,6 +1406,13 @@ Esc cancels.</translation>
     <message>
         <source>Diagramm dieses Sensors zeigen</source>
         <translation>Show this sensor&apos;s plot</translation>
+    </message>
+</context>
+<context>
+    <name>OsziPage</name>
+    <message>
+        <source>Löschen der Marker</source>
+        <translation>clearing the markers</translation>
     </message>
 </context>
 <context>
@@ -1478,6 +1737,18 @@ double-click fits the value range.</translation>
         <source>Problem</source>
         <translation>Problem</translation>
     </message>
+    <message>
+        <source>Eine Aufzeichnung läuft. Sie wird beendet, bevor das andere Projekt geöffnet wird.</source>
+        <translation>A recording is running. It will be stopped before the other project is opened.</translation>
+    </message>
+    <message>
+        <source>Weiter aufzeichnen</source>
+        <translation>Go on recording</translation>
+    </message>
+    <message>
+        <source>Beenden und öffnen</source>
+        <translation>Stop and open</translation>
+    </message>
 </context>
 <context>
     <name>ProjectForm</name>
@@ -1559,6 +1830,58 @@ double-click fits the value range.</translation>
         <source>Projektbeschreibung empfangen</source>
         <translation>Project description received</translation>
     </message>
+    <message>
+        <source>Aktuell</source>
+        <translation>Current</translation>
+    </message>
+    <message>
+        <source>Empfangen</source>
+        <translation>Received</translation>
+    </message>
+    <message>
+        <source>Projekt</source>
+        <translation>Project</translation>
+    </message>
+    <message>
+        <source>Projektnummer</source>
+        <translation>Project number</translation>
+    </message>
+    <message>
+        <source>Bearbeiter</source>
+        <translation>Person in charge</translation>
+    </message>
+    <message>
+        <source>Datum</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Kunde</source>
+        <translation>Customer</translation>
+    </message>
+    <message>
+        <source>Schließkraft [kN]</source>
+        <translation>Clamping force [kN]</translation>
+    </message>
+    <message>
+        <source>Einspritzzeit [s]</source>
+        <translation>Injection time [s]</translation>
+    </message>
+    <message>
+        <source>Nachdruckzeit [s]</source>
+        <translation>Holding time [s]</translation>
+    </message>
+    <message>
+        <source>Druck [bar]</source>
+        <translation>Pressure [bar]</translation>
+    </message>
+    <message>
+        <source>Phase %1</source>
+        <translation>Phase %1</translation>
+    </message>
+    <message>
+        <source>Übernahme der Projektbeschreibung</source>
+        <translation>taking over the project description</translation>
+    </message>
 </context>
 <context>
     <name>ProjectPictures</name>
@@ -1625,6 +1948,24 @@ Continue?</translation>
     <message>
         <source>PNG-Bild (*.png)</source>
         <translation>PNG picture (*.png)</translation>
+    </message>
+    <message>
+        <source>Für Bild %1 ist kein Platz mehr: Alle Bilder eines Projekts zusammen dürfen höchstens %2 Millionen Bildpunkte haben, die anderen haben schon %3 Millionen.
+Bitte zuerst ein großes Bild löschen oder durch ein kleineres ersetzen.</source>
+        <translation>There is no room left for picture %1: all pictures of a project together may have at most %2 million pixels, the others have %3 million already.
+Please delete a large picture first, or replace it with a smaller one.</translation>
+    </message>
+    <message>
+        <source>Ersetzen von Bild %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Einfügen von Bild %1</source>
+        <translation>insertion of picture %1</translation>
+    </message>
+    <message>
+        <source>Löschen von Bild %1</source>
+        <translation>deletion of picture %1</translation>
     </message>
 </context>
 <context>
@@ -1779,6 +2120,10 @@ Continue?</translation>
         <source>Die Datei &quot;%1&quot; ist schon vorhanden. Überschreiben?</source>
         <translation>The file &quot;%1&quot; already exists. Overwrite it?</translation>
     </message>
+    <message>
+        <source>Escape oder Schließen bricht ab, und nichts ändert sich.</source>
+        <translation>Escape or closing cancels, and nothing changes.</translation>
+    </message>
 </context>
 <context>
     <name>RecentProjectList</name>
@@ -1820,6 +2165,13 @@ Continue?</translation>
     <message>
         <source>Kalibrierung</source>
         <translation>Calibration</translation>
+    </message>
+</context>
+<context>
+    <name>RowRanges</name>
+    <message>
+        <source>Bereich von %1</source>
+        <translation>range of %1</translation>
     </message>
 </context>
 <context>
@@ -1882,6 +2234,18 @@ Continue?</translation>
         <source>Pause [s]</source>
         <translation>Pause [s]</translation>
     </message>
+    <message>
+        <source>ohne 1 lange Pause</source>
+        <translation>without 1 long pause</translation>
+    </message>
+    <message>
+        <source>ohne %1 lange Pausen</source>
+        <translation>without %1 long pauses</translation>
+    </message>
+    <message>
+        <source>Pausen, die länger sind als das Fünffache des Medians, zählen hier nicht mit, ebenso solche, bei denen die Uhr zurückgestellt wurde.</source>
+        <translation>Pauses that are longer than five times the median do not count here, nor do those in which the clock was set back.</translation>
+    </message>
 </context>
 <context>
     <name>SamplingBox</name>
@@ -1915,6 +2279,10 @@ Continue?</translation>
     <message>
         <source>Achtung: Das Projekt ist mit %1 ms je Wert aufgezeichnet, die Box misst mit %2 ms.</source>
         <translation>Attention: the project was recorded at %1 ms per value, the box samples at %2 ms.</translation>
+    </message>
+    <message>
+        <source>Änderung der Abtastrate</source>
+        <translation>change of the sampling rate</translation>
     </message>
 </context>
 <context>
@@ -1973,6 +2341,32 @@ Please check output:</translation>
         <source>Keine gültige Adresse: %1</source>
         <translation>Not a valid address: %1</translation>
     </message>
+    <message>
+        <source>Unter dieser Adresse antwortet ein anderes Gerät als bisher, und so ist es eingestellt: Ein solches wird abgewiesen (VENTARO_SCP_REFUSE_NEW_KEY). Ist es die richtige Box, bitte die Einstellung für eine Übertragung weglassen.</source>
+        <translation>Another device than before answers at this address, and it is set that such a one is refused (VENTARO_SCP_REFUSE_NEW_KEY). If it is the right box, please leave this setting out for one transfer.</translation>
+    </message>
+    <message>
+        <source>Das Gerät unter %1 weist sich mit einem anderen Schlüssel aus als bisher.
+
+Das ist so, wenn dort jetzt eine andere Box angeschlossen ist oder ihr System neu aufgespielt wurde. Trifft keines von beiden zu, gibt sich womöglich ein fremdes Gerät als Box aus und kennt nun das Kennwort: dann bitte das Netz prüfen.
+
+bisher: %2
+jetzt: %3</source>
+        <translation>The device at %1 identifies itself with another key than before.
+
+This is so if another box is connected there now, or if its system was installed anew. If neither is the case, a foreign device may pose as a box and know the password now: please check the network then.
+
+before: %2
+now: %3</translation>
+    </message>
+    <message>
+        <source>Andere Box?</source>
+        <translation>Another box?</translation>
+    </message>
+    <message>
+        <source>Benutzername und Kennwort des Zugangs zur Box dürfen weder leer sein noch Leerzeichen, Anführungszeichen oder Steuerzeichen enthalten, der Benutzername auch weder : noch @. Sie werden beim Bau des Programms festgelegt (VENTARO_DEVICE_PASSWORD).</source>
+        <translation>User name and password of the account on the box must neither be empty nor contain blanks, quotation marks or control characters, and the user name neither : nor @. They are set when the program is built (VENTARO_DEVICE_PASSWORD).</translation>
+    </message>
 </context>
 <context>
     <name>SensorDescription</name>
@@ -2012,14 +2406,6 @@ Please check output:</translation>
         <translation>&amp;Name</translation>
     </message>
     <message>
-        <source>Die Einheit kommt von der Box.</source>
-        <translation>The unit comes from the box.</translation>
-    </message>
-    <message>
-        <source>Einheit</source>
-        <translation>Unit</translation>
-    </message>
-    <message>
         <source>&amp;Farbe</source>
         <translation>Co&amp;lour</translation>
     </message>
@@ -2038,6 +2424,21 @@ Please check output:</translation>
     <message>
         <source>Ausgeschaltet gibt es keine Grenze.</source>
         <translation>There is no limit while this is off.</translation>
+    </message>
+    <message>
+        <source>Eine Box, die ihre Sensoren beschreibt, bringt ihre eigenen Einheiten mit.</source>
+        <translation>A box that describes its sensors brings its own units.</translation>
+    </message>
+    <message>
+        <source>&amp;Einheit</source>
+        <translation>&amp;Unit</translation>
+    </message>
+</context>
+<context>
+    <name>SensorEditor</name>
+    <message>
+        <source>Änderung von %1</source>
+        <translation>change of %1</translation>
     </message>
 </context>
 <context>
@@ -2333,6 +2734,69 @@ Identification of this computer:
     </message>
 </context>
 <context>
+    <name>TabEdits</name>
+    <message>
+        <source>Eingabe in &quot;Projekt&quot;</source>
+        <translation>entry in &quot;Project&quot;</translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Projektnummer&quot;</source>
+        <translation>entry in &quot;Project number&quot;</translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Bearbeiter&quot;</source>
+        <translation>entry in &quot;Person in charge&quot;</translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Datum&quot;</source>
+        <translation>entry in &quot;Date&quot;</translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Kunde&quot;</source>
+        <translation>entry in &quot;Customer&quot;</translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Schließkraft&quot;</source>
+        <translation>entry in &quot;Clamping force&quot;</translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Einspritzzeit&quot;</source>
+        <translation>entry in &quot;Injection time&quot;</translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Nachdruckzeit&quot;</source>
+        <translation>entry in &quot;Holding time&quot;</translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Druck&quot;</source>
+        <translation>entry in &quot;Pressure&quot;</translation>
+    </message>
+    <message>
+        <source>Eingabe in &quot;Kommentar&quot;</source>
+        <translation>entry in &quot;Comment&quot;</translation>
+    </message>
+    <message>
+        <source>Name der Phase %1</source>
+        <translation>Name of phase %1</translation>
+    </message>
+    <message>
+        <source>Marker %1</source>
+        <translation>Marker %1</translation>
+    </message>
+    <message>
+        <source>Umstellung der Marker</source>
+        <translation>switching the marker mode</translation>
+    </message>
+    <message>
+        <source>Offset von %1</source>
+        <translation>offset of %1</translation>
+    </message>
+    <message>
+        <source>Änderung von %1</source>
+        <translation>change of %1</translation>
+    </message>
+</context>
+<context>
     <name>TabEvaluation</name>
     <message>
         <source>Übersicht</source>
@@ -2349,6 +2813,17 @@ Identification of this computer:
     <message>
         <source>Auswertung 3/3: Überlagerung</source>
         <translation>Evaluation 3/3: overlay</translation>
+    </message>
+    <message>
+        <source>Schwellen der Laufzeit</source>
+        <translation>thresholds of the runtime</translation>
+    </message>
+</context>
+<context>
+    <name>TabEvaluationOverlay</name>
+    <message>
+        <source>Bezeichnung von Messung %1</source>
+        <translation>label of measurement %1</translation>
     </message>
 </context>
 <context>
@@ -2545,6 +3020,37 @@ At the far right the view follows the newest values.</translation>
     </message>
 </context>
 <context>
+    <name>TransferDialogs</name>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Der Ordner %1 kann nicht angelegt werden.</source>
+        <translation>The folder %1 cannot be created.</translation>
+    </message>
+    <message>
+        <source>Weitere Tage holen</source>
+        <translation>Fetch the other days</translation>
+    </message>
+    <message>
+        <source>Weitere Tage auslassen</source>
+        <translation>Skip the other days</translation>
+    </message>
+    <message>
+        <source>Auch diese Tage konnten nicht geholt werden:</source>
+        <translation>These days could not be fetched either:</translation>
+    </message>
+    <message>
+        <source>Noch 1 weiterer Tag ist ausgewählt.</source>
+        <translation>1 more day is selected.</translation>
+    </message>
+    <message>
+        <source>Noch %1 weitere Tage sind ausgewählt.</source>
+        <translation>%1 more days are selected.</translation>
+    </message>
+</context>
+<context>
     <name>TrendChart</name>
     <message>
         <source>Keine Werte</source>
@@ -2557,6 +3063,48 @@ At the far right the view follows the newest values.</translation>
     <message>
         <source>Untere Grenze %1</source>
         <translation>Lower limit %1</translation>
+    </message>
+</context>
+<context>
+    <name>UndoActions</name>
+    <message>
+        <source>%1 rückgängig machen</source>
+        <translation>Undo %1</translation>
+    </message>
+    <message>
+        <source>Rückgängig</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>%1 wiederholen</source>
+        <translation>Redo %1</translation>
+    </message>
+    <message>
+        <source>Wiederholen</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>Nimmt den letzten Schritt zurück</source>
+        <translation>Takes the last step back</translation>
+    </message>
+    <message>
+        <source>Macht den zuletzt zurückgenommenen Schritt noch einmal</source>
+        <translation>Does the step that was taken back last again</translation>
+    </message>
+</context>
+<context>
+    <name>UndoControl</name>
+    <message>
+        <source>Rückgängig gemacht: %1</source>
+        <translation>Undone: %1</translation>
+    </message>
+    <message>
+        <source>Wiederholt: %1</source>
+        <translation>Redone: %1</translation>
+    </message>
+    <message>
+        <source>Die Abtastrate lässt sich nicht ändern, solange eine Aufzeichnung läuft.</source>
+        <translation>The sampling period cannot be changed while a recording is running.</translation>
     </message>
 </context>
 <context>
