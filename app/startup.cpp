@@ -16,6 +16,7 @@
 #include <QMessageBox>
 #include <QPixmap>
 #include <QSplashScreen>
+#include <QStandardPaths>
 #include <QStyleFactory>
 #include <QSysInfo>
 #include <QThread>
@@ -103,6 +104,12 @@ void showSplash(QSplashScreen &splash, std::chrono::milliseconds time)
 QString projectPath(const QStringList &arguments)
 {
     return arguments.size() == 2 ? arguments.at(1) : QString();
+}
+
+QString journalFolder()
+{
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    return data.isEmpty() ? QString() : data + QStringLiteral("/journal");
 }
 
 bool checkCopyProtection()

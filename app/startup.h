@@ -32,5 +32,8 @@ void showSplash(QSplashScreen &splash, std::chrono::milliseconds time = kSplashT
 /// empty.
 [[nodiscard]] QString projectPath(const QStringList &arguments);
 
+/// Where the program keeps what is not saved yet: a folder of the user's, which need not exist.
+[[nodiscard]] QString journalFolder();
+
 /// True on a computer that this build may run on; otherwise tells the user so in a message box.
 [[nodiscard]] bool checkCopyProtection();

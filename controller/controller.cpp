@@ -166,6 +166,12 @@ void Controller::onActionQuit()
     d->files.quit();
 }
 
+void Controller::leaveAtOnce()
+{
+    qCDebug(lcController) << Q_FUNC_INFO;
+    d->files.leaveAtOnce();
+}
+
 // --- Tabs ---
 
 void Controller::onTabProject_projectDataChanged()

@@ -58,6 +58,9 @@ public slots:
     void onActionCalibration();
     void onActionStartStopRecording();
     void onActionQuit();
+    /// The system wants the program to end: ends the recording, protects what is not saved, and quits without a
+    /// question.
+    void leaveAtOnce();
 
     // --- Tabs ---
     void onTabProject_projectDataChanged();

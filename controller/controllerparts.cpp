@@ -2,6 +2,7 @@
 
 #include "app/theme.h"
 #include "controller/controlleroptions.h"
+#include "controller/project/readonlysign.h"
 #include "device/scptransfer.h"
 #include "view/oscilloscope/taboszilloscope.h"
 #include "view/project/tabproject.h"
@@ -28,20 +29,29 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
     , recording({view, model, occupancy}, recorder, link)
     , deletion({view, model, occupancy}, edits, recorder)
     , tabEdits(view, model, edits)
-    , saving({view, model, occupancy}, progress, lines, edits)
+    , access{ProjectLock(model), FileQuestions({view, model, occupancy}),
+             ProjectStart({view, model, occupancy}, questions, access.questions, access.lock, options.filesGiven),
+             OpenNotice({view, model, occupancy})}
+    , saving({view, model, occupancy}, progress, lines, edits, access.lock, access.questions)
     , files({view, model, occupancy}, progress, lines, edits, saving,
-            RecordingEnd({view, model, occupancy}, connector, recorder, options.stopWait))
-    , openNotice({view, model, occupancy})
+            RecordingEnd({view, model, occupancy}, connector, recorder, options.stopWait), access.lock,
+            access.questions)
     , pictures({view, model, occupancy}, edits)
     , logger({{view, model, occupancy}, link, connector, demo, progress, lines, edits, recorder},
              options.temporaryDirectory)
-    , undoHistory(model)
-    , undo({view, model, occupancy}, undoHistory, edits, recorder)
+    , undo({view, model, occupancy}, edits, recorder)
+    , protection({view, model, occupancy}, options.journal, recorder, {questions, progress, lines, saving})
 {
     setUpTransfers(options);
     handleMessages();
+    connectParts(view);
+}
+
+void ControllerParts::connectParts(View &view)
+{
     connectLink(view);
     connectFiles();
+    connectJournal(view);
     connectView(view);
     connectTabs(view);
 }
@@ -53,18 +63,17 @@ ControllerParts::~ControllerParts()
     QObject::disconnect(&demoBox, nullptr, nullptr, nullptr);
 }
 
-/// When its turn comes.
-void ControllerParts::takeLine(View &view, const QString &line)
-{
-    view.terminalReceived(line);
-    dispatch.dispatch(line);
-}
-
 void ControllerParts::setUpTransfers(const ControllerOptions &options)
 {
     connector.scp().setOptions(
         {options.scpToolFile, theme::deviceUser, theme::devicePassword, options.deviceAddress, options.scpTimeouts});
     logger.dialogs.attach(connector.scp());
+}
+
+void ControllerParts::takeLine(View &view, const QString &line)
+{
+    view.terminalReceived(line); // when its turn comes, like its effect
+    dispatch.dispatch(line);
 }
 
 void ControllerParts::handleMessages()
@@ -106,6 +115,8 @@ void ControllerParts::connectFiles()
 {
     QObject::connect(&files, &ProjectFiles::boxDismissed, &link, &BoxLink::leaveForAnother);
     QObject::connect(&files, &ProjectFiles::boxGivenUp, &link, &BoxLink::leave);
+    QObject::connect(&access.start, &ProjectStart::declined, &files, &ProjectFiles::newProject);
+    QObject::connect(&access.start, &ProjectStart::copyWanted, &files, &ProjectFiles::detachFromFile);
     QObject::connect(&files, &ProjectFiles::projectReplaced, &files, [this] {
         offer.forgetAnswers();
         recorder.restartShotClock();
@@ -114,13 +125,27 @@ void ControllerParts::connectFiles()
     QObject::connect(&files, &ProjectFiles::measurementsReplaced, &files, [this] { recorder.forgetSeries(); });
     QObject::connect(&files, &ProjectFiles::shown, &files, [this] { recorder.announceRunning(); });
     QObject::connect(&files, &ProjectFiles::shown, &period, &SamplingPeriod::matchProject);
-    QObject::connect(&files, &ProjectFiles::projectReplaced, &openNotice, &OpenNotice::show);
+    QObject::connect(&files, &ProjectFiles::projectReplaced, &access.notice, &OpenNotice::show);
     QObject::connect(&undo, &UndoControl::samplingPeriodChanged, &period, &SamplingPeriod::matchProject);
     QObject::connect(&files, &ProjectFiles::quitting, &files, [this] { recorder.requestStop(); });
 }
 
+void ControllerParts::connectJournal(View &view)
+{
+    QObject::connect(&protection.journal, &Journal::told, &view,
+                     [&view](const QString &text) { view.showStatus(text); });
+    QObject::connect(&files, &ProjectFiles::quitting, &protection.journal, &Journal::discard);
+    // What takes long may end badly.
+    QObject::connect(&progress, &FileProgress::begun, &protection.journal, &Journal::takeChanges);
+    QObject::connect(&files, &ProjectFiles::interrupted, &files, [this] { recorder.requestStop(); });
+    QObject::connect(&files, &ProjectFiles::interruptionTaken, &protection.journal, &Journal::secure);
+    QObject::connect(&protection.recovery, &Recovery::restored, &files, [this] { recorder.forgetSeries(); });
+    QObject::connect(&protection.recovery, &Recovery::restored, &period, &SamplingPeriod::matchProject);
+}
+
 void ControllerParts::connectView(View &view)
 {
+    view.addStatusWidget(new ReadOnlySign(access.lock, &view));
     QObject::connect(&view, &View::openProjectFile, &files, &ProjectFiles::openNamed);
     QObject::connect(&view, &View::startStopDemo, &demo, &DemoLink::toggle);
     QObject::connect(&view, &View::connectToAddress, &link, &BoxLink::connectToAddress);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "controller/deferredquestions.h"
+#include "controller/journal/journalparts.h"
 #include "controller/link/boxdescriptions.h"
 #include "controller/link/boxlink.h"
 #include "controller/link/demolink.h"
@@ -9,9 +10,9 @@
 #include "controller/link/samplingperiod.h"
 #include "controller/logger/loggerparts.h"
 #include "controller/occupancy.h"
+#include "controller/project/fileaccess.h"
 #include "controller/project/fileprogress.h"
 #include "controller/project/measurementdeletion.h"
-#include "controller/project/opennotice.h"
 #include "controller/project/projectfiles.h"
 #include "controller/project/projectpictures.h"
 #include "controller/project/projectsaving.h"
@@ -23,7 +24,6 @@
 #include "controller/recordingactions.h"
 #include "controller/recordingdisplay.h"
 #include "controller/undo/undocontrol.h"
-#include "controller/undo/undohistory.h"
 #include "device/demobox.h"
 #include "device/mesotraconnector.h"
 
@@ -58,20 +58,22 @@ struct ControllerParts
     RecordingActions recording;
     MeasurementDeletion deletion;
     TabEdits tabEdits;
+    FileAccess access;
     ProjectSaving saving;
     ProjectFiles files;
-    OpenNotice openNotice;
     ProjectPictures pictures;
     LoggerParts logger;
-    UndoHistory undoHistory;
     UndoControl undo;
+    JournalParts protection;
 
 private:
-    void takeLine(View &view, const QString &line);
     void setUpTransfers(const ControllerOptions &options);
+    void takeLine(View &view, const QString &line);
     void handleMessages();
+    void connectParts(View &view);
     void connectLink(View &view);
     void connectFiles();
+    void connectJournal(View &view);
     void connectView(View &view);
     void connectTabs(View &view);
 };

@@ -8,10 +8,10 @@
 class Occupancy;
 
 /// What may have to be asked or reported, in order of precedence.
-enum class Question { LinkError, DemoWarning, ReceivedProject };
+enum class Question { Recovery, FilesGiven, LinkError, DemoWarning, ReceivedProject };
 
-/// Keeps the questions that the box causes until no other dialog is up and no file is being read or written, and asks
-/// them one after the other. There is at most one of each kind.
+/// Keeps the questions that the box, or the start of the program, causes until no other dialog is up and no file is
+/// being read or written, and asks them one after the other. There is at most one of each kind.
 class DeferredQuestions
 {
 public:
@@ -27,6 +27,6 @@ private:
     void askNext();
 
     const Occupancy &m_occupancy;
-    std::array<std::function<void()>, 3> m_pending;
+    std::array<std::function<void()>, 5> m_pending;
     QTimer m_timer;
 };

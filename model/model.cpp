@@ -1,7 +1,6 @@
 #include "model/model.h"
 
 #include "model/arrayindex.h"
-#include "model/edit/editscope.h"
 #include "model/logging.h"
 #include "model/modeleditor.h"
 
@@ -15,6 +14,12 @@ double finiteOrZero(double value)
 }
 
 } // namespace
+
+class Model::Editor final : public ModelEditor<Model>
+{
+public:
+    using ModelEditor::ModelEditor;
+};
 
 Model::Model(const QString &fileToOpen, QObject *parent)
     : QObject(parent)
@@ -73,6 +78,7 @@ void Model::setTimestamp(int measurement, const QDateTime &timestamp)
     qCDebug(lcModel) << Q_FUNC_INFO << measurement << timestamp;
     if (hasShot(measurement, Q_FUNC_INFO))
         m_project.meta.setTimestamp(measurement, timestamp);
+    m_changes.countOne();
 }
 
 void Model::setSamplingPeriod(int measurement, int milliseconds)
@@ -111,8 +117,9 @@ void Model::setOffset(int sensor, double offset)
 void Model::resetOffsets()
 {
     qCDebug(lcModel) << Q_FUNC_INFO;
-    const EditScope edit(this, [] { return tr("Zurücksetzen der Offsets"); });
+    m_edits.begin([] { return tr("Zurücksetzen der Offsets"); }, {});
     m_project.settings.offsets.fill(0.0);
+    m_edits.end();
     m_changes.project(Q_FUNC_INFO);
 }
 
@@ -301,6 +308,7 @@ void Model::clear()
     setCurrentFile(QString());
     setFileList({});
     m_files.setModified(false);
+    m_files.noteSaved({});
     resetOffsets();
     m_project.resetPhaseNames(usualPhaseNames());
     m_project.clearSensors(Q_FUNC_INFO);

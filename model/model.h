@@ -4,6 +4,7 @@
 #include "model/devicedescription.h"
 #include "model/edit/modeledits.h"
 #include "model/indexcheck.h"
+#include "model/journal/journalinfo.h"
 #include "model/modelchanges.h"
 #include "model/modelfiles.h"
 #include "model/project/filework.h"
@@ -212,12 +213,34 @@ public:
     /// False if the last save() wrote the project, but not the file beside it.
     [[nodiscard]] bool isProjectMetaSaved() const { return m_files.isMetaSaved(); }
     [[nodiscard]] bool saveCsv(const QString &fileName);
+    /// Why the last open(), save() or saveCsv() failed; none if it did not.
+    [[nodiscard]] const FileFault &lastFileFault() const { return m_files.lastFault(); }
+    /// False if the last save() should have kept the old file as a backup, but could not.
+    [[nodiscard]] bool isOldFileKept() const { return m_files.isOldFileKept(); }
+    /// Whether the current file still is what was opened or saved last; asked before it is replaced.
+    [[nodiscard]] DiskCopy::State fileOnDisk() { return m_files.fileOnDisk(Q_FUNC_INFO); }
+    void setSaveOptions(const SaveOptions &options) { m_files.setSaveOptions(options); }
+    [[nodiscard]] const SaveOptions &saveOptions() const { return m_files.saveOptions(); }
     /// Appends what a logger file of the box recorded as one measurement, unless the file holds none, and takes over
     /// what it says about the sensors. Puts the file on the fileList(). False if it is no regular file or cannot be
     /// read.
     [[nodiscard]] bool addBlackBoxFile(const QString &fileName);
     /// What the last addBlackBoxFile() could not take over.
     [[nodiscard]] BlackBoxLosses blackBoxLosses() const { return m_import.losses(); }
+    /// Replaces the project by that of a journal, which counts as modified then, and says what is missing; nothing,
+    /// with the model as it was, if that is not possible. The contents are used up.
+    [[nodiscard]] std::optional<RecoveryLosses> restore(JournalContents &contents)
+    {
+        return m_files.restore(contents, Q_FUNC_INFO);
+    }
+    /// For what writes the journal: all of the project, a number that grows with every change but appended samples, and
+    /// what the file holds.
+    [[nodiscard]] const Project &project() const { return m_project; }
+    [[nodiscard]] quint64 changeCount() const { return m_changes.count(); }
+    [[nodiscard]] const ModelFiles &files() const { return m_files; }
+    /// Where the journal of this program is; shown to the user.
+    [[nodiscard]] const JournalInfo &journalInfo() const { return m_journalInfo; }
+    void setJournalInfo(const JournalInfo &info) { m_journalInfo = info; }
     /// Replaces QCoreApplication::processEvents() as what the long loops call.
     void setYield(const Yield &yield) { m_work.setYield(yield); }
 
@@ -262,5 +285,6 @@ private:
     std::unique_ptr<Editor> m_editor;
     ModelFiles m_files;
     BlackBoxImport m_import;
-    ModelEdits m_edits{*this, m_project, m_import.files(), m_changes};
+    JournalInfo m_journalInfo;
+    ModelEdits m_edits{m_project, m_import.files(), m_changes};
 };

@@ -1,14 +1,17 @@
 #pragma once
 
-#include "model/model.h"
 #include "model/project/projecteditor.h"
+#include "model/sensordescription.h"
+
+#include <QDateTime>
 
 /// What the parts that read files may call of the model. Not the model itself: the log names functions by their
-/// signatures, which would begin with "virtual" then.
-class Model::Editor final : public ProjectEditor
+/// signatures, which would begin with "virtual" then. A template, so that it and the model need not know each other.
+template <typename Model>
+class ModelEditor : public ProjectEditor
 {
 public:
-    explicit Editor(Model &model)
+    explicit ModelEditor(Model &model)
         : m_model(model)
     {}
     void clear() override { m_model.clear(); }

@@ -1,8 +1,8 @@
 #include "model/modelfiles.h"
 
+#include "model/arrayindex.h"
 #include "model/logging.h"
 #include "model/modelchanges.h"
-#include "model/project/atomicfile.h"
 #include "model/project/csvexport.h"
 #include "model/project/filework.h"
 #include "model/project/metafile.h"
@@ -14,28 +14,58 @@
 #include "model/project/projectreader.h"
 #include "model/project/projecttransfer.h"
 #include "model/project/projectwriter.h"
+#include "model/project/readingfault.h"
+#include "model/storage/atomicfile.h"
+#include "model/storage/hashedsource.h"
 
-#include <QDateTime>
 #include <QDebug>
 #include <QFile>
 #include <QFileInfo>
 
 #include <utility>
 
+namespace {
+
+// In place of a picture's key where the file has another one, or may have.
+constexpr qint64 kOtherPicture = -1;
+
+} // namespace
+
 struct ModelFiles::Opened
 {
+    FileStamp stamp;
     ProjectDocument document;
     ImageStore images;
 };
 
-/// A project that was read and not opened yet, and what tells whether its file is still the same.
+/// A project that was read and not opened yet.
 struct ModelFiles::ReadAhead
 {
     QString fileName;
-    QDateTime modified;
-    qint64 size = 0;
     std::unique_ptr<Opened> opened;
 };
+
+namespace {
+
+FileFault outOfMemory(const QString &fileName)
+{
+    FileFault fault;
+    fault.kind = FileFault::Kind::OutOfMemory;
+    fault.path = fileName;
+    return fault;
+}
+
+/// The file beside the project is for the same eyes.
+ReplaceOptions metaOptions(const QString &projectFile, const SaveOptions &options)
+{
+    ReplaceOptions meta;
+    meta.keepsOld = options.keepsBackup;
+    meta.accessOf = realFile(projectFile);
+    meta.rescueFolder = options.folderForRescue();
+    return meta;
+}
+
+} // namespace
 
 ModelFiles::ModelFiles(ProjectEditor &editor, Project &project, ModelChanges &changes, FileWork &work)
     : m_editor(editor)
@@ -64,12 +94,9 @@ bool ModelFiles::readAhead(const QString &fileName, const char *function)
     forgetReadAhead();
     if (m_work.refuses(function))
         return false;
-    const QFileInfo before(fileName); // looked up now: what is written while it is read makes it out of date
-    const QDateTime modified = before.lastModified();
-    const qint64 size = before.size();
     std::unique_ptr<Opened> opened = readFile(fileName, function);
     if (opened)
-        m_readAhead = std::make_unique<ReadAhead>(ReadAhead{fileName, modified, size, std::move(opened)});
+        m_readAhead = std::make_unique<ReadAhead>(ReadAhead{fileName, std::move(opened)});
     return m_readAhead != nullptr;
 }
 
@@ -99,22 +126,24 @@ bool ModelFiles::open(const QString &fileName, const char *function)
 std::unique_ptr<ModelFiles::Opened> ModelFiles::takeReadAhead(const QString &fileName)
 {
     const std::unique_ptr<ReadAhead> ahead = std::move(m_readAhead);
-    const QFileInfo now(fileName);
-    if (!ahead || ahead->fileName != fileName || ahead->modified != now.lastModified() || ahead->size != now.size())
+    if (!ahead || ahead->fileName != fileName || !stampOf(fileName).looksLike(ahead->opened->stamp))
         return nullptr;
     return std::move(ahead->opened);
 }
 
 std::unique_ptr<ModelFiles::Opened> ModelFiles::readFile(const QString &fileName, const char *function)
 {
+    m_fault = {};
     QFile file(fileName);
     // Only regular files: opening a FIFO would block.
     if (!QFileInfo(fileName).isFile() || !file.open(QIODevice::ReadOnly)) {
+        m_fault = openingFault(fileName);
         qCDebug(lcModel).noquote().nospace() << function << " could not open file:" << fileName;
         return nullptr;
     }
     std::optional<Opened> opened = read(file);
     if (!opened) {
+        m_fault = readingFault(file, m_work.lacksMemory());
         qCDebug(lcModel).noquote().nospace() << function << " jdoc is no object!";
         return nullptr;
     }
@@ -126,11 +155,14 @@ std::optional<ModelFiles::Opened> ModelFiles::read(QFile &file)
 {
     const auto task = [&]() -> std::optional<Opened> {
         Pacer pacer(m_work.yield(), file.size());
-        std::optional<ProjectDocument> document = projectfile::read(file, pacer);
+        FileStamp stamp = stampOf(file.fileName()); // now: what is written while it is read makes it out of date
+        HashedSource source(file);
+        std::optional<ProjectDocument> document = projectfile::read(source, pacer);
         if (!document)
             return {};
+        stamp.hash = source.hash();
         ImageStore images = ImageStore::decoded(std::move(document->images), [&] { pacer.moveTo(file.size()); });
-        return Opened{std::move(*document), std::move(images)};
+        return Opened{stamp, std::move(*document), std::move(images)};
     };
     return m_work.run(task, Q_FUNC_INFO);
 }
@@ -141,6 +173,7 @@ void ModelFiles::apply(Opened &opened, const QString &absolutePath, const char *
     const ModelChanges::Silence silence(m_changes);
     OpenLosses losses = lossesOf(opened.document, opened.images);
     m_editor.clear();
+    m_diskCopy.note(absolutePath, opened.stamp);
     m_project.images = std::move(opened.images);
     applyDocument(opened.document, absolutePath, m_editor, m_project, function);
     MetaReading reading = openMeta(absolutePath, m_project.shots, function);
@@ -149,6 +182,7 @@ void ModelFiles::apply(Opened &opened, const QString &absolutePath, const char *
     if (reading.state == MetaState::Read)
         applyMeta(std::move(reading.meta), m_project);
     m_openLosses = std::move(losses);
+    noteSaved(savedShots(m_project));
 }
 
 bool ModelFiles::save(const QString &fileName, const char *function)
@@ -158,16 +192,90 @@ bool ModelFiles::save(const QString &fileName, const char *function)
     // Events come in while the project is written, so what goes into the file beside it is taken now.
     const quint64 changesBefore = countChanges();
     const ProjectMeta meta = metaOf(m_project);
-    const ShotChecks checks = shotChecks(m_project.shots);
+    SavedShots saved = savedShots(m_project);
     if (!writeProject(fileName))
         return false;
     forgetReadAhead(); // it may be of this file
-    m_metaSaved = saveMeta(fileName, meta, checks);
+    m_metaSaved = saveMeta(fileName, meta, saved.checks, metaOptions(fileName, m_saveOptions));
+    noteSaved(std::move(saved));
     const bool isUpToDate = countChanges() == changesBefore;
     m_editor.setCurrentFile(QFileInfo(fileName).absoluteFilePath());
     m_changes.project(function);
     m_editor.setProjectModifiedFlag(!isUpToDate);
     return true;
+}
+
+void ModelFiles::noteSaved(SavedShots saved)
+{
+    m_saved = std::move(saved);
+    ++m_generation;
+}
+
+// --- Restoring ---
+
+struct ModelFiles::Restored
+{
+    RecoveredProject project;
+    ImageStore images;
+};
+
+std::optional<RecoveryLosses> ModelFiles::restore(JournalContents &contents, const char *function)
+{
+    if (m_work.refuses(function))
+        return {};
+    qCDebug(lcModel).noquote().nospace() << function << " file=" << contents.base.file;
+    std::optional<Restored> restored = readRestored(contents);
+    if (!restored)
+        return {};
+    apply(*restored, contents, function);
+    m_changes.opened(function);
+    m_editor.setProjectModifiedFlag(true);
+    return restored->project.losses;
+}
+
+std::optional<ModelFiles::Restored> ModelFiles::readRestored(JournalContents &contents)
+{
+    const auto task = [&]() -> std::optional<Restored> {
+        QFile file(contents.base.file);
+        Pacer pacer(m_work.yield(), 2 * file.size());
+        std::optional<ProjectDocument> base;
+        if (QFileInfo(file).isFile() && file.open(QIODevice::ReadOnly))
+            base = projectfile::read(file, pacer);
+        RecoveredProject project = recoverProject(contents, std::move(base));
+        ImageStore images = ImageStore::decoded(std::move(project.document.images), [&pacer] { pacer.look(); });
+        return Restored{std::move(project), std::move(images)};
+    };
+    return m_work.run(task, Q_FUNC_INFO);
+}
+
+void ModelFiles::apply(Restored &restored, const JournalContents &contents, const char *function)
+{
+    const ModelChanges::Silence silence(m_changes);
+    m_editor.clear();
+    m_openLosses = {};
+    // A file that is still the one that the journal began with is replaced without a question.
+    const FileStamp stamp = stampOf(contents.base.file);
+    if (stamp.size == contents.base.fileSize && stamp.modified / 1000000 == contents.base.fileTime)
+        m_diskCopy.note(contents.base.file, stamp);
+    m_project.images = std::move(restored.images);
+    applyDocument(restored.project.document, contents.base.file, m_editor, m_project, function);
+    applyMeta(std::move(restored.project.meta), m_project);
+    for (std::size_t sensor = 0; sensor < contents.colors.size(); ++sensor)
+        m_project.colors[sensor] = QColor::fromRgba(contents.colors[sensor]);
+    SavedShots saved = std::move(restored.project.saved);
+    for (int sensor = 0; sensor < kNumSensors; ++sensor) {
+        const auto &origins = restored.project.origins[at(sensor)];
+        for (std::size_t shot = 0; shot < origins.size(); ++shot) {
+            if (origins[shot].index >= 0)
+                saved.runs[at(sensor)][at(origins[shot].index)] = {m_project.shots.id(sensor, static_cast<int>(shot)),
+                                                                   origins[shot].count};
+        }
+    }
+    for (std::size_t image = 0; image < saved.pictures.size(); ++image) {
+        const bool isInFile = contents.pictures[image].kind == JournalPicture::Kind::InBase;
+        saved.pictures[image] = isInFile ? m_project.images.pixmaps()[image].cacheKey() : kOtherPicture;
+    }
+    noteSaved(std::move(saved));
 }
 
 bool ModelFiles::saveCsv(const QString &fileName, const char *function)
@@ -180,9 +288,44 @@ quint64 ModelFiles::countChanges() const
     return m_changes.count() + m_project.shots.revision(); // neither ever goes back
 }
 
+DiskCopy::State ModelFiles::fileOnDisk(const char *function)
+{
+    if (m_currentFile.isEmpty() || m_work.refuses(function))
+        return DiskCopy::State::Same;
+    const auto task = [this]() -> std::optional<DiskCopy::State> {
+        Pacer pacer(m_work.yield(), 0);
+        return m_diskCopy.state(m_currentFile, [&pacer] { pacer.look(); });
+    };
+    return m_work.run(task, function).value_or(DiskCopy::State::Changed);
+}
+
+template <typename Task>
+bool ModelFiles::replace(const QString &fileName, const Task &task, const char *function)
+{
+    m_lacksOld = false;
+    const std::optional<Replacement> done = m_work.run(task, function);
+    m_fault = done ? done->fault : outOfMemory(fileName);
+    if (m_fault)
+        return false;
+    m_lacksOld = done->lacksOld;
+    return true;
+}
+
+/// Another program may write the file while this one does.
+ReplaceOptions ModelFiles::projectOptions(const QString &fileName) const
+{
+    ReplaceOptions options;
+    options.keepsOld = m_saveOptions.keepsBackup;
+    options.rescueFolder = m_saveOptions.folderForRescue();
+    options.isText = true;
+    options.mayReplace = [fileName, before = stampOf(fileName)] { return stampOf(fileName).looksLike(before); };
+    return options;
+}
+
 bool ModelFiles::writeProject(const QString &fileName)
 {
-    const auto task = [&] {
+    FileStamp stamp;
+    const auto task = [&]() -> std::optional<Replacement> {
         ProjectDocument document = documentOf(m_project);
         // Copies, which share their pixels: pictures may be changed while the file is written.
         const ImageStore::Pixmaps pixmaps = m_project.images.pixmaps();
@@ -191,19 +334,25 @@ bool ModelFiles::writeProject(const QString &fileName)
             document.images = m_project.images.encoded(pixmaps, [&pacer] { pacer.moveTo(0); });
             return projectfile::write(target, document, pacer);
         };
-        return replaceFile(fileName, write, [&pacer] { pacer.look(); });
+        const auto done = replaceFile(
+            fileName, write, [&pacer] { pacer.look(); }, projectOptions(fileName));
+        stamp = done.stamp;
+        return done;
     };
-    return m_work.run(task, Q_FUNC_INFO);
+    if (!replace(fileName, task, Q_FUNC_INFO))
+        return false;
+    m_diskCopy.note(QFileInfo(fileName).absoluteFilePath(), stamp);
+    return true;
 }
 
 bool ModelFiles::writeCsv(const QString &fileName)
 {
-    const auto task = [&] {
+    const auto task = [&]() -> std::optional<Replacement> {
         const ProjectDocument document = documentOf(m_project);
         const QString projectFile = QFileInfo(m_currentFile).fileName();
         Pacer pacer(m_work.yield(), document.sampleCount());
         const auto write = [&](QIODevice &target) { return ::writeCsv(target, projectFile, document, pacer); };
         return replaceFile(fileName, write, [&pacer] { pacer.look(); });
     };
-    return m_work.run(task, Q_FUNC_INFO);
+    return replace(fileName, task, Q_FUNC_INFO);
 }

@@ -1,6 +1,10 @@
 #pragma once
 
+#include "model/journal/projectrecovery.h"
 #include "model/project/openlosses.h"
+#include "model/project/saveoptions.h"
+#include "model/storage/diskcopy.h"
+#include "model/storage/filefault.h"
 
 #include <QString>
 
@@ -12,6 +16,7 @@ class ProjectEditor;
 class ModelChanges;
 class QFile;
 struct Project;
+struct ReplaceOptions;
 
 /// Carries the project of a model to its file and back, and knows the name of that file and whether the project was
 /// modified since. `function` is the one that log lines name.
@@ -34,16 +39,32 @@ public:
     [[nodiscard]] bool open(const QString &fileName, const char *function);
     [[nodiscard]] bool save(const QString &fileName, const char *function);
     [[nodiscard]] bool saveCsv(const QString &fileName, const char *function);
+    /// Replaces the project by that of a journal, which counts as modified then; nothing, with the model as it was, if
+    /// memory runs out or a file is being read or written. The contents are used up.
+    [[nodiscard]] std::optional<RecoveryLosses> restore(JournalContents &contents, const char *function);
     /// False if the last save() wrote the project, but not the file beside it.
     [[nodiscard]] bool isMetaSaved() const { return m_metaSaved; }
 
     /// Of the file that was opened, until it is saved, another one is opened or a project begins.
     [[nodiscard]] const OpenLosses &openLosses() const { return m_openLosses; }
+    /// Why the last open(), save() or saveCsv() failed; none if it did not.
+    [[nodiscard]] const FileFault &lastFault() const { return m_fault; }
+    /// False if the last save() should have kept the old file, but could not.
+    [[nodiscard]] bool isOldFileKept() const { return !m_lacksOld; }
+    /// Whether the current file is still what was opened or saved last. Not while a file is read or written.
+    [[nodiscard]] DiskCopy::State fileOnDisk(const char *function);
+    void setSaveOptions(const SaveOptions &options) { m_saveOptions = options; }
+    [[nodiscard]] const SaveOptions &saveOptions() const { return m_saveOptions; }
 
     [[nodiscard]] QString currentFile() const { return m_currentFile; }
     void setCurrentFile(const QString &absolutePath);
     [[nodiscard]] bool isModified() const { return m_modified; }
     void setModified(bool modified);
+    /// What the current file holds of the project, and a number that changes whenever that does.
+    [[nodiscard]] const SavedShots &saved() const { return m_saved; }
+    [[nodiscard]] quint64 generation() const { return m_generation; }
+    /// The project has no file, or what it holds now is what the file holds.
+    void noteSaved(SavedShots saved);
 
 private:
     struct Opened;
@@ -54,7 +75,14 @@ private:
     void apply(Opened &opened, const QString &absolutePath, const char *function);
     [[nodiscard]] bool writeProject(const QString &fileName);
     [[nodiscard]] bool writeCsv(const QString &fileName);
+    /// Runs a task that replaces a file, and keeps what it says about a failure.
+    template <typename Task>
+    [[nodiscard]] bool replace(const QString &fileName, const Task &task, const char *function);
+    [[nodiscard]] ReplaceOptions projectOptions(const QString &fileName) const;
     [[nodiscard]] quint64 countChanges() const;
+    struct Restored;
+    [[nodiscard]] std::optional<Restored> readRestored(JournalContents &contents);
+    void apply(Restored &restored, const JournalContents &contents, const char *function);
 
     ProjectEditor &m_editor;
     Project &m_project;
@@ -65,4 +93,10 @@ private:
     OpenLosses m_openLosses;
     bool m_modified = false;
     bool m_metaSaved = true;
+    SavedShots m_saved;
+    quint64 m_generation = 0;
+    bool m_lacksOld = false;
+    FileFault m_fault;
+    DiskCopy m_diskCopy;
+    SaveOptions m_saveOptions;
 };

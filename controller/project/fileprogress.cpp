@@ -37,6 +37,7 @@ void FileProgress::begin(const QString &text, int files)
     m_bar->setFormat(text);
     m_bar->setValue(0);
     m_bar->show();
+    emit begun();
 }
 
 void FileProgress::end()

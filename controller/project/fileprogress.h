@@ -24,6 +24,10 @@ public:
     void setDone(int files) { m_done = files; }
     void end();
 
+signals:
+    /// A file is about to be read or written.
+    void begun();
+
 private:
     void show(int percent);
     void hideWhenIdle();

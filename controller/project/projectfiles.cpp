@@ -3,6 +3,8 @@
 #include "controller/logging.h"
 #include "controller/occupancy.h"
 #include "controller/project/fileprogress.h"
+#include "controller/project/filequestions.h"
+#include "controller/project/projectlock.h"
 #include "controller/project/projectsaving.h"
 #include "controller/recording/linehold.h"
 #include "controller/recording/projectedits.h"
@@ -12,9 +14,18 @@
 #include "view/window/view.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
+#include <QTimer>
+
+namespace {
+
+constexpr int kBusyRetry = 20; // ms
+
+} // namespace
 
 ProjectFiles::ProjectFiles(const Desk &desk, FileProgress &progress, LineQueue &lines, ProjectEdits &edits,
-                           ProjectSaving &saving, const RecordingEnd &recording)
+                           ProjectSaving &saving, const RecordingEnd &recording, ProjectLock &lock,
+                           const FileQuestions &questions)
     : m_view(desk.view)
     , m_model(desk.model)
     , m_occupancy(desk.occupancy)
@@ -23,6 +34,8 @@ ProjectFiles::ProjectFiles(const Desk &desk, FileProgress &progress, LineQueue &
     , m_edits(edits)
     , m_saving(saving)
     , m_recording(recording)
+    , m_lock(lock)
+    , m_questions(questions)
 {
     if (!m_model.currentFile().isEmpty())
         m_view.rememberProject(m_model.currentFile());
@@ -94,10 +107,37 @@ void ProjectFiles::openNamed(const QString &fileName)
 
 void ProjectFiles::replaceWith(const QString &fileName)
 {
-    if (!mayReplaceWith(fileName)) {
-        m_model.forgetReadAhead();
-        return;
-    }
+    const FileQuestions::Opening how = howToOpen(fileName);
+    const bool opened = how != FileQuestions::Opening::Not && replace(fileName);
+    m_lock.dropReservation();
+    m_model.forgetReadAhead();
+    if (opened && how == FileQuestions::Opening::Copy)
+        detachFromFile();
+}
+
+/// Asks only if somebody else has the file; else the lock is reserved.
+FileQuestions::Opening ProjectFiles::howToOpen(const QString &fileName)
+{
+    const bool isFile = QFileInfo(fileName).isFile();
+    const std::optional<LockOwner> owner = isFile ? m_lock.reserve(fileName) : std::optional<LockOwner>();
+    if (!owner)
+        return FileQuestions::Opening::ReadOnly; // whether it really is read-only is up to the lock
+    if (readAhead(fileName))
+        return m_questions.howToOpen(fileName, *owner);
+    showOpened(fileName, false);
+    return FileQuestions::Opening::Not;
+}
+
+void ProjectFiles::detachFromFile()
+{
+    m_model.setCurrentFile({});
+    m_edits.markModified();
+}
+
+bool ProjectFiles::replace(const QString &fileName)
+{
+    if (!mayReplaceWith(fileName))
+        return false;
     const quint64 structure = m_model.structureRevision();
     const bool opened = load(fileName);
     if (opened)
@@ -110,6 +150,7 @@ void ProjectFiles::replaceWith(const QString &fileName)
     showOpened(fileName, opened);
     if (opened)
         emit projectReplaced();
+    return opened;
 }
 
 /// Asks about what would be lost, but not for a file that cannot be opened.
@@ -170,12 +211,7 @@ void ProjectFiles::showOpened(const QString &fileName, bool opened)
     if (opened)
         m_view.rememberProject(m_model.currentFile());
     else
-        warnOfFailure(fileName);
-}
-
-void ProjectFiles::warnOfFailure(const QString &fileName)
-{
-    m_occupancy.ask([&] { m_view.showWarning(tr("Cannot open file %1 !.").arg(fileName), tr("Problem")); });
+        m_questions.tellNotOpened(fileName, m_model.lastFileFault());
 }
 
 // --- Quit ---
@@ -190,6 +226,21 @@ void ProjectFiles::quit()
     emit quitting();
     m_view.reset();
     emit boxGivenUp();
+    m_view.writeSettings();
+    QCoreApplication::quit();
+}
+
+void ProjectFiles::leaveAtOnce()
+{
+    if (m_model.isBusy()) {
+        QTimer::singleShot(kBusyRetry, this, &ProjectFiles::leaveAtOnce);
+        return;
+    }
+    m_view.commitInput();
+    emit interrupted();
+    emit boxGivenUp();
+    emit interruptionTaken();
+    m_view.reset();
     m_view.writeSettings();
     QCoreApplication::quit();
 }

@@ -8,12 +8,13 @@
 #include "model/model.h"
 #include "model/project/photo.h"
 #include "model/project/projectimage.h"
+#include "model/storage/atomicfile.h"
+#include "view/common/faulttext.h"
 #include "view/window/prompts/questions.h"
 #include "view/window/view.h"
 
 #include <QDir>
 #include <QPixmap>
-#include <QSaveFile>
 
 #include <array>
 
@@ -49,10 +50,9 @@ QString faultText(PhotoFault fault, const QString &file)
 }
 
 /// The file is whole, or as it was.
-bool writePicture(const QByteArray &png, const QString &fileName)
+FileFault writePicture(const QByteArray &png, const QString &fileName)
 {
-    QSaveFile file(fileName);
-    return file.open(QIODevice::WriteOnly) && file.write(png) > 0 && file.commit();
+    return replaceFile(fileName, [&png](QIODevice &target) { return target.write(png) == png.size(); }).fault;
 }
 
 } // namespace
@@ -180,10 +180,13 @@ void ProjectPictures::save(int image)
     const QString file = askFileToSave();
     if (file.isEmpty())
         return;
-    if (writePicture(bytesOf(image), file))
+    const FileFault fault = writePicture(bytesOf(image), file);
+    if (!fault) {
         m_view.showStatus(tr("Bild gespeichert: %1").arg(file));
-    else
-        m_occupancy.ask([this] { m_view.showWarning(tr("Das Bild konnte nicht gespeichert werden!"), tr("Problem")); });
+        return;
+    }
+    const QString text = FaultText::appendedTo(tr("Das Bild konnte nicht gespeichert werden!"), fault);
+    m_occupancy.ask([&] { m_view.showWarning(text, tr("Problem")); });
 }
 
 /// A picture that is shown smaller, or not at all, as it is in the project.

@@ -2,13 +2,18 @@
 
 #include "controller/occupancy.h"
 #include "controller/project/fileprogress.h"
+#include "controller/project/filequestions.h"
+#include "controller/project/projectlock.h"
 #include "controller/project/proposedname.h"
 #include "controller/recording/linehold.h"
 #include "controller/recording/projectedits.h"
 #include "model/model.h"
+#include "model/storage/atomicfile.h"
 #include "view/window/prompts/questions.h"
 #include "view/window/view.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QScopedValueRollback>
 
 namespace {
@@ -17,13 +22,16 @@ const QLatin1String kProjectSuffix(".vnt");
 
 } // namespace
 
-ProjectSaving::ProjectSaving(const Desk &desk, FileProgress &progress, LineQueue &lines, ProjectEdits &edits)
+ProjectSaving::ProjectSaving(const Desk &desk, FileProgress &progress, LineQueue &lines, ProjectEdits &edits,
+                             ProjectLock &lock, const FileQuestions &questions)
     : m_view(desk.view)
     , m_model(desk.model)
     , m_occupancy(desk.occupancy)
     , m_progress(progress)
     , m_lines(lines)
     , m_edits(edits)
+    , m_lock(lock)
+    , m_questions(questions)
 {}
 
 QString ProjectSaving::filter()
@@ -43,8 +51,11 @@ void ProjectSaving::save()
 {
     m_saved = false;
     const QString fileName = m_model.currentFile();
+    m_lock.retry();
+    if (m_lock.owner())
+        m_view.showStatus(tr("Das Projekt ist nur zum Lesen geöffnet: Bitte einen anderen Namen wählen."));
     // A file of another kind that was opened by mistake is not replaced.
-    if (fileName.isEmpty() || m_model.openLosses().isForeign) {
+    if (fileName.isEmpty() || m_lock.owner() || m_model.openLosses().isForeign) {
         saveAs();
         return;
     }
@@ -79,40 +90,87 @@ QString ProjectSaving::askFileToSave()
 /// The file that the project has; else one named after the project.
 QString ProjectSaving::proposedFile() const
 {
+    const QFileInfo current(m_model.currentFile());
+    if (m_lock.owner())
+        return current.dir().filePath(current.completeBaseName() + tr(" (Kopie)") + kProjectSuffix);
     if (!m_model.currentFile().isEmpty())
         return m_model.currentFile();
     const QString name = proposedFileName(m_model.projectData().name);
     return name.isEmpty() ? QString() : name + kProjectSuffix;
 }
 
-bool ProjectSaving::saveTo(const QString &fileName)
+/// Until it is saved somewhere or the user gives up.
+bool ProjectSaving::saveTo(QString fileName)
 {
+    for (;;) {
+        const Outcome outcome = tryToSave(fileName);
+        if (outcome == Outcome::Saved)
+            return true;
+        m_lock.dropReservation();
+        if (outcome == Outcome::Elsewhere)
+            fileName = askFileToSave();
+        if (outcome == Outcome::GivenUp || fileName.isEmpty())
+            return false;
+    }
+}
+
+ProjectSaving::Outcome ProjectSaving::tryToSave(const QString &fileName)
+{
+    const Outcome target = checkTarget(fileName);
+    if (target != Outcome::Saved)
+        return target;
     if (m_beforeWriting)
         m_beforeWriting();
-    bool saved = false;
-    {
-        const ProgressScope progress(m_progress, tr("Saving..."));
-        const LineHold hold(m_lines);
-        saved = m_model.save(fileName);
-    }
+    const bool saved = write(fileName);
     m_edits.applyKept();
-    if (saved)
+    if (saved) {
         showSaved(fileName);
-    else
-        warn(tr("Das Projekt konnte nicht gespeichert werden!"));
-    return saved;
+        return Outcome::Saved;
+    }
+    switch (m_questions.afterFailure(m_model.lastFileFault())) {
+    case FileQuestions::Saving::Here:
+        return Outcome::Again;
+    case FileQuestions::Saving::Elsewhere:
+        return Outcome::Elsewhere;
+    default:
+        return Outcome::GivenUp;
+    }
+}
+
+/// Whether saving there would undo somebody else's work; Saved means that nothing speaks against it.
+ProjectSaving::Outcome ProjectSaving::checkTarget(const QString &fileName)
+{
+    using Answer = FileQuestions::Saving;
+    Answer answer = Answer::Here;
+    if (const std::optional<LockOwner> owner = m_lock.reserve(fileName)) {
+        answer = m_questions.whereInstead(fileName, *owner);
+    } else if (realFile(fileName) == realFile(m_model.currentFile())) {
+        const DiskCopy::State state = m_model.fileOnDisk();
+        const bool isGone = state == DiskCopy::State::Gone;
+        // Without its folder, or with something else in its place, it cannot be saved anyway, and that will be said.
+        const QFileInfo file(fileName);
+        if (state != DiskCopy::State::Same && (isGone ? file.dir().exists() : file.isFile()))
+            answer = m_questions.whetherToReplace(fileName, isGone);
+    }
+    if (answer == Answer::Here)
+        return Outcome::Saved;
+    return answer == Answer::Elsewhere ? Outcome::Elsewhere : Outcome::GivenUp;
+}
+
+bool ProjectSaving::write(const QString &fileName)
+{
+    const ProgressScope progress(m_progress, tr("Saving..."));
+    const LineHold hold(m_lines);
+    return m_model.save(fileName);
 }
 
 void ProjectSaving::showSaved(const QString &fileName)
 {
     if (!m_model.isProjectMetaSaved())
-        warn(tr("Das Projekt ist gespeichert, aber Grenzen, Schwellen, Bezeichnungen und "
-                "Zeitstempel der Auswertung konnten nicht gespeichert werden!"));
+        m_questions.warn(tr("Das Projekt ist gespeichert, aber Grenzen, Schwellen, Bezeichnungen und "
+                            "Zeitstempel der Auswertung konnten nicht gespeichert werden!"));
     m_view.rememberProject(m_model.currentFile());
-    m_view.showStatus(tr("Projekt gespeichert: %1").arg(fileName));
-}
-
-void ProjectSaving::warn(const QString &text)
-{
-    m_occupancy.ask([&] { m_view.showWarning(text, tr("Problem")); });
+    const QString text =
+        m_model.isOldFileKept() ? tr("Projekt gespeichert: %1") : tr("Projekt ohne Sicherungskopie gespeichert: %1");
+    m_view.showStatus(text.arg(fileName));
 }

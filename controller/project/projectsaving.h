@@ -7,8 +7,10 @@
 #include <functional>
 
 class FileProgress;
+class FileQuestions;
 class LineQueue;
 class ProjectEdits;
+class ProjectLock;
 
 /// Writes the project to its file, and says how that went.
 class ProjectSaving
@@ -17,7 +19,8 @@ class ProjectSaving
 
 public:
     /// All references must outlive this.
-    ProjectSaving(const Desk &desk, FileProgress &progress, LineQueue &lines, ProjectEdits &edits);
+    ProjectSaving(const Desk &desk, FileProgress &progress, LineQueue &lines, ProjectEdits &edits, ProjectLock &lock,
+                  const FileQuestions &questions);
 
     /// Of dialogs that choose a project file.
     [[nodiscard]] static QString filter();
@@ -30,10 +33,14 @@ public:
 
 private:
     [[nodiscard]] QString askFileToSave();
+    enum class Outcome { Saved, GivenUp, Elsewhere, Again };
+
     [[nodiscard]] QString proposedFile() const;
-    [[nodiscard]] bool saveTo(const QString &fileName);
+    [[nodiscard]] bool saveTo(QString fileName);
+    [[nodiscard]] Outcome tryToSave(const QString &fileName);
+    [[nodiscard]] Outcome checkTarget(const QString &fileName);
+    [[nodiscard]] bool write(const QString &fileName);
     void showSaved(const QString &fileName);
-    void warn(const QString &text);
 
     View &m_view;
     Model &m_model;
@@ -41,6 +48,8 @@ private:
     FileProgress &m_progress;
     LineQueue &m_lines;
     ProjectEdits &m_edits;
+    ProjectLock &m_lock;
+    const FileQuestions &m_questions;
     std::function<void()> m_beforeWriting; // of the save that is under way; mostly none
     bool m_saved = false;                  // how the last save ended
 };

@@ -4,7 +4,6 @@
 #include "controller/occupancy.h"
 #include "controller/recording/projectedits.h"
 #include "controller/recording/recorder.h"
-#include "controller/undo/undohistory.h"
 #include "model/model.h"
 #include "view/window/view.h"
 
@@ -20,14 +19,15 @@ UndoActions::StepName nameOf(const UndoHistory &history, const EditStep *(UndoHi
 
 } // namespace
 
-UndoControl::UndoControl(const Desk &desk, UndoHistory &history, ProjectEdits &edits, const Recorder &recorder)
+UndoControl::UndoControl(const Desk &desk, ProjectEdits &edits, const Recorder &recorder)
     : m_desk(desk)
-    , m_history(history)
+    , m_history(desk.model)
     , m_edits(edits)
     , m_recorder(recorder)
-    , m_actions(&desk.view, nameOf(history, &UndoHistory::stepToUndo), nameOf(history, &UndoHistory::stepToRedo))
+    , m_actions(&desk.view, nameOf(m_history, &UndoHistory::stepToUndo), nameOf(m_history, &UndoHistory::stepToRedo))
 {
     connect(&m_history, &UndoHistory::changed, &m_actions, &UndoActions::refresh);
+    connect(&m_history, &UndoHistory::actionAdded, &m_actions, &UndoActions::forgetTyping);
     connect(&m_actions, &UndoActions::undoTriggered, this, &UndoControl::undo);
     connect(&m_actions, &UndoActions::redoTriggered, this, &UndoControl::redo);
 }
@@ -56,6 +56,7 @@ void UndoControl::run(Next next, Toggle toggle, const QString &pattern)
     const int clock = m_desk.model.clock();
     m_edits.markModified();
     (m_history.*toggle)(m_recorder.growingShot());
+    m_actions.forgetTyping();
     m_desk.view.showStatus(text);
     if (m_desk.model.clock() != clock)
         emit samplingPeriodChanged();

@@ -1,15 +1,13 @@
 #pragma once
 
 #include "controller/desk.h"
-#include "model/storedshot.h"
+#include "controller/undo/undohistory.h"
 #include "view/window/undo/undoactions.h"
 
 #include <QObject>
 
 class ProjectEdits;
 class Recorder;
-class UndoHistory;
-struct EditStep;
 
 /// Undo and redo as the user asks for them: refused while something else is under way, told in the status bar. The
 /// project counts as modified afterwards.
@@ -19,7 +17,7 @@ class UndoControl : public QObject
 
 public:
     /// All references must outlive the control.
-    UndoControl(const Desk &desk, UndoHistory &history, ProjectEdits &edits, const Recorder &recorder);
+    UndoControl(const Desk &desk, ProjectEdits &edits, const Recorder &recorder);
 
     void undo();
     void redo();
@@ -36,7 +34,7 @@ private:
     [[nodiscard]] bool refuseWhileRecording(const EditStep &step);
 
     Desk m_desk;
-    UndoHistory &m_history;
+    UndoHistory m_history;
     ProjectEdits &m_edits;
     const Recorder &m_recorder;
     UndoActions m_actions;

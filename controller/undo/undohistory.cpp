@@ -1,6 +1,7 @@
 #include "controller/undo/undohistory.h"
 
 #include "controller/undo/memoryinuse.h"
+#include "model/changescope.h"
 #include "model/model.h"
 
 #include <QUndoCommand>
@@ -44,6 +45,7 @@ UndoHistory::~UndoHistory()
 void UndoHistory::stepMade(EditStep step)
 {
     const bool joins = joinsLatest(step);
+    const bool isAction = step.mergeKey.isEmpty();
     m_sinceInput.start();
     m_mayJoin = true;
     const int latest = m_stack.index() - 1;
@@ -58,6 +60,8 @@ void UndoHistory::stepMade(EditStep step)
     }
     enforceLimits(m_stack.index() - 1);
     emit changed();
+    if (isAction)
+        emit actionAdded();
 }
 
 bool UndoHistory::joinsLatest(const EditStep &step) const
@@ -115,8 +119,10 @@ void UndoHistory::redo(const ShotIds &untouched)
 
 void UndoHistory::toggle(EditStep &step)
 {
-    if (!m_isRearranging)
-        m_model.edits().toggle(step, m_untouched);
+    if (m_isRearranging)
+        return;
+    const ChangeScope bundle(&m_model); // also opens signals that a deletion has left blocked
+    m_model.edits().toggle(step, m_untouched);
 }
 
 // --- Limits --------------------------------------------------------------------------------------------------------
@@ -141,12 +147,12 @@ void UndoHistory::enforceLimits(int latest)
 {
     qint64 used = bytes();
     const qint64 most = largestSize(used);
-    int first = 0;
-    for (; used > most && first < latest; ++first)
-        used -= stepAt(first)->bytes();
     int last = m_stack.count() - 1;
     for (; used > most && last > latest; --last)
         used -= stepAt(last)->bytes();
+    int first = 0;
+    for (; used > most && first < latest; ++first)
+        used -= stepAt(first)->bytes();
     if (last - first + 1 < m_stack.count())
         keepOnly(first, last - first + 1);
 }

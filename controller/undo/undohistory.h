@@ -26,8 +26,8 @@ struct UndoLimits
 /// The steps that can be undone and done again. Collects those of a model while it exists; forgets all of them when
 /// another project is opened or begun.
 ///
-/// What the steps keep is bounded: the oldest ones to be undone go first, then those that are undone and are the last
-/// to be done again. The step that was made, undone or done again last always stays.
+/// What the steps keep is bounded: those that are undone and would be the last to be done again go first, then the
+/// oldest ones. The step that was made, undone or done again last always stays.
 class UndoHistory : public QObject, private EditListener
 {
     Q_OBJECT
@@ -50,6 +50,8 @@ public:
 signals:
     /// Another step is the next to be undone or done again.
     void changed();
+    /// A step came that is not part of somebody's typing.
+    void actionAdded();
 
 private:
     class Command;

@@ -1,7 +1,6 @@
 #include "model/edit/modeledits.h"
 
 #include "model/arrayindex.h"
-#include "model/changescope.h"
 #include "model/edit/editlistener.h"
 #include "model/modelchanges.h"
 #include "model/project/project.h"
@@ -23,9 +22,8 @@ bool haveOneInCommon(const ShotIds &a, const ShotIds &b)
 
 } // namespace
 
-ModelEdits::ModelEdits(Model &model, Project &project, ImportedFiles &imported, ModelChanges &changes)
-    : m_model(model)
-    , m_project(project)
+ModelEdits::ModelEdits(Project &project, ImportedFiles &imported, ModelChanges &changes)
+    : m_project(project)
     , m_imported(imported)
     , m_changes(changes)
 {}
@@ -68,7 +66,6 @@ void ModelEdits::forgetProject()
 
 void ModelEdits::toggle(EditStep &step, const ShotIds &untouched)
 {
-    const ChangeScope bundle(&m_model);
     const EditState &from = step.isDone ? step.after : step.before;
     const EditState &to = step.isDone ? step.before : step.after;
     EditState state = EditState::of(m_project, m_imported);

@@ -5,7 +5,6 @@
 #include <optional>
 
 class EditListener;
-class Model;
 class ModelChanges;
 
 /// Makes steps of what is edited in a project, and undoes them or does them again. Steps are made only while somebody
@@ -14,7 +13,7 @@ class ModelEdits
 {
 public:
     /// All references must outlive this.
-    ModelEdits(Model &model, Project &project, ImportedFiles &imported, ModelChanges &changes);
+    ModelEdits(Project &project, ImportedFiles &imported, ModelChanges &changes);
 
     /// Not owned; nullptr for none.
     void setListener(EditListener *listener) { m_listener = listener; }
@@ -27,17 +26,16 @@ public:
     /// The project was cleared: an edit that is under way makes no step, and the listener is told.
     void forgetProject();
 
-    /// Undoes a step that is done, or does one again that is undone, and announces all changes once, bundled; opens
-    /// signals that were blocked. Steps have to come in the order in which a stack gives them. Only fields that the
-    /// step changed are set: what else has changed since stays. A shot stays in the project, whatever the step says, if
-    /// one of its ids is among `untouched`.
+    /// Undoes a step that is done, or does one again that is undone, and announces what changed; has to be called
+    /// within a ChangeScope, so that nobody is told before all of it has changed. Steps have to come in the order in
+    /// which a stack gives them. Only fields that the step changed are set: what else has changed since stays. A shot
+    /// stays in the project, whatever the step says, if one of its ids is among `untouched`.
     void toggle(EditStep &step, const ShotIds &untouched);
 
 private:
     void toggleShots(EditStep &step, const ShotIds &untouched);
     void toggleLabels(const EditStep &step);
 
-    Model &m_model;
     Project &m_project;
     ImportedFiles &m_imported;
     ModelChanges &m_changes;

@@ -49,6 +49,8 @@ public:
     /// Reads the next value and copies its text, byte for byte. A text of more than `most` bytes is not copied, and
     /// `text` is empty then. False if the value is not valid.
     [[nodiscard]] bool copyValue(QByteArray &text, int most);
+    /// Bytes of the source that have been understood: where the next token, or what is no JSON, begins.
+    [[nodiscard]] qint64 offset() const { return m_bytesRead - (m_end - m_pos); }
 
     /// As many as QJsonDocument takes.
     static constexpr std::size_t kMaxDepth = 1024;

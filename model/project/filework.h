@@ -21,15 +21,20 @@ public:
     /// True while busy; logs that under the name of the caller.
     [[nodiscard]] bool refuses(const char *function) const;
 
+    /// True if the last task that was run ended because memory ran out.
+    [[nodiscard]] bool lacksMemory() const { return m_lacksMemory; }
+
     /// Runs a task that returns a bool or an optional; busy meanwhile. If memory runs out, that is logged under the
     /// name of the caller and the result is false or empty.
     template <typename Task>
     [[nodiscard]] auto run(const Task &task, const char *function) -> decltype(task())
     {
         const QScopedValueRollback<bool> busy(m_busy, true);
+        m_lacksMemory = false;
         try {
             return task();
         } catch (const std::bad_alloc &) {
+            m_lacksMemory = true;
             logOutOfMemory(function);
             return {};
         }
@@ -40,4 +45,5 @@ private:
 
     Yield m_yield;
     bool m_busy = false;
+    bool m_lacksMemory = false;
 };

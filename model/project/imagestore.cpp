@@ -137,6 +137,13 @@ qint64 ImageStore::bytes(int image) const
     return qint64(pixmap.width()) * pixmap.height() * pixmap.depth() / 8 + m_pngs[at(image)].bytes();
 }
 
+QByteArray ImageStore::encodedOne(int image) const
+{
+    const QPixmap &pixmap = m_pixmaps[at(image)];
+    const Kept *kept = keptFor(pixmap);
+    return kept ? kept->image : m_pngs[at(image)].png(pixmap);
+}
+
 EncodedImages ImageStore::encoded(const Pixmaps &pixmaps, const std::function<void()> &pause)
 {
     EncodedImages images;

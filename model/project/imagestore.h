@@ -58,6 +58,8 @@ public:
     /// as a large one takes long.
     [[nodiscard]] static ImageStore decoded(EncodedImages images, const std::function<void()> &pause,
                                             qint64 mostPixels = kMostPixels);
+    /// What a file holds for a picture in the store, encoded when first asked for; empty for none.
+    [[nodiscard]] QByteArray encodedOne(int image) const;
     /// Encodes pictures that this store has or had; `pause` as above, and it may change the pictures in the store.
     [[nodiscard]] EncodedImages encoded(const Pixmaps &pixmaps, const std::function<void()> &pause);
 
@@ -76,6 +78,6 @@ private:
     void keep(std::size_t image, const QPixmap &pixmap, const Kept &kept);
 
     Pixmaps m_pixmaps;
-    std::array<EncodedImage, kNumProjectImages> m_pngs;
+    mutable std::array<EncodedImage, kNumProjectImages> m_pngs; // encoded when first asked for
     std::array<Kept, kNumProjectImages> m_kept; ///< of the file, even if other pictures have taken their places
 };

@@ -2,7 +2,6 @@
 
 #include "model/arrayindex.h"
 #include "model/logging.h"
-#include "model/project/atomicfile.h"
 #include "model/shotstore.h"
 
 #include <QFile>
@@ -86,14 +85,18 @@ ShotChecks shotChecks(const ShotStore &shots)
     return checks;
 }
 
-bool saveMeta(const QString &projectFile, const ProjectMeta &meta, const ShotChecks &checks)
+bool saveMeta(const QString &projectFile, const ProjectMeta &meta, const ShotChecks &checks,
+              const ReplaceOptions &options)
 {
     const QString fileName = metaFileName(projectFile);
     const bool isFree = keepUnreadableFile(fileName);
     if (isFree && meta.isBlank() && !QFileInfo::exists(fileName))
         return true;
     try {
-        if (isFree && replaceFile(fileName, [&](QIODevice &target) { return writeProjectMeta(target, meta, checks); }))
+        const auto write = [&](QIODevice &target) { return writeProjectMeta(target, meta, checks); };
+        if (isFree
+            && replaceFile(
+                fileName, write, [] {}, options))
             return true;
     } catch (const std::bad_alloc &) {
         // told below, like any other failure

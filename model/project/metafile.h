@@ -2,6 +2,7 @@
 
 #include "model/project/metastate.h"
 #include "model/project/projectmeta.h"
+#include "model/storage/atomicfile.h"
 
 class ShotStore;
 
@@ -19,7 +20,8 @@ struct MetaReading
 /// Writes the file beside a project file; none if there is nothing to keep and no file to bring up to date. A file in
 /// its place that cannot be read, or is of a newer version, gets another name first. False, and a log line, if it
 /// cannot be written.
-[[nodiscard]] bool saveMeta(const QString &projectFile, const ProjectMeta &meta, const ShotChecks &checks);
+[[nodiscard]] bool saveMeta(const QString &projectFile, const ProjectMeta &meta, const ShotChecks &checks,
+                            const ReplaceOptions &options = {});
 
 /// The name that saveMeta() would give to a file that is in its place: with ".bad" behind it, and a number from 2 on if
 /// there is one already. Empty if there are too many.

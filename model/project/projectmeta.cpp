@@ -321,6 +321,12 @@ void ProjectMeta::keepShots(int count)
     keepElements(shotOthers, most);
 }
 
+void ProjectMeta::setOthers(int shot, const QJsonObject &values)
+{
+    if (!values.isEmpty() || static_cast<std::size_t>(shot) < shotOthers.size())
+        setElement(shotOthers, static_cast<std::size_t>(shot), values);
+}
+
 ShotMeta ProjectMeta::shot(int shot) const
 {
     const auto index = static_cast<std::size_t>(shot);

@@ -88,6 +88,7 @@ struct ProjectMeta
     void setPeriod(int shot, int milliseconds);
     [[nodiscard]] ShotOrigin origin(int shot) const;
     void setOrigin(int shot, const ShotOrigin &origin);
+    void setOthers(int shot, const QJsonObject &values);
     [[nodiscard]] ShotMeta shot(int shot) const;
     /// All that the shots from there on have moves up by one.
     void insertShot(int shot, const ShotMeta &meta);

@@ -226,12 +226,18 @@ void applyViewData(const ProjectViewData &viewData, ProjectSettings &settings)
 
 } // namespace
 
-ProjectDocument documentOf(const Project &project)
+ProjectDocument settingsDocumentOf(const Project &project)
 {
     ProjectDocument document;
     describeProject(document, project.settings);
     describeView(document, project.settings);
     describeSensors(document, project.settings.sensors);
+    return document;
+}
+
+ProjectDocument documentOf(const Project &project)
+{
+    ProjectDocument document = settingsDocumentOf(project);
     for (int sensor = 0; sensor < kNumSensors; ++sensor) {
         SampleRuns &runs = document.samples[at(sensor)].emplace();
         runs.reserve(at(project.shots.count(sensor)));

@@ -141,10 +141,6 @@
         <source>importiert</source>
         <translation>imported</translation>
     </message>
-    <message>
-        <source>teilweise</source>
-        <translation>partly</translation>
-    </message>
 </context>
 <context>
     <name>BlackBoxFiles</name>
@@ -200,7 +196,7 @@
     </message>
     <message>
         <source>Übernahme der Sensorbeschreibung</source>
-        <translation>taking over the sensor description</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -689,11 +685,11 @@
     </message>
     <message>
         <source>Spalten von %1</source>
-        <translation>columns of %1</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Grenzen von %1</source>
-        <translation>limits of %1</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -911,38 +907,19 @@
     </message>
     <message>
         <source>, verkleinert gezeigt</source>
-        <translation>, shown reduced</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Zu groß zum Anzeigen:</source>
-        <translation>Too large to be shown:</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Das Bild in der Datei kann nicht gelesen werden. Es bleibt erhalten.</source>
-        <translation>The picture in the file cannot be read. It is kept.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Klicken für ein anderes Bild, Entf zum Löschen</source>
-        <translation>Click for another picture, Del to delete</translation>
-    </message>
-</context>
-<context>
-    <name>ImportPreview</name>
-    <message>
-        <source>Name „%1“ wird „%2“</source>
-        <translation>name “%1” becomes “%2”</translation>
-    </message>
-    <message>
-        <source>Einheit „%1“ wird „%2“</source>
-        <translation>unit “%1” becomes “%2”</translation>
-    </message>
-    <message>
-        <source>Grenzen %1 werden %2</source>
-        <translation>limits %1 become %2</translation>
-    </message>
-    <message>
-        <source>Sensor %1: %2</source>
-        <translation>Sensor %1: %2</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1032,37 +1009,14 @@
     </message>
 </context>
 <context>
-    <name>LocalFolder</name>
-    <message>
-        <source>Ordner mit BlackBox-Dateien auswählen</source>
-        <translation>Choose a folder with BlackBox files</translation>
-    </message>
-    <message>
-        <source>Dateien kopieren...</source>
-        <translation>Copying files...</translation>
-    </message>
-    <message>
-        <source>Problem</source>
-        <translation>Problem</translation>
-    </message>
-    <message>
-        <source>%1 Dateien konnten nicht kopiert werden und fehlen in der Liste:</source>
-        <translation>%1 files could not be copied and are missing in the list:</translation>
-    </message>
-    <message>
-        <source>Abgebrochen; %1 Dateien sind kopiert.</source>
-        <translation>Cancelled; %1 files have been copied.</translation>
-    </message>
-    <message>
-        <source>Keine BlackBox-Dateien (*.bb) in %1</source>
-        <translation>No BlackBox files (*.bb) in %1</translation>
-    </message>
-</context>
-<context>
     <name>LoggerFetch</name>
     <message>
         <source>Problem</source>
         <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Der Ordner %1 kann nicht angelegt werden.</source>
+        <translation>The folder %1 cannot be created.</translation>
     </message>
     <message>
         <source>Dateien übertragen...</source>
@@ -1073,18 +1027,12 @@
         <translation>%1 of %2 days transferred.</translation>
     </message>
     <message>
-        <source>Die Dateien vom %1 konnten nicht in den Ordner der Box verschoben werden:
-%2</source>
-        <translation>The files of %1 could not be moved into the folder of the box:
-%2</translation>
+        <source>Ordner mit BlackBox-Dateien auswählen</source>
+        <translation>Choose a folder with BlackBox files</translation>
     </message>
     <message>
-        <source>%1 von %2 Dateien</source>
-        <translation>%1 of %2 files</translation>
-    </message>
-    <message>
-        <source>%1 Dateien</source>
-        <translation>%1 files</translation>
+        <source>Keine BlackBox-Dateien (*.bb) in %1</source>
+        <translation>No BlackBox files (*.bb) in %1</translation>
     </message>
 </context>
 <context>
@@ -1125,31 +1073,11 @@ Import them again?</translation>
     </message>
     <message>
         <source>Import einer Datei</source>
-        <translation>import of a file</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Import von %1 Dateien</source>
-        <translation>import of %1 files</translation>
-    </message>
-    <message>
-        <source>Die Dateien beschreiben die Sensoren anders als das Projekt:</source>
-        <translation>The files describe the sensors differently from the project:</translation>
-    </message>
-    <message>
-        <source>Die Dateien stimmen darin nicht überein; die letzte gilt.</source>
-        <translation>The files do not agree on this; the last one counts.</translation>
-    </message>
-    <message>
-        <source>Die Messwerte werden in beiden Fällen importiert.</source>
-        <translation>The measured values are imported in both cases.</translation>
-    </message>
-    <message>
-        <source>Angaben der Dateien</source>
-        <translation>Use the files&apos;</translation>
-    </message>
-    <message>
-        <source>Angaben des Projekts</source>
-        <translation>Keep the project&apos;s</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1221,15 +1149,15 @@ Esc cancels.</translation>
     </message>
     <message>
         <source>Löschen einer Messung</source>
-        <translation>deletion of a measurement</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Löschen von %1 Messungen</source>
-        <translation>deletion of %1 measurements</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Löschen aller Messdaten</source>
-        <translation>deletion of all measurement data</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1256,7 +1184,7 @@ Esc cancels.</translation>
     </message>
     <message>
         <source>Zurücksetzen der Offsets</source>
-        <translation>reset of the offsets</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1320,51 +1248,49 @@ Esc cancels.</translation>
     <name>OpenNotice</name>
     <message>
         <source>%1 und %2 weitere</source>
-        <translation>%1 and %2 more</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Ohne die Datei &quot;%1&quot; fehlen Zeitstempel, Bezeichnungen, Einheiten, Grenzen und Schwellen.</source>
-        <translation>Without the file &quot;%1&quot; time stamps, labels, units, limits and thresholds are missing.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Hinweise zum Projekt</source>
-        <translation>Notes on the project</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Damit nichts verloren geht, kann das Projekt unter einem anderen Namen gespeichert werden.</source>
-        <translation>To lose nothing, save the project under another name.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Die Datei &quot;%1&quot; sieht nicht wie ein Projekt aus: Sie enthält keine einzige Angabe eines Projekts.
 Sie wird beim Speichern nicht ersetzt; das Programm fragt dann nach einem anderen Namen.</source>
-        <translation>The file &quot;%1&quot; does not look like a project: it holds nothing that belongs to one.
-Saving does not replace it; the program will ask for another name.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Das Projekt wurde mit einer neueren Version des Programms gespeichert (Dateiversion %1).
 Beim Speichern bekommt es die Dateiversion %2.</source>
-        <translation>The project was saved by a newer version of the program (file version %1).
-Saving gives it the file version %2.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Unbekannte Angaben, die erhalten bleiben und wieder gespeichert werden: %1.</source>
-        <translation>Unknown entries, which are kept and saved again: %1.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Angaben, die nicht gelesen werden konnten und beim Speichern verloren gehen: %1.</source>
-        <translation>Entries that could not be read and will be lost when the project is saved: %1.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Nicht lesbar: %1.</source>
-        <translation>Not readable: %1.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Zu groß zum Anzeigen, da alle Bilder zusammen höchstens %1 Millionen Bildpunkte haben dürfen: %2.</source>
-        <translation>Too large to be shown, as all pictures together may have at most %1 million pixels: %2.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Was in der Datei steht, bleibt erhalten, bis dort ein anderes Bild gewählt wird.</source>
-        <translation>What the file holds is kept until another picture is chosen there.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Bild %1</source>
@@ -1372,17 +1298,16 @@ Saving gives it the file version %2.</translation>
     </message>
     <message>
         <source>Die Datei &quot;%1&quot; neben dem Projekt ist von einer neueren Version des Programms.</source>
-        <translation>The file &quot;%1&quot; beside the project is from a newer version of the program.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Die Datei &quot;%1&quot; neben dem Projekt ist beschädigt oder nicht lesbar.</source>
-        <translation>The file &quot;%1&quot; beside the project is damaged or cannot be read.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Es fehlen Zeitstempel, Bezeichnungen, Einheiten, Grenzen und Schwellen.
 Beim Speichern wird sie nicht ersetzt, sondern als &quot;%1&quot; aufgehoben.</source>
-        <translation>Time stamps, labels, units, limits and thresholds are missing.
-Saving does not replace it, but keeps it as &quot;%1&quot;.</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1412,7 +1337,7 @@ Saving does not replace it, but keeps it as &quot;%1&quot;.</translation>
     <name>OsziPage</name>
     <message>
         <source>Löschen der Marker</source>
-        <translation>clearing the markers</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1880,7 +1805,7 @@ double-click fits the value range.</translation>
     </message>
     <message>
         <source>Übernahme der Projektbeschreibung</source>
-        <translation>taking over the project description</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1952,8 +1877,7 @@ Continue?</translation>
     <message>
         <source>Für Bild %1 ist kein Platz mehr: Alle Bilder eines Projekts zusammen dürfen höchstens %2 Millionen Bildpunkte haben, die anderen haben schon %3 Millionen.
 Bitte zuerst ein großes Bild löschen oder durch ein kleineres ersetzen.</source>
-        <translation>There is no room left for picture %1: all pictures of a project together may have at most %2 million pixels, the others have %3 million already.
-Please delete a large picture first, or replace it with a smaller one.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Ersetzen von Bild %1</source>
@@ -1961,11 +1885,11 @@ Please delete a large picture first, or replace it with a smaller one.</translat
     </message>
     <message>
         <source>Einfügen von Bild %1</source>
-        <translation>insertion of picture %1</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Löschen von Bild %1</source>
-        <translation>deletion of picture %1</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2171,7 +2095,7 @@ Please delete a large picture first, or replace it with a smaller one.</translat
     <name>RowRanges</name>
     <message>
         <source>Bereich von %1</source>
-        <translation>range of %1</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2282,7 +2206,7 @@ Please delete a large picture first, or replace it with a smaller one.</translat
     </message>
     <message>
         <source>Änderung der Abtastrate</source>
-        <translation>change of the sampling rate</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2340,32 +2264,6 @@ Please check output:</translation>
     <message>
         <source>Keine gültige Adresse: %1</source>
         <translation>Not a valid address: %1</translation>
-    </message>
-    <message>
-        <source>Unter dieser Adresse antwortet ein anderes Gerät als bisher, und so ist es eingestellt: Ein solches wird abgewiesen (VENTARO_SCP_REFUSE_NEW_KEY). Ist es die richtige Box, bitte die Einstellung für eine Übertragung weglassen.</source>
-        <translation>Another device than before answers at this address, and it is set that such a one is refused (VENTARO_SCP_REFUSE_NEW_KEY). If it is the right box, please leave this setting out for one transfer.</translation>
-    </message>
-    <message>
-        <source>Das Gerät unter %1 weist sich mit einem anderen Schlüssel aus als bisher.
-
-Das ist so, wenn dort jetzt eine andere Box angeschlossen ist oder ihr System neu aufgespielt wurde. Trifft keines von beiden zu, gibt sich womöglich ein fremdes Gerät als Box aus und kennt nun das Kennwort: dann bitte das Netz prüfen.
-
-bisher: %2
-jetzt: %3</source>
-        <translation>The device at %1 identifies itself with another key than before.
-
-This is so if another box is connected there now, or if its system was installed anew. If neither is the case, a foreign device may pose as a box and know the password now: please check the network then.
-
-before: %2
-now: %3</translation>
-    </message>
-    <message>
-        <source>Andere Box?</source>
-        <translation>Another box?</translation>
-    </message>
-    <message>
-        <source>Benutzername und Kennwort des Zugangs zur Box dürfen weder leer sein noch Leerzeichen, Anführungszeichen oder Steuerzeichen enthalten, der Benutzername auch weder : noch @. Sie werden beim Bau des Programms festgelegt (VENTARO_DEVICE_PASSWORD).</source>
-        <translation>User name and password of the account on the box must neither be empty nor contain blanks, quotation marks or control characters, and the user name neither : nor @. They are set when the program is built (VENTARO_DEVICE_PASSWORD).</translation>
     </message>
 </context>
 <context>
@@ -2427,18 +2325,18 @@ now: %3</translation>
     </message>
     <message>
         <source>Eine Box, die ihre Sensoren beschreibt, bringt ihre eigenen Einheiten mit.</source>
-        <translation>A box that describes its sensors brings its own units.</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>&amp;Einheit</source>
-        <translation>&amp;Unit</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>SensorEditor</name>
     <message>
         <source>Änderung von %1</source>
-        <translation>change of %1</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2737,43 +2635,43 @@ Identification of this computer:
     <name>TabEdits</name>
     <message>
         <source>Eingabe in &quot;Projekt&quot;</source>
-        <translation>entry in &quot;Project&quot;</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Eingabe in &quot;Projektnummer&quot;</source>
-        <translation>entry in &quot;Project number&quot;</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Eingabe in &quot;Bearbeiter&quot;</source>
-        <translation>entry in &quot;Person in charge&quot;</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Eingabe in &quot;Datum&quot;</source>
-        <translation>entry in &quot;Date&quot;</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Eingabe in &quot;Kunde&quot;</source>
-        <translation>entry in &quot;Customer&quot;</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Eingabe in &quot;Schließkraft&quot;</source>
-        <translation>entry in &quot;Clamping force&quot;</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Eingabe in &quot;Einspritzzeit&quot;</source>
-        <translation>entry in &quot;Injection time&quot;</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Eingabe in &quot;Nachdruckzeit&quot;</source>
-        <translation>entry in &quot;Holding time&quot;</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Eingabe in &quot;Druck&quot;</source>
-        <translation>entry in &quot;Pressure&quot;</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Eingabe in &quot;Kommentar&quot;</source>
-        <translation>entry in &quot;Comment&quot;</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Name der Phase %1</source>
@@ -2785,15 +2683,15 @@ Identification of this computer:
     </message>
     <message>
         <source>Umstellung der Marker</source>
-        <translation>switching the marker mode</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Offset von %1</source>
-        <translation>offset of %1</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Änderung von %1</source>
-        <translation>change of %1</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2816,14 +2714,14 @@ Identification of this computer:
     </message>
     <message>
         <source>Schwellen der Laufzeit</source>
-        <translation>thresholds of the runtime</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>TabEvaluationOverlay</name>
     <message>
         <source>Bezeichnung von Messung %1</source>
-        <translation>label of measurement %1</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -3020,37 +2918,6 @@ At the far right the view follows the newest values.</translation>
     </message>
 </context>
 <context>
-    <name>TransferDialogs</name>
-    <message>
-        <source>Problem</source>
-        <translation>Problem</translation>
-    </message>
-    <message>
-        <source>Der Ordner %1 kann nicht angelegt werden.</source>
-        <translation>The folder %1 cannot be created.</translation>
-    </message>
-    <message>
-        <source>Weitere Tage holen</source>
-        <translation>Fetch the other days</translation>
-    </message>
-    <message>
-        <source>Weitere Tage auslassen</source>
-        <translation>Skip the other days</translation>
-    </message>
-    <message>
-        <source>Auch diese Tage konnten nicht geholt werden:</source>
-        <translation>These days could not be fetched either:</translation>
-    </message>
-    <message>
-        <source>Noch 1 weiterer Tag ist ausgewählt.</source>
-        <translation>1 more day is selected.</translation>
-    </message>
-    <message>
-        <source>Noch %1 weitere Tage sind ausgewählt.</source>
-        <translation>%1 more days are selected.</translation>
-    </message>
-</context>
-<context>
     <name>TrendChart</name>
     <message>
         <source>Keine Werte</source>
@@ -3069,38 +2936,38 @@ At the far right the view follows the newest values.</translation>
     <name>UndoActions</name>
     <message>
         <source>%1 rückgängig machen</source>
-        <translation>Undo %1</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Rückgängig</source>
-        <translation>Undo</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%1 wiederholen</source>
-        <translation>Redo %1</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Wiederholen</source>
-        <translation>Redo</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Nimmt den letzten Schritt zurück</source>
-        <translation>Takes the last step back</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Macht den zuletzt zurückgenommenen Schritt noch einmal</source>
-        <translation>Does the step that was taken back last again</translation>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
     <name>UndoControl</name>
     <message>
         <source>Rückgängig gemacht: %1</source>
-        <translation>Undone: %1</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Wiederholt: %1</source>
-        <translation>Redone: %1</translation>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Die Abtastrate lässt sich nicht ändern, solange eine Aufzeichnung läuft.</source>

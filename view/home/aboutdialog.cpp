@@ -27,6 +27,7 @@ constexpr QSize kSmallest(480, 360);
 constexpr int kMargin = 24;
 constexpr int kLicenceNames = 230; // pixels
 constexpr int kCopiedTime = 2500;  // ms
+constexpr int kJournalTime = 1000; // ms
 
 /// The window's own side tabs are too large for a dialog.
 QString sheet()
@@ -70,6 +71,11 @@ AboutDialog::AboutDialog(const Model *model, QWidget *parent)
     m_copiedTimer.setSingleShot(true);
     m_copiedTimer.setInterval(kCopiedTime);
     connect(&m_copiedTimer, &QTimer::timeout, this, [this] { showCopied(false); });
+    connect(&m_journalTimer, &QTimer::timeout, this, [this] {
+        if (isVisible())
+            showVersions();
+    });
+    m_journalTimer.start(kJournalTime);
     connect(m_model, &Model::appStateChanged, this, &AboutDialog::showVersions);
     connect(m_model, &Model::projectChanged, this, &AboutDialog::showVersions); // the box has described itself
     retranslateUi();

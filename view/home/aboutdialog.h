@@ -48,4 +48,5 @@ private:
     QPushButton *m_copy = nullptr;
     QPushButton *m_close = nullptr;
     QTimer m_copiedTimer;
+    QTimer m_journalTimer; // the journal grows without a signal
 };

@@ -4,8 +4,10 @@
 #include "model/model.h"
 
 #include <QCoreApplication>
-#include <QFile>
+#include <QDir>
+#include <QFileInfo>
 #include <QGuiApplication>
+#include <QLocale>
 #include <QSysInfo>
 
 namespace {
@@ -29,6 +31,23 @@ QString qtVersion()
     return Texts::tr("%1 (übersetzt mit %2)").arg(running, QStringLiteral(QT_VERSION_STR));
 }
 
+/// Where unsaved work is kept, and how long the disk takes for it.
+QString journalState(const JournalInfo &info)
+{
+    if (info.folder.isEmpty())
+        return Texts::tr("wird nicht geführt");
+    QStringList parts{QDir::toNativeSeparators(info.file.isEmpty() ? info.folder : info.file)};
+    if (info.file.isEmpty())
+        parts << Texts::tr("leer, da nichts ungespeichert ist");
+    else
+        parts << QLocale().formattedDataSize(QFileInfo(info.file).size());
+    if (info.lastForced >= 0)
+        parts << Texts::tr("Schreiben auf den Datenträger: zuletzt %1 ms, höchstens %2 ms")
+                     .arg(info.lastForced)
+                     .arg(info.longestForced);
+    return parts.join(QLatin1Char('\n'));
+}
+
 QString licenceText(const char *file)
 {
     QFile source(QStringLiteral(":/licences/") + QLatin1String(file));
@@ -49,14 +68,17 @@ QVector<AboutFact> aboutFacts(const Model &model)
             {Texts::tr("Betriebssystem"), QSysInfo::prettyProductName()},
             {Texts::tr("Systemkern"), kernel},
             {Texts::tr("Plattform"),
-             QSysInfo::currentCpuArchitecture() + QLatin1String(", ") + QGuiApplication::platformName()}};
+             QSysInfo::currentCpuArchitecture() + QLatin1String(", ") + QGuiApplication::platformName()},
+            {Texts::tr("Sicherung"), journalState(model.journalInfo())}};
 }
 
 QString aboutText(const QVector<AboutFact> &facts)
 {
     QString text;
-    for (const AboutFact &fact : facts)
-        text += fact.name + QLatin1String(": ") + fact.value + QLatin1Char('\n');
+    for (const AboutFact &fact : facts) {
+        const QString value = QString(fact.value).replace(QLatin1Char('\n'), QLatin1String("; "));
+        text += fact.name + QLatin1String(": ") + value + QLatin1Char('\n');
+    }
     return text;
 }
 

@@ -12,8 +12,8 @@ struct AboutFact
     QString value;
 };
 
-/// The versions of program, box, Qt and system, in the language in use. The versions of the box are those of the
-/// connected one, else the last that are known.
+/// The versions of program, box, Qt and system, and where unsaved work is kept, in the language in use. The versions of
+/// the box are those of the connected one, else the last that are known.
 [[nodiscard]] QVector<AboutFact> aboutFacts(const Model &model);
 
 /// The facts as plain text, one per line.

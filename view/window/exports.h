@@ -6,9 +6,10 @@
 
 class MainWindow;
 class Model;
+struct FileFault;
 
 /// The files that the window itself writes: the terminal's text, a picture of the oscilloscope, the samples as CSV.
-/// Each is written when the window's signal of that name is emitted; what goes wrong is told in the status bar.
+/// Each is written when the window's signal of that name is emitted; how it went is told in the status bar.
 class Exports : public QObject
 {
     Q_OBJECT
@@ -19,6 +20,8 @@ public:
 
 private:
     [[nodiscard]] bool refuseWhileBusy() const;
+    void showSaved(const QString &fileName) const;
+    void showFailed(const QString &what, const FileFault &fault) const;
     void saveTerminal() const;
     void saveOszi() const;
     void saveCsv() const;

@@ -119,6 +119,11 @@ void MainToolBar::fillMenu(QMenu *languages)
     m_menu->addActions({m_actions.about, m_actions.quit});
 }
 
+void MainToolBar::addToProjectMenu(QAction *action) const
+{
+    m_menu->insertAction(m_actions.openBlackBox, action);
+}
+
 void MainToolBar::popUpMenu() const
 {
     const QWidget *button = m_bar->widgetForAction(m_actions.menu);

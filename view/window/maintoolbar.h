@@ -25,6 +25,8 @@ public:
     /// Titles and names in the current language; the actions must have their texts already.
     void retranslate();
     /// Opens the menu below the end of the bar.
+    /// Behind the entries for projects.
+    void addToProjectMenu(QAction *action) const;
     void popUpMenu() const;
 
 protected:

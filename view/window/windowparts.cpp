@@ -13,6 +13,7 @@ WindowParts::WindowParts(MainWindow *face, Model *data, std::unique_ptr<UserProm
     , model(data)
     , questions(prompts ? std::move(prompts) : std::make_unique<DialogPrompts>(face))
     , actions(face)
+    , backup(face, data)
     , toolBar(face, actions, languages.createLanguageMenu(face))
     , pages(face)
     , status(face, data)
@@ -22,6 +23,7 @@ WindowParts::WindowParts(MainWindow *face, Model *data, std::unique_ptr<UserProm
     , exports(face, data, pages.pages())
     , memory(face, questions, languages)
 {
+    toolBar.addToProjectMenu(backup.action());
     windowsignals::connectAll(face, actions, pages.pages());
 }
 
@@ -45,6 +47,7 @@ void WindowParts::retranslate()
 {
     pages.retranslate();
     actions.retranslate();
+    backup.retranslate();
     languages.retranslateUi();
     model->retranslatePhaseNames();
     toolBar.retranslate(); // behind the actions, whose texts it measures

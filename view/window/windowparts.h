@@ -1,5 +1,6 @@
 #pragma once
 
+#include "view/window/backup/backupsetting.h"
 #include "view/window/exports.h"
 #include "view/window/linkdisplay.h"
 #include "view/window/maintoolbar.h"
@@ -34,6 +35,7 @@ struct WindowParts
     Model *model;
     Questions questions;
     ViewActions actions;
+    BackupSetting backup;
     MultiLanguageUtils languages;
     MainToolBar toolBar;
     PageTable pages;

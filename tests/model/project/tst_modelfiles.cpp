@@ -1,6 +1,6 @@
 #include "model/model.h"
-#include "model/project/atomicfile.h"
 #include "model/project/filework.h"
+#include "model/storage/atomicfile.h"
 #include "tests/support/files.h"
 #include "tests/support/literals.h"
 #include "tests/support/logcapture.h"
@@ -267,7 +267,7 @@ private slots:
         const auto replace = [this] {
             int pauses = 0;
             const auto write = [](QIODevice &target) { return target.write("new") == 3; };
-            const bool replaced = replaceFile(path("big.csv"), write, [&pauses] { ++pauses; });
+            const bool replaced(replaceFile(path("big.csv"), write, [&pauses] { ++pauses; }));
             return replaced && contentOf(path("big.csv")) == "new" ? pauses : -1;
         };
         QCOMPARE(replace(), 0);

@@ -2,12 +2,15 @@
 #include "tests/support/literals.h"
 #include "tests/support/rows.h"
 #include "view/home/aboutdialog.h"
+#include "view/home/aboutinfo.h"
 
 #include <QClipboard>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QtTest>
+
+Q_DECLARE_METATYPE(JournalInfo)
 
 class TestAboutDialog : public QObject
 {
@@ -41,6 +44,26 @@ private slots:
         QVERIFY2(copied.contains(text) && copied.startsWith("Programm: Ventaro 8.0\n"_s), qPrintable(copied));
         QTest::keyClick(&dialog, Qt::Key_Escape);
         QVERIFY(!dialog.isVisible());
+    }
+
+    void stateOfTheJournal_data()
+    {
+        columns<JournalInfo, QString>("info", "text");
+        row("none", JournalInfo{}, "Sicherung: wird nicht geführt\n");
+        row("nothing to keep", JournalInfo{"/data"_s, {}, -1, -1},
+            "Sicherung: /data; leer, da nichts ungespeichert ist\n");
+        row("in use", JournalInfo{"/data"_s, "/proc/version"_s, 3, 25},
+            "Sicherung: /proc/version; 0 Bytes; Schreiben auf den Datenträger: zuletzt 3 ms, höchstens 25 ms\n");
+    }
+
+    void stateOfTheJournal()
+    {
+        QFETCH(JournalInfo, info);
+        QFETCH(QString, text);
+        Model model{QString()};
+        model.setJournalInfo(info);
+        const QString shown = aboutText(aboutFacts(model));
+        QVERIFY2(shown.endsWith(text), qPrintable(shown));
     }
 
     void everyLicenceCanBeRead()

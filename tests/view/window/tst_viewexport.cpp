@@ -44,20 +44,22 @@ private slots:
     void saves_data()
     {
         // written: empty: an error
-        columns<ViewSignal, QString, QString>("save", "chosen", "written");
+        columns<ViewSignal, QString, QString, QString>("save", "chosen", "written", "reason");
+        const QString noFolder = "/missing ist nicht da."_s;
         const auto terminal = ViewSignal(&View::saveTerminal);
-        row("terminal", terminal, "t", "t.txt");
-        row("terminal with suffix", terminal, "t.txt", "t.txt");
-        row("terminal, no such folder", terminal, "missing/t", QString());
+        row("terminal", terminal, "t", "t.txt", QString());
+        row("terminal with suffix", terminal, "t.txt", "t.txt", QString());
+        row("terminal, no such folder", terminal, "missing/t", QString(), noFolder);
         const auto csv = ViewSignal(&View::saveCSV);
-        row("data", csv, "d", "d.csv");
-        row("data, capitals", csv, "d.CSV", "d.CSV.csv");
-        row("data, no such folder", csv, "missing/d.csv", QString());
+        row("data", csv, "d", "d.csv", QString());
+        row("data, capitals", csv, "d.CSV", "d.CSV.csv", QString());
+        row("data, no such folder", csv, "missing/d.csv", QString(), noFolder);
         const auto oszi = ViewSignal(&View::saveOszi);
         for (const char *offered : {"o.png", "o.bmp", "o.jpg", "o.tif"})
-            row(offered, oszi, QString::fromLatin1(offered), QString::fromLatin1(offered));
-        for (const char *refused : {"o.xyz", "o", "missing/o.png"})
-            row(refused, oszi, QString::fromLatin1(refused), QString());
+            row(offered, oszi, QString::fromLatin1(offered), QString::fromLatin1(offered), QString());
+        for (const char *refused : {"o.xyz", "o"})
+            row(refused, oszi, QString::fromLatin1(refused), QString(), "gehört zu keinem Bildformat"_s);
+        row("picture, no such folder", oszi, "missing/o.png", QString(), noFolder);
     }
 
     void saves()
@@ -65,12 +67,15 @@ private slots:
         QFETCH(ViewSignal, save);
         QFETCH(QString, chosen);
         QFETCH(QString, written);
+        QFETCH(QString, reason);
         m_view->terminalSent("run=1\n"_s);
         m_view->terminalReceived("run=1\n"_s);
         m_prompts->saveNames = {path(chosen)};
         const LogCapture log;
         emit(m_view.get()->*save)();
         QCOMPARE(log.contains("Error saving "_s), written.isEmpty());
+        const QString status = m_view->statusBar()->currentMessage();
+        QVERIFY2(status.contains(written.isEmpty() ? reason : path(written)), qPrintable(status));
         QVERIFY(m_prompts->messages.empty());
         const QString dialog = m_prompts->fileDialogs.join(QLatin1Char('/'));
         const QByteArray text = contentOf(path(written));
@@ -80,7 +85,6 @@ private slots:
             QVERIFY(written.isEmpty() || text.endsWith("\n\n> run=1\n< run=1"));
             return;
         }
-        QCOMPARE(m_view->statusBar()->currentMessage().isEmpty(), !written.isEmpty());
         if (save == &View::saveCSV) {
             QCOMPARE(dialog, "Save data logger file|CSV - Comma separated values (*.csv)"_s);
             QVERIFY(written.isEmpty() || text.startsWith("Dateiname: "));

@@ -23,7 +23,7 @@ namespace {
 constexpr QSize kPanelSize(800, 600);
 constexpr int kButtonRowHeight = 84;
 constexpr QSize kIconSize(72, 72);
-constexpr int kTableHeight = 420; // pixels
+constexpr int kTableHeight = 450; // pixels
 constexpr QSize kFileDialogSize(1000, 660);
 constexpr int kFileColumns[] = {330, 120, 120, 190}; // name, size, type, date
 

@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QSignalBlocker>
 #include <QTextDocument>
 #include <QTextEdit>
 
@@ -65,4 +66,17 @@ void fieldundo::redo(QWidget *field)
         plain->redo();
     else if (auto *rich = qobject_cast<QTextEdit *>(field))
         rich->redo();
+}
+
+void fieldundo::forget(QWidget *field)
+{
+    if (QTextDocument *document = documentOf(field))
+        document->clearUndoRedoStacks();
+    QLineEdit *line = lineOf(field);
+    if (!line || (!line->isUndoAvailable() && !line->isRedoAvailable()))
+        return;
+    const QSignalBlocker blocker(line);
+    const int cursor = line->cursorPosition();
+    line->setText(line->text()); // a line knows no other way
+    line->setCursorPosition(cursor);
 }

@@ -11,5 +11,7 @@ namespace fieldundo {
 /// Nothing happens unless the field can.
 void undo(QWidget *field);
 void redo(QWidget *field);
+/// What was typed so far can no longer be undone in the field, nor done again.
+void forget(QWidget *field);
 
 } // namespace fieldundo

@@ -79,6 +79,11 @@ void UndoActions::refresh()
     m_redo->setStatusTip(tr("Macht den zuletzt zurückgenommenen Schritt noch einmal"));
 }
 
+void UndoActions::forgetTyping() const
+{
+    fieldundo::forget(QApplication::focusWidget());
+}
+
 /// Only the field that has the focus: a filter on the application would see every event.
 void UndoActions::watchFocus(QWidget *before, QWidget *now)
 {

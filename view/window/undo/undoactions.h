@@ -10,7 +10,8 @@ class QMainWindow;
 class QMenu;
 
 /// The actions that undo and redo: at the top of the window's menu, and with their keys Ctrl+Z, Ctrl+Shift+Z and Ctrl+Y
-/// everywhere in the window. A text field that has the focus and something of its own to undo gets the keys first.
+/// everywhere in the window. A text field that has the focus and something of its own to undo gets the keys first, as
+/// long as nothing else has happened since it was typed.
 class UndoActions : public QObject
 {
     Q_OBJECT
@@ -25,6 +26,8 @@ public:
 
     /// Names the steps that are next.
     void refresh();
+    /// Something else than typing has happened: from now on the keys mean that, also in the field that has the focus.
+    void forgetTyping() const;
 
 signals:
     void undoTriggered();
