@@ -237,13 +237,13 @@ void Controller::onTabBlackBox_fetchBlackBoxDataClicked()
 void Controller::onTabBlackBox_openLocalFolderClicked()
 {
     qCDebug(lcController) << Q_FUNC_INFO;
-    d->logger.fetch.openLocalFolder();
+    d->logger.local.open();
 }
 
 QStringList Controller::copyLocalDirToTmpDir(const QString &localDirectory, const QDir &temporaryDirectory)
 {
     qCDebug(lcController) << Q_FUNC_INFO;
-    return d->logger.fetch.copyLocal(localDirectory, temporaryDirectory);
+    return d->logger.local.copy(localDirectory, temporaryDirectory);
 }
 
 // --- The link and its messages ---

@@ -38,7 +38,7 @@ ControllerParts::ControllerParts(Model &model, View &view, const ControllerOptio
             RecordingEnd({view, model, occupancy}, connector, recorder, options.stopWait), access.lock,
             access.questions)
     , pictures({view, model, occupancy}, edits)
-    , logger({view, model, occupancy}, link, connector, demo, progress, lines, edits, recorder,
+    , logger({{view, model, occupancy}, link, connector, demo, progress, lines, edits, recorder},
              options.temporaryDirectory)
     , undo({view, model, occupancy}, edits, recorder)
     , protection({view, model, occupancy}, options.journal, recorder, {questions, progress, lines, saving})
@@ -76,6 +76,7 @@ void ControllerParts::setUpTransfers(const ControllerOptions &options)
 {
     connector.scp().setOptions(
         {options.scpToolFile, theme::deviceUser, theme::devicePassword, options.deviceAddress, options.scpTimeouts});
+    logger.dialogs.attach(connector.scp());
 }
 
 void ControllerParts::handleMessages()
@@ -104,6 +105,8 @@ void ControllerParts::connectLink(View &view)
     QObject::connect(&link, &BoxLink::closing, &descriptions, &BoxDescriptions::stopWaiting);
     QObject::connect(&link, &BoxLink::closing, &logger.list, &LoggerList::reset);
     QObject::connect(&link, &BoxLink::left, &demo, &DemoLink::stop);
+    QObject::connect(&link, &BoxLink::left, &logger.list, &LoggerList::forget);
+    QObject::connect(&link, &BoxLink::established, &logger.list, [this] { logger.list.show(connector.hostAddress()); });
     QObject::connect(&link, &BoxLink::left, &link, [this] { offer.withdraw(); });
     QObject::connect(&link, &BoxLink::demoLost, &demo, [this] { demo.onFailed(DemoBox::End::Ended); });
     QObject::connect(&demoBox, &DemoBox::listening, &demo, &DemoLink::onListening);
@@ -155,9 +158,9 @@ void ControllerParts::connectView(View &view)
     QObject::connect(&view, &View::connectToAddress, &link, &BoxLink::connectToAddress);
     QObject::connect(&view, &View::terminalSend, &link, &BoxLink::sendTerminalLine);
     QObject::connect(&view, &View::about, &view, &View::showAbout);
-    // The progress shown is that of an attempt to connect or of a fetch; the other one ignores this.
+    // The progress shown is that of an attempt to connect, of a fetch or of a copy; the others ignore this.
     QObject::connect(&view, &View::progressCancelled, &link, &BoxLink::giveUp);
-    QObject::connect(&view, &View::progressCancelled, &link, [this] { logger.fetch.cancel(); });
+    QObject::connect(&view, &View::progressCancelled, &link, [this] { logger.cancel(); });
 }
 
 void ControllerParts::connectTabs(View &view)

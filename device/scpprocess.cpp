@@ -50,21 +50,24 @@ void prepare(QProcess &process, const ScpCommand &command)
 
 } // namespace
 
-ScpResult ChildScpProcess::run(const ScpCommand &command, const ScpTimeouts &timeouts,
-                               const std::function<void()> &started)
+ScpResult ChildScpProcess::run(const ScpCommand &command, const ScpTimeouts &timeouts, const ScpWatch &watch)
 {
     m_cancelled = false;
     QProcess process;
     prepare(process, command);
     Excerpt output;
     Excerpt errors;
-    QObject::connect(&process, &QProcess::readyReadStandardOutput, &process,
-                     [&] { output.append(process.readAllStandardOutput()); });
+    QObject::connect(&process, &QProcess::readyReadStandardOutput, &process, [&] {
+        const QByteArray bytes = process.readAllStandardOutput();
+        output.append(bytes);
+        if (watch.output)
+            watch.output(bytes);
+    });
     QObject::connect(&process, &QProcess::readyReadStandardError, &process,
                      [&] { errors.append(process.readAllStandardError()); });
     process.start(QIODevice::ReadWrite);
     ScpResult result;
-    result.end = runStarted(process, timeouts, started);
+    result.end = runStarted(process, timeouts, watch.started);
     result.exitCode = process.exitCode();
     result.errorText = process.errorString();
     output.append(process.readAllStandardOutput());
@@ -85,7 +88,8 @@ ScpResult::End ChildScpProcess::runStarted(QProcess &process, const ScpTimeouts 
         return ScpResult::End::NotStarted;
     }
     if (wait == Wait::Done) {
-        started();
+        if (started)
+            started();
         wait = waitWhile(
             process, [&process] { return process.state() != QProcess::NotRunning; }, timeouts.finish);
     }

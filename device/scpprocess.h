@@ -18,16 +18,22 @@ struct ScpTimeouts
     int terminate = 1000; ///< between the request to end and the end by force
 };
 
+/// Who wants to know how a run is going; unset parts are left out.
+struct ScpWatch
+{
+    std::function<void()> started;                       ///< the tool runs
+    std::function<void(const QByteArray &bytes)> output; ///< on its standard output
+};
+
 /// Runs the SCP tool: as a child process in the program, as a replacement in tests.
 class ScpProcess
 {
 public:
     virtual ~ScpProcess() = default;
 
-    /// Returns when the run is over; no process is left then. Processes events meanwhile. `started` is called once
-    /// the tool runs.
+    /// Returns when the run is over; no process is left then. Processes events meanwhile.
     [[nodiscard]] virtual ScpResult run(const ScpCommand &command, const ScpTimeouts &timeouts,
-                                        const std::function<void()> &started) = 0;
+                                        const ScpWatch &watch) = 0;
     /// Ends a run that is under way; it returns soon after this call.
     virtual void cancel() = 0;
 };
@@ -40,8 +46,7 @@ public:
     /// How many bytes of standard output, and of standard error, are kept.
     static constexpr int kMaxOutput = 16 * 1024;
 
-    [[nodiscard]] ScpResult run(const ScpCommand &command, const ScpTimeouts &timeouts,
-                                const std::function<void()> &started) override;
+    [[nodiscard]] ScpResult run(const ScpCommand &command, const ScpTimeouts &timeouts, const ScpWatch &watch) override;
     void cancel() override;
 
 private:

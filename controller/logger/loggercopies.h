@@ -1,8 +1,13 @@
 #pragma once
 
+#include "model/blackbox/loggerfile.h"
+
 #include <QDir>
 #include <QHash>
 #include <QStringList>
+
+#include <functional>
+#include <optional>
 
 class QFileInfo;
 
@@ -13,13 +18,28 @@ class QFileInfo;
 class LoggerCopies
 {
 public:
+    struct Result
+    {
+        QVector<LoggerFile> copies; ///< in the order of the originals' names
+        QStringList failures;       ///< "name: reason" of those that could not be copied
+    };
+    /// Called between two files and often while one is read; false ends the copying.
+    using GoesOn = std::function<bool(int done, int total)>;
+
     /// Copies all logger files of `source` into `target`, over those of the same name unless these are copies from
-    /// another folder that contain something else. The copies, absolute, in the order of the originals' names; what
-    /// could not be copied is in the log only.
-    QStringList copyAll(const QDir &source, const QDir &target);
+    /// another folder that contain something else.
+    [[nodiscard]] Result copyAll(const QDir &source, const QDir &target, const GoesOn &goesOn);
+    /// The original of a copy, absolute; empty for another file.
+    [[nodiscard]] QString originOf(const QString &copy) const { return m_known.value(copy).origin; }
 
 private:
-    [[nodiscard]] QString placeFor(const QFileInfo &file, const QDir &folder);
+    struct Known
+    {
+        QString origin;
+        QByteArray fingerprint;
+    };
 
-    QHash<QString, QString> m_origins; // by the absolute name of the copy
+    [[nodiscard]] QString placeFor(const QFileInfo &file, const QByteArray &fingerprint, const QDir &folder) const;
+
+    QHash<QString, Known> m_known; // by the absolute name of the copy
 };

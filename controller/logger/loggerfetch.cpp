@@ -1,49 +1,30 @@
 #include "controller/logger/loggerfetch.h"
 
 #include "controller/link/demolink.h"
+#include "controller/logger/boxfolders.h"
+#include "controller/logger/loggercopies.h"
 #include "controller/logger/transferdialogs.h"
+#include "controller/logger/transferscope.h"
 #include "controller/logging.h"
-#include "controller/occupancy.h"
 #include "device/mesotraconnector.h"
 #include "device/scptransfer.h"
+#include "model/blackbox/loggerfile.h"
 #include "view/blackbox/tabblackbox.h"
 #include "view/window/view.h"
 
-namespace {
+#include <QLocale>
 
-/// Shows for its lifetime that a fetch is under way.
-class FetchScope
-{
-public:
-    FetchScope(const Desk &desk, const QString &text)
-        : m_task(desk.occupancy, Task::Fetch)
-        , m_view(desk.view)
-    {
-        m_view.showProgress(text);
-    }
-    ~FetchScope()
-    {
-        m_view.tabBlackBox()->setTransferProgress(0, 0);
-        m_view.hideProgress();
-    }
-    Q_DISABLE_COPY_MOVE(FetchScope)
-
-private:
-    TaskScope m_task;
-    View &m_view;
-};
-
-} // namespace
-
-LoggerFetch::LoggerFetch(const Desk &desk, MesotraConnector &connector, const DemoLink &demo,
-                         const QString &temporaryDirectory)
+LoggerFetch::LoggerFetch(const Desk &desk, MesotraConnector &connector, const DemoLink &demo, TransferDialogs &dialogs,
+                         const BoxFolders &folders)
     : m_desk(desk)
     , m_connector(connector)
     , m_demo(demo)
-    , m_dialogs(desk)
-    , m_temporaryDirectory(temporaryDirectory)
+    , m_dialogs(dialogs)
+    , m_folders(folders)
+    , m_day(connector.scp(), folders)
 {
-    m_dialogs.attach(m_connector.scp());
+    QObject::connect(&m_day, &DayFetch::progress, &m_day,
+                     [this](int arrived, int total) { showProgress(arrived, total); });
 }
 
 void LoggerFetch::fetchSelected()
@@ -51,90 +32,92 @@ void LoggerFetch::fetchSelected()
     if (m_desk.occupancy.refuseWhileOccupied() || m_desk.occupancy.refuseWhileConnecting() || m_demo.refuseTransfer())
         return;
     const QStringList dates = m_desk.view.tabBlackBox()->selectedDates();
-    // All or none: a fetch of the others only would look complete.
+    if (!areDays(dates) || !m_dialogs.prepare(m_folders))
+        return;
+    qCDebug(lcController) << "dirListToFetch:" << dates;
+    fetch(dates);
+}
+
+/// All or none: a fetch of the others only would look complete.
+bool LoggerFetch::areDays(const QStringList &dates)
+{
     for (const QString &date : dates) {
         if (!blackBoxDirectory(date)) {
             m_connector.scp().refuseDate(date);
-            return;
+            return false;
         }
     }
-    const std::optional<QDir> target = temporaryDirectory();
-    if (!target)
-        return;
-    qCDebug(lcController) << "dirListToFetch:" << dates;
-    offer(fetch(dates, *target), *target);
+    return true;
 }
 
-/// Created when missing; nothing, and a message, if that is not possible.
-std::optional<QDir> LoggerFetch::temporaryDirectory()
+void LoggerFetch::fetch(const QStringList &dates)
 {
-    const QDir folder(QDir().absoluteFilePath(m_temporaryDirectory));
-    if (QDir().mkpath(folder.path()))
-        return folder;
-    m_dialogs.show({tr("Problem"), tr("Der Ordner %1 kann nicht angelegt werden.").arg(folder.path()), false});
-    return std::nullopt;
-}
-
-/// The dates whose data are here afterwards.
-QStringList LoggerFetch::fetch(const QStringList &dates, const QDir &target)
-{
-    QStringList fetched;
-    const FetchScope scope(m_desk, tr("Dateien übertragen..."));
-    m_cancelled = false;
-    for (int i = 0; i < dates.size() && !m_cancelled; ++i) {
+    const TransferScope scope(m_desk, tr("Dateien übertragen..."));
+    m_isCancelled = false;
+    m_box = m_connector.scp().usedAddress(m_connector.hostAddress());
+    m_dialogs.beginSeries();
+    int fetched = 0;
+    for (int i = 0; i < dates.size() && !m_isCancelled && !m_dialogs.isGivenUp(); ++i) {
         m_desk.view.tabBlackBox()->setTransferProgress(i, dates.size());
-        if (!fetchDay(dates.at(i), target, fetched))
+        m_dialogs.beginTransfer(dates.at(i), dates.size() - i - 1);
+        const ScpOutcome outcome = fetchDay(dates.at(i));
+        fetched += outcome == ScpOutcome::Done ? 1 : 0;
+        // Anything else would fail in the same way for the next day.
+        if (outcome != ScpOutcome::Done && outcome != ScpOutcome::Failed && outcome != ScpOutcome::Crashed)
             break;
     }
-    m_desk.view.showStatus(tr("%1 von %2 Tagen übertragen.").arg(fetched.size()).arg(dates.size()));
-    return fetched;
+    m_dialogs.endSeries();
+    m_desk.view.showStatus(tr("%1 von %2 Tagen übertragen.").arg(fetched).arg(dates.size()));
 }
 
-/// False if fetching the next day would fail in the same way.
-bool LoggerFetch::fetchDay(const QString &date, const QDir &target, QStringList &fetched)
+ScpOutcome LoggerFetch::fetchDay(const QString &date)
 {
     const QString directory = blackBoxDirectory(date).value_or(QString());
-    (void)target.mkpath(directory); // the tool reports what it cannot write
-    const ScpOutcome outcome = m_connector.scp().fetch(m_connector.hostAddress(), directory, target.path());
-    if (outcome == ScpOutcome::Done)
-        fetched.append(date);
-    return outcome == ScpOutcome::Done || outcome == ScpOutcome::Failed || outcome == ScpOutcome::Crashed;
+    const ScpOutcome outcome = m_day.run(m_box, directory);
+    if (m_day.hasOtherBox())
+        forgetOtherBox();
+    if (!m_day.isMoved())
+        m_dialogs.show(
+            {tr("Problem"), tr("Die Dateien vom %1 konnten nicht in den Ordner der Box verschoben werden:\n%2")
+                                .arg(date, QDir::toNativeSeparators(m_folders.placeOf(m_box, directory)))});
+    offer(date, outcome == ScpOutcome::Done);
+    return outcome;
 }
 
-void LoggerFetch::offer(const QStringList &dates, const QDir &target)
+/// What is shown of the box that had this address before is no longer where it was.
+void LoggerFetch::forgetOtherBox()
 {
-    for (const QString &date : dates) {
-        const QStringList files = loggerFilesIn(target.filePath(blackBoxDirectory(date).value_or(QString())));
-        for (const QString &file : files)
-            qCDebug(lcController).noquote() << "New file:" << file;
-        m_desk.view.tabBlackBox()->addFetchedFiles(date, files);
-    }
+    TabBlackBox *tab = m_desk.view.tabBlackBox();
+    const QStringList entries = tab->list(); // was sent by the box that is there now
+    tab->forgetBox();
+    tab->setList(entries);
+}
+
+/// What has arrived can be imported, also if it is not all.
+void LoggerFetch::offer(const QString &date, bool isComplete)
+{
+    const QDir day(m_folders.placeOf(m_box, blackBoxDirectory(date).value_or(QString())));
+    const QStringList files = loggerFilesIn(day);
+    if (files.isEmpty() && !isComplete)
+        return;
+    for (const QString &file : files)
+        qCDebug(lcController).noquote() << "New file:" << file;
+    ReadingTurns turns;
+    m_desk.view.tabBlackBox()->addFetchedFiles(date, loggerFiles(files, turns.counter()), isComplete);
+}
+
+void LoggerFetch::showProgress(int arrived, int total)
+{
+    const QLocale locale;
+    const QString number = locale.toString(arrived);
+    m_desk.view.tabBlackBox()->setTransferDetail(total > 0 ? tr("%1 von %2 Dateien").arg(number, locale.toString(total))
+                                                           : tr("%1 Dateien").arg(number));
 }
 
 void LoggerFetch::cancel()
 {
     if (!m_desk.occupancy.isUnderWay(Task::Fetch))
         return;
-    m_cancelled = true; // or the loop would go on with the next day
+    m_isCancelled = true; // or the loop would go on with the next day
     m_connector.scp().cancel();
-}
-
-void LoggerFetch::openLocalFolder()
-{
-    if (m_desk.occupancy.refuseWhileOccupied())
-        return;
-    const QString folder =
-        m_desk.occupancy.ask([this] { return m_desk.view.askFolder(tr("Ordner mit BlackBox-Dateien auswählen")); });
-    const std::optional<QDir> target = folder.isEmpty() ? std::nullopt : temporaryDirectory();
-    if (!target)
-        return;
-    const QStringList files = copyLocal(folder, *target);
-    m_desk.view.tabBlackBox()->addLocalFiles(files);
-    if (files.isEmpty())
-        m_desk.view.showStatus(tr("Keine BlackBox-Dateien (*.bb) in %1").arg(QDir::toNativeSeparators(folder)));
-}
-
-QStringList LoggerFetch::copyLocal(const QString &folder, const QDir &target)
-{
-    return m_copies.copyAll(QDir(folder), target);
 }

@@ -1,6 +1,9 @@
 #include "controller/logger/loggerimport.h"
 
+#include "controller/logger/importorigins.h"
+#include "controller/logger/importpreview.h"
 #include "controller/logger/importsummary.h"
+#include "controller/logger/transferscope.h"
 #include "controller/occupancy.h"
 #include "controller/project/fileprogress.h"
 #include "controller/recording/linehold.h"
@@ -13,39 +16,49 @@
 #include "view/window/prompts/questions.h"
 #include "view/window/view.h"
 
-#include <algorithm>
-
 LoggerImport::LoggerImport(const Desk &desk, FileProgress &progress, LineQueue &lines, ProjectEdits &edits,
-                           Recorder &recorder)
+                           Recorder &recorder, const BoxFolders &folders, const LocalFolder &local)
     : m_desk(desk)
     , m_progress(progress)
     , m_lines(lines)
     , m_edits(edits)
     , m_recorder(recorder)
+    , m_folders(folders)
+    , m_local(local)
 {}
 
 void LoggerImport::run(const QStringList &files)
 {
     if (m_desk.occupancy.refuseWhileOccupied() || refuseWhileRecording())
         return;
-    const QStringList wanted = withoutUnwantedRepeats(files);
-    // The answer takes its time; a recording may have begun.
-    if (wanted.isEmpty() || refuseWhileRecording())
+    const ImportOrigins origins = examine(files);
+    const QStringList wanted = withoutUnwantedRepeats(files, origins);
+    const Sensors sensors = wanted.isEmpty() ? Sensors::Cancelled : askAboutSensors(wanted);
+    // The answers take their time; a recording may have begun.
+    if (sensors == Sensors::Cancelled || refuseWhileRecording())
         return;
-    const ImportSummary summary = importAsOneStep(wanted);
+    const ImportSummary summary = importAsOneStep(wanted, origins, sensors);
     m_edits.applyKept(); // made while files were being read
     show(summary);
 }
 
-ImportSummary LoggerImport::importAsOneStep(const QStringList &files)
+/// Reads all files once, as a whole, which is what tells them apart.
+ImportOrigins LoggerImport::examine(const QStringList &files)
+{
+    const TaskScope task(m_desk.occupancy, Task::Import);
+    ReadingTurns turns;
+    return ImportOrigins(m_folders, m_local, files, turns.counter());
+}
+
+ImportSummary LoggerImport::importAsOneStep(const QStringList &files, const ImportOrigins &origins, Sensors sensors)
 {
     const EditScope edit(&m_desk.model, [count = files.size()] {
         return count == 1 ? tr("Import einer Datei") : tr("Import von %1 Dateien").arg(count);
     });
     const SensorDescription before = m_desk.model.sensorDescription();
-    ImportSummary summary = readFiles(files);
+    ImportSummary summary = readFiles(files, origins);
     if (summary.numUnreadable() < files.size())
-        finish(before);
+        finish(before, sensors);
     return summary;
 }
 
@@ -63,12 +76,9 @@ bool LoggerImport::refuseWhileRecording()
 }
 
 /// Files that the project has already are left out unless the user wants them again. None if the question is closed.
-QStringList LoggerImport::withoutUnwantedRepeats(const QStringList &files)
+QStringList LoggerImport::withoutUnwantedRepeats(const QStringList &files, const ImportOrigins &origins)
 {
-    const QSet<QByteArray> imported = m_desk.model.importedFiles();
-    QStringList fresh;
-    std::copy_if(files.begin(), files.end(), std::back_inserter(fresh),
-                 [&imported](const QString &file) { return !imported.contains(blackBoxFingerprint(file)); });
+    const QStringList fresh = origins.filesWithout(m_desk.model.importedFiles());
     const int repeats = files.size() - fresh.size();
     if (repeats == 0)
         return files;
@@ -87,7 +97,37 @@ QStringList LoggerImport::withoutUnwantedRepeats(const QStringList &files)
     return answer == QMessageBox::Yes ? files : fresh;
 }
 
-ImportSummary LoggerImport::readFiles(const QStringList &files)
+/// Asked only if the project knows something that the files say differently.
+LoggerImport::Sensors LoggerImport::askAboutSensors(const QStringList &files)
+{
+    ImportPreview preview(m_desk.model.sensorDescription());
+    {
+        const TaskScope task(m_desk.occupancy, Task::Import);
+        ReadingTurns turns;
+        for (const QString &file : files) {
+            preview.addFile(file);
+            turns.look();
+        }
+    }
+    const QStringList changes = preview.changes();
+    if (changes.isEmpty())
+        return Sensors::OfFiles;
+    Choice choice;
+    choice.title = tr("BlackBox");
+    choice.text = tr("Die Dateien beschreiben die Sensoren anders als das Projekt:") + QLatin1String("\n\n")
+                  + changes.join(QLatin1Char('\n'));
+    if (preview.isAmbiguous())
+        choice.text += QLatin1String("\n\n") + tr("Die Dateien stimmen darin nicht überein; die letzte gilt.");
+    choice.hint = tr("Die Messwerte werden in beiden Fällen importiert.");
+    choice.answers = QStringList{tr("Angaben der Dateien"), tr("Angaben des Projekts")};
+    choice.safest = 1;
+    const int answer = m_desk.occupancy.ask([&] { return m_desk.view.questions().choose(choice); });
+    if (answer == Choice::kClosed)
+        return Sensors::Cancelled;
+    return answer == 0 ? Sensors::OfFiles : Sensors::OfProject;
+}
+
+ImportSummary LoggerImport::readFiles(const QStringList &files, const ImportOrigins &origins)
 {
     ImportSummary summary;
     TabBlackBox *tab = m_desk.view.tabBlackBox();
@@ -96,13 +136,29 @@ ImportSummary LoggerImport::readFiles(const QStringList &files)
     const ProgressScope progress(m_progress, tr("Importieren..."), files.size());
     const LineHold hold(m_lines);
     const TaskScope task(m_desk.occupancy, Task::Import);
+    QHash<int, ShotOrigin> imported; // by shot
     for (int done = 0; done < files.size(); ++done) {
         m_progress.setDone(done);
         tab->setTransferProgress(done, files.size());
+        const int shot = m_desk.model.numChannels(0);
         readFile(files.at(done), summary);
+        if (m_desk.model.numChannels(0) > shot)
+            imported.insert(shot, origins.originOf(files.at(done)));
     }
+    noteOrigins(imported);
     tab->setTransferProgress(0, 0);
     return summary;
+}
+
+/// All at once, as each change of these settings is announced.
+void LoggerImport::noteOrigins(const QHash<int, ShotOrigin> &origins)
+{
+    if (origins.isEmpty())
+        return;
+    ProjectMeta meta = m_desk.model.projectMeta();
+    for (auto shot = origins.begin(); shot != origins.end(); ++shot)
+        meta.setOrigin(shot.key(), shot.value());
+    m_desk.model.setProjectMeta(meta);
 }
 
 void LoggerImport::readFile(const QString &file, ImportSummary &summary)
@@ -114,8 +170,12 @@ void LoggerImport::readFile(const QString &file, ImportSummary &summary)
         summary.addUnreadable(file);
 }
 
-void LoggerImport::finish(const SensorDescription &before)
+void LoggerImport::finish(const SensorDescription &before, Sensors sensors)
 {
+    if (sensors == Sensors::OfProject) {
+        m_desk.model.setSensorDescription(before);
+        m_desk.model.emitProjectChanged();
+    }
     // The answer to a single-value request belongs to no imported measurement, nor to one that is not the newest.
     m_recorder.forgetSeries();
     m_edits.markModified();

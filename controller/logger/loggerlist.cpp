@@ -71,6 +71,19 @@ void LoggerList::reset()
     setButtonEnabled(true);
 }
 
+void LoggerList::show(const QString &box)
+{
+    if (!m_box.isEmpty() && m_box != box)
+        m_desk.view.tabBlackBox()->forgetBox();
+    m_box = box;
+}
+
+void LoggerList::forget()
+{
+    m_box.clear();
+    m_desk.view.tabBlackBox()->forgetBox();
+}
+
 void LoggerList::setButtonEnabled(bool enabled)
 {
     m_desk.view.tabBlackBox()->setListButtonEnabled(enabled);

@@ -29,6 +29,12 @@ public:
     /// The link has ended: drops an incomplete block.
     void reset();
 
+    // --- Which box the page is about ---
+    /// Empties the page of another box than that of this address.
+    void show(const QString &box);
+    /// The box was left: empties the page.
+    void forget();
+
 private:
     void setButtonEnabled(bool enabled);
 
@@ -36,5 +42,6 @@ private:
     BoxLink &m_link;
     QTimer m_timer;
     QStringList m_block;
+    QString m_box; // its address; empty if it was left
     bool m_active = false;
 };

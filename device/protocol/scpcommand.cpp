@@ -91,11 +91,16 @@ bool isBlackBoxDirectory(const QString &name)
            && areAsciiDigits(name.mid(kDirectoryPrefix.size()));
 }
 
-bool isUsableAccount(const ScpAccount &account)
+bool isUsableLogin(const ScpAccount &account)
 {
     // Both separate the user from what follows in the tool's own notation.
     const bool ambiguous = account.user.contains(QLatin1Char(':')) || account.user.contains(QLatin1Char('@'));
-    return isWord(account.user) && !ambiguous && isWord(account.password) && isValidHostAddress(account.address);
+    return isWord(account.user) && !ambiguous && isWord(account.password);
+}
+
+bool isUsableAccount(const ScpAccount &account)
+{
+    return isUsableLogin(account) && isValidHostAddress(account.address);
 }
 
 std::optional<ScpSource> scpSource(const QString &fileName)

@@ -47,6 +47,8 @@ struct ScpSource
 /// True for "dir-" and eight ASCII digits.
 [[nodiscard]] bool isBlackBoxDirectory(const QString &name);
 
+/// True if user and password are one word each of the tool's language.
+[[nodiscard]] bool isUsableLogin(const ScpAccount &account);
 /// True if every part is one word of the tool's language and the address is a host.
 [[nodiscard]] bool isUsableAccount(const ScpAccount &account);
 /// How to name a file so that it stays one word: if only the path of its folder contains blanks, the name alone, for

@@ -1,6 +1,7 @@
 #include "device/protocol/scpresult.h"
 
 #include "device/protocol/scpcommand.h"
+#include "device/protocol/scpoutput.h"
 
 namespace {
 
@@ -15,8 +16,13 @@ ScpMessage notStarted(const QString &commandLine, const QString &errorText)
 ScpMessage failed(const ScpResult &result)
 {
     const QString output = result.standardOutput + QLatin1String("\n*******\n") + result.standardError;
-    return {ScpTexts::tr("SCP Problem"), ScpTexts::tr("SCP was NOT successful!!\n\nPlease check output:") + output,
-            true};
+    const QString text = ScpTexts::tr("SCP was NOT successful!!\n\nPlease check output:") + output;
+    if (!isRefusedKey(result.standardError))
+        return {ScpTexts::tr("SCP Problem"), text, true, true};
+    const QString next = ScpTexts::tr("Unter dieser Adresse antwortet ein anderes Gerät als bisher, und so ist es "
+                                      "eingestellt: Ein solches wird abgewiesen (VENTARO_SCP_REFUSE_NEW_KEY). Ist es "
+                                      "die richtige Box, bitte die Einstellung für eine Übertragung weglassen.");
+    return {ScpTexts::tr("SCP Problem"), text + QLatin1String("\n\n") + next, true, true};
 }
 
 } // namespace
@@ -48,11 +54,26 @@ std::optional<ScpMessage> scpMessage(const ScpResult &result, const ScpCommand &
     case ScpOutcome::Failed:
         return failed(result);
     case ScpOutcome::Crashed:
-        return ScpMessage{ScpTexts::tr("Problem"), ScpTexts::tr("The tool stopped!"), false};
+        return ScpMessage{ScpTexts::tr("Problem"), ScpTexts::tr("The tool stopped!"), false, true};
     case ScpOutcome::Done:
     case ScpOutcome::Refused:
     case ScpOutcome::Cancelled:
         break;
     }
     return std::nullopt;
+}
+
+std::optional<ScpMessage> newKeyMessage(const ScpResult &result)
+{
+    const std::optional<ScpChangedKey> key = changedKeyOf(result.standardOutput);
+    if (!key)
+        return std::nullopt;
+    const QString text =
+        ScpTexts::tr("Das Gerät unter %1 weist sich mit einem anderen Schlüssel aus als bisher.\n\n"
+                     "Das ist so, wenn dort jetzt eine andere Box angeschlossen ist oder ihr System neu "
+                     "aufgespielt wurde. Trifft keines von beiden zu, gibt sich womöglich ein fremdes "
+                     "Gerät als Box aus und kennt nun das Kennwort: dann bitte das Netz prüfen.\n\n"
+                     "bisher: %2\njetzt: %3")
+            .arg(key->host, key->before, key->now);
+    return ScpMessage{ScpTexts::tr("Andere Box?"), text, true};
 }

@@ -39,6 +39,7 @@ struct ScpMessage
     QString title;
     QString text;
     bool isWarning = false;
+    bool isOfThisTransfer = false; ///< the next one may succeed
 };
 
 /// How a transfer ended for its caller; everything but Done and Cancelled has been reported to the user.
@@ -47,3 +48,5 @@ enum class ScpOutcome { Done, Refused, NotStarted, NotFinished, Failed, Crashed,
 [[nodiscard]] ScpOutcome scpOutcome(const ScpResult &result);
 /// What the user is told; nothing after a success or if the user ended the run.
 [[nodiscard]] std::optional<ScpMessage> scpMessage(const ScpResult &result, const ScpCommand &command);
+/// What the user is told if the tool has found another key at the box than before.
+[[nodiscard]] std::optional<ScpMessage> newKeyMessage(const ScpResult &result);

@@ -39,5 +39,7 @@ struct BlackBoxDocument
                                             const std::function<void(qint64 bytes)> &progress,
                                             qint64 maxBytes = std::numeric_limits<qint64>::max());
 
-/// Equal for copies of a logger file, different for any two shots. Empty if it is no regular file or unreadable.
-[[nodiscard]] QByteArray blackBoxFingerprint(const QString &fileName);
+/// Equal for copies of a logger file, different for any two that differ in a byte. Empty if it is no regular file or
+/// unreadable. `progress` is called with the number of bytes read since its last call, often.
+[[nodiscard]] QByteArray blackBoxFingerprint(const QString &fileName,
+                                             const std::function<void(qint64 bytes)> &progress = {});

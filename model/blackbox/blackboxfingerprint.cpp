@@ -6,16 +6,20 @@
 
 namespace {
 
-constexpr qint64 kHead = 4096; // bytes; time stamp and first samples tell two shots apart
+constexpr qint64 kChunk = 256 * 1024; // bytes, for which nobody has to wait
 
 } // namespace
 
-QByteArray blackBoxFingerprint(const QString &fileName)
+QByteArray blackBoxFingerprint(const QString &fileName, const std::function<void(qint64 bytes)> &progress)
 {
     QFile file(fileName);
     if (!QFileInfo(fileName).isFile() || !file.open(QIODevice::ReadOnly))
         return {};
     QCryptographicHash hash(QCryptographicHash::Sha1);
-    hash.addData(file.read(kHead));
-    return hash.result() + QByteArray::number(file.size());
+    for (QByteArray chunk = file.read(kChunk); !chunk.isEmpty(); chunk = file.read(kChunk)) {
+        hash.addData(chunk);
+        if (progress)
+            progress(chunk.size());
+    }
+    return file.error() == QFileDevice::NoError ? hash.result() : QByteArray();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/project/shotorigin.h"
+
 #include <QDateTime>
 #include <QJsonObject>
 #include <QString>
@@ -15,6 +17,7 @@ struct ShotNotes
     int period = 0;      ///< ms per sample; 0 if unknown
     int missing = 0;     ///< values of each sensor that never came
     QJsonObject others;  ///< what another version of the program keeps
+    ShotOrigin origin;
 };
 
 [[nodiscard]] bool operator==(const ShotNotes &a, const ShotNotes &b);

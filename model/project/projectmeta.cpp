@@ -14,6 +14,7 @@ namespace {
 
 constexpr int kMetaVersion = 1;
 constexpr int kMostQuantities = 1000; // of one sensor
+constexpr int kLongestOrigin = 5000;  // characters of each of its texts
 constexpr int kMostImported = 100000;
 constexpr int kLongestPeriod = 3600000; // ms
 constexpr int kLongestFingerprint = 100;
@@ -32,6 +33,10 @@ const QString kUpperKey = QStringLiteral("upperLimit");
 const QString kCheckKey = QStringLiteral("check");
 const QString kLabelKey = QStringLiteral("label");
 const QString kTimeKey = QStringLiteral("time");
+const QString kOriginKey = QStringLiteral("origin");
+const QString kBoxKey = QStringLiteral("box");
+const QString kFileKey = QStringLiteral("file");
+const QString kHashKey = QStringLiteral("sha1");
 // Later additions. A program that does not know them reads all the rest, so the version stays the same.
 const QString kPeriodKey = QStringLiteral("period");
 const QString kMissingKey = QStringLiteral("missing");
@@ -55,6 +60,20 @@ QJsonObject toJson(const QuantityMeta &quantity)
     if (quantity.upperLimit)
         object.insert(kUpperKey, *quantity.upperLimit);
     return object;
+}
+
+QJsonObject toJson(const ShotOrigin &origin)
+{
+    QJsonObject object{{kFileKey, origin.file}, {kHashKey, QString::fromLatin1(origin.hash.toHex())}};
+    if (!origin.box.isEmpty())
+        object.insert(kBoxKey, origin.box);
+    return object;
+}
+
+ShotOrigin toOrigin(const QJsonObject &object)
+{
+    const auto text = [&object](const QString &key) { return object.value(key).toString().left(kLongestOrigin); };
+    return {text(kBoxKey), text(kFileKey), QByteArray::fromHex(text(kHashKey).toLatin1())};
 }
 
 QJsonObject toJson(const SensorMeta &sensor, const SensorUnit &unit)
@@ -97,6 +116,9 @@ QJsonObject shotToJson(const ProjectMeta &meta, std::size_t shot, quint32 check)
     const int missing = elementOf(meta.missingValues, shot);
     if (missing > 0)
         object.insert(kMissingKey, missing);
+    const ShotOrigin origin = elementOf(meta.origins, shot);
+    if (origin.isKnown())
+        object.insert(kOriginKey, toJson(origin));
     return object;
 }
 
@@ -169,6 +191,7 @@ void readShots(ProjectMeta &meta, const QJsonArray &shots, const ShotChecks &che
     const std::size_t count = std::min(checks.size(), static_cast<std::size_t>(shots.size()));
     meta.labels.resize(count);
     meta.timestamps.resize(count);
+    meta.origins.resize(count);
     meta.periods.resize(count);
     meta.missingValues.resize(count);
     meta.shotOthers.resize(count);
@@ -181,9 +204,10 @@ void readShots(ProjectMeta &meta, const QJsonArray &shots, const ShotChecks &che
         const QString time = shot.value(kTimeKey).toString();
         const QDateTime timestamp = QDateTime::fromString(time, Qt::ISODateWithMs);
         meta.timestamps[i] = timestamp.isValid() ? timestamp.toLocalTime() : QDateTime();
+        meta.origins[i] = toOrigin(shot.value(kOriginKey).toObject());
         meta.periods[i] = std::clamp(shot.value(kPeriodKey).toInt(), 0, kLongestPeriod);
         meta.missingValues[i] = std::max(0, shot.value(kMissingKey).toInt());
-        meta.shotOthers[i] = without(shot, {kCheckKey, kLabelKey, kTimeKey, kPeriodKey, kMissingKey});
+        meta.shotOthers[i] = without(shot, {kCheckKey, kLabelKey, kTimeKey, kPeriodKey, kMissingKey, kOriginKey});
     }
 }
 
@@ -246,6 +270,7 @@ bool ProjectMeta::isBlank() const
            && std::all_of(labels.begin(), labels.end(), [](const QString &label) { return label.isEmpty(); })
            && std::none_of(timestamps.begin(), timestamps.end(),
                            [](const QDateTime &timestamp) { return timestamp.isValid(); })
+           && std::none_of(origins.begin(), origins.end(), [](const ShotOrigin &origin) { return origin.isKnown(); })
            && std::all_of(periods.begin(), periods.end(), [](int period) { return period == 0; })
            && std::all_of(missingValues.begin(), missingValues.end(), [](int count) { return count == 0; })
            && std::all_of(shotOthers.begin(), shotOthers.end(), [](const QJsonObject &shot) { return shot.isEmpty(); })
@@ -283,6 +308,16 @@ void ProjectMeta::setMissingValues(int shot, int count)
     setElement(missingValues, static_cast<std::size_t>(shot), count);
 }
 
+ShotOrigin ProjectMeta::origin(int shot) const
+{
+    return elementOf(origins, static_cast<std::size_t>(shot));
+}
+
+void ProjectMeta::setOrigin(int shot, const ShotOrigin &origin)
+{
+    setElement(origins, static_cast<std::size_t>(shot), origin);
+}
+
 int ProjectMeta::period(int shot) const
 {
     return elementOf(periods, static_cast<std::size_t>(shot));
@@ -300,6 +335,7 @@ void ProjectMeta::keepShots(int count)
     keepElements(timestamps, most);
     keepElements(periods, most);
     keepElements(missingValues, most);
+    keepElements(origins, most);
     keepElements(shotOthers, most);
 }
 
@@ -312,7 +348,7 @@ void ProjectMeta::setOthers(int shot, const QJsonObject &values)
 ShotMeta ProjectMeta::shot(int shot) const
 {
     const auto index = static_cast<std::size_t>(shot);
-    return {label(shot), timestamp(shot), period(shot), missing(shot), elementOf(shotOthers, index)};
+    return {label(shot), timestamp(shot), period(shot), missing(shot), elementOf(shotOthers, index), origin(shot)};
 }
 
 void ProjectMeta::insertShot(int shot, const ShotMeta &meta)
@@ -322,6 +358,7 @@ void ProjectMeta::insertShot(int shot, const ShotMeta &meta)
     insertElement(timestamps, index, meta.timestamp);
     insertElement(periods, index, meta.period);
     insertElement(missingValues, index, meta.missing);
+    insertElement(origins, index, meta.origin);
     insertElement(shotOthers, index, meta.others);
 }
 
@@ -332,6 +369,7 @@ void ProjectMeta::removeShot(int shot)
     removeElement(timestamps, index);
     removeElement(periods, index);
     removeElement(missingValues, index);
+    removeElement(origins, index);
     removeElement(shotOthers, index);
 }
 
@@ -354,7 +392,8 @@ bool operator==(const SensorUnit &a, const SensorUnit &b)
 bool operator==(const ProjectMeta &a, const ProjectMeta &b)
 {
     return a.sensors == b.sensors && a.labels == b.labels && a.timestamps == b.timestamps && a.periods == b.periods
-           && a.missingValues == b.missingValues && a.shotOthers == b.shotOthers && a.importedFiles == b.importedFiles
+           && a.missingValues == b.missingValues && a.origins == b.origins && a.shotOthers == b.shotOthers
+           && a.importedFiles == b.importedFiles
            && a.others == b.others && a.units == b.units;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/project/shotorigin.h"
 #include "model/sensordescription.h"
 
 #include <QByteArray>
@@ -55,6 +56,7 @@ struct ShotMeta
     int period = 0;  ///< ms; 0 if unknown
     int missing = 0; ///< values of each sensor that never came
     QJsonObject others;
+    ShotOrigin origin;
 };
 
 /// What belongs to a project but has no key in the project file; it is kept in a file beside it.
@@ -67,6 +69,7 @@ struct ProjectMeta
     std::vector<QDateTime> timestamps;   ///< the same; a null date-time for a shot without one
     std::vector<int> periods;            ///< the same; sampling periods in ms, 0 if unknown
     std::vector<int> missingValues;      ///< the same; how many values of each sensor never came
+    std::vector<ShotOrigin> origins;     ///< the same; unknown for a shot that was not imported
     std::vector<QJsonObject> shotOthers; ///< the same; what another version of the program keeps
     QSet<QByteArray> importedFiles;      ///< fingerprints of logger files
     QJsonObject others;                  ///< what another version of the program keeps
@@ -85,6 +88,8 @@ struct ProjectMeta
     /// Milliseconds; 0 if unknown.
     [[nodiscard]] int period(int shot) const;
     void setPeriod(int shot, int milliseconds);
+    [[nodiscard]] ShotOrigin origin(int shot) const;
+    void setOrigin(int shot, const ShotOrigin &origin);
     void setOthers(int shot, const QJsonObject &values);
     /// 0 for a shot that is complete, as far as that is known.
     [[nodiscard]] int missing(int shot) const;

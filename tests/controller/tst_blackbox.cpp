@@ -105,6 +105,64 @@ private slots:
         QCOMPARE(bench.firstSamples().last(), shots == 2 ? 2.0 : 3.0);
     }
 
+    void tellsWhichNamesAndLimitsChange_data()
+    {
+        columns<QByteArray, QString>("header", "told"); // empty: nothing is asked
+        row("the same", "group0/sensor0/name=Druck\ngroup0/sensor0/max=250\n"_ba, QString());
+        row("name", "group0/sensor0/name=Hall\n"_ba, "Sensor 1: Name „Druck“ wird „Hall“");
+        row("limits", "group0/sensor0/min=5\n"_ba, "Sensor 1: Grenzen 0 … 250 werden 5 … 250");
+        row("unit", "group0/sensor0/unit=mm\n"_ba, "Sensor 1: Einheit „bar“ wird „mm“");
+        row("unknown before", "group0/sensor3/name=Weg\ngroup0/sensor3/unit=mm\n"_ba, QString());
+    }
+
+    void tellsWhichNamesAndLimitsChange()
+    {
+        QFETCH(QByteArray, header);
+        QFETCH(QString, told);
+        for (const int answer : {0, 1, int(Choice::kClosed)}) {
+            Files files;
+            Bench bench;
+            SensorDescription sensors = bench.model.sensorDescription();
+            SensorGroup *group = sensors.modifiableSensorGroup(0);
+            group->setSensorName(0, "Druck"_s);
+            group->setSensorUnit(0, "bar"_s);
+            group->setSensorMinimum(0, 0.0);
+            group->setSensorMaximum(0, 250.0);
+            bench.model.setSensorDescription(sensors);
+            bench.prompts->choices = {answer};
+            import(bench, {files.write("a.bb"_s, "[sensors]\nnumGroups=1\n" + header + "[data]\nA=[1,2,3,4,5]\n")});
+            QCOMPARE(bench.prompts->asked.size(), std::size_t(told.isEmpty() ? 0 : 1));
+            const bool imports = told.isEmpty() || answer != Choice::kClosed;
+            QCOMPARE(bench.shots(), imports ? 1 : 0);
+            if (told.isEmpty())
+                continue;
+            QVERIFY2(bench.prompts->asked.front().text.endsWith(told), qPrintable(bench.prompts->asked.front().text));
+            const SensorGroup &now = bench.model.sensorDescription().sensorGroup(0);
+            const bool same =
+                now.sensorName(0) == "Druck"_s && now.sensorMinimum(0) == 0.0 && now.sensorUnit(0) == "bar"_s;
+            QCOMPARE(same, answer != 0);
+        }
+    }
+
+    void keepsTheOrigin()
+    {
+        Files files;
+        ControllerOptions options;
+        options.temporaryDirectory = files.folder.filePath("tmp"_s);
+        Bench bench(options);
+        const QByteArray shot = "A=[1,2,3,4,5]\n";
+        const QString ofBox = files.write("tmp/box-192.168.4.1/dir-20240305/a.bb"_s, shot);
+        const QString other = files.write("b.bb"_s, shot + shot);
+        const QString empty = files.write("c.bb"_s, "nothing\n");
+        import(bench, {ofBox, empty, other});
+        QCOMPARE(bench.shots(), 2);
+        const ShotOrigin first = bench.model.projectMeta().origin(0);
+        QCOMPARE(first.box + u'|' + first.file, "192.168.4.1|dir-20240305/a.bb"_s);
+        QCOMPARE(first.hash, QCryptographicHash::hash(shot, QCryptographicHash::Sha1));
+        const ShotOrigin second = bench.model.projectMeta().origin(1);
+        QCOMPARE(second.box + u'|' + second.file, u'|' + other);
+    }
+
     void refusesWhileRecording()
     {
         Files files;

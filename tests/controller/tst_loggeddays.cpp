@@ -40,6 +40,7 @@ private slots:
             QSKIP(qPrintable(missing));
         QVERIFY(m_server.start());
         qputenv("VENTARO_SCP_PORT", QByteArray::number(m_server.port()));
+        qputenv("VENTARO_SCP_KNOWN_BOXES", m_data.filePath("known_boxes"_s).toLocal8Bit());
         logDays();
     }
 
@@ -86,6 +87,7 @@ private slots:
 private:
     void logDays() const;
 
+    QTemporaryDir m_data;
     SshServer m_server{theme::deviceUser, theme::devicePassword};
 };
 

@@ -118,6 +118,35 @@ private slots:
         QVERIFY2(std::clock() - before < CLOCKS_PER_SEC / 4, "the wait takes processor time");
     }
 
+    /// Attempts follow each other as long as the caller wants; the message comes after the last one.
+    void attempts()
+    {
+        Rig rig("echo once more; exec sleep 30");
+        rig.setFinishTimeout(300);
+        int left = 2;
+        QByteArray said;
+        const ScpOutcome outcome =
+            rig.transfer.fetch(kHost, kDay, rig.folder.path(),
+                               {[&said](const QByteArray &bytes) { said += bytes; }, [&left] { return left-- > 0; }});
+        QCOMPARE(outcome, ScpOutcome::NotFinished);
+        QCOMPARE(rig.tool.arguments().size(), 3);
+        QCOMPARE(said, QByteArray("once more\n").repeated(3));
+        QCOMPARE(rig.messages.size(), 1);
+        QVERIFY(!rig.tool.isRunning());
+    }
+
+    void loginIsNoAddress()
+    {
+        for (const char *password : {"two words", "", "a\"b"}) {
+            Rig rig("");
+            rig.options.password = QLatin1String(password);
+            rig.transfer.setOptions(rig.options);
+            QCOMPARE(rig.fetch(), ScpOutcome::Refused);
+            QVERIFY(rig.messages.value(0).text.contains("VENTARO_DEVICE_PASSWORD"_s));
+            QVERIFY(*password == '\0' || !rig.messages.value(0).text.contains(QLatin1String(password)));
+        }
+    }
+
     void oneAtATime()
     {
         Rig rig("exec sleep 0.4");

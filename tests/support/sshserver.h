@@ -44,18 +44,15 @@ public:
         return {};
     }
 
-    [[nodiscard]] bool start()
+    [[nodiscard]] bool start() { return QDir().mkpath("/run/sshd"_s) && makeFiles() && run(); }
+    /// As another box at the same address.
+    [[nodiscard]] bool restartWithNewKey()
     {
-        if (!QDir().mkpath("/run/sshd"_s) || !makeFiles())
-            return false;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("LD_PRELOAD"_s, "libnss_wrapper.so"_s);
-        for (const char *table : {"passwd", "shadow", "group"})
-            environment.insert("NSS_WRAPPER_"_s + QString::fromLatin1(table).toUpper(), file(table));
-        m_server.setProcessEnvironment(environment);
-        m_server.setStandardErrorFile(file("log"));
-        m_server.start(sshd(), {"-D"_s, "-e"_s, "-f"_s, file("config")});
-        return m_server.waitForStarted() && QTest::qWaitFor([this] { return answers(); });
+        killSessions();
+        m_server.terminate();
+        m_server.waitForFinished(3000);
+        QFile::remove(file("key"));
+        return makeKey() && run();
     }
 
     [[nodiscard]] int port() const { return m_port; }
@@ -68,6 +65,7 @@ public:
         QFile target(stick().filePath(name));
         QVERIFY(target.open(QIODevice::WriteOnly));
         target.write(content);
+        target.flush();
         if (time.isValid())
             QVERIFY(target.setFileTime(time, QFileDevice::FileModificationTime));
     }
@@ -80,6 +78,18 @@ public:
 
 private:
     static constexpr int kAccount = 65534; ///< owns nothing
+
+    [[nodiscard]] bool run()
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("LD_PRELOAD"_s, "libnss_wrapper.so"_s);
+        for (const char *table : {"passwd", "shadow", "group"})
+            environment.insert("NSS_WRAPPER_"_s + QString::fromLatin1(table).toUpper(), file(table));
+        m_server.setProcessEnvironment(environment);
+        m_server.setStandardErrorFile(file("log"));
+        m_server.start(sshd(), {"-D"_s, "-e"_s, "-f"_s, file("config")});
+        return m_server.waitForStarted() && QTest::qWaitFor([this] { return answers(); });
+    }
 
     [[nodiscard]] static QString sshd() { return "/usr/sbin/sshd"_s; }
     [[nodiscard]] QString file(const char *name) const { return m_folder.filePath(QString::fromLatin1(name)); }
@@ -116,6 +126,11 @@ private:
             (void)::chown(folder.toUtf8().constData(), kAccount, kAccount); // else the upload fails, which is noticed
         writeAccounts();
         writeConfig();
+        return makeKey();
+    }
+
+    [[nodiscard]] bool makeKey() const
+    {
         return QProcess::execute("ssh-keygen"_s, {"-q"_s, "-t"_s, "ed25519"_s, "-N"_s, QString(), "-f"_s, file("key")})
                == 0;
     }

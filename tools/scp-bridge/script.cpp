@@ -103,6 +103,50 @@ bool hasControlCharacter(const QString &text)
     return std::any_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x20 || c.unicode() == 0x7f; });
 }
 
+/// A file name in an option, where blanks separate files and "%" stands for something else.
+QString optionFile(const QString &fileName)
+{
+    return QLatin1Char('"') + QString(fileName).replace(QLatin1Char('%'), QLatin1String("%%")) + QLatin1Char('"');
+}
+
+QStringList hostKeyOptions(const TransferScript &script, const QString &knownHosts)
+{
+    if (!script.acceptsAnyHostKey)
+        return {QStringLiteral("StrictHostKeyChecking=yes")};
+    const QString others = QStringLiteral("GlobalKnownHostsFile=/dev/null");
+    if (knownHosts.isEmpty())
+        return {QStringLiteral("StrictHostKeyChecking=no"), QStringLiteral("UserKnownHostsFile=/dev/null"), others};
+    // A key that has changed ends the run: OpenSSH would go on without a password only.
+    return {QStringLiteral("StrictHostKeyChecking=accept-new"),
+            QStringLiteral("CheckHostIP=no"),
+            QStringLiteral("HashKnownHosts=no"),
+            QStringLiteral("UpdateHostKeys=no"),
+            QStringLiteral("UserKnownHostsFile=") + optionFile(knownHosts),
+            others};
+}
+
+QStringList commonArguments(const TransferScript &script, const QString &knownHosts)
+{
+    QStringList arguments{QStringLiteral("-F"), QStringLiteral("none")};
+    const QStringList options = hostKeyOptions(script, knownHosts)
+                                + QStringList{QStringLiteral("BatchMode=no"), // else the password is not asked for
+                                              QStringLiteral("ConnectTimeout=%1").arg(kConnectTimeout),
+                                              QStringLiteral("ServerAliveInterval=%1").arg(kAliveInterval),
+                                              QStringLiteral("ServerAliveCountMax=%1").arg(kMaxUnansweredAlives),
+                                              QStringLiteral("PreferredAuthentications=password,keyboard-interactive"),
+                                              QStringLiteral("PubkeyAuthentication=no"),
+                                              QStringLiteral("NumberOfPasswordPrompts=1"),
+                                              QStringLiteral("LogLevel=ERROR")};
+    for (const QString &option : options)
+        arguments << QStringLiteral("-o") << option;
+    return arguments;
+}
+
+QString account(const TransferScript &script)
+{
+    return script.user + QLatin1Char('@') + script.host;
+}
+
 struct Progress
 {
     bool opened = false;
@@ -165,28 +209,17 @@ TransferScript parseScript(const QStringList &commands)
 QString sftpBatch(const TransferScript &script)
 {
     const QString options = script.preservesTimes ? QStringLiteral("-p") : QString();
-    if (script.action == TransferScript::Action::Get)
-        return QStringLiteral("get -r %1 %2\n").arg(options, batchWord(script.source));
     return QStringLiteral("put %1 %2 %3\n").arg(options, batchWord(script.source), batchWord(script.target));
 }
 
-QStringList sftpArguments(const TransferScript &script, int port)
+QStringList sftpArguments(const TransferScript &script, int port, const QString &knownHosts)
 {
-    QStringList arguments{QStringLiteral("-F"), QStringLiteral("none"), QStringLiteral("-P"), QString::number(port)};
-    QStringList options{QStringLiteral("BatchMode=no"), // "-b" alone would forbid asking for the password
-                        QStringLiteral("ConnectTimeout=%1").arg(kConnectTimeout),
-                        QStringLiteral("ServerAliveInterval=%1").arg(kAliveInterval),
-                        QStringLiteral("ServerAliveCountMax=%1").arg(kMaxUnansweredAlives),
-                        QStringLiteral("PreferredAuthentications=password,keyboard-interactive"),
-                        QStringLiteral("PubkeyAuthentication=no"),
-                        QStringLiteral("NumberOfPasswordPrompts=1"),
-                        QStringLiteral("LogLevel=ERROR")};
-    if (script.acceptsAnyHostKey)
-        options << QStringLiteral("StrictHostKeyChecking=no") << QStringLiteral("UserKnownHostsFile=/dev/null")
-                << QStringLiteral("GlobalKnownHostsFile=/dev/null");
-    else
-        options << QStringLiteral("StrictHostKeyChecking=yes");
-    for (const QString &option : options)
-        arguments << QStringLiteral("-o") << option;
-    return arguments << QStringLiteral("-b") << QStringLiteral("-") << script.user + QLatin1Char('@') + script.host;
+    return QStringList{QStringLiteral("-P"), QString::number(port)} + commonArguments(script, knownHosts)
+           + QStringList{QStringLiteral("-b"), QStringLiteral("-"), account(script)};
+}
+
+QStringList sshArguments(const TransferScript &script, int port, const QString &knownHosts)
+{
+    return QStringList{QStringLiteral("-p"), QString::number(port)} + commonArguments(script, knownHosts)
+           + QStringList{QStringLiteral("-s"), account(script), QStringLiteral("sftp")};
 }

@@ -27,7 +27,10 @@ struct TransferScript
 [[nodiscard]] std::optional<QStringList> scriptCommands(const QStringList &arguments);
 /// One "open", one "get" or "put", then perhaps "exit".
 [[nodiscard]] TransferScript parseScript(const QStringList &commands);
-/// The same transfer as a batch of sftp, whose paths are all quoted.
+/// A put as a batch of sftp, whose paths are all quoted.
 [[nodiscard]] QString sftpBatch(const TransferScript &script);
-/// The arguments of sftp, which reads the batch from its standard input and the password from its terminal.
-[[nodiscard]] QStringList sftpArguments(const TransferScript &script, int port);
+/// The arguments of sftp, which reads the batch from its standard input and the password from its terminal. Keys of
+/// hosts are remembered in the file `knownHosts`; empty: they are not, if the script accepts any of them.
+[[nodiscard]] QStringList sftpArguments(const TransferScript &script, int port, const QString &knownHosts);
+/// The arguments of ssh for a link to the server's SFTP service over its standard input and output.
+[[nodiscard]] QStringList sshArguments(const TransferScript &script, int port, const QString &knownHosts);

@@ -1,11 +1,9 @@
 #include "view/blackbox/blackboxdays.h"
 
 #include "app/theme.h"
-#include "model/blackbox/blackboxfile.h"
-
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <QFont>
+#include <QHash>
 
 #include <algorithm>
 
@@ -28,16 +26,15 @@ bool isNewer(const BlackBoxDay &a, const BlackBoxDay &b)
     return a.date > b.date;
 }
 
-bool hasSmallerName(const BlackBoxFile &a, const BlackBoxFile &b)
+bool isOnBoxOnly(const BlackBoxDay &day)
 {
-    return QFileInfo(a.path).fileName() < QFileInfo(b.path).fileName();
+    return day.state() == BlackBoxState::New || day.state() == BlackBoxState::Partial;
 }
 
-const BlackBoxFile *findFile(const QVector<BlackBoxFile> &files, const QString &path)
+bool hasSmallerName(const BlackBoxFile &a, const BlackBoxFile &b)
 {
-    const auto found =
-        std::find_if(files.begin(), files.end(), [&path](const BlackBoxFile &file) { return file.path == path; });
-    return found == files.end() ? nullptr : &*found;
+    const auto name = [](const QString &path) { return path.midRef(path.lastIndexOf(QLatin1Char('/')) + 1); };
+    return name(a.path) < name(b.path);
 }
 
 } // namespace
@@ -66,6 +63,8 @@ BlackBoxState BlackBoxDay::state() const
 {
     if (!fetched)
         return BlackBoxState::New;
+    if (isPartial)
+        return BlackBoxState::Partial;
     return files.isEmpty() || holdsUnimported() ? BlackBoxState::Fetched : BlackBoxState::Imported;
 }
 
@@ -116,37 +115,60 @@ void BlackBoxDays::setEntries(const QStringList &entries)
     endResetModel();
 }
 
-int BlackBoxDays::setFiles(const QDate &date, const QStringList &absoluteFiles)
+int BlackBoxDays::setFiles(const QDate &date, const QVector<LoggerFile> &files, bool isComplete)
 {
-    int row = rowOf(date);
-    if (row < 0) {
-        BlackBoxDay day;
-        day.date = date;
-        const auto place = std::lower_bound(m_days.begin(), m_days.end(), day, isNewer);
-        row = static_cast<int>(place - m_days.begin());
-        beginInsertRows({}, row, row);
-        m_days.insert(row, day);
-        endInsertRows();
-    }
-    const QVector<BlackBoxFile> before = m_days.at(row).files;
-    // A fetched day is complete, while each local folder adds to those opened before.
-    QVector<BlackBoxFile> files = date.isValid() ? QVector<BlackBoxFile>() : before;
-    for (const QString &path : absoluteFiles) {
-        const QByteArray fingerprint = blackBoxFingerprint(path);
-        const BlackBoxFile *known = findFile(before, path);
-        const bool imported = m_imported.contains(fingerprint);
-        const bool same = known && known->fingerprint == fingerprint; // another content is a new file
-        const BlackBoxFile file{path, fingerprint, QFileInfo(path).size(), same ? known->ticked : !imported, imported};
-        files.erase(std::remove_if(files.begin(), files.end(),
-                                   [&path](const BlackBoxFile &other) { return other.path == path; }),
-                    files.end());
-        files.append(file);
-    }
-    std::sort(files.begin(), files.end(), hasSmallerName);
-    m_days[row].files = files;
-    m_days[row].fetched = true;
+    const int row = rowOf(date) >= 0 ? rowOf(date) : addRow(date);
+    BlackBoxDay &day = m_days[row];
+    // A day holds what there is of it now, while each local folder adds to those opened before.
+    day.files = merged(day.files, !date.isValid(), files);
+    day.fetched = true;
+    day.isPartial = !isComplete;
     announceRow(row);
     return row;
+}
+
+int BlackBoxDays::addRow(const QDate &date)
+{
+    BlackBoxDay day;
+    day.date = date;
+    const auto place = std::lower_bound(m_days.begin(), m_days.end(), day, isNewer);
+    const int row = static_cast<int>(place - m_days.begin());
+    beginInsertRows({}, row, row);
+    m_days.insert(row, day);
+    endInsertRows();
+    return row;
+}
+
+QVector<BlackBoxFile> BlackBoxDays::merged(const QVector<BlackBoxFile> &known, bool keepsKnown,
+                                           const QVector<LoggerFile> &files) const
+{
+    QHash<QString, BlackBoxFile> before;
+    for (const BlackBoxFile &file : known)
+        before.insert(file.path, file);
+    QHash<QString, BlackBoxFile> result = keepsKnown ? before : QHash<QString, BlackBoxFile>();
+    for (const LoggerFile &file : files) {
+        const bool imported = m_imported.contains(file.fingerprint);
+        const auto same = before.constFind(file.path);
+        // Another content is a new file.
+        const bool ticked =
+            same != before.constEnd() && same->fingerprint == file.fingerprint ? same->ticked : !imported;
+        result.insert(file.path, BlackBoxFile{file, ticked, imported});
+    }
+    QVector<BlackBoxFile> sorted;
+    sorted.reserve(result.size());
+    for (const BlackBoxFile &file : qAsConst(result))
+        sorted.append(file);
+    std::sort(sorted.begin(), sorted.end(), hasSmallerName);
+    return sorted;
+}
+
+void BlackBoxDays::forgetBox()
+{
+    beginResetModel();
+    m_days.erase(
+        std::remove_if(m_days.begin(), m_days.end(), [](const BlackBoxDay &day) { return day.date.isValid(); }),
+        m_days.end());
+    endResetModel();
 }
 
 void BlackBoxDays::setImported(const QSet<QByteArray> &fingerprints)
@@ -170,8 +192,7 @@ void BlackBoxDays::setImported(const QSet<QByteArray> &fingerprints)
 void BlackBoxDays::select(Selection selection)
 {
     for (BlackBoxDay &day : m_days) {
-        const bool wanted =
-            selection == Selection::All || (selection == Selection::New && day.state() == BlackBoxState::New);
+        const bool wanted = selection == Selection::All || (selection == Selection::New && isOnBoxOnly(day));
         day.tick(wanted);
     }
     announceAll();
@@ -303,6 +324,8 @@ QString stateText(BlackBoxState state)
     switch (state) {
     case BlackBoxState::New:
         return QCoreApplication::translate("BlackBoxDays", "neu");
+    case BlackBoxState::Partial:
+        return QCoreApplication::translate("BlackBoxDays", "teilweise");
     case BlackBoxState::Fetched:
         return QCoreApplication::translate("BlackBoxDays", "geladen");
     case BlackBoxState::Imported:

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/blackbox/loggerfile.h"
+
 #include <QAbstractTableModel>
 #include <QDate>
 #include <QSet>
@@ -7,14 +9,11 @@
 #include <QVector>
 
 /// How far a day or a file has been processed.
-enum class BlackBoxState { New, Fetched, Imported };
+enum class BlackBoxState { New, Partial, Fetched, Imported };
 
-/// A logger file on this computer.
-struct BlackBoxFile
+/// A logger file that can be imported.
+struct BlackBoxFile : LoggerFile
 {
-    QString path; ///< absolute
-    QByteArray fingerprint;
-    qint64 size = 0;
     bool ticked = true; ///< wanted for the import
     bool imported = false;
 };
@@ -25,7 +24,8 @@ struct BlackBoxDay
     QDate date;
     QVector<BlackBoxFile> files;
     bool fetched = false;
-    bool ticked = false; ///< wanted, as long as there are no files to tick
+    bool isPartial = false; ///< a fetch that was broken off left files on the box
+    bool ticked = false;    ///< wanted, as long as there are no files to tick
 
     [[nodiscard]] BlackBoxState state() const;
     /// Checked if everything is ticked that is not imported yet.
@@ -53,14 +53,16 @@ public:
     void setEntries(const QStringList &entries);
     /// Replaces the files of a day; adds the day if the list did not have it. Files keep their ticks; new ones are
     /// ticked unless they are imported. An invalid date means local files: these are added to those known.
-    /// Returns the row.
-    int setFiles(const QDate &date, const QStringList &absoluteFiles);
+    /// `isComplete`: the box has no more of this day. Returns the row.
+    int setFiles(const QDate &date, const QVector<LoggerFile> &files, bool isComplete = true);
+    /// Forgets all days; local files belong to no box and stay.
+    void forgetBox();
     /// Marks the files with these fingerprints as imported, all others as not imported. A file that becomes imported
     /// loses its tick.
     void setImported(const QSet<QByteArray> &fingerprints);
 
     enum class Selection { None, All, New };
-    /// Ticks all days, none, or those of which nothing has been fetched.
+    /// Ticks all days, none, or those of which files are on the box only.
     void select(Selection selection);
     /// Ticks a single file or removes its tick. Rows or files out of range are ignored.
     void tickFile(int row, int file, bool on);
@@ -83,6 +85,9 @@ public:
 
 private:
     [[nodiscard]] int rowOf(const QDate &date) const;
+    int addRow(const QDate &date);
+    [[nodiscard]] QVector<BlackBoxFile> merged(const QVector<BlackBoxFile> &known, bool keepsKnown,
+                                               const QVector<LoggerFile> &files) const;
     [[nodiscard]] QString text(const BlackBoxDay &day, int column) const;
     void announceRow(int row);
     void announceAll();
@@ -91,7 +96,7 @@ private:
     QSet<QByteArray> m_imported;
 };
 
-/// "neu", "geladen", "importiert".
+/// "neu", "teilweise", "geladen", "importiert".
 [[nodiscard]] QString stateText(BlackBoxState state);
 /// Bold for what is new, grey for what is imported: a role of a table cell, or nothing.
 [[nodiscard]] QVariant stateLook(BlackBoxState state, int role);

@@ -81,6 +81,13 @@ void DaysPanel::setEntries(const QStringList &entries)
     updateState();
 }
 
+void DaysPanel::forgetBox()
+{
+    m_numLogged = 0;
+    m_days->forgetBox();
+    updateState();
+}
+
 void DaysPanel::chooseDay(int row)
 {
     m_table->setCurrentIndex(m_days->index(row, 0));

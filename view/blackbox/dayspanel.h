@@ -19,6 +19,8 @@ public:
 
     /// Takes over the box's list.
     void setEntries(const QStringList &entries);
+    /// Forgets the days of a box that is left.
+    void forgetBox();
     void chooseDay(int row);
     /// While a transfer runs nothing can be requested or fetched.
     void setIdle(bool idle);

@@ -61,25 +61,40 @@ void TabBlackBox::setTransferProgress(int done, int total)
     qCDebug(lcView) << Q_FUNC_INFO << done << total;
     const int all = std::max(0, total);
     m_transferBar->setProgress(std::clamp(done, 0, all), all);
-    m_daysPanel->setIdle(all == 0);
-    m_filesPanel->setIdle(all == 0);
+    if (m_isIdle == (all == 0))
+        return;
+    m_isIdle = all == 0;
+    m_daysPanel->setIdle(m_isIdle);
+    m_filesPanel->setIdle(m_isIdle);
 }
 
-void TabBlackBox::addFetchedFiles(const QString &date, const QStringList &absoluteFiles)
+void TabBlackBox::setTransferDetail(const QString &text)
 {
-    qCDebug(lcView) << Q_FUNC_INFO << date << absoluteFiles.size();
+    m_transferBar->setDetail(text);
+}
+
+void TabBlackBox::addFetchedFiles(const QString &date, const QVector<LoggerFile> &files, bool isComplete)
+{
+    qCDebug(lcView) << Q_FUNC_INFO << date << files.size() << isComplete;
     const QDate day = QDate::fromString(date, QStringLiteral("dd.MM.yyyy"));
     if (!day.isValid()) {
         qCDebug(lcView) << "ERROR: no date!" << date;
         return;
     }
-    m_daysPanel->chooseDay(m_days.setFiles(day, absoluteFiles));
+    m_daysPanel->chooseDay(m_days.setFiles(day, files, isComplete));
 }
 
-void TabBlackBox::addLocalFiles(const QStringList &files)
+void TabBlackBox::addLocalFiles(const QVector<LoggerFile> &files)
 {
     qCDebug(lcView) << Q_FUNC_INFO << files.size();
     m_daysPanel->chooseDay(m_days.setFiles({}, files));
+}
+
+void TabBlackBox::forgetBox()
+{
+    qCDebug(lcView) << Q_FUNC_INFO;
+    m_entries.clear();
+    m_daysPanel->forgetBox();
 }
 
 void TabBlackBox::setImportedFiles(const QSet<QByteArray> &fingerprints)

@@ -30,11 +30,15 @@ public:
     /// "3 von 7" and a ring that fills up; whatever would start another transfer is disabled meanwhile. 0 of 0:
     /// nothing is being transferred.
     void setTransferProgress(int done, int total);
-    /// The logger files of a day (dd.mm.yyyy) that are on this computer now, including those that were known before. A
-    /// text that is no date is logged and ignored.
-    void addFetchedFiles(const QString &date, const QStringList &absoluteFiles);
-    /// Logger files of a local folder, absolute. Shown above the days.
-    void addLocalFiles(const QStringList &files);
+    /// How far the step that is under way has come, in words; shown until the next setTransferProgress().
+    void setTransferDetail(const QString &text);
+    /// The logger files of a day (dd.mm.yyyy) that are on this computer now, including those that were known before.
+    /// `isComplete`: the box has no more of them. A text that is no date is logged and ignored.
+    void addFetchedFiles(const QString &date, const QVector<LoggerFile> &files, bool isComplete = true);
+    /// Logger files of a local folder. Shown above the days.
+    void addLocalFiles(const QVector<LoggerFile> &files);
+    /// The box was left: its list, its days and their files are no longer shown. Local files stay.
+    void forgetBox();
     /// The fingerprints of the files whose measurements the project holds.
     void setImportedFiles(const QSet<QByteArray> &fingerprints);
     /// How the last import went; shown until the next one.
@@ -52,6 +56,7 @@ signals:
 private:
     BlackBoxDays m_days;
     QStringList m_entries;
+    bool m_isIdle = true;
     DaysPanel *m_daysPanel = nullptr;
     FilesPanel *m_filesPanel = nullptr;
     TransferBar *m_transferBar = nullptr;

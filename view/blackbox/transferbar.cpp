@@ -31,6 +31,13 @@ void TransferBar::setProgress(int done, int total)
 {
     m_done = done;
     m_total = total;
+    m_detail.clear();
+    showProgress();
+}
+
+void TransferBar::setDetail(const QString &text)
+{
+    m_detail = text;
     showProgress();
 }
 
@@ -41,7 +48,8 @@ void TransferBar::showProgress()
         m_indicator->setPercent(m_done > 0 ? static_cast<int>(qint64(m_done) * 100 / m_total)
                                            : ProgressIndicator::kTurning);
         m_indicator->startAnimation();
-        m_progress->setText(tr("%1 von %2").arg(m_done).arg(m_total));
+        const QString numbers = tr("%1 von %2").arg(m_done).arg(m_total);
+        m_progress->setText(m_detail.isEmpty() ? numbers : numbers + QStringLiteral(" · ") + m_detail);
     } else {
         m_indicator->stopAnimation();
         m_progress->clear();

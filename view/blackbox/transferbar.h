@@ -15,6 +15,8 @@ public:
 
     /// 0 of 0: nothing is being transferred.
     void setProgress(int done, int total);
+    /// What is under way in detail, behind the numbers; until the next progress.
+    void setDetail(const QString &text);
     /// Stays until the next result or until the language changes.
     void setResult(const QString &text);
 
@@ -26,6 +28,7 @@ private:
 
     int m_done = 0;
     int m_total = 0;
+    QString m_detail;
     ProgressIndicator *m_indicator = nullptr;
     QLabel *m_progress = nullptr;
     QLabel *m_result = nullptr;

@@ -230,6 +230,7 @@ bool UpdateDialog::isBusy() const
 void UpdateDialog::setUpload(Upload upload)
 {
     m_upload = upload;
+    m_restart = Restart::None; // what was said of a restart concerned the attempt before
     updateState();
 }
 

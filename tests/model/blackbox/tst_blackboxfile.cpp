@@ -1,4 +1,5 @@
 #include "model/blackbox/blackboxfile.h"
+#include "model/blackbox/loggerfile.h"
 #include "model/model.h"
 #include "tests/support/files.h"
 #include "tests/support/literals.h"
@@ -244,6 +245,23 @@ private slots:
         QCOMPARE(project.count(), 0);
         model.setFileList({name}); // imported earlier; as it cannot be read now, it has no fingerprint
         QVERIFY(model.importedFiles().isEmpty());
+    }
+
+    /// Two shots may differ at their ends only.
+    void fingerprints()
+    {
+        const QByteArray begin(1000000, 'x');
+        const QByteArray first = blackBoxFingerprint(fileWith(begin + 'a'));
+        QCOMPARE(first.size(), 20);
+        QCOMPARE(blackBoxFingerprint(fileWith(begin + 'a')), first);
+        QVERIFY(blackBoxFingerprint(fileWith(begin + 'b')) != first);
+        QVERIFY(!blackBoxFingerprint(fileWith({})).isEmpty());
+        for (const QString &name : {m_folder.path(), m_folder.filePath("missing"_s), "/proc/self/mem"_s})
+            QVERIFY2(blackBoxFingerprint(name).isEmpty(), qPrintable(name));
+        qint64 read = 0;
+        const auto files = loggerFiles({fileWith(begin), fileWith("y")}, [&read](qint64 bytes) { read += bytes; });
+        QCOMPARE(read, qint64(begin.size() + 1));
+        QCOMPARE(files.at(0).size, qint64(begin.size()));
     }
 
 private:

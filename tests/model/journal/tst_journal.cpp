@@ -31,8 +31,11 @@ QString textOf(const Model &model)
         text += model.projectMeta().sensors[std::size_t(sensor)].chosenQuantity;
         text += " image "_s + QString::number(model.image(sensor).width());
     }
-    for (int shot = 0; shot < model.numChannels(0); ++shot)
-        text += "\n"_s + model.shotLabel(shot) + model.timestamp(shot).toString(Qt::ISODateWithMs);
+    for (int shot = 0; shot < model.numChannels(0); ++shot) {
+        const ShotOrigin origin = model.projectMeta().origin(shot);
+        text += "\n"_s + model.shotLabel(shot) + model.timestamp(shot).toString(Qt::ISODateWithMs) + origin.box
+                + origin.file + QString::fromLatin1(origin.hash.toHex());
+    }
     for (int marker = 0; marker < Model::kNumMarkers; ++marker)
         text += " %1"_s.arg(model.verticalMarker(marker));
     return text + "\n"_s + model.projectData().toDebugText() + model.comment() + model.currentFile();
@@ -72,6 +75,12 @@ const QVector<std::pair<const char *, Change>> kChanges{
     {"range, which is not announced", [](Model &model) { model.setOsziMaximum(4, 99.5); }},
     {"sensor", [](Model &model) { model.setSensorName(1, "Druck"_s); }},
     {"label", [](Model &model) { model.setShotLabel(0, "gut"_s); }},
+    {"origin",
+     [](Model &model) {
+         ProjectMeta meta = model.projectMeta();
+         meta.setOrigin(0, {"192.168.4.1"_s, "dir-20240305/a.bb"_s, "hash"_ba});
+         model.setProjectMeta(meta);
+     }},
     {"time stamp", [](Model &model) { model.setTimestamp(0, kTime.addDays(1)); }},
     {"settings of the evaluation",
      [](Model &model) {

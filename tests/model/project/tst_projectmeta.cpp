@@ -34,6 +34,7 @@ void fill(Model &model)
     meta.sensors[2].at("mean"_s) = {"mean"_s, true, 1.0, std::nullopt};
     meta.sensors[2].at("marker1"_s) = {"marker1"_s, false, std::nullopt, 0.3};
     meta.setMissingValues(2, 34);
+    meta.setOrigin(2, {"192.168.4.1"_s, "dir-20260309/\"ä\".bb"_s, QByteArray::fromHex("00ff8010")});
     model.setProjectMeta(meta);
     model.setShotLabel(1, "Anfahrteil \"ö\"\n"_s);
     model.setTimestamp(0, kMorning);

@@ -153,9 +153,9 @@ private slots:
         QVERIFY(!bench.button("buttonImport")->isEnabled());
         const QStringList newer = bench.writeFiles(strings({"b.bb", "a.bb"}));
         const QStringList older = bench.writeFiles(strings({"z.bb"}));
-        bench.tab.addFetchedFiles("06.03.2024"_s, newer);
-        bench.tab.addFetchedFiles("03.03.2024"_s, older); // the list did not have it
-        bench.tab.addFetchedFiles("31.02.2024"_s, older);
+        bench.tab.addFetchedFiles("06.03.2024"_s, loggerFiles(newer));
+        bench.tab.addFetchedFiles("03.03.2024"_s, loggerFiles(older)); // the list did not have it
+        bench.tab.addFetchedFiles("31.02.2024"_s, loggerFiles(older));
         bench.tab.addFetchedFiles("05.03.2024"_s, {});
         QCOMPARE(bench.rows("tableDays"), strings({"X 06.03.2024|2|geladen", "- 05.03.2024|0|geladen",
                                                    "- 04.03.2024|–|neu", "X 03.03.2024|1|geladen"}));
@@ -176,7 +176,7 @@ private slots:
     void ticksGoTogether()
     {
         Bench bench;
-        bench.tab.addFetchedFiles("06.03.2024"_s, bench.writeFiles(strings({"a.bb", "b.bb"})));
+        bench.tab.addFetchedFiles("06.03.2024"_s, loggerFiles(bench.writeFiles(strings({"a.bb", "b.bb"}))));
         const auto day = [&] { return bench.rows("tableDays").at(0).left(1); };
         bench.tick("tableFiles", 0, false);
         QCOMPARE(day(), "o"_s);
@@ -196,7 +196,7 @@ private slots:
     {
         Bench bench;
         bench.tab.setList(kThreeDays);
-        bench.tab.addFetchedFiles("05.03.2024"_s, bench.writeFiles(strings({"a.bb"})));
+        bench.tab.addFetchedFiles("05.03.2024"_s, loggerFiles(bench.writeFiles(strings({"a.bb"}))));
         bench.tick("tableDays", 0);
         bench.tab.setList(strings({"dir-20240307", "dir-20240306"}));
         QCOMPARE(bench.rows("tableDays"),
@@ -214,19 +214,49 @@ private slots:
         QCOMPARE(folder.count(), 1);
         bench.tab.setList(kThreeDays);
         const QStringList files = bench.writeFiles(strings({"a.bb", "b.bb", "c.bb"}));
-        bench.tab.addLocalFiles(files.mid(0, 2));
-        bench.tab.addLocalFiles(files.mid(1, 2));
+        bench.tab.addLocalFiles(loggerFiles(files.mid(0, 2)));
+        bench.tab.addLocalFiles(loggerFiles(files.mid(1, 2)));
         QCOMPARE(bench.rows("tableDays").first(), "X Lokale Dateien|3|geladen"_s);
         QCOMPARE(bench.rows("tableFiles").size(), 3);
         QCOMPARE(bench.tab.selectedFiles(), files);
         QVERIFY(bench.tab.selectedDates().isEmpty()); // there is nothing to fetch
     }
 
+    /// The next box has days of its own.
+    void leavingABox()
+    {
+        Bench bench;
+        bench.tab.setList(kThreeDays);
+        bench.tab.addFetchedFiles("05.03.2024"_s, loggerFiles(bench.writeFiles(strings({"a.bb"}))));
+        bench.tab.addLocalFiles(loggerFiles(bench.writeFiles(strings({"b.bb"}))));
+        bench.tab.addFetchedFiles("05.03.2024"_s, loggerFiles(bench.writeFiles(strings({"a.bb"})))); // is shown
+        bench.tab.forgetBox();
+        QCOMPARE(bench.rows("tableDays"), strings({"X Lokale Dateien|1|geladen"}));
+        QCOMPARE(bench.rows("tableFiles"), QStringList());
+        QVERIFY(bench.tab.list().isEmpty() && bench.tab.selectedDates().isEmpty());
+        QVERIFY(!bench.button("buttonFetch")->isEnabled());
+        QCOMPARE(bench.tab.selectedFiles().size(), 1);
+    }
+
+    void partOfADay()
+    {
+        Bench bench;
+        bench.tab.setList(kThreeDays);
+        const QStringList files = bench.writeFiles(strings({"a.bb"}));
+        bench.tab.addFetchedFiles("05.03.2024"_s, loggerFiles(files), false);
+        QVERIFY(bench.rows("tableDays").at(1).endsWith("|1|teilweise"_s));
+        bench.click("buttonSelectNone");
+        bench.click("buttonSelectNew");
+        QVERIFY(bench.tab.selectedDates().contains("05.03.2024"_s));
+        bench.tab.addFetchedFiles("05.03.2024"_s, loggerFiles(files));
+        QVERIFY(bench.rows("tableDays").at(1).endsWith("|1|geladen"_s));
+    }
+
     void importedFiles()
     {
         Bench bench;
         const QStringList files = bench.writeFiles(strings({"a.bb", "b.bb"}));
-        bench.tab.addFetchedFiles("05.03.2024"_s, files);
+        bench.tab.addFetchedFiles("05.03.2024"_s, loggerFiles(files));
         const QByteArray first = blackBoxFingerprint(files.at(0));
         const QByteArray second = blackBoxFingerprint(files.at(1));
         QVERIFY(first != second);
@@ -235,7 +265,7 @@ private slots:
         QCOMPARE(bench.rows("tableDays"), strings({"X 05.03.2024|2|geladen"}));
         bench.tab.setImportedFiles({first, second});
         QCOMPARE(bench.rows("tableDays"), strings({"- 05.03.2024|2|importiert"}));
-        bench.tab.addFetchedFiles("05.03.2024"_s, files); // once more
+        bench.tab.addFetchedFiles("05.03.2024"_s, loggerFiles(files)); // once more
         QVERIFY(bench.tab.selectedFiles().isEmpty());
         bench.tick("tableDays", 0); // the user ticks it again
         QCOMPARE(bench.tab.selectedFiles(), files);
@@ -263,7 +293,7 @@ private slots:
         Bench bench;
         auto *preview = bench.find<ShotPreview>("shotPreview");
         const QImage empty = preview->grab().toImage();
-        bench.tab.addLocalFiles({bench.writeFile("a.bb"_s, bytes)});
+        bench.tab.addLocalFiles(loggerFiles({bench.writeFile("a.bb"_s, bytes)}));
         QCOMPARE(preview->caption(), caption);
         QVERIFY(preview->grab().toImage() != empty);
         preview->setFile(bench.folder.path());

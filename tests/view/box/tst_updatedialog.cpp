@@ -139,6 +139,24 @@ private slots:
         QVERIFY(!bench.dialog.isVisible());
     }
 
+    /// What is shown belongs to the last attempt: an upload after a restart has not been restarted with yet.
+    void resultsOfTheLastAttempt()
+    {
+        Bench bench;
+        bench.chooseFile();
+        bench.button("buttonUpload")->click();
+        bench.dialog.onRestart();
+        QCOMPARE(bench.text("labelResult2"), "Reboot Kommando gesendet."_s);
+        QCOMPARE(bench.enabled(), "SURCO"_s);
+        bench.tool.setScript("exit 1");
+        bench.button("buttonUpload")->click();
+        QCOMPARE(bench.text("labelResult"), "Fehler beim Hochladen!"_s);
+        QCOMPARE(bench.text("labelResult2"), QString());
+        QCOMPARE(bench.enabled(), "SUC"_s);
+        bench.chooseFile();
+        QCOMPARE(bench.text("labelResult"), QString());
+    }
+
     void restartConnectsFirst()
     {
         Bench bench;

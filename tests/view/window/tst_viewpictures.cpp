@@ -94,11 +94,11 @@ void fill(TabBlackBox &tab, Model &model, const QDir &folder)
     QStringList files;
     for (int shot = 0; shot < 9; ++shot)
         files << writeShot(folder, 7 * shot);
-    tab.addFetchedFiles("26.03.2024"_s, files.mid(0, 2));
+    tab.addFetchedFiles("26.03.2024"_s, loggerFiles(files.mid(0, 2)));
     model.setFileList(files.mid(0, 2));
     model.emitProjectChanged();
-    tab.addLocalFiles(files.mid(2, 1));
-    tab.addFetchedFiles("28.03.2024"_s, files);
+    tab.addLocalFiles(loggerFiles(files.mid(2, 1)));
+    tab.addFetchedFiles("28.03.2024"_s, loggerFiles(files));
     tab.setTransferProgress(3, 7);
     tab.setResult("9 Messungen importiert, 3 Zeilen übersprungen, 1 Datei nicht lesbar"_s);
 }
