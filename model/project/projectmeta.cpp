@@ -393,8 +393,7 @@ bool operator==(const ProjectMeta &a, const ProjectMeta &b)
 {
     return a.sensors == b.sensors && a.labels == b.labels && a.timestamps == b.timestamps && a.periods == b.periods
            && a.missingValues == b.missingValues && a.origins == b.origins && a.shotOthers == b.shotOthers
-           && a.importedFiles == b.importedFiles
-           && a.others == b.others && a.units == b.units;
+           && a.importedFiles == b.importedFiles && a.others == b.others && a.units == b.units;
 }
 
 QString metaFileName(const QString &projectFile)
