@@ -46,7 +46,14 @@ Model::~Model() = default;
 bool Model::deleteChannel(int measurement)
 {
     qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " measurement=" << measurement;
-    return !m_work.refuses(Q_FUNC_INFO) && hasShot(measurement, Q_FUNC_INFO) && m_project.removeShot(measurement);
+    return !m_work.refuses(Q_FUNC_INFO) && hasShot(measurement, Q_FUNC_INFO)
+           && m_project.removeShots(measurement, 1) > 0;
+}
+
+int Model::deleteChannels(int first, int count)
+{
+    qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " first=" << first << " count=" << count;
+    return m_work.refuses(Q_FUNC_INFO) || !hasShot(first, Q_FUNC_INFO) ? 0 : m_project.removeShots(first, count);
 }
 
 void Model::clearData()

@@ -128,16 +128,15 @@ void ShotStore::setChannel(int sensor, Channel channel)
     countStructureChange();
 }
 
-bool ShotStore::remove(int measurement)
+int ShotStore::remove(int first, int count)
 {
-    if (measurement < 0 || measurement >= shotCount())
-        return false;
-    for (std::size_t sensor = 0; sensor < m_channels.size(); ++sensor) {
-        if (at(measurement) < m_channels[sensor].size()) // another sensor may be ahead of this one
-            removeFrom(sensor, measurement);
-    }
+    if (first < 0 || first >= shotCount() || count <= 0)
+        return 0;
+    const int removed = std::min(count, shotCount() - first);
+    for (std::size_t sensor = 0; sensor < m_channels.size(); ++sensor)
+        removeFrom(sensor, first, removed);
     countStructureChange();
-    return true;
+    return removed;
 }
 
 StoredShot ShotStore::take(const ShotIds &ids)
@@ -149,29 +148,39 @@ StoredShot ShotStore::take(const ShotIds &ids)
         if (index < 0)
             continue;
         shot.samples[sensor] = m_channels[sensor][at(index)];
-        removeFrom(sensor, index);
+        removeFrom(sensor, index, 1);
     }
     countStructureChange();
     return shot;
 }
 
-void ShotStore::removeFrom(std::size_t sensor, int measurement)
+/// Another sensor may be ahead of this one, which then has fewer of them.
+void ShotStore::removeFrom(std::size_t sensor, int first, int count)
 {
     Channel &channel = m_channels[sensor];
-    m_removed.push_back(std::move(channel[at(measurement)]));
-    channel.erase(channel.begin() + measurement);
-    m_ids[sensor].erase(m_ids[sensor].begin() + measurement);
+    const auto size = static_cast<std::ptrdiff_t>(channel.size());
+    const auto begin = std::min<std::ptrdiff_t>(first, size);
+    const auto end = std::min<std::ptrdiff_t>(begin + count, size);
+    std::move(channel.begin() + begin, channel.begin() + end, std::back_inserter(m_removed));
+    channel.erase(channel.begin() + begin, channel.begin() + end);
+    m_ids[sensor].erase(m_ids[sensor].begin() + begin, m_ids[sensor].begin() + end);
 }
 
-void ShotStore::insert(int measurement, const StoredShot &shot)
+void ShotStore::insert(int first, const std::vector<StoredShot> &shots)
 {
     for (std::size_t sensor = 0; sensor < m_channels.size(); ++sensor) {
-        if (!shot.samples[sensor])
-            continue;
+        Channel samples;
+        std::vector<quint64> ids;
+        for (const StoredShot &shot : shots) {
+            if (!shot.samples[sensor])
+                continue;
+            samples.push_back(shot.samples[sensor]);
+            ids.push_back(shot.ids[sensor]);
+        }
         Channel &channel = m_channels[sensor];
-        const auto place = std::clamp<std::ptrdiff_t>(measurement, 0, static_cast<std::ptrdiff_t>(channel.size()));
-        channel.insert(channel.begin() + place, shot.samples[sensor]);
-        m_ids[sensor].insert(m_ids[sensor].begin() + place, shot.ids[sensor]);
+        const auto place = std::clamp<std::ptrdiff_t>(first, 0, static_cast<std::ptrdiff_t>(channel.size()));
+        channel.insert(channel.begin() + place, samples.begin(), samples.end());
+        m_ids[sensor].insert(m_ids[sensor].begin() + place, ids.begin(), ids.end());
     }
     countStructureChange();
 }

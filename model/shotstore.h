@@ -46,13 +46,13 @@ public:
     bool appendSample(int sensor, int measurement, double value);
     /// Replaces all measurements of one sensor.
     void setChannel(int sensor, Channel channel);
-    /// Removes one measurement of every sensor that has it; false if none has.
-    [[nodiscard]] bool remove(int measurement);
+    /// Removes measurements that follow each other, of every sensor that has them; returns how many there were.
+    int remove(int first, int count = 1);
     /// Removes those of a shot's measurements that are in the store, wherever they are, and returns a share in them.
     [[nodiscard]] StoredShot take(const ShotIds &ids);
-    /// Puts measurements back that were removed, with their ids, and moves those from the index on up; behind the last
-    /// one if the index is higher.
-    void insert(int measurement, const StoredShot &shot);
+    /// Puts measurements back that were removed, one behind the other and with their ids, and moves those from the
+    /// index on up; behind the last one if the index is higher.
+    void insert(int first, const std::vector<StoredShot> &shots);
     void clear();
     /// Frees the samples of removed measurements: call once no plot points at them any more.
     void discardRemoved() { m_removed.clear(); }
@@ -61,7 +61,7 @@ public:
 
 private:
     [[nodiscard]] SampleList *find(int sensor, int measurement) const;
-    void removeFrom(std::size_t sensor, int measurement);
+    void removeFrom(std::size_t sensor, int first, int count);
     void countStructureChange();
 
     std::array<Channel, kNumSensors> m_channels;

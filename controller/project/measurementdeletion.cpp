@@ -80,15 +80,10 @@ int MeasurementDeletion::remove(const DeletionPlan &plan)
     return removed;
 }
 
-/// Goes from the last one down, which leaves the same measurements as deleting the first one again and again, but moves
-/// each of those behind only once.
+/// All at once, which leaves the same measurements as deleting the first one again and again.
 int MeasurementDeletion::remove(const DeletionPlan::Step &step)
 {
-    int removed = 0;
-    for (int index = step.first + step.removed.size() - 1; index >= step.first; --index) {
-        if (m_desk.model.deleteChannel(index))
-            ++removed;
-    }
+    const int removed = step.removed.isEmpty() ? 0 : m_desk.model.deleteChannels(step.first, step.removed.size());
     if (removed < step.wanted)
         qCDebug(lcController) << "model::deleteChannel returned false!!";
     return removed;

@@ -87,12 +87,20 @@ void ModelEdits::toggleShots(EditStep &step, const ShotIds &untouched)
     std::vector<ShotChange> &changes = step.notes.shots;
     if (step.isDone)
         std::reverse(changes.begin(), changes.end());
+    ShotChanges alike; // those that follow each other and all put back or all take out
+    bool putsBack = false;
+    const auto toggleAlike = [&] {
+        putsBack ? m_project.putBack(alike) : m_project.takeOut(alike);
+        alike.clear();
+    };
     for (ShotChange &change : changes) {
-        if (change.isRemoval == step.isDone)
-            m_project.putBack(change);
-        else if (!haveOneInCommon(change.shot.ids, untouched))
-            m_project.takeOut(change);
+        if ((change.isRemoval == step.isDone) != putsBack)
+            toggleAlike();
+        putsBack = change.isRemoval == step.isDone;
+        if (putsBack || !haveOneInCommon(change.shot.ids, untouched))
+            alike.push_back(&change);
     }
+    toggleAlike();
     if (step.isDone)
         std::reverse(changes.begin(), changes.end());
 }

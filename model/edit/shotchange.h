@@ -21,6 +21,8 @@ struct ShotChange
     }
 };
 
+using ShotChanges = std::vector<ShotChange *>; ///< not owned, none is null
+
 /// Another label of a shot, wherever that is.
 struct LabelChange
 {

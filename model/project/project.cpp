@@ -4,7 +4,9 @@
 #include "model/indexcheck.h"
 #include "model/logging.h"
 
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 void Project::clearDescription()
 {
@@ -47,13 +49,15 @@ void Project::clearShots()
     meta.clearShots();
 }
 
-bool Project::removeShot(int shot)
+int Project::removeShots(int first, int count)
 {
-    noteRemoval(shot);
-    if (!shots.remove(shot))
-        return false;
-    meta.removeShot(shot);
-    return true;
+    const int last = std::min(count, shots.shotCount() - first) + first - 1;
+    for (int shot = last; shot >= first; --shot)
+        noteRemoval(shot);
+    const int removed = shots.remove(first, count);
+    if (removed > 0)
+        meta.removeShots(first, removed);
+    return removed;
 }
 
 void Project::noteRemoval(int shot) const
@@ -92,25 +96,62 @@ int Project::indexOf(const ShotIds &ids) const
     return shot;
 }
 
-void Project::takeOut(ShotChange &change)
+void Project::takeOut(const ShotChanges &changes)
 {
-    const int shot = indexOf(change.shot.ids);
+    for (auto next = changes.begin(); next != changes.end();)
+        next = takeOutRun(next, changes.end());
+}
+
+Project::ChangeIterator Project::takeOutRun(ChangeIterator first, ChangeIterator end)
+{
+    const int last = indexOf((*first)->shot.ids);
+    int shot = last;
+    auto next = first;
+    for (; next != end && shot >= 0 && shots.shot(shot).ids == (*next)->shot.ids; ++next, --shot) {
+        (*next)->meta = meta.shot(shot);
+        (*next)->shot = shots.shot(shot);
+    }
+    if (next == first) {
+        takeOutOne(**first, last);
+        return ++next;
+    }
+    shots.remove(shot + 1, last - shot);
+    meta.removeShots(shot + 1, last - shot);
+    return next;
+}
+
+/// A shot that is gone, or whose measurements do not all have the same index.
+void Project::takeOutOne(ShotChange &change, int shot)
+{
     if (shot < 0)
         return;
     change.meta = meta.shot(shot);
     change.shot = shots.take(change.shot.ids);
-    meta.removeShot(shot);
+    meta.removeShots(shot, 1);
 }
 
-void Project::putBack(ShotChange &change)
+void Project::putBack(const ShotChanges &changes)
 {
-    if (!change.isOut())
-        return;
-    const int shot = qMin(change.index, shots.shotCount());
-    shots.insert(shot, change.shot);
-    meta.insertShot(shot, change.meta);
-    change.shot.samples = {};
-    change.meta = {};
+    for (auto next = changes.begin(); next != changes.end();)
+        next = putBackRun(next, changes.end());
+}
+
+Project::ChangeIterator Project::putBackRun(ChangeIterator first, ChangeIterator end)
+{
+    std::vector<StoredShot> samples;
+    std::vector<ShotMeta> others;
+    auto next = first;
+    for (; next != end && (*next)->index - (*first)->index == next - first && (*next)->isOut(); ++next) {
+        samples.push_back((*next)->shot);
+        others.push_back(std::exchange((*next)->meta, {}));
+        (*next)->shot.samples = {};
+    }
+    if (next == first) // not out
+        return ++next;
+    const int shot = std::min((*first)->index, shots.shotCount());
+    shots.insert(shot, samples);
+    meta.insertShots(shot, others);
+    return next;
 }
 
 void Project::resetPhaseNames(const PhaseNames &defaults)

@@ -27,16 +27,18 @@ struct Project
     void clearSensors(const char *function);
     void clearImages(const char *function);
     void clearShots();
-    /// Removes one shot with its label and time stamp; false if there is no such shot.
-    [[nodiscard]] bool removeShot(int shot);
+    /// Removes shots that follow each other with their labels and time stamps; returns how many there were.
+    int removeShots(int first, int count);
     /// Appends one measurement to each sensor; returns the index of the shot.
     int appendShot(std::array<SampleList, kNumSensors> samples);
     void setLabel(int shot, const QString &label);
     /// The shot that has one of these ids; -1 if there is none.
     [[nodiscard]] int indexOf(const ShotIds &ids) const;
-    /// Takes the shot of a change out of the project and keeps it in the change, or puts it back. Notes nothing.
-    void takeOut(ShotChange &change);
-    void putBack(ShotChange &change);
+    /// Takes the shots of changes out of the project, one after the other, and keeps them in the changes, or puts them
+    /// back. Those that follow each other move at once: taken out from the last one down, put back from the first one
+    /// up. Notes nothing.
+    void takeOut(const ShotChanges &changes);
+    void putBack(const ShotChanges &changes);
 
     void resetPhaseNames(const PhaseNames &defaults);
     /// Names that are still the default ones become the new defaults; false if there was none to change.
@@ -45,5 +47,10 @@ struct Project
     [[nodiscard]] SensorGroup *groupWith(int group, int sensor, const char *function);
 
 private:
+    using ChangeIterator = ShotChanges::const_iterator;
+
     void noteRemoval(int shot) const;
+    void takeOutOne(ShotChange &change, int shot);
+    [[nodiscard]] ChangeIterator takeOutRun(ChangeIterator first, ChangeIterator end);
+    [[nodiscard]] ChangeIterator putBackRun(ChangeIterator first, ChangeIterator end);
 };

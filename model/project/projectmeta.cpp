@@ -131,10 +131,12 @@ void setElement(std::vector<Value> &values, std::size_t index, const Value &valu
 }
 
 template <typename Value>
-void removeElement(std::vector<Value> &values, std::size_t index)
+void removeElements(std::vector<Value> &values, std::size_t index, std::size_t count)
 {
-    if (index < values.size())
-        values.erase(values.begin() + static_cast<std::ptrdiff_t>(index));
+    const std::size_t begin = std::min(index, values.size());
+    const std::size_t end = begin + std::min(count, values.size() - begin);
+    values.erase(values.begin() + static_cast<std::ptrdiff_t>(begin),
+                 values.begin() + static_cast<std::ptrdiff_t>(end));
 }
 
 template <typename Value>
@@ -157,14 +159,20 @@ SensorUnit toUnit(const QJsonObject &object)
             sensor.value(kMinimumKey).toDouble(), sensor.value(kMaximumKey).toDouble()};
 }
 
-// A list that ends before the place stays as it is for a value that says nothing.
+// A list that ends before the place does not grow by values at its end that say nothing.
 template <typename Value>
-void insertElement(std::vector<Value> &values, std::size_t index, const Value &value)
+void insertElements(std::vector<Value> &values, std::size_t index, const std::vector<ShotMeta> &shots,
+                    Value ShotMeta::*part)
 {
-    if (index < values.size())
-        values.insert(values.begin() + static_cast<std::ptrdiff_t>(index), value);
-    else if (!(value == Value()))
-        setElement(values, index, value);
+    if (index < values.size()) {
+        values.insert(values.begin() + static_cast<std::ptrdiff_t>(index), shots.size(), Value());
+        for (std::size_t i = 0; i < shots.size(); ++i)
+            values[index + i] = shots[i].*part;
+        return;
+    }
+    for (std::size_t i = 0; i < shots.size(); ++i)
+        if (!(shots[i].*part == Value()))
+            setElement(values, index + i, shots[i].*part);
 }
 
 SensorMeta toSensor(const QJsonObject &object)
@@ -351,26 +359,27 @@ ShotMeta ProjectMeta::shot(int shot) const
     return {label(shot), timestamp(shot), period(shot), missing(shot), elementOf(shotOthers, index), origin(shot)};
 }
 
-void ProjectMeta::insertShot(int shot, const ShotMeta &meta)
+void ProjectMeta::insertShots(int first, const std::vector<ShotMeta> &shots)
 {
-    const auto index = static_cast<std::size_t>(shot);
-    insertElement(labels, index, meta.label);
-    insertElement(timestamps, index, meta.timestamp);
-    insertElement(periods, index, meta.period);
-    insertElement(missingValues, index, meta.missing);
-    insertElement(origins, index, meta.origin);
-    insertElement(shotOthers, index, meta.others);
+    const auto index = static_cast<std::size_t>(first);
+    insertElements(labels, index, shots, &ShotMeta::label);
+    insertElements(timestamps, index, shots, &ShotMeta::timestamp);
+    insertElements(periods, index, shots, &ShotMeta::period);
+    insertElements(missingValues, index, shots, &ShotMeta::missing);
+    insertElements(origins, index, shots, &ShotMeta::origin);
+    insertElements(shotOthers, index, shots, &ShotMeta::others);
 }
 
-void ProjectMeta::removeShot(int shot)
+void ProjectMeta::removeShots(int first, int count)
 {
-    const auto index = static_cast<std::size_t>(shot);
-    removeElement(labels, index);
-    removeElement(timestamps, index);
-    removeElement(periods, index);
-    removeElement(missingValues, index);
-    removeElement(origins, index);
-    removeElement(shotOthers, index);
+    const auto index = static_cast<std::size_t>(first);
+    const auto most = static_cast<std::size_t>(count);
+    removeElements(labels, index, most);
+    removeElements(timestamps, index, most);
+    removeElements(periods, index, most);
+    removeElements(missingValues, index, most);
+    removeElements(origins, index, most);
+    removeElements(shotOthers, index, most);
 }
 
 bool operator==(const QuantityMeta &a, const QuantityMeta &b)

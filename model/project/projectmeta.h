@@ -95,10 +95,10 @@ struct ProjectMeta
     [[nodiscard]] int missing(int shot) const;
     void setMissingValues(int shot, int count);
     [[nodiscard]] ShotMeta shot(int shot) const;
-    /// All that the shots from there on have moves up by one.
-    void insertShot(int shot, const ShotMeta &meta);
-    /// All that the shots behind have moves down by one.
-    void removeShot(int shot);
+    /// All that the shots from there on have moves up.
+    void insertShots(int first, const std::vector<ShotMeta> &shots);
+    /// All that the shots behind have moves down.
+    void removeShots(int first, int count);
     /// Drops what shots behind the first `count` have.
     void keepShots(int count);
     void clearShots() { keepShots(0); }

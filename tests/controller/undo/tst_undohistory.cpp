@@ -166,14 +166,25 @@ struct Pair
             reference.redo();
     }
 
+    /// A label comes and goes with its shot.
+    void labelNewShots()
+    {
+        const std::vector<int> present = reference.present();
+        for (int shot = 0; shot < bench.shots() && shot < int(present.size()); ++shot)
+            if (bench.model.shotLabel(shot).isEmpty())
+                bench.model.setShotLabel(shot, QString::number(present[std::size_t(shot)]));
+    }
+
     [[nodiscard]] bool agrees() const
     {
         const std::vector<int> present = reference.present();
         bool same = bench.shots() == int(present.size()) && bench.model.color(0).rgb() == reference.color;
-        for (int shot = 0; same && shot < bench.shots(); ++shot)
+        for (int shot = 0; same && shot < bench.shots(); ++shot) {
+            const int number = present[std::size_t(shot)];
+            same = bench.model.shotLabel(shot) == QString::number(number);
             for (const int sensor : {0, 4})
-                same =
-                    same && bench.samples(sensor, shot) == reference.recorded[std::size_t(present[std::size_t(shot)])];
+                same = same && bench.samples(sensor, shot) == reference.recorded[std::size_t(number)];
+        }
         return same && bench.slotsMatchModel();
     }
 
@@ -206,6 +217,7 @@ private slots:
         Pair pair(static_cast<quint32>(seed));
         for (int action = 0; action < 250; ++action) {
             pair.act();
+            pair.labelNewShots();
             QVERIFY2(pair.agrees(), qPrintable("after action %1"_s.arg(action)));
         }
         while (pair.reference.done > 0)
@@ -253,6 +265,45 @@ private slots:
         bench.say("run=0");
         bench.view.findChild<QAction *>("actionUndo"_s)->trigger();
         QCOMPARE(bench.model.clock(), 100);
+    }
+
+    /// Neighbours move at once: shot by shot, all those behind would move thousands of times.
+    void neighboursMoveAtOnce()
+    {
+        constexpr int kShots = 3000;
+        Model model{QString()};
+        UndoHistory history(model);
+        for (int shot = 0; shot < kShots; ++shot)
+            addShot(model, {double(shot)});
+        model.setShotLabel(kShots - 1, "last"_s); // the lists of labels and periods have different lengths
+        model.setShotLabel(1500, "in the middle"_s);
+        model.setSamplingPeriod(1999, 250);
+        (void)model.appendMeasurement(0); // one sensor is ahead
+        const ProjectMeta meta = model.projectMeta();
+        const auto isWhole = [&model, &meta] {
+            bool same = model.projectMeta() == meta && model.numChannels(0) == kShots + 1;
+            for (int shot = 0; same && shot < kShots; ++shot)
+                same = model.measurement(4, shot) && *model.measurement(4, shot) == SampleList{double(shot)};
+            return same;
+        };
+        {
+            const EditScope edit(&model, [] { return "x"_s; });
+            QCOMPARE(model.deleteChannels(1000, 1000), 1000);
+            QCOMPARE(model.deleteChannels(1500, kShots), 501); // no more than there are
+            QCOMPARE(model.deleteChannels(1500, 1), 0);
+        }
+        for (int turn = 0; turn < 2; ++turn) {
+            QCOMPARE(model.numChannels(0), 1500);
+            QCOMPARE(*model.measurement(2, 1000), SampleList{2000.0});
+            QCOMPARE(model.shotLabel(1500 - 1), QString());
+            const quint64 revision = model.structureRevision();
+            history.undo();
+            QVERIFY(isWhole());
+            history.redo();
+            QVERIFY(model.structureRevision() - revision <= 6); // two runs, and the shot of one sensor, twice
+        }
+        history.undo();
+        QVERIFY(isWhole());
     }
 
     void limits_data()

@@ -17,6 +17,8 @@ class TestAboutDialog : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { QLocale::setDefault(QLocale(QLocale::German)); } // as the language switch does
+
     void versionsOfTheBox_data()
     {
         columns<QString, bool, QString>("hardware", "connected", "text");
