@@ -79,6 +79,8 @@ ModelFiles::~ModelFiles() = default;
 void ModelFiles::setCurrentFile(const QString &absolutePath)
 {
     m_openLosses = {}; // a saved file holds what the project does
+    if (absolutePath.isEmpty())
+        noteSaved({});
     if (std::exchange(m_currentFile, absolutePath) != absolutePath)
         m_changes.fileState();
 }
