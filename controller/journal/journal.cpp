@@ -4,7 +4,6 @@
 #include "model/model.h"
 
 #include <QDir>
-#include <QFileInfo>
 
 #include <utility>
 
@@ -29,10 +28,11 @@ JournalBase baseOf(const Model &model, const QString &programVersion)
     base.programVersion = programVersion;
     base.started = QDateTime::currentDateTime();
     base.file = model.currentFile();
-    const QFileInfo file(base.file);
-    if (!base.file.isEmpty() && file.exists()) {
-        base.fileSize = file.size();
-        base.fileTime = file.lastModified().toMSecsSinceEpoch();
+    // As it was read or written: what it has become since, the project does not know.
+    const FileStamp stamp = model.files().knownStamp();
+    if (stamp.isThere()) {
+        base.fileSize = stamp.size;
+        base.fileTime = stamp.modified / 1000000;
     }
     return base;
 }
