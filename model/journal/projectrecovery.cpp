@@ -211,8 +211,8 @@ private:
         // A measurement that is missing has the same check number as one without samples.
         const int index = withBase && run.wantedIndex >= 0 ? m_base.indexNow(run.wantedIndex) : -1;
         if (index >= 0 && index < m_base.count(sensor)) {
-            origin = {index, run.count};
             samples = m_base.samples(sensor, index).mid(0, run.count);
+            origin = {index, samples.size()};
         }
         const auto own = m_contents.samples.find(id);
         if (own != m_contents.samples.end()) {

@@ -62,6 +62,10 @@ QByteArray journalOf(const Model &model)
 
 bool areAlike(const Model &a, const Model &b)
 {
+    for (int shot = 0; shot < a.project().shots.shotCount(); ++shot) {
+        if (a.shotLabel(shot) != b.shotLabel(shot))
+            return false;
+    }
     for (int sensor = 0; sensor < kNumSensors; ++sensor) {
         if (a.numChannels(sensor) != b.numChannels(sensor))
             return false;
@@ -70,7 +74,7 @@ bool areAlike(const Model &a, const Model &b)
                 return false;
         }
     }
-    return a.comment() == b.comment() && a.projectMeta().labels == b.projectMeta().labels;
+    return a.comment() == b.comment();
 }
 
 } // namespace
