@@ -146,8 +146,14 @@ void ControllerParts::connectJournal(View &view)
     QObject::connect(&progress, &FileProgress::begun, &protection.journal, &Journal::takeChanges);
     QObject::connect(&files, &ProjectFiles::interrupted, &files, [this] { recorder.requestStop(); });
     QObject::connect(&files, &ProjectFiles::interruptionTaken, &protection.journal, &Journal::secure);
-    QObject::connect(&protection.recovery, &Recovery::restored, &files, [this] { recorder.forgetSeries(); });
+    QObject::connect(&protection.recovery, &Recovery::restored, &files, [this] {
+        recorder.forgetSeries();
+        recorder.restartShotClock();
+        watch.continuation.forget();
+        offer.forgetAnswers();
+    });
     QObject::connect(&protection.recovery, &Recovery::restored, &period, &SamplingPeriod::matchProject);
+    QObject::connect(&protection.recovery, &Recovery::restored, &access.notice, &OpenNotice::show);
 }
 
 void ControllerParts::connectView(View &view)

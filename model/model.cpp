@@ -93,6 +93,7 @@ void Model::setSamplingPeriod(int measurement, int milliseconds)
     qCDebug(lcModel) << Q_FUNC_INFO << measurement << milliseconds;
     if (hasShot(measurement, Q_FUNC_INFO))
         m_project.meta.setPeriod(measurement, qBound(0, milliseconds, kMaxClock));
+    m_changes.countOne();
 }
 
 void Model::setShotLabel(int measurement, const QString &label)

@@ -79,6 +79,8 @@ ModelFiles::~ModelFiles() = default;
 void ModelFiles::setCurrentFile(const QString &absolutePath)
 {
     m_openLosses = {}; // a saved file holds what the project does
+    if (absolutePath.isEmpty())
+        noteSaved({});
     if (std::exchange(m_currentFile, absolutePath) != absolutePath)
         m_changes.fileState();
 }
@@ -217,6 +219,8 @@ struct ModelFiles::Restored
 {
     RecoveredProject project;
     ImageStore images;
+    FileStamp stamp;   ///< of the file that the journal began with
+    OpenLosses losses; ///< of that file
 };
 
 std::optional<RecoveryLosses> ModelFiles::restore(JournalContents &contents, const char *function)
@@ -238,12 +242,16 @@ std::optional<ModelFiles::Restored> ModelFiles::readRestored(JournalContents &co
     const auto task = [&]() -> std::optional<Restored> {
         QFile file(contents.base.file);
         Pacer pacer(m_work.yield(), 2 * file.size());
+        const FileStamp stamp = stampOf(file.fileName()); // now: as when a project is opened
         std::optional<ProjectDocument> base;
         if (QFileInfo(file).isFile() && file.open(QIODevice::ReadOnly))
             base = projectfile::read(file, pacer);
+        OpenLosses losses = base ? lossesOf(*base, {}) : OpenLosses();
         RecoveredProject project = recoverProject(contents, std::move(base));
         ImageStore images = ImageStore::decoded(std::move(project.document.images), [&pacer] { pacer.look(); });
-        return Restored{std::move(project), std::move(images)};
+        for (int image = 0; image < kNumProjectImages; ++image)
+            losses.pictures[at(image)] = images.state(image);
+        return Restored{std::move(project), std::move(images), stamp, std::move(losses)};
     };
     return m_work.run(task, Q_FUNC_INFO);
 }
@@ -252,11 +260,12 @@ void ModelFiles::apply(Restored &restored, const JournalContents &contents, cons
 {
     const ModelChanges::Silence silence(m_changes);
     m_editor.clear();
-    m_openLosses = {};
-    // A file that is still the one that the journal began with is replaced without a question.
-    const FileStamp stamp = stampOf(contents.base.file);
-    if (stamp.size == contents.base.fileSize && stamp.modified / 1000000 == contents.base.fileTime)
-        m_diskCopy.note(contents.base.file, stamp);
+    // A file that is still the one that the journal began with is replaced without a question, any other is not, even
+    // if it was opened just before.
+    m_diskCopy.forget();
+    if (restored.stamp.isThere() && restored.stamp.size == contents.base.fileSize
+        && restored.stamp.modified / 1000000 == contents.base.fileTime)
+        m_diskCopy.note(contents.base.file, restored.stamp);
     m_project.images = std::move(restored.images);
     applyDocument(restored.project.document, contents.base.file, m_editor, m_project, function);
     applyMeta(std::move(restored.project.meta), m_project);
@@ -276,6 +285,7 @@ void ModelFiles::apply(Restored &restored, const JournalContents &contents, cons
         saved.pictures[image] = isInFile ? m_project.images.pixmaps()[image].cacheKey() : kOtherPicture;
     }
     noteSaved(std::move(saved));
+    m_openLosses = std::move(restored.losses);
 }
 
 bool ModelFiles::saveCsv(const QString &fileName, const char *function)

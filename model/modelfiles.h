@@ -53,6 +53,8 @@ public:
     [[nodiscard]] bool isOldFileKept() const { return !m_lacksOld; }
     /// Whether the current file is still what was opened or saved last. Not while a file is read or written.
     [[nodiscard]] DiskCopy::State fileOnDisk(const char *function);
+    /// What the current file was like then; that of no file if there is none, or if it was changed before restore().
+    [[nodiscard]] FileStamp knownStamp() const { return m_diskCopy.stamp(m_currentFile); }
     void setSaveOptions(const SaveOptions &options) { m_saveOptions = options; }
     [[nodiscard]] const SaveOptions &saveOptions() const { return m_saveOptions; }
 

@@ -4,7 +4,6 @@
 #include "model/model.h"
 
 #include <QDir>
-#include <QFileInfo>
 
 #include <utility>
 
@@ -29,10 +28,11 @@ JournalBase baseOf(const Model &model, const QString &programVersion)
     base.programVersion = programVersion;
     base.started = QDateTime::currentDateTime();
     base.file = model.currentFile();
-    const QFileInfo file(base.file);
-    if (!base.file.isEmpty() && file.exists()) {
-        base.fileSize = file.size();
-        base.fileTime = file.lastModified().toMSecsSinceEpoch();
+    // As it was read or written: what it has become since, the project does not know.
+    const FileStamp stamp = model.files().knownStamp();
+    if (stamp.isThere()) {
+        base.fileSize = stamp.size;
+        base.fileTime = stamp.modified / 1000000;
     }
     return base;
 }
@@ -108,7 +108,7 @@ bool Journal::mayWrite() const
 
 bool Journal::secure()
 {
-    return !m_folder.path().isEmpty() && !m_discarded && handOver() && (m_isForced || force());
+    return m_timer.isActive() && handOver() && (m_isForced || force());
 }
 
 void Journal::discard()
@@ -135,6 +135,7 @@ bool Journal::handOver()
     m_tracker.commit(std::move(delta));
     m_isForced = false;
     m_sinceFault.invalidate();
+    m_isTold = m_isTold && m_isForceFailing; // it is handed over; that it is forced, is yet to be seen
     dropOld();
     return true;
 }
@@ -173,6 +174,7 @@ void Journal::end()
     m_file->file.remove();
     m_file.reset();
     m_sinceFault.invalidate();
+    m_isTold = m_isForceFailing = false;
     m_isForced = true;
     publish();
 }
@@ -212,11 +214,13 @@ bool Journal::force()
     qCDebug(lcController).noquote().nospace()
         << Q_FUNC_INFO << " ms=" << m_lastForce << " longest=" << m_longestForce << " bytes=" << m_file->file.size();
     publish();
+    m_isForceFailing = !forced;
     if (!forced) {
         fail(m_file->file.fault().value_or(JournalFault()));
         return false;
     }
     m_isForced = true;
+    m_isTold = false;
     m_shotEnded = false;
     return true;
 }
@@ -225,10 +229,9 @@ bool Journal::force()
 
 void Journal::fail(const JournalFault &fault)
 {
-    const bool isKnown = m_sinceFault.isValid();
     m_sinceFault.start();
     qCDebug(lcController).noquote() << Q_FUNC_INFO << m_folder.path() << fault.detail;
-    if (isKnown)
+    if (std::exchange(m_isTold, true))
         return;
     emit told(
         tr("Ungespeicherte Änderungen können nicht gesichert werden (%1: %2). Die Aufzeichnung läuft weiter; bitte "

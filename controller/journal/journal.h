@@ -71,5 +71,7 @@ private:
     bool m_wasRecording = false;
     bool m_shotEnded = false;
     bool m_isForced = true; // nothing was handed over since
+    bool m_isForceFailing = false;
+    bool m_isTold = false; // that writing fails
     bool m_discarded = false;
 };

@@ -176,6 +176,8 @@ void Recovery::discard(const LeftJournal &journal)
 bool Recovery::mayReplaceProject()
 {
     m_desk.view.commitInput();
+    if (mustWaitForRecording())
+        return false;
     if (!m_desk.model.isProjectModified())
         return true;
     Choice choice;
@@ -184,7 +186,19 @@ bool Recovery::mayReplaceProject()
     choice.hint = tr("Es wird durch das wiederhergestellte Projekt ersetzt.");
     choice.answers = QStringList{tr("Speichern und wiederherstellen"), tr("Später")};
     choice.safest = 1;
-    return choose(choice) == 0 && m_needs.saving.saveUnsavedChanges([] {}) && !m_desk.model.isProjectModified();
+    return choose(choice) == 0 && m_needs.saving.saveUnsavedChanges([] {}) && !m_desk.model.isProjectModified()
+           && !mustWaitForRecording();
+}
+
+/// The box may have begun one while the question was open; its shot must not land in the restored project.
+bool Recovery::mustWaitForRecording()
+{
+    if (!m_isRecording())
+        return false;
+    warn(
+        tr("Inzwischen läuft eine Aufzeichnung. Die ungespeicherten Änderungen bleiben aufgehoben; beim nächsten Start "
+           "wird wieder gefragt."));
+    return true;
 }
 
 // --- Restoring ---

@@ -54,6 +54,7 @@ private:
     [[nodiscard]] bool confirmDiscarding(const JournalContents &contents);
     void discard(const LeftJournal &journal);
     [[nodiscard]] bool mayReplaceProject();
+    [[nodiscard]] bool mustWaitForRecording();
     void restore(const LeftJournal &journal, JournalContents &contents);
     void show(const RecoveryLosses &losses);
     void warn(const QString &text);

@@ -114,13 +114,14 @@ JournalDelta JournalTracker::changes(const Project &project, quint64 changeCount
         packer.next().base(m_base);
     const bool structure = !m_isBegun || delta.marks.structure != m_marks.structure;
     const bool described = structure || delta.marks.changes != m_marks.changes;
+    // Before what may take several blocks: if the first look is cut off, the file's shots have lost nothing else.
+    if (described || delta.marks.osziMinimum != m_marks.osziMinimum || delta.marks.osziMaximum != m_marks.osziMaximum)
+        findSettings(project, delta, packer);
+    if (described)
+        findNotes(project, delta, packer);
     findSamples(project, delta, packer);
     if (structure)
         findOrder(project, delta, packer);
-    if (described)
-        findNotes(project, delta, packer);
-    if (described || delta.marks.osziMinimum != m_marks.osziMinimum || delta.marks.osziMaximum != m_marks.osziMaximum)
-        findSettings(project, delta, packer);
     findPictures(project, delta, packer);
     if (!packer.isEmpty())
         packer.next().time(now);

@@ -208,9 +208,11 @@ private:
         RecoveredProject::Origin origin;
         SampleList samples;
         const BaseShots::Run run = m_base.wanted(id);
-        if (withBase && run.wantedIndex >= 0) {
-            origin = {m_base.indexNow(run.wantedIndex), run.count};
-            samples = m_base.samples(sensor, origin.index).mid(0, run.count);
+        // A measurement that is missing has the same check number as one without samples.
+        const int index = withBase && run.wantedIndex >= 0 ? m_base.indexNow(run.wantedIndex) : -1;
+        if (index >= 0 && index < m_base.count(sensor)) {
+            samples = m_base.samples(sensor, index).mid(0, run.count);
+            origin = {index, samples.size()};
         }
         const auto own = m_contents.samples.find(id);
         if (own != m_contents.samples.end()) {

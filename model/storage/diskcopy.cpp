@@ -6,6 +6,11 @@ void DiskCopy::note(const QString &fileName, const FileStamp &stamp)
     m_stamp = stamp;
 }
 
+FileStamp DiskCopy::stamp(const QString &fileName) const
+{
+    return fileName == m_fileName ? m_stamp : FileStamp();
+}
+
 DiskCopy::State DiskCopy::state(const QString &fileName, const std::function<void()> &pause)
 {
     const FileStamp now = stampOf(fileName);

@@ -14,6 +14,9 @@ public:
     };
 
     void note(const QString &fileName, const FileStamp &stamp);
+    void forget() { *this = DiskCopy(); }
+    /// As noted; that of no file if it is another file.
+    [[nodiscard]] FileStamp stamp(const QString &fileName) const;
     /// Reads the file, with pauses, only if its time differs while its size does not.
     [[nodiscard]] State state(const QString &fileName, const std::function<void()> &pause);
 

@@ -2697,6 +2697,10 @@ Please choose one of them with &quot;Open project...&quot;.</translation>
         <source>Die Projektdatei fehlt oder wurde inzwischen geändert. Nicht alles konnte wiederhergestellt werden:</source>
         <translation>The project file is missing or has been changed meanwhile. Not everything could be restored:</translation>
     </message>
+    <message>
+        <source>Inzwischen läuft eine Aufzeichnung. Die ungespeicherten Änderungen bleiben aufgehoben; beim nächsten Start wird wieder gefragt.</source>
+        <translation>A recording is running by now. The unsaved changes are kept; you will be asked again at the next start.</translation>
+    </message>
 </context>
 <context>
     <name>RowRanges</name>

@@ -1,68 +1,74 @@
 #include "model/model.h"
-#include "tests/fuzz/fuzz.h"
+#include "model/project/projectkeys.h"
+#include "tests/fuzz/modelfiles.h"
 
-#include <QFile>
-#include <QGuiApplication>
-#include <QLoggingCategory>
-#include <QTemporaryDir>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+#include <iterator>
 
 namespace {
 
-/// In memory where the system offers that: files are forced to the disk, which would be most of the work.
-QString memoryFolder()
+bool isKnown(const QString &key)
 {
-    const QString memory = QStringLiteral("/dev/shm");
-    return QFileInfo(memory).isWritable() ? memory : QDir::tempPath();
+    using namespace projectkeys;
+    static const char *const names[] = {kClock,         kComment,        kCorrections,   kFileVersion, kHardwareVersion,
+                                        kMarkers,       kMesotraType,    kClosingForce,  kPressure,    kPressTime,
+                                        kPhases,        kCustomer,       kInjectionTime, kDate,        kName,
+                                        kNumber,        kUser,           kViewData,      kReserved,    kSensorMaximum,
+                                        kSensorMinimum, kFirmwareVersion};
+    if (std::any_of(std::begin(names), std::end(names),
+                    [&key](const char *name) { return key == QLatin1String(name); }))
+        return true;
+    for (int i = 0; i < kNumSensors; ++i) {
+        if (key == samples(i) || key == sensorName(i) || key == image(i))
+            return true;
+    }
+    return false;
 }
 
-QString file(const char *name)
+bool contains(const UnknownMembers &members, const QString &name)
 {
-    static const QTemporaryDir folder(memoryFolder() + QStringLiteral("/ventaro-fuzz"));
-    return folder.filePath(QLatin1String(name));
+    return std::any_of(members.begin(), members.end(),
+                       [&name](const UnknownMember &member) { return member.name == name; });
 }
 
-QByteArray content(const QString &name)
+// Those that are too large to be kept are told.
+void checkUnknown(const QByteArray &text, const Model &model)
 {
-    QFile opened(name);
-    REQUIRE(opened.open(QIODevice::ReadOnly));
-    return opened.readAll();
-}
-
-void write(const QString &name, const QByteArray &text)
-{
-    QFile opened(name);
-    REQUIRE(opened.open(QIODevice::WriteOnly) && opened.write(text) == text.size());
+    if (model.openLosses().lost.count > 0)
+        return;
+    const QJsonObject object = QJsonDocument::fromJson(text).object();
+    for (auto member = object.begin(); member != object.end(); ++member)
+        REQUIRE(isKnown(member.key()) || contains(model.project().settings.unknown, member.key()));
 }
 
 } // namespace
 
-extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static int count = 1; // the application must not read the fuzzer's arguments
-    (void)argc;
-    static const QGuiApplication application(count, *argv);
-    QLoggingCategory::setFilterRules(QStringLiteral("*=false"));
-    return 0;
-}
-
-// A project file. One that opens is saved, and what was saved opens as the same project.
+// A project file. One that opens is saved, and what was saved opens as the same project, with all that the program does
+// not know.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    write(file("read.vnt"), bytes(data, size));
+    using namespace modelfiles;
+    const QByteArray text = bytes(data, size);
+    write(path("read.vnt"), text);
     Model model{QString()};
     model.setYield([](int) {});
-    if (!model.open(file("read.vnt"))) {
+    if (!model.open(path("read.vnt"))) {
         REQUIRE(model.currentFile().isEmpty() && model.numChannels(0) == 0);
         return 0;
     }
     REQUIRE(!model.isProjectModified());
-    REQUIRE(model.save(file("first.vnt")));
-    Model again{file("first.vnt")};
+    checkUnknown(text, model);
+    REQUIRE(model.save(path("first.vnt")));
+    Model again{path("first.vnt")};
     again.setYield([](int) {});
     for (int sensor = 0; sensor < kNumSensors; ++sensor)
         REQUIRE(again.numChannels(sensor) == model.numChannels(sensor));
-    REQUIRE(again.save(file("second.vnt")));
-    REQUIRE(content(file("first.vnt")) == content(file("second.vnt")));
+    REQUIRE(again.project().settings.unknown == model.project().settings.unknown);
+    REQUIRE(again.project().settings.unknownInView == model.project().settings.unknownInView);
+    REQUIRE(again.save(path("second.vnt")));
+    REQUIRE(content(path("first.vnt")) == content(path("second.vnt")));
     return 0;
 }

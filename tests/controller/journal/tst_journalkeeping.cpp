@@ -119,6 +119,7 @@ private slots:
         {
             Bench bench(controllerIn(m_folder));
             bench.recordShots(2);
+            bench.model.setComment("said"_s);
             QTRY_COMPARE(shotsIn(m_folder), 2);
             bench.prompts->answers = {QMessageBox::Discard};
             bench.prompts->openNames = {other};
@@ -133,6 +134,67 @@ private slots:
             QTest::qWait(4 * kTick);
         }
         QCOMPARE(shotsIn(m_folder), isKept ? 2 : -1);
+        QCOMPARE(isKept && contentsOf(m_folder)->settings.contains("\"said\""), isKept);
+    }
+
+    void nothingIsKeptOfAProjectThatIsSaved()
+    {
+        Bench bench(controllerIn(m_folder));
+        bench.controller.leaveAtOnce();
+        QVERIFY(journalsIn(m_folder).isEmpty()); // else it would be offered if the program were killed now
+    }
+
+    /// What somebody else wrote between the opening and the first change must not be replaced unasked.
+    void aFileThatSomebodyElseChanged_data()
+    {
+        columns<bool, bool, int>("isChanged", "isOpened", "state");
+        using State = DiskCopy::State;
+        row("nobody", false, false, int(State::Same));
+        row("nobody, opened again before", false, true, int(State::Same));
+        row("somebody", true, false, int(State::Changed));
+        row("somebody, opened again before", true, true, int(State::Changed));
+    }
+
+    void aFileThatSomebodyElseChanged()
+    {
+        QFETCH(bool, isChanged);
+        QFETCH(bool, isOpened);
+        QFETCH(int, state);
+        const QString file = m_dir->filePath("a.vnt"_s);
+        QVERIFY(Model(QString()).save(file));
+        Model model(file);
+        if (isChanged) {
+            Model other(file);
+            addShot(other, {9.0});
+            QVERIFY(other.save(file));
+        }
+        Journal journal(model, optionsIn(m_folder), [] { return false; });
+        addShot(model, {1.0});
+        model.setProjectModifiedFlag(true);
+        QVERIFY(journal.secure());
+        std::optional<JournalContents> contents = contentsOf(m_folder);
+        QVERIFY(contents);
+        Model second{QString()};
+        QVERIFY(!isOpened || second.open(file));
+        QVERIFY(second.restore(*contents));
+        QCOMPARE(second.numChannels(0), 1);
+        QCOMPARE(int(second.fileOnDisk()), state);
+    }
+
+    /// Its shot must not land in the restored project.
+    void aRecordingThatBeginsDuringTheQuestion()
+    {
+        leaveJournal(m_folder, 3);
+        Bench bench(controllerIn(m_folder));
+        bench.prompts->choices = {0};
+        bench.prompts->whileOpen = [&bench] {
+            bench.prompts->whileOpen = nullptr;
+            bench.say("run=1");
+        };
+        QTRY_COMPARE(int(bench.prompts->warnings.size()), 1);
+        bench.say("0;1;2;3;4;5");
+        QCOMPARE(bench.shots(), 1);
+        QTRY_COMPARE(journalsIn(m_folder).size(), 2);
     }
 
     void aRunningProgramsJournalIsLeftAlone()

@@ -1,12 +1,16 @@
 #include "journalrig.h"
 
 #include "model/changescope.h"
+#include "tests/support/files.h"
 #include "tests/support/literals.h"
 #include "tests/support/rows.h"
 #include "tests/support/shots.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <functional>
 
 Q_DECLARE_METATYPE(std::function<void(Model &)>)
@@ -29,13 +33,20 @@ QString textOf(const Model &model)
                          QString::number(model.osziMaximum(sensor)),
                          model.sensorDescription().sensorGroup(0).sensorName(sensor));
         text += model.projectMeta().sensors[std::size_t(sensor)].chosenQuantity;
+        text += model.sensorDescription().sensorGroup(0).sensorUnit(sensor);
         text += " image "_s + QString::number(model.image(sensor).width());
     }
     for (int shot = 0; shot < model.numChannels(0); ++shot) {
         const ShotOrigin origin = model.projectMeta().origin(shot);
         text += "\n"_s + model.shotLabel(shot) + model.timestamp(shot).toString(Qt::ISODateWithMs) + origin.box
                 + origin.file + QString::fromLatin1(origin.hash.toHex());
+        const ShotMeta meta = model.projectMeta().shot(shot);
+        text += " %1 ms %2 "_s.arg(meta.period).arg(meta.missing)
+                + QString::fromUtf8(QJsonDocument(meta.others).toJson(QJsonDocument::Compact));
     }
+    QList<QByteArray> imported = model.projectMeta().importedFiles.values();
+    std::sort(imported.begin(), imported.end());
+    text += QString::fromLatin1(imported.join(' ').toHex());
     for (int marker = 0; marker < Model::kNumMarkers; ++marker)
         text += " %1"_s.arg(model.verticalMarker(marker));
     return text + "\n"_s + model.projectData().toDebugText() + model.comment() + model.currentFile();
@@ -81,6 +92,16 @@ const QVector<std::pair<const char *, Change>> kChanges{
          meta.setOrigin(0, {"192.168.4.1"_s, "dir-20240305/a.bb"_s, "hash"_ba});
          model.setProjectMeta(meta);
      }},
+    {"period", [](Model &model) { model.setSamplingPeriod(1, 20); }},
+    {"missing values, keys of others and an imported file",
+     [](Model &model) {
+         ProjectMeta meta = model.projectMeta();
+         meta.setMissingValues(0, 7);
+         meta.setOthers(0, {{"later"_s, 1}});
+         meta.importedFiles.insert("fingerprint"_ba);
+         model.setProjectMeta(meta);
+     }},
+    {"unit", [](Model &model) { model.setSensorUnit(2, "bar"_s); }},
     {"time stamp", [](Model &model) { model.setTimestamp(0, kTime.addDays(1)); }},
     {"settings of the evaluation",
      [](Model &model) {
@@ -225,6 +246,84 @@ private slots:
         QCOMPARE(restored(next), wanted);
         QCOMPARE(next.read()->samples.count(second.measurementId(0, 0)), std::size_t(1));
         QVERIFY(next.read()->samples.at(second.measurementId(0, 0)).samples.isEmpty()); // the file has them
+    }
+
+    /// What the program does not understand, but keeps, is in the restored project too.
+    void whatIsNotUnderstoodIsKept()
+    {
+        QJsonObject object = QJsonDocument::fromJson(contentOf(m_file)).object();
+        object["later"_s] = QJsonArray{1, 2.5};
+        object["projectImage2"_s] = "bm8gcGljdHVyZQ=="_s;
+        writeFile(m_file, QJsonDocument(object).toJson());
+        Model model(m_file);
+        JournalRig journal(model);
+        model.setComment("changed"_s);
+        journal.write();
+        Model second{QString()};
+        std::optional<JournalContents> contents = journal.read();
+        QVERIFY(contents && second.restore(*contents));
+        const QString wanted = m_folder->filePath("wanted.vnt"_s);
+        const QString saved = m_folder->filePath("saved.vnt"_s);
+        QVERIFY(model.save(wanted) && second.save(saved));
+        QVERIFY(contentOf(saved).contains("later"));
+        QCOMPARE(contentOf(saved), contentOf(wanted));
+    }
+
+    /// Saving must not replace it, as if it had just been opened.
+    void aForeignFileStaysForeign()
+    {
+        writeFile(m_file, "{\"somebody's\": 1}");
+        Model model(m_file);
+        JournalRig journal(model);
+        addShot(model, {1.0});
+        journal.write();
+        Model second{QString()};
+        std::optional<JournalContents> contents = journal.read();
+        QVERIFY(contents && second.restore(*contents));
+        QVERIFY(second.openLosses().isForeign);
+    }
+
+    /// Its shots are in no file of its own, and the other one may be gone.
+    void aCopyNeedsNoFile()
+    {
+        Model model(m_file);
+        model.setCurrentFile({});
+        JournalRig journal(model);
+        journal.write();
+        QVERIFY(QFile::remove(m_file));
+        QCOMPARE(restored(journal), textOf(model));
+    }
+
+    /// A measurement without samples looks like none.
+    void aFileThatLacksAMeasurement()
+    {
+        Model model{QString()};
+        for (int sensor = 0; sensor < kNumSensors; ++sensor)
+            (void)model.appendMeasurement(sensor);
+        (void)model.appendSample(0, 0, 1.5);
+        QVERIFY(model.save(m_file));
+        JournalRig journal(model);
+        model.setComment("changed"_s);
+        journal.write();
+        const QString wanted = textOf(model);
+        QJsonObject object = QJsonDocument::fromJson(contentOf(m_file)).object();
+        object["sensor 5"_s] = QJsonArray();
+        writeFile(m_file, QJsonDocument(object).toJson());
+        QCOMPARE(restored(journal), wanted);
+    }
+
+    /// Many samples take several blocks.
+    void aFirstLookThatIsCutOffCostsNothingOfTheFile()
+    {
+        Model model(m_file);
+        model.setComment("changed"_s);
+        const QString wanted = textOf(model);
+        JournalRig journal(model);
+        addShot(model, SampleList(600000, 1.5));
+        journal.write();
+        QVERIFY(journal.bytes.size() > 5000000);
+        journal.bytes.chop(100);
+        QCOMPARE(restored(journal), wanted);
     }
 
     void aFileThatIsGoneOrChanged_data()
