@@ -112,19 +112,30 @@
     </message>
     <message>
         <source>wird nicht geführt</source>
-        <translation type="unfinished"></translation>
+        <translation>none is kept</translation>
     </message>
     <message>
         <source>leer, da nichts ungespeichert ist</source>
-        <translation type="unfinished"></translation>
+        <translation>empty, as nothing is unsaved</translation>
     </message>
     <message>
         <source>Schreiben auf den Datenträger: zuletzt %1 ms, höchstens %2 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>Writing to the disk: last %1 ms, at most %2 ms</translation>
     </message>
     <message>
         <source>Sicherung</source>
-        <translation type="unfinished"></translation>
+        <translation>Recovery journal</translation>
+    </message>
+</context>
+<context>
+    <name>BackupSetting</name>
+    <message>
+        <source>&amp;Vorige Fassung behalten (.vnt~)</source>
+        <translation>Keep pre&amp;vious version (.vnt~)</translation>
+    </message>
+    <message>
+        <source>Lässt beim Speichern den vorigen Stand des Projekts als Sicherungskopie daneben liegen</source>
+        <translation>When a project is saved, keeps its previous version beside it as a backup</translation>
     </message>
 </context>
 <context>
@@ -156,6 +167,10 @@
     <message>
         <source>importiert</source>
         <translation>imported</translation>
+    </message>
+    <message>
+        <source>teilweise</source>
+        <translation>partly</translation>
     </message>
 </context>
 <context>
@@ -220,7 +235,7 @@
     </message>
     <message>
         <source>Übernahme der Sensorbeschreibung</source>
-        <translation type="unfinished"></translation>
+        <translation>taking over the sensor description</translation>
     </message>
 </context>
 <context>
@@ -698,11 +713,11 @@
     </message>
     <message>
         <source>Spalten von %1</source>
-        <translation type="unfinished"></translation>
+        <translation>columns of %1</translation>
     </message>
     <message>
         <source>Grenzen von %1</source>
-        <translation type="unfinished"></translation>
+        <translation>limits of %1</translation>
     </message>
 </context>
 <context>
@@ -751,12 +766,242 @@
         <source>Die CSV-Datei konnte nicht gespeichert werden!</source>
         <translation>The CSV file could not be saved!</translation>
     </message>
+    <message>
+        <source>Gespeichert: %1</source>
+        <translation>Saved: %1</translation>
+    </message>
+</context>
+<context>
+    <name>FaultText</name>
+    <message>
+        <source>Die Datei ist nicht da.</source>
+        <translation>The file does not exist.</translation>
+    </message>
+    <message>
+        <source>Der Ordner %1 ist nicht da.</source>
+        <translation>The folder %1 does not exist.</translation>
+    </message>
+    <message>
+        <source>Unter diesem Namen gibt es einen Ordner.</source>
+        <translation>There is a folder of that name.</translation>
+    </message>
+    <message>
+        <source>Unter diesem Namen gibt es keine gewöhnliche Datei.</source>
+        <translation>What has that name is no ordinary file.</translation>
+    </message>
+    <message>
+        <source>Dazu fehlen die Zugriffsrechte.</source>
+        <translation>Permission is denied.</translation>
+    </message>
+    <message>
+        <source>Beim Lesen ist ein Fehler aufgetreten</source>
+        <translation>Reading failed</translation>
+    </message>
+    <message>
+        <source>Der Arbeitsspeicher reicht nicht aus.</source>
+        <translation>There is not enough memory.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist beschädigt oder kein Ventaro-Projekt (Zeile %1, Byte %2).</source>
+        <translation>The file is damaged or no Ventaro project (line %1, byte %2).</translation>
+    </message>
+    <message>
+        <source>Die Datei ist leer.</source>
+        <translation>The file is empty.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist unvollständig: Sie bricht in Zeile %1 ab (Byte %2).</source>
+        <translation>The file is incomplete: it ends in line %1 (byte %2).</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält kein Ventaro-Projekt.</source>
+        <translation>The file holds no Ventaro project.</translation>
+    </message>
+    <message>
+        <source>Beim Schreiben ist ein Fehler aufgetreten</source>
+        <translation>Writing failed</translation>
+    </message>
+    <message>
+        <source>Die Datei wird zu groß für diesen Datenträger.</source>
+        <translation>The file becomes too large for this medium.</translation>
+    </message>
+    <message>
+        <source>Der Name der Datei ist zu lang.</source>
+        <translation>The name of the file is too long.</translation>
+    </message>
+    <message>
+        <source>Ein anderes Programm hat die Datei währenddessen geändert.</source>
+        <translation>Another program has changed the file meanwhile.</translation>
+    </message>
+    <message>
+        <source>Die Endung des Namens gehört zu keinem Bildformat.</source>
+        <translation>The ending of the name belongs to no picture format.</translation>
+    </message>
+    <message>
+        <source>Kein Speicherplatz auf %1: %2 fehlen</source>
+        <translation>No space left on %1: %2 are missing</translation>
+    </message>
+    <message>
+        <source>Kein Speicherplatz auf %1</source>
+        <translation>No space left on %1</translation>
+    </message>
+    <message>
+        <source>Der zugeteilte Speicherplatz auf %1 ist aufgebraucht.</source>
+        <translation>Your quota on %1 is used up.</translation>
+    </message>
+    <message>
+        <source>Der Datenträger %1 ist schreibgeschützt.</source>
+        <translation>The medium %1 is read-only.</translation>
+    </message>
+    <message>
+        <source>Der Datenträger mit %1 ist nicht mehr erreichbar.</source>
+        <translation>The medium with %1 cannot be reached any more.</translation>
+    </message>
+    <message>
+        <source>Vielleicht wurde sie verschoben, umbenannt oder gelöscht.</source>
+        <translation>It may have been moved, renamed or deleted.</translation>
+    </message>
+    <message>
+        <source>Ist der Datenträger eingesteckt und das Netzlaufwerk verbunden?</source>
+        <translation>Is the medium plugged in and the network drive connected?</translation>
+    </message>
+    <message>
+        <source>Bitte eine andere Datei wählen.</source>
+        <translation>Please choose another file.</translation>
+    </message>
+    <message>
+        <source>Bitte einen kürzeren Namen wählen.</source>
+        <translation>Please choose a shorter name.</translation>
+    </message>
+    <message>
+        <source>Bitte einen Namen mit der Endung .png, .jpg, .bmp oder .tif wählen.</source>
+        <translation>Please choose a name that ends in .png, .jpg, .bmp or .tif.</translation>
+    </message>
+    <message>
+        <source>Bitte andere Programme beenden und es noch einmal versuchen.</source>
+        <translation>Please close other programs and try again.</translation>
+    </message>
+    <message>
+        <source>Bitte den Datenträger prüfen und es noch einmal versuchen.</source>
+        <translation>Please check the medium and try again.</translation>
+    </message>
+    <message>
+        <source>Der Stand vor dem letzten Speichern liegt daneben in &quot;%1&quot;: umbenennen und öffnen.</source>
+        <translation>The version before the last save is beside it in &quot;%1&quot;: rename and open it.</translation>
+    </message>
+    <message>
+        <source>Bitte eine Kopie der Datei öffnen, falls es eine gibt.</source>
+        <translation>Please open a copy of the file if there is one.</translation>
+    </message>
+    <message>
+        <source>Bitte einen anderen Ort wählen.</source>
+        <translation>Please choose another place.</translation>
+    </message>
+    <message>
+        <source>Der vorige Inhalt ist gerettet in %1</source>
+        <translation>The previous content is safe in %1</translation>
+    </message>
 </context>
 <context>
     <name>FileProgress</name>
     <message>
         <source>Saving...</source>
         <translation>Saving...</translation>
+    </message>
+</context>
+<context>
+    <name>FileQuestions</name>
+    <message>
+        <source>Das Projekt &quot;%1&quot; ist auf diesem Rechner schon geöffnet (%2, Prozess %3).</source>
+        <translation>The project &quot;%1&quot; is open on this computer already (%2, process %3).</translation>
+    </message>
+    <message>
+        <source>Das Projekt &quot;%1&quot; ist auf dem Rechner %2 schon geöffnet (%3, Prozess %4).
+
+Läuft das Programm dort nicht mehr, kann die Datei %5 gelöscht werden.</source>
+        <translation>The project &quot;%1&quot; is open on the computer %2 already (%3, process %4).
+
+If the program does not run there any more, the file %5 can be deleted.</translation>
+    </message>
+    <message>
+        <source>Projekt öffnen</source>
+        <translation>Open project</translation>
+    </message>
+    <message>
+        <source>Beides lässt die Datei, wie sie ist: Gespeichert wird unter einem anderen Namen.</source>
+        <translation>Both leave the file as it is: changes are saved under another name.</translation>
+    </message>
+    <message>
+        <source>Nur lesen</source>
+        <translation>Read only</translation>
+    </message>
+    <message>
+        <source>Als Kopie öffnen</source>
+        <translation>Open a copy</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Projekt speichern</source>
+        <translation>Save project</translation>
+    </message>
+    <message>
+        <source>Speichern würde verwerfen, was dort geändert wird.</source>
+        <translation>Saving would discard what is changed there.</translation>
+    </message>
+    <message>
+        <source>Anderen Ort wählen...</source>
+        <translation>Choose another place...</translation>
+    </message>
+    <message>
+        <source>Die Datei &quot;%1&quot; ist nicht mehr da: Sie wurde verschoben, umbenannt oder gelöscht.</source>
+        <translation>The file &quot;%1&quot; is gone: it was moved, renamed or deleted.</translation>
+    </message>
+    <message>
+        <source>Die Datei &quot;%1&quot; wurde geändert, seit sie hier geöffnet oder gespeichert wurde.</source>
+        <translation>The file &quot;%1&quot; was changed since it was opened or saved here.</translation>
+    </message>
+    <message>
+        <source>Der Stand in diesem Programm ist vollständig.</source>
+        <translation>What this program holds is complete.</translation>
+    </message>
+    <message>
+        <source>Überschreiben verwirft, was das andere Programm gespeichert hat.</source>
+        <translation>Overwriting discards what the other program has saved.</translation>
+    </message>
+    <message>
+        <source>Neu anlegen</source>
+        <translation>Create again</translation>
+    </message>
+    <message>
+        <source>Überschreiben</source>
+        <translation>Overwrite</translation>
+    </message>
+    <message>
+        <source>Speichern unter...</source>
+        <translation>Save as...</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Das Projekt konnte nicht gespeichert werden!</source>
+        <translation>The project could not be saved!</translation>
+    </message>
+    <message>
+        <source>Das Projekt bleibt geöffnet und geändert.</source>
+        <translation>The project stays open and modified.</translation>
+    </message>
+    <message>
+        <source>Noch einmal versuchen</source>
+        <translation>Try again</translation>
+    </message>
+    <message>
+        <source>Cannot open file %1 !.</source>
+        <translation>Cannot open file %1!</translation>
     </message>
 </context>
 <context>
@@ -920,19 +1165,38 @@
     </message>
     <message>
         <source>, verkleinert gezeigt</source>
-        <translation type="unfinished"></translation>
+        <translation>, shown reduced</translation>
     </message>
     <message>
         <source>Zu groß zum Anzeigen:</source>
-        <translation type="unfinished"></translation>
+        <translation>Too large to be shown:</translation>
     </message>
     <message>
         <source>Das Bild in der Datei kann nicht gelesen werden. Es bleibt erhalten.</source>
-        <translation type="unfinished"></translation>
+        <translation>The picture in the file cannot be read. It is kept.</translation>
     </message>
     <message>
         <source>Klicken für ein anderes Bild, Entf zum Löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>Click for another picture, Del to delete</translation>
+    </message>
+</context>
+<context>
+    <name>ImportPreview</name>
+    <message>
+        <source>Name „%1“ wird „%2“</source>
+        <translation>name “%1” becomes “%2”</translation>
+    </message>
+    <message>
+        <source>Einheit „%1“ wird „%2“</source>
+        <translation>unit “%1” becomes “%2”</translation>
+    </message>
+    <message>
+        <source>Grenzen %1 werden %2</source>
+        <translation>limits %1 become %2</translation>
+    </message>
+    <message>
+        <source>Sensor %1: %2</source>
+        <translation>Sensor %1: %2</translation>
     </message>
 </context>
 <context>
@@ -978,15 +1242,15 @@
     <name>Journal</name>
     <message>
         <source>kein Speicherplatz</source>
-        <translation type="unfinished"></translation>
+        <translation>no space left</translation>
     </message>
     <message>
         <source>keine Schreibrechte</source>
-        <translation type="unfinished"></translation>
+        <translation>no permission to write</translation>
     </message>
     <message>
         <source>Ungespeicherte Änderungen können nicht gesichert werden (%1: %2). Die Aufzeichnung läuft weiter; bitte das Projekt speichern.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unsaved changes cannot be protected (%1: %2). The recording goes on; please save the project.</translation>
     </message>
 </context>
 <context>
@@ -1123,14 +1387,37 @@
     </message>
 </context>
 <context>
-    <name>LoggerFetch</name>
+    <name>LocalFolder</name>
+    <message>
+        <source>Ordner mit BlackBox-Dateien auswählen</source>
+        <translation>Choose a folder with BlackBox files</translation>
+    </message>
+    <message>
+        <source>Dateien kopieren...</source>
+        <translation>Copying files...</translation>
+    </message>
     <message>
         <source>Problem</source>
         <translation>Problem</translation>
     </message>
     <message>
-        <source>Der Ordner %1 kann nicht angelegt werden.</source>
-        <translation>The folder %1 cannot be created.</translation>
+        <source>%1 Dateien konnten nicht kopiert werden und fehlen in der Liste:</source>
+        <translation>%1 files could not be copied and are missing in the list:</translation>
+    </message>
+    <message>
+        <source>Abgebrochen; %1 Dateien sind kopiert.</source>
+        <translation>Cancelled; %1 files have been copied.</translation>
+    </message>
+    <message>
+        <source>Keine BlackBox-Dateien (*.bb) in %1</source>
+        <translation>No BlackBox files (*.bb) in %1</translation>
+    </message>
+</context>
+<context>
+    <name>LoggerFetch</name>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
     </message>
     <message>
         <source>Dateien übertragen...</source>
@@ -1141,12 +1428,18 @@
         <translation>%1 of %2 days transferred.</translation>
     </message>
     <message>
-        <source>Ordner mit BlackBox-Dateien auswählen</source>
-        <translation>Choose a folder with BlackBox files</translation>
+        <source>Die Dateien vom %1 konnten nicht in den Ordner der Box verschoben werden:
+%2</source>
+        <translation>The files of %1 could not be moved into the folder of the box:
+%2</translation>
     </message>
     <message>
-        <source>Keine BlackBox-Dateien (*.bb) in %1</source>
-        <translation>No BlackBox files (*.bb) in %1</translation>
+        <source>%1 von %2 Dateien</source>
+        <translation>%1 of %2 files</translation>
+    </message>
+    <message>
+        <source>%1 Dateien</source>
+        <translation>%1 files</translation>
     </message>
 </context>
 <context>
@@ -1187,11 +1480,31 @@ Import them again?</translation>
     </message>
     <message>
         <source>Import einer Datei</source>
-        <translation type="unfinished"></translation>
+        <translation>import of a file</translation>
     </message>
     <message>
         <source>Import von %1 Dateien</source>
-        <translation type="unfinished"></translation>
+        <translation>import of %1 files</translation>
+    </message>
+    <message>
+        <source>Die Dateien beschreiben die Sensoren anders als das Projekt:</source>
+        <translation>The files describe the sensors differently from the project:</translation>
+    </message>
+    <message>
+        <source>Die Dateien stimmen darin nicht überein; die letzte gilt.</source>
+        <translation>The files do not agree on this; the last one counts.</translation>
+    </message>
+    <message>
+        <source>Die Messwerte werden in beiden Fällen importiert.</source>
+        <translation>The measured values are imported in both cases.</translation>
+    </message>
+    <message>
+        <source>Angaben der Dateien</source>
+        <translation>Use the files&apos;</translation>
+    </message>
+    <message>
+        <source>Angaben des Projekts</source>
+        <translation>Keep the project&apos;s</translation>
     </message>
 </context>
 <context>
@@ -1263,15 +1576,15 @@ Esc cancels.</translation>
     </message>
     <message>
         <source>Löschen einer Messung</source>
-        <translation type="unfinished"></translation>
+        <translation>deletion of a measurement</translation>
     </message>
     <message>
         <source>Löschen von %1 Messungen</source>
-        <translation type="unfinished"></translation>
+        <translation>deletion of %1 measurements</translation>
     </message>
     <message>
         <source>Löschen aller Messdaten</source>
-        <translation type="unfinished"></translation>
+        <translation>deletion of all measurement data</translation>
     </message>
 </context>
 <context>
@@ -1298,7 +1611,7 @@ Esc cancels.</translation>
     </message>
     <message>
         <source>Zurücksetzen der Offsets</source>
-        <translation type="unfinished"></translation>
+        <translation>reset of the offsets</translation>
     </message>
 </context>
 <context>
@@ -1362,49 +1675,51 @@ Esc cancels.</translation>
     <name>OpenNotice</name>
     <message>
         <source>%1 und %2 weitere</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 and %2 more</translation>
     </message>
     <message>
         <source>Ohne die Datei &quot;%1&quot; fehlen Zeitstempel, Bezeichnungen, Einheiten, Grenzen und Schwellen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Without the file &quot;%1&quot; time stamps, labels, units, limits and thresholds are missing.</translation>
     </message>
     <message>
         <source>Hinweise zum Projekt</source>
-        <translation type="unfinished"></translation>
+        <translation>Notes on the project</translation>
     </message>
     <message>
         <source>Damit nichts verloren geht, kann das Projekt unter einem anderen Namen gespeichert werden.</source>
-        <translation type="unfinished"></translation>
+        <translation>To lose nothing, save the project under another name.</translation>
     </message>
     <message>
         <source>Die Datei &quot;%1&quot; sieht nicht wie ein Projekt aus: Sie enthält keine einzige Angabe eines Projekts.
 Sie wird beim Speichern nicht ersetzt; das Programm fragt dann nach einem anderen Namen.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file &quot;%1&quot; does not look like a project: it holds nothing that belongs to one.
+Saving does not replace it; the program will ask for another name.</translation>
     </message>
     <message>
         <source>Das Projekt wurde mit einer neueren Version des Programms gespeichert (Dateiversion %1).
 Beim Speichern bekommt es die Dateiversion %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>The project was saved by a newer version of the program (file version %1).
+Saving gives it the file version %2.</translation>
     </message>
     <message>
         <source>Unbekannte Angaben, die erhalten bleiben und wieder gespeichert werden: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unknown entries, which are kept and saved again: %1.</translation>
     </message>
     <message>
         <source>Angaben, die nicht gelesen werden konnten und beim Speichern verloren gehen: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Entries that could not be read and will be lost when the project is saved: %1.</translation>
     </message>
     <message>
         <source>Nicht lesbar: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Not readable: %1.</translation>
     </message>
     <message>
         <source>Zu groß zum Anzeigen, da alle Bilder zusammen höchstens %1 Millionen Bildpunkte haben dürfen: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Too large to be shown, as all pictures together may have at most %1 million pixels: %2.</translation>
     </message>
     <message>
         <source>Was in der Datei steht, bleibt erhalten, bis dort ein anderes Bild gewählt wird.</source>
-        <translation type="unfinished"></translation>
+        <translation>What the file holds is kept until another picture is chosen there.</translation>
     </message>
     <message>
         <source>Bild %1</source>
@@ -1412,16 +1727,17 @@ Beim Speichern bekommt es die Dateiversion %2.</source>
     </message>
     <message>
         <source>Die Datei &quot;%1&quot; neben dem Projekt ist von einer neueren Version des Programms.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file &quot;%1&quot; beside the project is from a newer version of the program.</translation>
     </message>
     <message>
         <source>Die Datei &quot;%1&quot; neben dem Projekt ist beschädigt oder nicht lesbar.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file &quot;%1&quot; beside the project is damaged or cannot be read.</translation>
     </message>
     <message>
         <source>Es fehlen Zeitstempel, Bezeichnungen, Einheiten, Grenzen und Schwellen.
 Beim Speichern wird sie nicht ersetzt, sondern als &quot;%1&quot; aufgehoben.</source>
-        <translation type="unfinished"></translation>
+        <translation>Time stamps, labels, units, limits and thresholds are missing.
+Saving does not replace it, but keeps it as &quot;%1&quot;.</translation>
     </message>
 </context>
 <context>
@@ -1451,7 +1767,7 @@ Beim Speichern wird sie nicht ersetzt, sondern als &quot;%1&quot; aufgehoben.</s
     <name>OsziPage</name>
     <message>
         <source>Löschen der Marker</source>
-        <translation type="unfinished"></translation>
+        <translation>clearing the markers</translation>
     </message>
 </context>
 <context>
@@ -1740,6 +2056,43 @@ double-click fits the value range.</translation>
     </message>
 </context>
 <context>
+    <name>ProgramArguments</name>
+    <message>
+        <source>Aufruf: %1 [Optionen] [Projekt.vnt]
+Zeichnet Messungen an Spritzgießwerkzeugen auf und wertet sie aus.
+
+Optionen:
+  -h, --help     zeigt diese Hilfe
+  -v, --version  zeigt die Version
+
+Argumente:
+  Projekt.vnt    Projekt, das geöffnet wird; bei mehreren wird keines geöffnet. Ein
+                 Name, der mit &quot;-&quot; beginnt, wird als &quot;./-Name&quot; angegeben.
+</source>
+        <translation>Usage: %1 [options] [project.vnt]
+Records measurements of injection moulding tools and evaluates them.
+
+Options:
+  -h, --help     shows this help
+  -v, --version  shows the version
+
+Arguments:
+  project.vnt    project to open; of several, none is opened. A name that begins
+                 with &quot;-&quot; is given as &quot;./-name&quot;.
+</translation>
+    </message>
+    <message>
+        <source>Unbekannte Option: %1
+Ein Dateiname, der mit &quot;-&quot; beginnt, wird als &quot;./-Name&quot; angegeben.
+Hilfe: %2 --help
+</source>
+        <translation>Unknown option: %1
+A file name that begins with &quot;-&quot; is given as &quot;./-name&quot;.
+Help: %2 --help
+</translation>
+    </message>
+</context>
+<context>
     <name>ProjectCard</name>
     <message>
         <source>So geht es los</source>
@@ -1767,14 +2120,6 @@ double-click fits the value range.</translation>
     <message>
         <source>Loading...</source>
         <translation>Loading...</translation>
-    </message>
-    <message>
-        <source>Cannot open file %1 !.</source>
-        <translation>Cannot open file %1!</translation>
-    </message>
-    <message>
-        <source>Problem</source>
-        <translation>Problem</translation>
     </message>
     <message>
         <source>Eine Aufzeichnung läuft. Sie wird beendet, bevor das andere Projekt geöffnet wird.</source>
@@ -1919,7 +2264,7 @@ double-click fits the value range.</translation>
     </message>
     <message>
         <source>Übernahme der Projektbeschreibung</source>
-        <translation type="unfinished"></translation>
+        <translation>taking over the project description</translation>
     </message>
 </context>
 <context>
@@ -1991,19 +2336,20 @@ Continue?</translation>
     <message>
         <source>Für Bild %1 ist kein Platz mehr: Alle Bilder eines Projekts zusammen dürfen höchstens %2 Millionen Bildpunkte haben, die anderen haben schon %3 Millionen.
 Bitte zuerst ein großes Bild löschen oder durch ein kleineres ersetzen.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is no room left for picture %1: all pictures of a project together may have at most %2 million pixels, the others have %3 million already.
+Please delete a large picture first, or replace it with a smaller one.</translation>
     </message>
     <message>
         <source>Ersetzen von Bild %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Replacement of picture %1</translation>
     </message>
     <message>
         <source>Einfügen von Bild %1</source>
-        <translation type="unfinished"></translation>
+        <translation>insertion of picture %1</translation>
     </message>
     <message>
         <source>Löschen von Bild %1</source>
-        <translation type="unfinished"></translation>
+        <translation>deletion of picture %1</translation>
     </message>
 </context>
 <context>
@@ -2021,10 +2367,6 @@ Bitte zuerst ein großes Bild löschen oder durch ein kleineres ersetzen.</sourc
         <translation>Saving...</translation>
     </message>
     <message>
-        <source>Das Projekt konnte nicht gespeichert werden!</source>
-        <translation>The project could not be saved!</translation>
-    </message>
-    <message>
         <source>Das Projekt ist gespeichert, aber Grenzen, Schwellen, Bezeichnungen und Zeitstempel der Auswertung konnten nicht gespeichert werden!</source>
         <translation>The project has been saved, but the limits, thresholds, labels and time stamps of the evaluation could not be saved!</translation>
     </message>
@@ -2033,8 +2375,27 @@ Bitte zuerst ein großes Bild löschen oder durch ein kleineres ersetzen.</sourc
         <translation>Project saved: %1</translation>
     </message>
     <message>
-        <source>Problem</source>
-        <translation>Problem</translation>
+        <source>Das Projekt ist nur zum Lesen geöffnet: Bitte einen anderen Namen wählen.</source>
+        <translation>The project is open for reading only: please choose another name.</translation>
+    </message>
+    <message>
+        <source> (Kopie)</source>
+        <translation> (copy)</translation>
+    </message>
+    <message>
+        <source>Projekt ohne Sicherungskopie gespeichert: %1</source>
+        <translation>Project saved without a backup: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProjectStart</name>
+    <message>
+        <source>Es wurden %1 Dateien angegeben, aber nur eine kann geöffnet werden. Deshalb ist keine geöffnet.
+
+Bitte eine davon mit &quot;Projekt öffnen...&quot; wählen.</source>
+        <translation>%1 files were given, but only one can be opened. Therefore none was opened.
+
+Please choose one of them with &quot;Open project...&quot;.</translation>
     </message>
 </context>
 <context>
@@ -2164,6 +2525,17 @@ Bitte zuerst ein großes Bild löschen oder durch ein kleineres ersetzen.</sourc
     </message>
 </context>
 <context>
+    <name>ReadOnlySign</name>
+    <message>
+        <source>Nur lesen</source>
+        <translation>Read only</translation>
+    </message>
+    <message>
+        <source>Das Projekt ist auch auf %1 geöffnet (%2, Prozess %3).</source>
+        <translation>The project is open on %1 too (%2, process %3).</translation>
+    </message>
+</context>
+<context>
     <name>RecentProjectList</name>
     <message>
         <source>heute, %1</source>
@@ -2209,19 +2581,19 @@ Bitte zuerst ein großes Bild löschen oder durch ein kleineres ersetzen.</sourc
     <name>Recovery</name>
     <message>
         <source>(ohne Namen)</source>
-        <translation type="unfinished"></translation>
+        <translation>(unnamed)</translation>
     </message>
     <message>
         <source>Projekt: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Project: %1</translation>
     </message>
     <message>
         <source>Datei: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>File: %1</translation>
     </message>
     <message>
         <source>Stand: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>As of: %1</translation>
     </message>
     <message>
         <source>Messungen: %1</source>
@@ -2229,31 +2601,31 @@ Bitte zuerst ein großes Bild löschen oder durch ein kleineres ersetzen.</sourc
     </message>
     <message>
         <source>Messwerte: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Samples: %1</translation>
     </message>
     <message>
         <source>Die Projektdatei wurde danach noch geändert: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>The project file was changed after that: %1</translation>
     </message>
     <message>
         <source>Wiederherstellung</source>
-        <translation type="unfinished"></translation>
+        <translation>Recovery</translation>
     </message>
     <message>
         <source>Das Programm wurde beendet, bevor dieses Projekt gespeichert war:</source>
-        <translation type="unfinished"></translation>
+        <translation>The program ended before this project was saved:</translation>
     </message>
     <message>
         <source>„Später“ lässt alles, wie es ist; beim nächsten Start wird wieder gefragt.</source>
-        <translation type="unfinished"></translation>
+        <translation>“Later” leaves everything as it is; you will be asked again at the next start.</translation>
     </message>
     <message>
         <source>Wiederherstellen</source>
-        <translation type="unfinished"></translation>
+        <translation>Restore</translation>
     </message>
     <message>
         <source>Später</source>
-        <translation type="unfinished"></translation>
+        <translation>Later</translation>
     </message>
     <message>
         <source>Verwerfen</source>
@@ -2262,39 +2634,40 @@ Bitte zuerst ein großes Bild löschen oder durch ein kleineres ersetzen.</sourc
     <message>
         <source>Ungespeicherte Änderungen aus einem früheren Lauf sind nicht lesbar. Sie bleiben aufgehoben:
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Unsaved changes of an earlier run cannot be read. They are kept:
+%1</translation>
     </message>
     <message>
         <source>Die ungespeicherten Änderungen bleiben aufgehoben.</source>
-        <translation type="unfinished"></translation>
+        <translation>The unsaved changes are kept.</translation>
     </message>
     <message>
         <source>Achtung: Diese ungespeicherten Änderungen gehen endgültig verloren!</source>
-        <translation type="unfinished"></translation>
+        <translation>Attention: These unsaved changes will be lost for good!</translation>
     </message>
     <message>
         <source>Behalten</source>
-        <translation type="unfinished"></translation>
+        <translation>Keep</translation>
     </message>
     <message>
         <source>Endgültig verwerfen</source>
-        <translation type="unfinished"></translation>
+        <translation>Discard for good</translation>
     </message>
     <message>
         <source>%1 kann nicht gelöscht werden.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 cannot be deleted.</translation>
     </message>
     <message>
         <source>Das geöffnete Projekt ist noch nicht gespeichert.</source>
-        <translation type="unfinished"></translation>
+        <translation>The open project has not been saved yet.</translation>
     </message>
     <message>
         <source>Es wird durch das wiederhergestellte Projekt ersetzt.</source>
-        <translation type="unfinished"></translation>
+        <translation>The restored project will take its place.</translation>
     </message>
     <message>
         <source>Speichern und wiederherstellen</source>
-        <translation type="unfinished"></translation>
+        <translation>Save and restore</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -2302,34 +2675,34 @@ Bitte zuerst ein großes Bild löschen oder durch ein kleineres ersetzen.</sourc
     </message>
     <message>
         <source>Das Projekt kann nicht wiederhergestellt werden: Der Speicher reicht nicht. Die Daten bleiben aufgehoben; nach einem Neustart kann es noch einmal versucht werden.</source>
-        <translation type="unfinished"></translation>
+        <translation>The project cannot be restored: there is not enough memory. The data is kept; you can try again after a restart.</translation>
     </message>
     <message>
         <source>Projekt wiederhergestellt; es ist noch nicht gespeichert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Project restored; it has not been saved yet.</translation>
     </message>
     <message>
         <source>Fehlende Messungen: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Missing measurements: %1</translation>
     </message>
     <message>
         <source>Messungen ohne ihren Anfang: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Measurements without their beginning: %1</translation>
     </message>
     <message>
         <source>Fehlende Bilder: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Missing pictures: %1</translation>
     </message>
     <message>
         <source>Die Projektdatei fehlt oder wurde inzwischen geändert. Nicht alles konnte wiederhergestellt werden:</source>
-        <translation type="unfinished"></translation>
+        <translation>The project file is missing or has been changed meanwhile. Not everything could be restored:</translation>
     </message>
 </context>
 <context>
     <name>RowRanges</name>
     <message>
         <source>Bereich von %1</source>
-        <translation type="unfinished"></translation>
+        <translation>range of %1</translation>
     </message>
 </context>
 <context>
@@ -2440,7 +2813,7 @@ Bitte zuerst ein großes Bild löschen oder durch ein kleineres ersetzen.</sourc
     </message>
     <message>
         <source>Änderung der Abtastrate</source>
-        <translation type="unfinished"></translation>
+        <translation>change of the sampling rate</translation>
     </message>
     <message>
         <source>Die Box misst jetzt wie das Projekt mit %1 ms je Wert.</source>
@@ -2503,6 +2876,32 @@ Please check output:</translation>
         <source>Keine gültige Adresse: %1</source>
         <translation>Not a valid address: %1</translation>
     </message>
+    <message>
+        <source>Unter dieser Adresse antwortet ein anderes Gerät als bisher, und so ist es eingestellt: Ein solches wird abgewiesen (VENTARO_SCP_REFUSE_NEW_KEY). Ist es die richtige Box, bitte die Einstellung für eine Übertragung weglassen.</source>
+        <translation>Another device than before answers at this address, and it is set that such a one is refused (VENTARO_SCP_REFUSE_NEW_KEY). If it is the right box, please leave this setting out for one transfer.</translation>
+    </message>
+    <message>
+        <source>Das Gerät unter %1 weist sich mit einem anderen Schlüssel aus als bisher.
+
+Das ist so, wenn dort jetzt eine andere Box angeschlossen ist oder ihr System neu aufgespielt wurde. Trifft keines von beiden zu, gibt sich womöglich ein fremdes Gerät als Box aus und kennt nun das Kennwort: dann bitte das Netz prüfen.
+
+bisher: %2
+jetzt: %3</source>
+        <translation>The device at %1 identifies itself with another key than before.
+
+This is so if another box is connected there now, or if its system was installed anew. If neither is the case, a foreign device may pose as a box and know the password now: please check the network then.
+
+before: %2
+now: %3</translation>
+    </message>
+    <message>
+        <source>Andere Box?</source>
+        <translation>Another box?</translation>
+    </message>
+    <message>
+        <source>Benutzername und Kennwort des Zugangs zur Box dürfen weder leer sein noch Leerzeichen, Anführungszeichen oder Steuerzeichen enthalten, der Benutzername auch weder : noch @. Sie werden beim Bau des Programms festgelegt (VENTARO_DEVICE_PASSWORD).</source>
+        <translation>User name and password of the account on the box must neither be empty nor contain blanks, quotation marks or control characters, and the user name neither : nor @. They are set when the program is built (VENTARO_DEVICE_PASSWORD).</translation>
+    </message>
 </context>
 <context>
     <name>SensorDescription</name>
@@ -2563,18 +2962,18 @@ Please check output:</translation>
     </message>
     <message>
         <source>Eine Box, die ihre Sensoren beschreibt, bringt ihre eigenen Einheiten mit.</source>
-        <translation type="unfinished"></translation>
+        <translation>A box that describes its sensors brings its own units.</translation>
     </message>
     <message>
         <source>&amp;Einheit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Unit</translation>
     </message>
 </context>
 <context>
     <name>SensorEditor</name>
     <message>
         <source>Änderung von %1</source>
-        <translation type="unfinished"></translation>
+        <translation>change of %1</translation>
     </message>
 </context>
 <context>
@@ -2978,43 +3377,43 @@ Identification of this computer:
     <name>TabEdits</name>
     <message>
         <source>Eingabe in &quot;Projekt&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>entry in &quot;Project&quot;</translation>
     </message>
     <message>
         <source>Eingabe in &quot;Projektnummer&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>entry in &quot;Project number&quot;</translation>
     </message>
     <message>
         <source>Eingabe in &quot;Bearbeiter&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>entry in &quot;Person in charge&quot;</translation>
     </message>
     <message>
         <source>Eingabe in &quot;Datum&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>entry in &quot;Date&quot;</translation>
     </message>
     <message>
         <source>Eingabe in &quot;Kunde&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>entry in &quot;Customer&quot;</translation>
     </message>
     <message>
         <source>Eingabe in &quot;Schließkraft&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>entry in &quot;Clamping force&quot;</translation>
     </message>
     <message>
         <source>Eingabe in &quot;Einspritzzeit&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>entry in &quot;Injection time&quot;</translation>
     </message>
     <message>
         <source>Eingabe in &quot;Nachdruckzeit&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>entry in &quot;Holding time&quot;</translation>
     </message>
     <message>
         <source>Eingabe in &quot;Druck&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>entry in &quot;Pressure&quot;</translation>
     </message>
     <message>
         <source>Eingabe in &quot;Kommentar&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>entry in &quot;Comment&quot;</translation>
     </message>
     <message>
         <source>Name der Phase %1</source>
@@ -3026,15 +3425,15 @@ Identification of this computer:
     </message>
     <message>
         <source>Umstellung der Marker</source>
-        <translation type="unfinished"></translation>
+        <translation>switching the marker mode</translation>
     </message>
     <message>
         <source>Offset von %1</source>
-        <translation type="unfinished"></translation>
+        <translation>offset of %1</translation>
     </message>
     <message>
         <source>Änderung von %1</source>
-        <translation type="unfinished"></translation>
+        <translation>change of %1</translation>
     </message>
 </context>
 <context>
@@ -3057,14 +3456,14 @@ Identification of this computer:
     </message>
     <message>
         <source>Schwellen der Laufzeit</source>
-        <translation type="unfinished"></translation>
+        <translation>thresholds of the runtime</translation>
     </message>
 </context>
 <context>
     <name>TabEvaluationOverlay</name>
     <message>
         <source>Bezeichnung von Messung %1</source>
-        <translation type="unfinished"></translation>
+        <translation>label of measurement %1</translation>
     </message>
 </context>
 <context>
@@ -3261,6 +3660,37 @@ At the far right the view follows the newest values.</translation>
     </message>
 </context>
 <context>
+    <name>TransferDialogs</name>
+    <message>
+        <source>Problem</source>
+        <translation>Problem</translation>
+    </message>
+    <message>
+        <source>Der Ordner %1 kann nicht angelegt werden.</source>
+        <translation>The folder %1 cannot be created.</translation>
+    </message>
+    <message>
+        <source>Noch 1 weiterer Tag ist ausgewählt.</source>
+        <translation>1 more day is selected.</translation>
+    </message>
+    <message>
+        <source>Noch %1 weitere Tage sind ausgewählt.</source>
+        <translation>%1 more days are selected.</translation>
+    </message>
+    <message>
+        <source>Weitere Tage holen</source>
+        <translation>Fetch the other days</translation>
+    </message>
+    <message>
+        <source>Weitere Tage auslassen</source>
+        <translation>Skip the other days</translation>
+    </message>
+    <message>
+        <source>Auch diese Tage konnten nicht geholt werden:</source>
+        <translation>These days could not be fetched either:</translation>
+    </message>
+</context>
+<context>
     <name>TrendChart</name>
     <message>
         <source>Keine Werte</source>
@@ -3279,38 +3709,38 @@ At the far right the view follows the newest values.</translation>
     <name>UndoActions</name>
     <message>
         <source>%1 rückgängig machen</source>
-        <translation type="unfinished"></translation>
+        <translation>Undo %1</translation>
     </message>
     <message>
         <source>Rückgängig</source>
-        <translation type="unfinished"></translation>
+        <translation>Undo</translation>
     </message>
     <message>
         <source>%1 wiederholen</source>
-        <translation type="unfinished"></translation>
+        <translation>Redo %1</translation>
     </message>
     <message>
         <source>Wiederholen</source>
-        <translation type="unfinished"></translation>
+        <translation>Redo</translation>
     </message>
     <message>
         <source>Nimmt den letzten Schritt zurück</source>
-        <translation type="unfinished"></translation>
+        <translation>Takes the last step back</translation>
     </message>
     <message>
         <source>Macht den zuletzt zurückgenommenen Schritt noch einmal</source>
-        <translation type="unfinished"></translation>
+        <translation>Does the step that was taken back last again</translation>
     </message>
 </context>
 <context>
     <name>UndoControl</name>
     <message>
         <source>Rückgängig gemacht: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Undone: %1</translation>
     </message>
     <message>
         <source>Wiederholt: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Redone: %1</translation>
     </message>
     <message>
         <source>Die Abtastrate lässt sich nicht ändern, solange eine Aufzeichnung läuft.</source>
