@@ -14,6 +14,17 @@
 
 #include <utility>
 
+namespace {
+
+/// Of an attempt that may have been under way; if the progress shown is that of a fetch, it goes on.
+void hideProgress(View &view, const Occupancy &occupancy)
+{
+    if (!occupancy.isUnderWay(Task::Fetch))
+        view.hideProgress();
+}
+
+} // namespace
+
 BoxLink::BoxLink(const Desk &desk, MesotraConnector &connector, const DemoBox &demoBox, DeferredQuestions &questions,
                  Recorder &recorder, Target target)
     : m_view(desk.view)
@@ -177,7 +188,7 @@ void BoxLink::leave()
     m_reconnect.end();
     m_questions.drop(Question::LinkError);
     m_connector.disconnectFromHost();
-    m_view.hideProgress(); // of an attempt that may have been under way
+    hideProgress(m_view, m_occupancy);
     emit left();
 }
 
@@ -185,7 +196,7 @@ void BoxLink::leave()
 
 void BoxLink::opened()
 {
-    m_view.hideProgress();
+    hideProgress(m_view, m_occupancy);
     want(); // the firmware dialog connects too
     const QString host = isDemo() ? QString() : m_connector.hostAddress();
     if (std::exchange(m_measuredHost, host) != host)
@@ -249,15 +260,16 @@ void BoxLink::onError(QAbstractSocket::SocketError error)
 {
     if (isDemo()) { // nobody wants to reconnect to a simulator under another address
         emit demoLost();
-    } else if (m_wanted && m_view.isProgressShown() && m_restart.explains(error)) {
+    } else if (m_wanted && m_view.isProgressShown() && !m_occupancy.isUnderWay(Task::Fetch)
+               && m_restart.explains(error)) {
         m_view.showProgress(tr("Die Mesotra Box startet neu. Verbinden mit %1 ...").arg(m_connector.hostAddress()));
         m_restart.retryLater();
     } else if (m_wanted) {
         m_reconnect.noteError(error);
         if (!m_reconnect.isActive() || m_reconnect.takeReport())
             emit failed(error);
-        else if (!m_occupancy.isUnderWay(Task::Fetch))
-            m_view.hideProgress(); // of an attempt that the user did not want to wait for
+        else
+            hideProgress(m_view, m_occupancy); // of an attempt that the user did not want to wait for
     }
 }
 
@@ -277,8 +289,7 @@ void BoxLink::retryAfterRestart()
 
 void BoxLink::reportError(QAbstractSocket::SocketError error)
 {
-    if (!m_occupancy.isUnderWay(Task::Fetch)) // otherwise the progress shown is that of the fetch
-        m_view.hideProgress();
+    hideProgress(m_view, m_occupancy);
     if (!m_occupancy.mayInterrupt()) {
         m_questions.put(Question::LinkError, [this, error] { emit failed(error); });
         return;

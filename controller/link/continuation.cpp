@@ -30,6 +30,12 @@ void Continuation::noteScaleKnown()
         m_recorder.requestStart();
 }
 
+void Continuation::forget()
+{
+    if (std::exchange(m_isWanted, false) && m_isAsked)
+        m_recorder.requestStop(); // the box has been asked to start, but has not said that it has
+}
+
 void Continuation::noteStarted()
 {
     const int shot = m_recorder.seriesIndex(0);

@@ -25,7 +25,7 @@ public:
     /// A recording has begun.
     void noteStarted();
     /// The user wants something else.
-    void forget() { m_isWanted = false; }
+    void forget();
 
     [[nodiscard]] bool isWanted() const { return m_isWanted; }
 

@@ -15,7 +15,7 @@ LinkParts::LinkParts(const Desk &desk, const Carriers &carriers, const Controlle
     , shot(desk, carriers.recorder)
     , continuation(desk.model, carriers.recorder)
     , memory(desk.view, desk.model, carriers.connector, carriers.demoBox)
-    , probe(desk, carriers.link, options.port, {options.linkTimes.probeTime, options.linkTimes.probePause})
+    , probe(desk, carriers.link, options.port, {options.linkTimes.probeTime, options.linkTimes.probeShown})
     , report(desk, {carriers.link, carriers.connector, carriers.demoBox, silence, answers, shot, continuation})
     , firmware(desk, carriers.connector, carriers.link, carriers.demo, options.restartWait)
     , m_carriers(carriers)
@@ -44,7 +44,6 @@ void LinkParts::watchLink()
     QObject::connect(link, &BoxLink::left, &report, [this] {
         continuation.forget();
         report.refresh();
-        probe.begin();
     });
     QObject::connect(&m_carriers.descriptions, &BoxDescriptions::scaleKnown, &report, [this] {
         memory.noteDescribed();

@@ -26,7 +26,7 @@ constexpr Reason kReasons[] = {
      QT_TRANSLATE_NOOP("LinkReason", "%1 antwortet nicht. Ist die Box eingeschaltet, und stimmt die Adresse?")},
     {QAbstractSocket::RemoteHostClosedError, QT_TRANSLATE_NOOP("LinkReason", "Verbindung abgerissen"),
      QT_TRANSLATE_NOOP("LinkReason", "Die Verbindung zu %1 ist abgerissen. Bitte Stromversorgung und Netzwerkkabel "
-                                     "der Box prüfen.")},
+                                     "der Box prüfen, und ob sich ein anderer Rechner mit ihr verbunden hat.")},
     {QAbstractSocket::UnknownSocketError, QT_TRANSLATE_NOOP("LinkReason", "Störung im Netzwerk"),
      QT_TRANSLATE_NOOP("LinkReason", "Die Verbindung zu %1 ist gestört. Bitte Box und Netzwerk prüfen.")},
 };

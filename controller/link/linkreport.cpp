@@ -6,6 +6,7 @@
 #include "controller/link/linkreason.h"
 #include "controller/link/shotwatch.h"
 #include "controller/link/silencewatch.h"
+#include "controller/occupancy.h"
 #include "device/demobox.h"
 #include "device/mesotraconnector.h"
 #include "model/model.h"
@@ -49,7 +50,7 @@ void LinkReport::noteBack()
 
 void LinkReport::stopRetrying()
 {
-    if (!m_sources.link.reconnect().isActive())
+    if (!m_sources.link.reconnect().isActive() || m_desk.occupancy.refuseWhileOccupied())
         return;
     m_sources.link.leave();
     m_desk.view.showStatus(tr("Die Verbindung wird nicht mehr von selbst aufgebaut."));
@@ -75,7 +76,9 @@ LinkStatus::Link LinkReport::linkState() const
         return LinkStatus::Link::On;
     if (m_sources.link.reconnect().isActive())
         return LinkStatus::Link::Retrying;
-    return m_desk.view.isProgressShown() ? LinkStatus::Link::Connecting : LinkStatus::Link::Off;
+    // Files that are fetched or copied show their progress in the same place.
+    const bool isConnecting = m_desk.view.isProgressShown() && !m_desk.occupancy.isUnderWay(Task::Fetch);
+    return isConnecting ? LinkStatus::Link::Connecting : LinkStatus::Link::Off;
 }
 
 LinkStatus LinkReport::status()

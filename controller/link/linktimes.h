@@ -12,5 +12,5 @@ struct LinkTimes
     int answerWait = 2000;  ///< for the echo of a command
     std::vector<int> retryDelays{1000, 2000, 5000, 10000}; ///< between attempts after a loss; the last one repeats
     int probeTime = 1000;                                  ///< for one remembered box to answer
-    int probePause = 15000;                                ///< between two rounds through the remembered boxes
+    int probeShown = 60000;                                ///< for which the answers of remembered boxes are shown
 };

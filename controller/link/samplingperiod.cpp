@@ -41,6 +41,7 @@ void SamplingPeriod::begin()
 {
     m_ownPeriod = m_desk.model.numChannels(0) > 0 ? m_desk.model.clock() : kFirstPeriod;
     m_isFirstReplaced = false;
+    m_isRepeated = false;
     m_connector.setClock(samplingPeriodLabel(kFirstPeriod));
     setBoxPeriod(kFirstPeriod);
     if (m_desk.model.clock() != kFirstPeriod && m_ownPeriod == kFirstPeriod)
@@ -61,6 +62,7 @@ void SamplingPeriod::restore()
 
 void SamplingPeriod::repeat()
 {
+    m_isRepeated = true;
     const QString label = samplingPeriodLabel(m_boxPeriod);
     if (label.isEmpty())
         (void)m_connector.write(QStringLiteral("t=%1\n").arg(m_boxPeriod)); // the silence goes on if it fails
@@ -84,6 +86,7 @@ void SamplingPeriod::choose(const QString &label)
         }))
         return;
     m_isFirstReplaced = false;
+    m_isRepeated = false;
     m_connector.setClock(label); // project and plots follow with the echo
 }
 
@@ -95,6 +98,9 @@ void SamplingPeriod::takeEcho(const QString &message)
         return;
     }
     if (std::exchange(m_isFirstReplaced, false) && *clock == kFirstPeriod)
+        return;
+    // The project may have a period that the box cannot have; its shots keep it.
+    if (std::exchange(m_isRepeated, false) && *clock == m_boxPeriod)
         return;
     m_desk.model.blockSignals(false);
     if (*clock != m_desk.model.clock())

@@ -45,5 +45,6 @@ private:
     const Recorder &m_recorder;
     int m_boxPeriod = 0;            // ms; 0: unknown
     int m_ownPeriod = 0;            // of a project with measurements, between begin() and restore()
+    bool m_isRepeated = false;      // the echo of what the box has is still to come and changes nothing
     bool m_isFirstReplaced = false; // the echo of the first period is still to come and says nothing
 };

@@ -226,6 +226,14 @@
         <source>keine Antwort</source>
         <translation>no answer</translation>
     </message>
+    <message>
+        <source>Erreichbarkeit prüfen</source>
+        <translation>Check which answer</translation>
+    </message>
+    <message>
+        <source>Zeigt, welche dieser Boxen jetzt Verbindungen annehmen</source>
+        <translation>Shows which of these boxes take connections now</translation>
+    </message>
 </context>
 <context>
     <name>BoxDescriptions</name>
@@ -295,6 +303,21 @@
     <message>
         <source>Die Mesotra Box startet neu. Verbinden mit %1 ...</source>
         <translation>The Mesotra box is restarting. Connecting to %1 ...</translation>
+    </message>
+</context>
+<context>
+    <name>BoxProbe</name>
+    <message>
+        <source>Ventaro baut zu jeder Box kurz eine Verbindung auf. Eine Box, die gerade für einen anderen Rechner aufzeichnet, bricht diese Aufzeichnung dabei vielleicht ab. Prüfen?</source>
+        <translation>Ventaro connects to each box for a moment. A box that is recording for another computer may break that recording off. Check?</translation>
+    </message>
+    <message>
+        <source>Erreichbarkeit prüfen</source>
+        <translation>Check which answer</translation>
+    </message>
+    <message>
+        <source>Das geht nur, solange keine Box verbunden ist oder verbunden wird.</source>
+        <translation>This is only possible while no box is connected or being connected.</translation>
     </message>
 </context>
 <context>
@@ -1367,16 +1390,16 @@ If the program does not run there any more, the file %5 can be deleted.</transla
         <translation>connection broken</translation>
     </message>
     <message>
-        <source>Die Verbindung zu %1 ist abgerissen. Bitte Stromversorgung und Netzwerkkabel der Box prüfen.</source>
-        <translation>The connection to %1 has broken. Please check the power supply and the network cable of the box.</translation>
-    </message>
-    <message>
         <source>Störung im Netzwerk</source>
         <translation>network fault</translation>
     </message>
     <message>
         <source>Die Verbindung zu %1 ist gestört. Bitte Box und Netzwerk prüfen.</source>
         <translation>The connection to %1 is disturbed. Please check the box and the network.</translation>
+    </message>
+    <message>
+        <source>Die Verbindung zu %1 ist abgerissen. Bitte Stromversorgung und Netzwerkkabel der Box prüfen, und ob sich ein anderer Rechner mit ihr verbunden hat.</source>
+        <translation>The connection to %1 has broken off. Please check the power supply and the network cable of the box, and whether another computer has connected to it.</translation>
     </message>
 </context>
 <context>

@@ -56,6 +56,12 @@ QVBoxLayout *BoxCard::createAddresses()
         column->addWidget(button);
         connect(button, &RecentButton::clicked, this, [this, button] { emit connectRequested(button->title()); });
     }
+    m_check = new QPushButton(this);
+    m_check->setObjectName(QStringLiteral("buttonCheckBoxes"));
+    tabstyle::makeRegular(m_check);
+    connect(m_check, &QPushButton::clicked, this, &BoxCard::answersWanted);
+    column->addSpacing(4);
+    column->addWidget(m_check, 0, Qt::AlignLeft);
     column->addStretch(1);
     return column;
 }
@@ -133,6 +139,7 @@ void BoxCard::showAddresses()
 {
     m_noAddresses->setText(tr("Noch keine. Jede Box, mit der die Verbindung gelungen ist, steht hier bereit."));
     m_noAddresses->setVisible(m_addresses.isEmpty());
+    m_check->setVisible(!m_addresses.isEmpty());
     for (std::size_t i = 0; i < m_addressButtons.size(); ++i) {
         const QString address = m_addresses.value(static_cast<int>(i));
         RecentButton *button = m_addressButtons[i];
@@ -159,6 +166,8 @@ void BoxCard::changeEvent(QEvent *event)
 void BoxCard::retranslateUi()
 {
     m_heading->setText(tr("Zuletzt verbunden"));
+    m_check->setText(tr("Erreichbarkeit prüfen"));
+    m_check->setToolTip(tr("Zeigt, welche dieser Boxen jetzt Verbindungen annehmen"));
     showConnectText();
     showDemo();
     showAddresses();

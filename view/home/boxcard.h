@@ -35,6 +35,7 @@ public:
 signals:
     void connectRequested(const QString &address);
     void demoClicked();
+    void answersWanted();
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -59,5 +60,6 @@ private:
     QLabel *m_demoHint = nullptr;
     QLabel *m_heading = nullptr;
     QLabel *m_noAddresses = nullptr;
+    QPushButton *m_check = nullptr;
     std::array<RecentButton *, recentlist::kMaxRecent> m_addressButtons{};
 };

@@ -48,7 +48,8 @@ void RecentButton::setEntry(const QString &title, const QString &detail, const Q
 {
     setAccessibleName(title);
     m_title = title; // not the button's text, whose "&" would make a mnemonic
-    setAccessibleDescription(remark.isEmpty() ? detail : detail + QLatin1String(", ") + remark);
+    setAccessibleDescription(detail.isEmpty() || remark.isEmpty() ? detail + remark
+                                                                  : detail + QLatin1String(", ") + remark);
     m_detail = detail;
     m_remark = remark;
     // The application's sheet gives push buttons a smaller minimum height; a layout would shrink the button to it.

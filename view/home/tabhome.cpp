@@ -32,6 +32,7 @@ TabHome::TabHome(QWidget *parent)
     layOut(tabstyle::addScrolledPage(this));
     connect(m_boxCard, &BoxCard::connectRequested, this, &TabHome::connectRequested);
     connect(m_boxCard, &BoxCard::demoClicked, this, &TabHome::demoClicked);
+    connect(m_boxCard, &BoxCard::answersWanted, this, &TabHome::boxAnswersWanted);
     connect(m_projectCard, &ProjectCard::openRequested, this, &TabHome::openRequested);
     connect(m_projectCard, &ProjectCard::removeRequested, this, &TabHome::projectRemoved);
     retranslateUi();

@@ -54,6 +54,8 @@ signals:
     void projectRemoved(const QString &file);
     void demoClicked();
     void boxDescribed(const QString &address, const QString &description);
+    /// The user wants to know which of the recent boxes answer.
+    void boxAnswersWanted();
 
 protected:
     void changeEvent(QEvent *event) override;

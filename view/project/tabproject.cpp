@@ -66,7 +66,7 @@ void TabProject::Private::createWidgets(QWidget *parent)
     commentEdit = new LongTextEdit(parent);
     commentEdit->setObjectName(QStringLiteral("textEditComment"));
     commentEdit->setTabChangesFocus(true);
-    commentEdit->setMinimumHeight(80);
+    commentEdit->setMinimumHeight(48); // so that the page fits into 1280 x 800 with the state line
     images = new ProjectImages(parent);
     phases = new PhaseStrip(parent);
     for (QLabel **heading : {&recordHeading, &imagesHeading, &commentHeading, &phaseHeading}) {
@@ -116,7 +116,7 @@ void TabProject::Private::layOut(QWidget *content)
     page->addLayout(columns, 1);
     page->addWidget(phaseHeading);
     page->addWidget(phases);
-    page->addSpacing(12);
+    page->addSpacing(6);
     page->addWidget(danger);
     for (QVBoxLayout *column : {left, right})
         column->setSpacing(2);

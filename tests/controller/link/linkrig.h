@@ -19,13 +19,16 @@ inline LinkTimes shortTimes()
     times.answerWait = 250;
     times.retryDelays = {50, 100, 150};
     times.probeTime = 200;
-    times.probePause = 300;
+    times.probeShown = 600;
     return times;
 }
 
-inline ControllerOptions linkOptions(quint16 port, const LinkTimes &times)
+inline ControllerOptions linkOptions(quint16 port, const LinkTimes &times, const QString &scpTool = {},
+                                     const QString &folder = {})
 {
     ControllerOptions options;
+    options.scpToolFile = scpTool;
+    options.temporaryDirectory = folder;
     options.deviceAddress = "127.0.0.1"_s;
     options.port = port;
     options.deviceDescriptionTimeout = 100;
@@ -37,10 +40,10 @@ inline ControllerOptions linkOptions(quint16 port, const LinkTimes &times)
 /// A simulated box, a network in between, and the program.
 struct LinkRig
 {
-    explicit LinkRig(const LinkTimes &times = shortTimes())
+    explicit LinkRig(const LinkTimes &times = shortTimes(), const QString &scpTool = {}, const QString &folder = {})
         : isListening(box.listen())
         , proxy(box.port())
-        , bench(linkOptions(proxy.port(), times))
+        , bench(linkOptions(proxy.port(), times, scpTool, folder))
     {
         QObject::connect(&box, &BoxSimulator::sampleSent, &box, [this] { ++sent; });
     }

@@ -1,7 +1,9 @@
 #include "linkrig.h"
 
 #include "device/mesotraconnector.h"
+#include "tests/support/faketool.h"
 #include "tests/support/rows.h"
+#include "view/blackbox/tabblackbox.h"
 #include "view/home/recentbutton.h"
 
 #include <QSettings>
@@ -204,6 +206,81 @@ private slots:
         QCOMPARE(rig.proxy.links(), 1);
     }
 
+    /// The box cannot have the period of the project; what it echoes as a sign of life is no new time axis.
+    void signOfLifeKeepsTheTimeAxis()
+    {
+        LinkRig rig;
+        rig.bench.recordShots(1);
+        rig.bench.model.setClock(7);
+        emit rig.bench.view.connectDisconnect();
+        QTRY_VERIFY(rig.box.receivedCommands().contains("t=100"_s) && !rig.bench.model.hardwareVersion().isEmpty());
+        QVERIFY(rig.record(3));
+        rig.box.clearReceivedCommands();
+        BoxOptions mute;
+        mute.silent = true;
+        rig.box.setOptions(mute);
+        QTRY_COMPARE(rig.box.receivedCommands(), QStringList("t=100"_s));
+        rig.bench.say("t=100");
+        QCOMPARE(rig.bench.model.clock(), 7);
+        rig.bench.say("t=100"); // unasked
+        QCOMPARE(rig.bench.model.clock(), 100);
+    }
+
+    /// Files are fetched beside the link, whatever happens to that.
+    void linkChangesDuringAFetch_data()
+    {
+        columns<bool, QString>("isConnected", "head");
+        row("lost and back", true, "Verbunden");
+        row("no link", false, "Nicht verbunden");
+    }
+
+    void linkChangesDuringAFetch()
+    {
+        QFETCH(bool, isConnected);
+        const FakeTool tool("sleep 2");
+        LinkRig rig(shortTimes(), tool.file(), m_folder.filePath("fetched"_s));
+        if (isConnected)
+            QVERIFY(rig.connectWithPeriod(kPeriod));
+        rig.bench.view.tabBlackBox()->setList({"dir-20240305"_s});
+        rig.button("buttonSelectAll")->click();
+        QString head;
+        bool isProgressShown = false;
+        QTimer::singleShot(100, &rig.box, [&] { rig.proxy.drop(); });
+        QTimer::singleShot(1500, &rig.box, [&] {
+            head = rig.head();
+            isProgressShown = rig.bench.view.isProgressShown();
+        });
+        rig.button("buttonFetch")->click();
+        QTEST(head, "head");
+        QVERIFY2(isProgressShown, "or nobody could end the fetch");
+        QCOMPARE(rig.proxy.links(), isConnected ? 2 : 0);
+        QVERIFY(!rig.bench.view.isProgressShown());
+    }
+
+    /// A box that was asked to go on with a recording is stopped again if its project has been closed meanwhile.
+    void continuedOnlyInItsProject()
+    {
+        LinkRig rig;
+        QVERIFY(rig.connectWithPeriod(kPeriod));
+        QVERIFY(rig.record(20));
+        rig.box.clearReceivedCommands();
+        bool isAsked = false;
+        connect(rig.bench.controller.connector(), &MesotraConnector::written, &rig.box, [&](const QString &text) {
+            isAsked = isAsked || text == "run=1\n"_s;
+            rig.proxy.stall(isAsked); // its answer has to wait
+        });
+        rig.proxy.drop();
+        QTRY_VERIFY(isAsked);
+        rig.bench.prompts->answers = {QMessageBox::Save};
+        rig.bench.prompts->saveNames = {m_folder.filePath("left.vnt"_s)};
+        emit rig.bench.view.newProject();
+        QTRY_VERIFY(rig.box.receivedCommands().contains("run=0"_s));
+        rig.proxy.stall();
+        QTRY_COMPARE(rig.bench.shots(), 1); // of what was under way
+        QTRY_VERIFY(!rig.bench.controller.isRecordingRunning());
+        QCOMPARE(rig.bench.model.shotLabel(0), QString());
+    }
+
     /// While a file is written or a question of the box is open, lines wait: that is no silence.
     void heldLinesAreNoSilence()
     {
@@ -265,17 +342,27 @@ private slots:
         const auto answer = [&](int number) {
             return view.findChild<RecentButton *>("buttonRecentAddress%1"_s.arg(number))->accessibleDescription();
         };
-        QTest::qWait(100);
-        QCOMPARE(rig.proxy.links(), 0); // nobody looks
         view.show();
-        QTRY_VERIFY(answer(1).contains("antwortet"_s) && answer(2).contains("keine Antwort"_s));
+        QTest::qWait(100);
+        rig.bench.prompts->answers = {QMessageBox::No, QMessageBox::Yes, QMessageBox::Yes};
+        rig.button("buttonCheckBoxes")->click(); // and no
+        QTest::qWait(100);
+        QVERIFY2(rig.proxy.links() == 0, "a box may leave another computer for the attempt");
+        rig.button("buttonCheckBoxes")->click();
+        QTRY_VERIFY(answer(1) == "antwortet"_s && answer(2) == "keine Antwort"_s);
+        QCOMPARE(rig.proxy.links(), 1);
         QVERIFY(rig.box.receivedCommands().isEmpty());
+        QTRY_VERIFY2(answer(1).isEmpty(), "nobody knows that for long");
+        QCOMPARE(rig.proxy.links(), 1);
+        rig.button("buttonCheckBoxes")->click();
+        QTRY_COMPARE(answer(1), "antwortet"_s);
         QVERIFY(rig.connectWithPeriod(kPeriod));
         QTRY_COMPARE(answer(1), "Werkzeug · 2.1"_s);
-        QVERIFY(!answer(1).contains("antwortet"_s));
         const int links = rig.proxy.links();
-        QTest::qWait(500);
+        rig.button("buttonCheckBoxes")->click();
+        QTest::qWait(200);
         QCOMPARE(rig.proxy.links(), links);
+        QCOMPARE(rig.bench.prompts->questions.size(), std::size_t(3));
     }
 
 private:

@@ -80,7 +80,8 @@ private slots:
             "letzte Messung: 34 Werte fehlen", Mood::Warning, false, true);
         row("retrying", lost(Link::Retrying), "Verbindung verloren", "4. Versuch in 10 s", Mood::Alarm, true, false);
         row("will continue", with(lost(Link::Retrying), [](LinkStatus &s) { s.willContinue = true; }),
-            "Verbindung verloren", "Aufzeichnung geht dann weiter", Mood::Alarm, true, false);
+            "Verbindung verloren", "4. Versuch in 10 s  ·  Verbindung abgelehnt  ·  Aufzeichnung geht dann weiter",
+            Mood::Alarm, true, false);
         row("given up", lost(Link::Off), "Verbindung verloren", "um 14:05:10", Mood::Alarm, false, true);
         row("back",
             with(recording(),

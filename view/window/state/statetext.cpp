@@ -77,10 +77,10 @@ StateText retryText(const LinkStatus &status)
     text.head = Texts::tr("Verbindung verloren");
     QStringList parts{
         Texts::tr("%1. Versuch in %2 s").arg(number(status.nextAttempt), number(seconds(status.timeToNext))),
-        Texts::tr("seit %1").arg(clockTime(status.lostAt))};
+        status.reason};
     if (status.willContinue)
         parts << Texts::tr("Aufzeichnung geht dann weiter");
-    parts << boxText(status) << status.reason; // the end may be cut off
+    parts << Texts::tr("seit %1").arg(clockTime(status.lostAt)) << boxText(status); // the end may be cut off
     parts.removeAll(QString());
     text.detail = parts.join(kBetween);
     text.mood = StateText::Mood::Alarm;
