@@ -260,6 +260,32 @@ private slots:
         QCOMPARE(contentOf(file).size(), 700 << 10);
     }
 
+    /// A folder that lets everything be replaced does not make a write-protected file a free one.
+    void writeProtectedFilesStay()
+    {
+        if (::geteuid() != 0)
+            QSKIP("only root can give away the folder");
+        writeFile(m_file, "old");
+        QCOMPARE(::chmod(qPrintable(m_file), 0444), 0);
+        for (const QString &name : {m_folder->path(), m_file})
+            QCOMPARE(::chown(qPrintable(name), kNobody, kNobody), 0);
+        ReplaceOptions options;
+        options.keepsOld = true;
+        options.rescueFolder = path("rescue");
+        Replacement done;
+        bool isOtherDone = false;
+        {
+            const AsNobody nobody;
+            done = replace(m_file, "new", options);
+            isOtherDone = bool(replace(path("b.vnt"), "new", options));
+        }
+        QCOMPARE(done.fault.kind, FileFault::Kind::NoPermission);
+        QCOMPARE(contentOf(m_file), "old"_ba);
+        QVERIFY(isOtherDone);
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+                 (QStringList{"a.vnt"_s, "b.vnt"_s}));
+    }
+
     void rewritesInAFolderThatCannotBeWrittenTo_data()
     {
         columns<QByteArray, bool, bool>("content", "keepsOld", "isDone");
