@@ -363,6 +363,30 @@ private slots:
         QVERIFY(contentOf(file.copyName()) == old);
     }
 
+    /// Neither the new content nor the old one can be written: the copy must outlive the next attempt.
+    void theOnlyCopyIsNotReplaced()
+    {
+        const QByteArray old(3500000, 'o');
+        writeFile(m_file, old);
+        StagedFile content(path("other.vnt"));
+        const QByteArray fresh(3000000, 'n');
+        QVERIFY(content.begin() && content.write(fresh) == fresh.size());
+        std::unique_ptr<SizeLimit> limit;
+        const QString usualCopy = RewrittenFile::copyNameIn(path("rescue"), m_file);
+        RewrittenFile file(m_file, path("rescue"), [&] {
+            if (!limit && QFile::exists(usualCopy))
+                limit = std::make_unique<SizeLimit>(100); // the medium fails from now on
+        });
+        QVERIFY(!file.take(content));
+        limit.reset();
+        QVERIFY(file.isDamaged());
+        QVERIFY(contentOf(m_file) != old);
+        RewrittenFile again(m_file, path("rescue"), [] {});
+        QVERIFY(again.take(content));
+        QVERIFY(contentOf(m_file) == fresh);
+        QVERIFY(contentOf(file.copyName()) == old);
+    }
+
 private:
     [[nodiscard]] QString path(const char *name) const { return m_folder->filePath(QLatin1String(name)); }
 
