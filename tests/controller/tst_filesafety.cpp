@@ -172,6 +172,24 @@ private slots:
         QVERIFY(QFile::exists(lockOf(m_file)));
     }
 
+    /// As a power cut leaves it, which names no program.
+    void anEmptyLockIsTakenOver()
+    {
+        for (const char *content : {"", "\0\0\0", "1\n"}) {
+            writeFile(lockOf(m_file), content);
+            Bench bench;
+            bench.prompts->openNames = {m_file};
+            emit bench.view.openProject();
+            QCOMPARE(bench.shots(), 2);
+            QVERIFY(bench.prompts->asked.empty());
+            Bench other;
+            other.prompts->openNames = {m_file};
+            other.prompts->choices = {2};
+            emit other.view.openProject();
+            QCOMPARE(other.prompts->asked.size(), std::size_t(1));
+        }
+    }
+
     void opensWithoutALockWhereNoneCanBeMade()
     {
         const SmallDisk disk(1 << 20);
