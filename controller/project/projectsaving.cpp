@@ -87,11 +87,11 @@ QString ProjectSaving::askFileToSave()
     });
 }
 
-/// The file that the project has; else one named after the project.
+/// The file that the project has, or a name beside it if that must not be replaced; else one named after the project.
 QString ProjectSaving::proposedFile() const
 {
     const QFileInfo current(m_model.currentFile());
-    if (m_lock.owner())
+    if (m_lock.owner() || m_model.openLosses().isForeign)
         return current.dir().filePath(current.completeBaseName() + tr(" (Kopie)") + kProjectSuffix);
     if (!m_model.currentFile().isEmpty())
         return m_model.currentFile();
