@@ -210,8 +210,10 @@ public:
     /// What is not understood of the project that was opened.
     [[nodiscard]] const OpenLosses &openLosses() const { return m_files.openLosses(); }
     [[nodiscard]] bool save(const QString &fileName);
-    /// False if the last save() wrote the project, but not the file beside it.
-    [[nodiscard]] bool isProjectMetaSaved() const { return m_files.isMetaSaved(); }
+    /// False if the last save() wrote the project, but not the file beside it; it stays modified then.
+    [[nodiscard]] bool isProjectMetaSaved() const { return !m_files.metaFault(); }
+    /// Why; none if it wrote both.
+    [[nodiscard]] const FileFault &projectMetaFault() const { return m_files.metaFault(); }
     [[nodiscard]] bool saveCsv(const QString &fileName);
     /// Why the last open(), save() or saveCsv() failed; none if it did not.
     [[nodiscard]] const FileFault &lastFileFault() const { return m_files.lastFault(); }

@@ -196,12 +196,12 @@ bool ModelFiles::save(const QString &fileName, const char *function)
     if (!writeProject(fileName))
         return false;
     forgetReadAhead(); // it may be of this file
-    m_metaSaved = saveMeta(fileName, meta, saved.checks, metaOptions(fileName, m_saveOptions));
+    m_metaFault = saveMeta(fileName, meta, saved.checks, metaOptions(fileName, m_saveOptions));
     noteSaved(std::move(saved));
     const bool isUpToDate = countChanges() == changesBefore;
     m_editor.setCurrentFile(QFileInfo(fileName).absoluteFilePath());
     m_changes.project(function);
-    m_editor.setProjectModifiedFlag(!isUpToDate);
+    m_editor.setProjectModifiedFlag(!isUpToDate || m_metaFault);
     return true;
 }
 

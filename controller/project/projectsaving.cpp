@@ -9,6 +9,7 @@
 #include "controller/recording/projectedits.h"
 #include "model/model.h"
 #include "model/storage/atomicfile.h"
+#include "view/common/faulttext.h"
 #include "view/window/prompts/questions.h"
 #include "view/window/view.h"
 
@@ -62,7 +63,7 @@ void ProjectSaving::save()
     if (m_occupancy.refuseWhileOccupied())
         return;
     m_view.commitInput();
-    m_saved = saveTo(fileName);
+    m_saved = saveTo(fileName) && m_model.isProjectMetaSaved();
 }
 
 void ProjectSaving::saveAs()
@@ -73,7 +74,7 @@ void ProjectSaving::saveAs()
     m_view.commitInput();
     const QString fileName = askFileToSave();
     if (!fileName.isEmpty())
-        m_saved = saveTo(fileName);
+        m_saved = saveTo(fileName) && m_model.isProjectMetaSaved();
 }
 
 /// Empty: cancelled.
@@ -167,8 +168,10 @@ bool ProjectSaving::write(const QString &fileName)
 void ProjectSaving::showSaved(const QString &fileName)
 {
     if (!m_model.isProjectMetaSaved())
-        m_questions.warn(tr("Das Projekt ist gespeichert, aber Grenzen, Schwellen, Bezeichnungen und "
-                            "Zeitstempel der Auswertung konnten nicht gespeichert werden!"));
+        m_questions.warn(
+            FaultText::appendedTo(tr("Das Projekt ist gespeichert, aber Grenzen, Schwellen, Bezeichnungen und "
+                                     "Zeitstempel der Auswertung konnten nicht gespeichert werden!"),
+                                  m_model.projectMetaFault()));
     m_view.rememberProject(m_model.currentFile());
     const QString text =
         m_model.isOldFileKept() ? tr("Projekt gespeichert: %1") : tr("Projekt ohne Sicherungskopie gespeichert: %1");

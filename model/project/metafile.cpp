@@ -85,24 +85,26 @@ ShotChecks shotChecks(const ShotStore &shots)
     return checks;
 }
 
-bool saveMeta(const QString &projectFile, const ProjectMeta &meta, const ShotChecks &checks,
-              const ReplaceOptions &options)
+FileFault saveMeta(const QString &projectFile, const ProjectMeta &meta, const ShotChecks &checks,
+                   const ReplaceOptions &options)
 {
-    const QString fileName = metaFileName(projectFile);
-    const bool isFree = keepUnreadableFile(fileName);
-    if (isFree && meta.isBlank() && !QFileInfo::exists(fileName))
-        return true;
+    FileFault fault;
+    fault.path = metaFileName(projectFile);
     try {
-        const auto write = [&](QIODevice &target) { return writeProjectMeta(target, meta, checks); };
-        if (isFree
-            && replaceFile(
-                fileName, write, [] {}, options))
-            return true;
+        if (!keepUnreadableFile(fault.path)) {
+            fault.kind = FileFault::Kind::NoPermission; // mostly; the folder lets no file get another name
+        } else if (!meta.isBlank() || QFileInfo::exists(fault.path)) {
+            const auto write = [&](QIODevice &target) { return writeProjectMeta(target, meta, checks); };
+            fault = replaceFile(
+                        fault.path, write, [] {}, options)
+                        .fault;
+        }
     } catch (const std::bad_alloc &) {
-        // told below, like any other failure
+        fault.kind = FileFault::Kind::OutOfMemory;
     }
-    qCDebug(lcModel).noquote().nospace() << "ERROR: could not write file:" << fileName;
-    return false;
+    if (fault)
+        qCDebug(lcModel).noquote().nospace() << "ERROR: could not write file:" << metaFileName(projectFile);
+    return fault;
 }
 
 QString badMetaName(const QString &metaFile)

@@ -301,6 +301,36 @@ private slots:
         QCOMPARE(QDir(disk.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), QStringList());
     }
 
+    void whatIsNotSavedBesideTheProjectIsNotGivenUp()
+    {
+        Bench bench;
+        bench.prompts->openNames = {m_file};
+        emit bench.view.openProject();
+        bench.model.setShotLabel(0, "good"_s);
+        bench.model.setProjectModifiedFlag(true);
+        QFile::remove(m_file + ".meta"_s);
+        QVERIFY(QDir().mkpath(m_file + ".meta"_s));
+        bench.prompts->answers = {QMessageBox::Save};
+        emit bench.view.newProject();
+        QCOMPARE(bench.prompts->warnings.size(), std::size_t(1));
+        QVERIFY2(bench.prompts->warnings[0].text.contains("\n\nUnter diesem Namen gibt es einen Ordner."_s),
+                 qPrintable(bench.prompts->warnings[0].text));
+        QVERIFY(bench.model.isProjectModified());
+        QCOMPARE(bench.model.shotLabel(0), "good"_s);
+    }
+
+    void aFileOfAnotherKindIsNotProposed()
+    {
+        const QString foreign = path("package.json");
+        writeFile(foreign, "{\"license\": \"none\"}");
+        Bench bench;
+        bench.prompts->openNames = {foreign};
+        emit bench.view.openProject();
+        emit bench.view.saveProject(); // no name is chosen
+        QCOMPARE(bench.prompts->fileStarts.size(), 2);
+        QCOMPARE(bench.prompts->fileStarts[1], path("package (Kopie).vnt"));
+    }
+
     void unreadableFilesSayWhy_data()
     {
         columns<QByteArray, QString>("content", "reason");

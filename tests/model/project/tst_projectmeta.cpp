@@ -267,11 +267,12 @@ private slots:
         QVERIFY(QDir().mkpath(path("e.vnt.meta")));
         LogCapture log;
         QVERIFY(model.save(path("e.vnt")));
-        QVERIFY(!model.isProjectMetaSaved());
+        QVERIFY(!model.isProjectMetaSaved() && model.isProjectModified());
+        QCOMPARE(model.projectMetaFault().kind, FileFault::Kind::IsFolder);
         QVERIFY(log.contains("ERROR: could not write file:"_s));
         QVERIFY(QDir().rmdir(path("e.vnt.meta")));
         QVERIFY(model.save(path("e.vnt")));
-        QVERIFY(model.isProjectMetaSaved());
+        QVERIFY(model.isProjectMetaSaved() && !model.isProjectModified());
         QVERIFY(QFile::exists(path("e.vnt.meta")));
         // A project that cannot be written leaves the file beside it alone.
         const QByteArray before = contentOf(path("e.vnt.meta"));
