@@ -71,6 +71,13 @@ bool keepUnreadableFile(const QString &fileName)
     return !name.isEmpty() && QFile::rename(fileName, name);
 }
 
+/// The file that was beside a project whose previous version has been opened; empty if this is none.
+QString keptMetaName(const QString &projectFile)
+{
+    const QString end = backupName(QString());
+    return projectFile.endsWith(end) ? backupName(metaFileName(projectFile.chopped(end.size()))) : QString();
+}
+
 } // namespace
 
 ShotChecks shotChecks(const ShotStore &shots)
@@ -125,8 +132,11 @@ MetaReading openMeta(const QString &projectFile, const ShotStore &shots, const c
     MetaReading reading;
     reading.fileName = metaFileName(projectFile);
     const QString besideLink = projectFile + QLatin1String(".meta"); // where earlier versions wrote it
+    const QString ofBackup = keptMetaName(projectFile);
     if (!QFileInfo::exists(reading.fileName) && QFileInfo::exists(besideLink))
         reading.fileName = besideLink;
+    else if (!QFileInfo::exists(reading.fileName) && !ofBackup.isEmpty() && QFileInfo::exists(ofBackup))
+        reading.fileName = ofBackup;
     if (!QFileInfo::exists(reading.fileName))
         return reading;
     std::optional<ProjectMeta> meta = readMetaFile(reading.fileName, shotChecks(shots));

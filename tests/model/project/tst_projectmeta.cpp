@@ -137,6 +137,20 @@ private slots:
         QCOMPARE(model.shotLabel(1), "through the link"_s);
     }
 
+    void thePreviousVersionHasItsOwn()
+    {
+        Model model{QString()};
+        fill(model);
+        model.setShotLabel(0, "before"_s);
+        QVERIFY(model.save(path("p.vnt")));
+        model.setShotLabel(0, "after"_s);
+        QVERIFY(model.save(path("p.vnt")));
+        QVERIFY(model.open(path("p.vnt~")));
+        QCOMPARE(model.shotLabel(0), "before"_s);
+        QVERIFY(model.open(path("p.vnt")));
+        QCOMPARE(model.shotLabel(0), "after"_s);
+    }
+
     void theProjectFileStaysAsItIs()
     {
         Model plain{QString()};
