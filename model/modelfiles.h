@@ -82,6 +82,7 @@ private:
     [[nodiscard]] ReplaceOptions projectOptions(const QString &fileName) const;
     [[nodiscard]] quint64 countChanges() const;
     struct Restored;
+    [[nodiscard]] QStringList baseFiles(const JournalBase &base) const;
     [[nodiscard]] std::optional<Restored> readRestored(JournalContents &contents);
     void apply(Restored &restored, const JournalContents &contents, const char *function);
 

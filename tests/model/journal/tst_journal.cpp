@@ -1,10 +1,13 @@
 #include "journalrig.h"
 
 #include "model/changescope.h"
+#include "model/storage/atomicfile.h"
+#include "model/storage/rewrittenfile.h"
 #include "tests/support/literals.h"
 #include "tests/support/rows.h"
 #include "tests/support/shots.h"
 
+#include <QDir>
 #include <QTemporaryDir>
 
 #include <functional>
@@ -227,6 +230,16 @@ private slots:
         QVERIFY(next.read()->samples.at(second.measurementId(0, 0)).samples.isEmpty()); // the file has them
     }
 
+    /// As when a project that somebody else has open is opened as a copy.
+    void aProjectThatHasGivenUpItsFile()
+    {
+        Model model(m_file);
+        model.setCurrentFile({});
+        JournalRig journal(model);
+        journal.write();
+        QCOMPARE(restored(journal), textOf(model));
+    }
+
     void aFileThatIsGoneOrChanged_data()
     {
         columns<std::function<void(QString)>, int, int, int>("happens", "shots", "missing", "pictures");
@@ -234,9 +247,20 @@ private slots:
         row("gone", Event([](const QString &file) { QFile::remove(file); }), 1, 3, 2);
         row("shot deleted", Event([](const QString &file) {
                 Model other(file);
-                QVERIFY(other.deleteChannel(0) && other.save(file));
+                QVERIFY(other.deleteChannel(0) && other.save(file) && other.save(file));
             }),
             3, 1, 0);
+        row("replaced once, so that it is still there", Event([](const QString &file) {
+                Model other(file);
+                QVERIFY(other.deleteChannel(0) && other.save(file));
+            }),
+            4, 0, 0);
+        row("torn while it was rewritten where it is", Event([](const QString &file) {
+                const QString folder = SaveOptions().folderForRescue();
+                const QString copy = RewrittenFile::copyNameIn(folder, realFile(file));
+                QVERIFY(QDir().mkpath(folder) && QFile::copy(file, copy) && QFile::resize(file, 50));
+            }),
+            4, 0, 0);
         row("shot added in front", Event([](const QString &file) {
                 Model other(file);
                 const SampleList first = *other.measurement(0, 0);
@@ -262,7 +286,7 @@ private slots:
         journal.write();
         happens(m_file);
 
-        Model second{QString()};
+        Model second{m_file}; // what was opened before has nothing to do with it
         std::optional<JournalContents> contents = journal.read();
         QVERIFY(contents);
         const std::optional<RecoveryLosses> losses = second.restore(*contents);
@@ -274,6 +298,10 @@ private slots:
         QCOMPARE(*second.measurement(4, last), (SampleList{12.0, 13.0}));
         if (shots > 1)
             QCOMPARE(*second.measurement(4, last - 1), *model.measurement(4, 2));
+        QVERIFY(second.fileOnDisk() != DiskCopy::State::Same); // asked about before it is replaced
+        JournalRig next(second);
+        next.write();
+        QCOMPARE(restored(next), textOf(second));
     }
 
     /// Every byte of a journal is cut off, or changed: what is before it is read, and nothing else.
