@@ -169,8 +169,8 @@ void ProjectSaving::showSaved(const QString &fileName)
 {
     if (!m_model.isProjectMetaSaved())
         m_questions.warn(
-            FaultText::appendedTo(tr("Das Projekt ist gespeichert, aber Grenzen, Schwellen, Bezeichnungen und "
-                                     "Zeitstempel der Auswertung konnten nicht gespeichert werden!"),
+            FaultText::appendedTo(tr("Das Projekt ist gespeichert, aber Zeitstempel, Bezeichnungen, Einheiten, Grenzen "
+                                     "und Schwellen konnten nicht gespeichert werden!"),
                                   m_model.projectMetaFault()));
     m_view.rememberProject(m_model.currentFile());
     const QString text =
