@@ -50,12 +50,6 @@ bool Model::deleteChannel(int measurement)
            && m_project.removeShots(measurement, 1) > 0;
 }
 
-int Model::deleteChannels(int first, int count)
-{
-    qCDebug(lcModel).noquote().nospace() << Q_FUNC_INFO << " first=" << first << " count=" << count;
-    return m_work.refuses(Q_FUNC_INFO) || !hasShot(first, Q_FUNC_INFO) ? 0 : m_project.removeShots(first, count);
-}
-
 void Model::clearData()
 {
     qCDebug(lcModel) << Q_FUNC_INFO;

@@ -73,7 +73,10 @@ public:
     /// Removes one measurement from all five channels; false if no channel has it. Emits nothing.
     [[nodiscard]] bool deleteChannel(int measurement);
     /// As often as `count` says, which is much faster where many are to go; returns how many were removed.
-    [[nodiscard]] int deleteChannels(int first, int count);
+    [[nodiscard]] int deleteChannels(int first, int count)
+    {
+        return m_work.refuses(Q_FUNC_INFO) || !hasShot(first, Q_FUNC_INFO) ? 0 : m_project.removeShots(first, count);
+    }
     /// Frees the samples of removed measurements: call once no plot points at them any more.
     void discardRemoved() { m_project.shots.discardRemoved(); }
     /// Changes whenever a measurement is added or removed (not when a sample is appended).
@@ -212,8 +215,10 @@ public:
     /// What is not understood of the project that was opened.
     [[nodiscard]] const OpenLosses &openLosses() const { return m_files.openLosses(); }
     [[nodiscard]] bool save(const QString &fileName);
-    /// False if the last save() wrote the project, but not the file beside it.
-    [[nodiscard]] bool isProjectMetaSaved() const { return m_files.isMetaSaved(); }
+    /// False if the last save() wrote the project, but not the file beside it; it stays modified then.
+    [[nodiscard]] bool isProjectMetaSaved() const { return !m_files.metaFault(); }
+    /// Why; none if it wrote both.
+    [[nodiscard]] const FileFault &projectMetaFault() const { return m_files.metaFault(); }
     [[nodiscard]] bool saveCsv(const QString &fileName);
     /// Why the last open(), save() or saveCsv() failed; none if it did not.
     [[nodiscard]] const FileFault &lastFileFault() const { return m_files.lastFault(); }

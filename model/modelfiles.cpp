@@ -17,11 +17,13 @@
 #include "model/project/readingfault.h"
 #include "model/storage/atomicfile.h"
 #include "model/storage/hashedsource.h"
+#include "model/storage/rewrittenfile.h"
 
 #include <QDebug>
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -46,6 +48,13 @@ struct ModelFiles::ReadAhead
 };
 
 namespace {
+
+/// What was put together from another file than the project's is in no file that a later journal could begin with.
+void forgetSaved(RecoveredProject &project)
+{
+    project.saved = {};
+    project.origins = {};
+}
 
 FileFault outOfMemory(const QString &fileName)
 {
@@ -79,10 +88,11 @@ ModelFiles::~ModelFiles() = default;
 void ModelFiles::setCurrentFile(const QString &absolutePath)
 {
     m_openLosses = {}; // a saved file holds what the project does
+    if (std::exchange(m_currentFile, absolutePath) == absolutePath)
+        return;
     if (absolutePath.isEmpty())
         noteSaved({});
-    if (std::exchange(m_currentFile, absolutePath) != absolutePath)
-        m_changes.fileState();
+    m_changes.fileState();
 }
 
 void ModelFiles::setModified(bool modified)
@@ -146,6 +156,9 @@ std::unique_ptr<ModelFiles::Opened> ModelFiles::readFile(const QString &fileName
     std::optional<Opened> opened = read(file);
     if (!opened) {
         m_fault = readingFault(file, m_work.lacksMemory());
+        const QString copy = RewrittenFile::copyNameIn(m_saveOptions.folderForRescue(), realFile(fileName));
+        if (QFileInfo::exists(copy)) // the program may have ended while it wrote into the file
+            m_fault.keptCopy = copy;
         qCDebug(lcModel).noquote().nospace() << function << " jdoc is no object!";
         return nullptr;
     }
@@ -198,12 +211,12 @@ bool ModelFiles::save(const QString &fileName, const char *function)
     if (!writeProject(fileName))
         return false;
     forgetReadAhead(); // it may be of this file
-    m_metaSaved = saveMeta(fileName, meta, saved.checks, metaOptions(fileName, m_saveOptions));
+    m_metaFault = saveMeta(fileName, meta, saved.checks, metaOptions(fileName, m_saveOptions));
     noteSaved(std::move(saved));
     const bool isUpToDate = countChanges() == changesBefore;
     m_editor.setCurrentFile(QFileInfo(fileName).absoluteFilePath());
     m_changes.project(function);
-    m_editor.setProjectModifiedFlag(!isUpToDate);
+    m_editor.setProjectModifiedFlag(!isUpToDate || m_metaFault);
     return true;
 }
 
@@ -219,9 +232,20 @@ struct ModelFiles::Restored
 {
     RecoveredProject project;
     ImageStore images;
-    FileStamp stamp;   ///< of the file that the journal began with
-    OpenLosses losses; ///< of that file
+    FileStamp stamp;        ///< of the file that the journal began with
+    OpenLosses losses;      ///< of that file
+    bool isFromFile = true; ///< not from a copy of it
 };
+
+namespace {
+
+/// A file that is still the one that the journal began with.
+bool isBase(const FileStamp &stamp, const JournalBase &base)
+{
+    return stamp.size == base.fileSize && stamp.modified / 1000000 == base.fileTime;
+}
+
+} // namespace
 
 std::optional<RecoveryLosses> ModelFiles::restore(JournalContents &contents, const char *function)
 {
@@ -237,21 +261,42 @@ std::optional<RecoveryLosses> ModelFiles::restore(JournalContents &contents, con
     return restored->project.losses;
 }
 
+/// Where the shots of the journal's file may be, the best first: in the file or, if the program ended while it was
+/// being replaced, in the one that it was before.
+QStringList ModelFiles::baseFiles(const JournalBase &base) const
+{
+    if (base.file.isEmpty())
+        return {};
+    const QString real = realFile(base.file);
+    QStringList files{base.file, backupName(real), RewrittenFile::copyNameIn(m_saveOptions.folderForRescue(), real)};
+    std::stable_partition(files.begin(), files.end(),
+                          [&base](const QString &file) { return isBase(stampOf(file), base); });
+    return files;
+}
+
 std::optional<ModelFiles::Restored> ModelFiles::readRestored(JournalContents &contents)
 {
     const auto task = [&]() -> std::optional<Restored> {
-        QFile file(contents.base.file);
-        Pacer pacer(m_work.yield(), 2 * file.size());
-        const FileStamp stamp = stampOf(file.fileName()); // now: as when a project is opened
+        const QStringList files = baseFiles(contents.base);
+        Pacer pacer(m_work.yield(), 2 * QFileInfo(contents.base.file).size());
+        const FileStamp stamp = stampOf(contents.base.file); // now: as when a project is opened
         std::optional<ProjectDocument> base;
-        if (QFileInfo(file).isFile() && file.open(QIODevice::ReadOnly))
-            base = projectfile::read(file, pacer);
+        QString baseFile;
+        for (auto name = files.cbegin(); name != files.cend() && !base; ++name) {
+            QFile file(*name);
+            if (QFileInfo(file).isFile() && file.open(QIODevice::ReadOnly))
+                base = projectfile::read(file, pacer);
+            baseFile = *name;
+        }
+        const bool isFromFile = !base || baseFile == contents.base.file;
         OpenLosses losses = base ? lossesOf(*base, {}) : OpenLosses();
         RecoveredProject project = recoverProject(contents, std::move(base));
+        if (!isFromFile)
+            forgetSaved(project);
         ImageStore images = ImageStore::decoded(std::move(project.document.images), [&pacer] { pacer.look(); });
         for (int image = 0; image < kNumProjectImages; ++image)
             losses.pictures[at(image)] = images.state(image);
-        return Restored{std::move(project), std::move(images), stamp, std::move(losses)};
+        return Restored{std::move(project), std::move(images), stamp, std::move(losses), isFromFile};
     };
     return m_work.run(task, Q_FUNC_INFO);
 }
@@ -260,12 +305,9 @@ void ModelFiles::apply(Restored &restored, const JournalContents &contents, cons
 {
     const ModelChanges::Silence silence(m_changes);
     m_editor.clear();
-    // A file that is still the one that the journal began with is replaced without a question, any other is not, even
-    // if it was opened just before.
-    m_diskCopy.forget();
-    if (restored.stamp.isThere() && restored.stamp.size == contents.base.fileSize
-        && restored.stamp.modified / 1000000 == contents.base.fileTime)
-        m_diskCopy.note(contents.base.file, restored.stamp);
+    // Only a file that is still the one that the journal began with is replaced without a question, even if another one
+    // was opened just before.
+    m_diskCopy.note(contents.base.file, isBase(restored.stamp, contents.base) ? restored.stamp : FileStamp());
     m_project.images = std::move(restored.images);
     applyDocument(restored.project.document, contents.base.file, m_editor, m_project, function);
     applyMeta(std::move(restored.project.meta), m_project);
@@ -281,7 +323,7 @@ void ModelFiles::apply(Restored &restored, const JournalContents &contents, cons
         }
     }
     for (std::size_t image = 0; image < saved.pictures.size(); ++image) {
-        const bool isInFile = contents.pictures[image].kind == JournalPicture::Kind::InBase;
+        const bool isInFile = restored.isFromFile && contents.pictures[image].kind == JournalPicture::Kind::InBase;
         saved.pictures[image] = isInFile ? m_project.images.pixmaps()[image].cacheKey() : kOtherPicture;
     }
     noteSaved(std::move(saved));

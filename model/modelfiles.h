@@ -42,8 +42,9 @@ public:
     /// Replaces the project by that of a journal, which counts as modified then; nothing, with the model as it was, if
     /// memory runs out or a file is being read or written. The contents are used up.
     [[nodiscard]] std::optional<RecoveryLosses> restore(JournalContents &contents, const char *function);
-    /// False if the last save() wrote the project, but not the file beside it.
-    [[nodiscard]] bool isMetaSaved() const { return m_metaSaved; }
+    /// Why the last save() wrote the project, but not the file beside it; the project stays modified then. None if it
+    /// did.
+    [[nodiscard]] const FileFault &metaFault() const { return m_metaFault; }
 
     /// Of the file that was opened, until it is saved, another one is opened or a project begins.
     [[nodiscard]] const OpenLosses &openLosses() const { return m_openLosses; }
@@ -83,6 +84,7 @@ private:
     [[nodiscard]] ReplaceOptions projectOptions(const QString &fileName) const;
     [[nodiscard]] quint64 countChanges() const;
     struct Restored;
+    [[nodiscard]] QStringList baseFiles(const JournalBase &base) const;
     [[nodiscard]] std::optional<Restored> readRestored(JournalContents &contents);
     void apply(Restored &restored, const JournalContents &contents, const char *function);
 
@@ -94,11 +96,11 @@ private:
     QString m_currentFile; // absolute
     OpenLosses m_openLosses;
     bool m_modified = false;
-    bool m_metaSaved = true;
     SavedShots m_saved;
     quint64 m_generation = 0;
     bool m_lacksOld = false;
     FileFault m_fault;
+    FileFault m_metaFault;
     DiskCopy m_diskCopy;
     SaveOptions m_saveOptions;
 };

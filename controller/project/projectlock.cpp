@@ -36,9 +36,15 @@ std::optional<LockOwner> ProjectLock::take(const QString &file, Lock &lock)
     }
     LockOwner owner;
     owner.lockFile = lockFile;
-    if (attempt->error() == QLockFile::LockFailedError
-        && attempt->getLockInfo(&owner.process, &owner.host, &owner.program))
-        return owner;
+    if (attempt->error() == QLockFile::LockFailedError) {
+        if (attempt->getLockInfo(&owner.process, &owner.host, &owner.program))
+            return owner;
+        // It names nobody, as after a power cut. That of a running program cannot be removed.
+        if (attempt->removeStaleLockFile() && attempt->tryLock(0)) {
+            lock.lock = std::move(attempt);
+            return {};
+        }
+    }
     qCDebug(lcController) << "no lock for" << file << attempt->error();
     return {};
 }

@@ -9,6 +9,7 @@
 #include "controller/recording/projectedits.h"
 #include "model/model.h"
 #include "model/storage/atomicfile.h"
+#include "view/common/faulttext.h"
 #include "view/window/prompts/questions.h"
 #include "view/window/view.h"
 
@@ -62,7 +63,7 @@ void ProjectSaving::save()
     if (m_occupancy.refuseWhileOccupied())
         return;
     m_view.commitInput();
-    m_saved = saveTo(fileName);
+    m_saved = saveTo(fileName) && m_model.isProjectMetaSaved();
 }
 
 void ProjectSaving::saveAs()
@@ -73,7 +74,7 @@ void ProjectSaving::saveAs()
     m_view.commitInput();
     const QString fileName = askFileToSave();
     if (!fileName.isEmpty())
-        m_saved = saveTo(fileName);
+        m_saved = saveTo(fileName) && m_model.isProjectMetaSaved();
 }
 
 /// Empty: cancelled.
@@ -87,11 +88,11 @@ QString ProjectSaving::askFileToSave()
     });
 }
 
-/// The file that the project has; else one named after the project.
+/// The file that the project has, or a name beside it if that must not be replaced; else one named after the project.
 QString ProjectSaving::proposedFile() const
 {
     const QFileInfo current(m_model.currentFile());
-    if (m_lock.owner())
+    if (m_lock.owner() || m_model.openLosses().isForeign)
         return current.dir().filePath(current.completeBaseName() + tr(" (Kopie)") + kProjectSuffix);
     if (!m_model.currentFile().isEmpty())
         return m_model.currentFile();
@@ -167,8 +168,10 @@ bool ProjectSaving::write(const QString &fileName)
 void ProjectSaving::showSaved(const QString &fileName)
 {
     if (!m_model.isProjectMetaSaved())
-        m_questions.warn(tr("Das Projekt ist gespeichert, aber Grenzen, Schwellen, Bezeichnungen und "
-                            "Zeitstempel der Auswertung konnten nicht gespeichert werden!"));
+        m_questions.warn(
+            FaultText::appendedTo(tr("Das Projekt ist gespeichert, aber Zeitstempel, Bezeichnungen, Einheiten, Grenzen "
+                                     "und Schwellen konnten nicht gespeichert werden!"),
+                                  m_model.projectMetaFault()));
     m_view.rememberProject(m_model.currentFile());
     const QString text =
         m_model.isOldFileKept() ? tr("Projekt gespeichert: %1") : tr("Projekt ohne Sicherungskopie gespeichert: %1");

@@ -71,6 +71,13 @@ bool keepUnreadableFile(const QString &fileName)
     return !name.isEmpty() && QFile::rename(fileName, name);
 }
 
+/// The file that was beside a project whose previous version has been opened; empty if this is none.
+QString keptMetaName(const QString &projectFile)
+{
+    const QString end = backupName(QString());
+    return projectFile.endsWith(end) ? backupName(metaFileName(projectFile.chopped(end.size()))) : QString();
+}
+
 } // namespace
 
 ShotChecks shotChecks(const ShotStore &shots)
@@ -85,24 +92,26 @@ ShotChecks shotChecks(const ShotStore &shots)
     return checks;
 }
 
-bool saveMeta(const QString &projectFile, const ProjectMeta &meta, const ShotChecks &checks,
-              const ReplaceOptions &options)
+FileFault saveMeta(const QString &projectFile, const ProjectMeta &meta, const ShotChecks &checks,
+                   const ReplaceOptions &options)
 {
-    const QString fileName = metaFileName(projectFile);
-    const bool isFree = keepUnreadableFile(fileName);
-    if (isFree && meta.isBlank() && !QFileInfo::exists(fileName))
-        return true;
+    FileFault fault;
+    fault.path = metaFileName(projectFile);
     try {
-        const auto write = [&](QIODevice &target) { return writeProjectMeta(target, meta, checks); };
-        if (isFree
-            && replaceFile(
-                fileName, write, [] {}, options))
-            return true;
+        if (!keepUnreadableFile(fault.path)) {
+            fault.kind = FileFault::Kind::NoPermission; // mostly; the folder lets no file get another name
+        } else if (!meta.isBlank() || QFileInfo::exists(fault.path)) {
+            const auto write = [&](QIODevice &target) { return writeProjectMeta(target, meta, checks); };
+            fault = replaceFile(
+                        fault.path, write, [] {}, options)
+                        .fault;
+        }
     } catch (const std::bad_alloc &) {
-        // told below, like any other failure
+        fault.kind = FileFault::Kind::OutOfMemory;
     }
-    qCDebug(lcModel).noquote().nospace() << "ERROR: could not write file:" << fileName;
-    return false;
+    if (fault)
+        qCDebug(lcModel).noquote().nospace() << "ERROR: could not write file:" << metaFileName(projectFile);
+    return fault;
 }
 
 QString badMetaName(const QString &metaFile)
@@ -123,8 +132,11 @@ MetaReading openMeta(const QString &projectFile, const ShotStore &shots, const c
     MetaReading reading;
     reading.fileName = metaFileName(projectFile);
     const QString besideLink = projectFile + QLatin1String(".meta"); // where earlier versions wrote it
+    const QString ofBackup = keptMetaName(projectFile);
     if (!QFileInfo::exists(reading.fileName) && QFileInfo::exists(besideLink))
         reading.fileName = besideLink;
+    else if (!QFileInfo::exists(reading.fileName) && !ofBackup.isEmpty() && QFileInfo::exists(ofBackup))
+        reading.fileName = ofBackup;
     if (!QFileInfo::exists(reading.fileName))
         return reading;
     std::optional<ProjectMeta> meta = readMetaFile(reading.fileName, shotChecks(shots));

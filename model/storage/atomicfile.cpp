@@ -5,8 +5,11 @@
 #include "model/storage/stagedfile.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QStorageInfo>
+
+#include <cerrno>
 
 namespace {
 
@@ -32,6 +35,18 @@ private:
     qint64 m_count = 0;
 };
 
+/// errno if a file is there and may not be written to, although the folder might let another one take its place.
+int protectionOf(const QString &fileName)
+{
+    QFile file(fileName);
+    if (!file.exists())
+        return 0;
+    errno = 0;
+    if (file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::ExistingOnly)) // leaves it as it is
+        return 0;
+    return errno != 0 ? errno : EACCES;
+}
+
 /// Replaces one file, by another one or where it is.
 class Replacer
 {
@@ -47,6 +62,9 @@ public:
     [[nodiscard]] Replacement run(const Write &write)
     {
         m_result.fault = targetFault(m_fileName);
+        const int protection = m_result.fault ? 0 : protectionOf(m_target);
+        if (protection != 0)
+            fail(protection);
         if (!m_result.fault && stage(write))
             m_rewrites ? rewrite() : replace();
         return m_result;

@@ -33,7 +33,8 @@ struct Replacement
 /// Lets `write` fill a new file and puts it in the place of an existing one only if every byte has arrived: a failure
 /// at any point leaves the old file whole. Owner, group, mode, access lists and extended attributes survive as far as
 /// the system allows. A symbolic link is followed. A file in a folder that cannot be written to is rewritten where it
-/// is. Fails if `write` returns false, on a write error, and if something other than a regular file has that name.
+/// is. Fails if `write` returns false, on a write error, and if what has that name is write-protected or no regular
+/// file.
 /// `write` may be called a second time, for a device that only counts, to find out how much space is missing. `pause`
 /// is called often while the space of a replaced file is given back, when the new one is in place already.
 [[nodiscard]] Replacement replaceFile(

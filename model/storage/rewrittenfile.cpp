@@ -19,19 +19,21 @@ namespace {
 
 constexpr qint64 kPart = qint64(1024) * 1024;
 
-/// Files of the same name from different folders must not meet.
-QString copyNameFor(const QString &fileName)
-{
-    const QByteArray path = QCryptographicHash::hash(fileName.toUtf8(), QCryptographicHash::Sha1).toHex().left(8);
-    return QString::fromLatin1(path) + QLatin1Char('-') + QFileInfo(fileName).fileName().right(150) + QLatin1Char('~');
-}
-
 } // namespace
+
+/// Files of the same name from different folders must not meet.
+QString RewrittenFile::copyNameIn(const QString &folder, const QString &fileName)
+{
+    const QString path =
+        QString::fromLatin1(QCryptographicHash::hash(fileName.toUtf8(), QCryptographicHash::Sha1).toHex().left(8));
+    return QDir(folder).filePath(path + QLatin1Char('-') + QFileInfo(fileName).fileName().right(150)
+                                 + QLatin1Char('~'));
+}
 
 RewrittenFile::RewrittenFile(const QString &fileName, const QString &folder, const std::function<void()> &pause)
     : m_fileName(fileName)
     , m_folder(folder)
-    , m_copyName(QDir(folder).filePath(copyNameFor(fileName)))
+    , m_copyName(copyNameIn(folder, fileName))
     , m_pause(pause)
 {}
 
@@ -115,12 +117,27 @@ bool RewrittenFile::overwrite(int handle, const Part &part, qint64 size)
     return check(::ftruncate(handle, size) == 0) && check(::fsync(handle) == 0);
 }
 
+/// Now the copy is all there is of the old content: the next attempt must not replace it.
+void RewrittenFile::keepForGood()
+{
+    constexpr int kMost = 1000;
+    for (int number = 2; number < kMost; ++number) {
+        const QString name = m_copyName + QString::number(number);
+        if (QFile::exists(name) || !QFile::rename(m_copyName, name))
+            continue;
+        m_copyName = name;
+        return;
+    }
+}
+
 void RewrittenFile::putBack(int handle, qint64 size)
 {
     QFile copy(m_copyName);
     const int error = m_error;
     const auto part = [&copy](char *data, qint64 most, qint64) { return copy.read(data, most); };
     m_isDamaged = !copy.open(QIODevice::ReadOnly) || copy.size() != size || !overwrite(handle, part, size);
+    if (m_isDamaged)
+        keepForGood();
     m_error = error;
 }
 

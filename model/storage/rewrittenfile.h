@@ -12,6 +12,8 @@ public:
     /// `folder` is made if it is missing. `pause` is called often.
     RewrittenFile(const QString &fileName, const QString &folder, const std::function<void()> &pause);
 
+    /// Where the copy of a file's old content lies, if there is one.
+    [[nodiscard]] static QString copyNameIn(const QString &folder, const QString &fileName);
     /// True if the file can be written to although nothing can be made beside it.
     [[nodiscard]] static bool isNeeded(const QString &fileName, int errorNumber);
 
@@ -33,6 +35,7 @@ private:
     [[nodiscard]] bool hasRoomFor(int handle, qint64 oldSize, qint64 newSize);
     [[nodiscard]] bool overwrite(int handle, const Part &part, qint64 size);
     void putBack(int handle, qint64 size);
+    void keepForGood();
     bool check(bool isGood);
 
     QString m_fileName;

@@ -2390,8 +2390,8 @@ Please delete a large picture first, or replace it with a smaller one.</translat
         <translation>Saving...</translation>
     </message>
     <message>
-        <source>Das Projekt ist gespeichert, aber Grenzen, Schwellen, Bezeichnungen und Zeitstempel der Auswertung konnten nicht gespeichert werden!</source>
-        <translation>The project has been saved, but the limits, thresholds, labels and time stamps of the evaluation could not be saved!</translation>
+        <source>Das Projekt ist gespeichert, aber Zeitstempel, Bezeichnungen, Einheiten, Grenzen und Schwellen konnten nicht gespeichert werden!</source>
+        <translation>The project has been saved, but its time stamps, labels, units, limits and thresholds could not be saved!</translation>
     </message>
     <message>
         <source>Projekt gespeichert: %1</source>

@@ -172,6 +172,24 @@ private slots:
         QVERIFY(QFile::exists(lockOf(m_file)));
     }
 
+    /// As a power cut leaves it, which names no program.
+    void anEmptyLockIsTakenOver()
+    {
+        for (const char *content : {"", "\0\0\0", "1\n"}) {
+            writeFile(lockOf(m_file), content);
+            Bench bench;
+            bench.prompts->openNames = {m_file};
+            emit bench.view.openProject();
+            QCOMPARE(bench.shots(), 2);
+            QVERIFY(bench.prompts->asked.empty());
+            Bench other;
+            other.prompts->openNames = {m_file};
+            other.prompts->choices = {2};
+            emit other.view.openProject();
+            QCOMPARE(other.prompts->asked.size(), std::size_t(1));
+        }
+    }
+
     void opensWithoutALockWhereNoneCanBeMade()
     {
         const SmallDisk disk(1 << 20);
@@ -281,6 +299,36 @@ private slots:
         QVERIFY2(text.contains(" MB fehlen"_s), qPrintable(text));
         QCOMPARE(bench.model.currentFile(), path("elsewhere.vnt"));
         QCOMPARE(QDir(disk.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), QStringList());
+    }
+
+    void whatIsNotSavedBesideTheProjectIsNotGivenUp()
+    {
+        Bench bench;
+        bench.prompts->openNames = {m_file};
+        emit bench.view.openProject();
+        bench.model.setShotLabel(0, "good"_s);
+        bench.model.setProjectModifiedFlag(true);
+        QFile::remove(m_file + ".meta"_s);
+        QVERIFY(QDir().mkpath(m_file + ".meta"_s));
+        bench.prompts->answers = {QMessageBox::Save};
+        emit bench.view.newProject();
+        QCOMPARE(bench.prompts->warnings.size(), std::size_t(1));
+        QVERIFY2(bench.prompts->warnings[0].text.contains("\n\nUnter diesem Namen gibt es einen Ordner."_s),
+                 qPrintable(bench.prompts->warnings[0].text));
+        QVERIFY(bench.model.isProjectModified());
+        QCOMPARE(bench.model.shotLabel(0), "good"_s);
+    }
+
+    void aFileOfAnotherKindIsNotProposed()
+    {
+        const QString foreign = path("package.json");
+        writeFile(foreign, "{\"license\": \"none\"}");
+        Bench bench;
+        bench.prompts->openNames = {foreign};
+        emit bench.view.openProject();
+        emit bench.view.saveProject(); // no name is chosen
+        QCOMPARE(bench.prompts->fileStarts.size(), 2);
+        QCOMPARE(bench.prompts->fileStarts[1], path("package (Kopie).vnt"));
     }
 
     void unreadableFilesSayWhy_data()

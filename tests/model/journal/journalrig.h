@@ -6,6 +6,7 @@
 #include "model/model.h"
 
 #include <QBuffer>
+#include <QFileInfo>
 
 /// Keeps a journal of a model in memory, as the program does in a file.
 class JournalRig
@@ -22,6 +23,9 @@ public:
     {
         JournalBase base;
         base.file = m_model.currentFile();
+        const QFileInfo file(base.file);
+        base.fileSize = file.size();
+        base.fileTime = file.lastModified().toMSecsSinceEpoch();
         base.started = QDateTime::currentDateTime();
         m_tracker.begin(base, m_model.files().saved());
         bytes = journalblock::mark();

@@ -1,11 +1,14 @@
 #include "journalrig.h"
 
 #include "model/changescope.h"
+#include "model/storage/atomicfile.h"
+#include "model/storage/rewrittenfile.h"
 #include "tests/support/files.h"
 #include "tests/support/literals.h"
 #include "tests/support/rows.h"
 #include "tests/support/shots.h"
 
+#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QTemporaryDir>
@@ -333,9 +336,20 @@ private slots:
         row("gone", Event([](const QString &file) { QFile::remove(file); }), 1, 3, 2);
         row("shot deleted", Event([](const QString &file) {
                 Model other(file);
-                QVERIFY(other.deleteChannel(0) && other.save(file));
+                QVERIFY(other.deleteChannel(0) && other.save(file) && other.save(file));
             }),
             3, 1, 0);
+        row("replaced once, so that it is still there", Event([](const QString &file) {
+                Model other(file);
+                QVERIFY(other.deleteChannel(0) && other.save(file));
+            }),
+            4, 0, 0);
+        row("torn while it was rewritten where it is", Event([](const QString &file) {
+                const QString folder = SaveOptions().folderForRescue();
+                const QString copy = RewrittenFile::copyNameIn(folder, realFile(file));
+                QVERIFY(QDir().mkpath(folder) && QFile::copy(file, copy) && QFile::resize(file, 50));
+            }),
+            4, 0, 0);
         row("shot added in front", Event([](const QString &file) {
                 Model other(file);
                 const SampleList first = *other.measurement(0, 0);
@@ -361,7 +375,7 @@ private slots:
         journal.write();
         happens(m_file);
 
-        Model second{QString()};
+        Model second{m_file}; // what was opened before has nothing to do with it
         std::optional<JournalContents> contents = journal.read();
         QVERIFY(contents);
         const std::optional<RecoveryLosses> losses = second.restore(*contents);
@@ -373,6 +387,10 @@ private slots:
         QCOMPARE(*second.measurement(4, last), (SampleList{12.0, 13.0}));
         if (shots > 1)
             QCOMPARE(*second.measurement(4, last - 1), *model.measurement(4, 2));
+        QVERIFY(second.fileOnDisk() != DiskCopy::State::Same); // asked about before it is replaced
+        JournalRig next(second);
+        next.write();
+        QCOMPARE(restored(next), textOf(second));
     }
 
     /// Every byte of a journal is cut off, or changed: what is before it is read, and nothing else.

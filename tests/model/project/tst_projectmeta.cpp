@@ -137,6 +137,20 @@ private slots:
         QCOMPARE(model.shotLabel(1), "through the link"_s);
     }
 
+    void thePreviousVersionHasItsOwn()
+    {
+        Model model{QString()};
+        fill(model);
+        model.setShotLabel(0, "before"_s);
+        QVERIFY(model.save(path("p.vnt")));
+        model.setShotLabel(0, "after"_s);
+        QVERIFY(model.save(path("p.vnt")));
+        QVERIFY(model.open(path("p.vnt~")));
+        QCOMPARE(model.shotLabel(0), "before"_s);
+        QVERIFY(model.open(path("p.vnt")));
+        QCOMPARE(model.shotLabel(0), "after"_s);
+    }
+
     void theProjectFileStaysAsItIs()
     {
         Model plain{QString()};
@@ -267,11 +281,12 @@ private slots:
         QVERIFY(QDir().mkpath(path("e.vnt.meta")));
         LogCapture log;
         QVERIFY(model.save(path("e.vnt")));
-        QVERIFY(!model.isProjectMetaSaved());
+        QVERIFY(!model.isProjectMetaSaved() && model.isProjectModified());
+        QCOMPARE(model.projectMetaFault().kind, FileFault::Kind::IsFolder);
         QVERIFY(log.contains("ERROR: could not write file:"_s));
         QVERIFY(QDir().rmdir(path("e.vnt.meta")));
         QVERIFY(model.save(path("e.vnt")));
-        QVERIFY(model.isProjectMetaSaved());
+        QVERIFY(model.isProjectMetaSaved() && !model.isProjectModified());
         QVERIFY(QFile::exists(path("e.vnt.meta")));
         // A project that cannot be written leaves the file beside it alone.
         const QByteArray before = contentOf(path("e.vnt.meta"));

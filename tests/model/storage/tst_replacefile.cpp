@@ -260,6 +260,32 @@ private slots:
         QCOMPARE(contentOf(file).size(), 700 << 10);
     }
 
+    /// A folder that lets everything be replaced does not make a write-protected file a free one.
+    void writeProtectedFilesStay()
+    {
+        if (::geteuid() != 0)
+            QSKIP("only root can give away the folder");
+        writeFile(m_file, "old");
+        QCOMPARE(::chmod(qPrintable(m_file), 0444), 0);
+        for (const QString &name : {m_folder->path(), m_file})
+            QCOMPARE(::chown(qPrintable(name), kNobody, kNobody), 0);
+        ReplaceOptions options;
+        options.keepsOld = true;
+        options.rescueFolder = path("rescue");
+        Replacement done;
+        bool isOtherDone = false;
+        {
+            const AsNobody nobody;
+            done = replace(m_file, "new", options);
+            isOtherDone = bool(replace(path("b.vnt"), "new", options));
+        }
+        QCOMPARE(done.fault.kind, FileFault::Kind::NoPermission);
+        QCOMPARE(contentOf(m_file), "old"_ba);
+        QVERIFY(isOtherDone);
+        QCOMPARE(QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+                 (QStringList{"a.vnt"_s, "b.vnt"_s}));
+    }
+
     void rewritesInAFolderThatCannotBeWrittenTo_data()
     {
         columns<QByteArray, bool, bool>("content", "keepsOld", "isDone");
@@ -334,6 +360,30 @@ private slots:
         QTEST(file.isDamaged(), "isDamaged");
         QVERIFY(file.errorNumber() != 0);
         QVERIFY(contentOf(m_file) == old);
+        QVERIFY(contentOf(file.copyName()) == old);
+    }
+
+    /// Neither the new content nor the old one can be written: the copy must outlive the next attempt.
+    void theOnlyCopyIsNotReplaced()
+    {
+        const QByteArray old(3500000, 'o');
+        writeFile(m_file, old);
+        StagedFile content(path("other.vnt"));
+        const QByteArray fresh(3000000, 'n');
+        QVERIFY(content.begin() && content.write(fresh) == fresh.size());
+        std::unique_ptr<SizeLimit> limit;
+        const QString usualCopy = RewrittenFile::copyNameIn(path("rescue"), m_file);
+        RewrittenFile file(m_file, path("rescue"), [&] {
+            if (!limit && QFile::exists(usualCopy))
+                limit = std::make_unique<SizeLimit>(100); // the medium fails from now on
+        });
+        QVERIFY(!file.take(content));
+        limit.reset();
+        QVERIFY(file.isDamaged());
+        QVERIFY(contentOf(m_file) != old);
+        RewrittenFile again(m_file, path("rescue"), [] {});
+        QVERIFY(again.take(content));
+        QVERIFY(contentOf(m_file) == fresh);
         QVERIFY(contentOf(file.copyName()) == old);
     }
 
