@@ -136,6 +136,7 @@ std::vector<Kind> oszilloscopeKinds()
         {"Bereich von Sensor 1", [](Bench &b) { find<QDoubleSpinBox>(b, "maxSpinBox1"_s)->setValue(77.5); }},
         {"Bereich von Sensor 5", [](Bench &b) { find<QDoubleSpinBox>(b, "minSpinBox5"_s)->setValue(-3); }},
         {"Änderung von Mein Sensor", [](Bench &b) { emit b.view.tabSensors()->sensorNameEdited(3, "Neu"_s); }},
+        {"Änderung von Sensor 2", [](Bench &b) { emit b.view.tabSensors()->sensorUnitEdited(1, "kN"_s); }},
         {"Änderung von Sensor 1", [](Bench &b) { emit b.view.tabSensors()->sensorColorEdited(0, Qt::magenta); }},
         {"Änderung von Sensor 3", [](Bench &b) { emit b.view.tabSensors()->sensorLimitsEdited(0, 2, -5, 5); }},
         {"Übernahme der Sensorbeschreibung", [](Bench &b) { b.say(kSensors); }},

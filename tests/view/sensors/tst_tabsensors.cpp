@@ -13,6 +13,7 @@
 #include "view/sensors/tilegrid.h"
 #include "view/window/view.h"
 
+#include <QDoubleSpinBox>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
@@ -20,6 +21,7 @@
 #include <QSignalSpy>
 #include <QStackedWidget>
 #include <QTabWidget>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTreeView>
 
@@ -314,8 +316,18 @@ private slots:
         auto *dialog = view.findChild<SensorDialog *>();
         QVERIFY(dialog);
         dialog->findChild<QLineEdit *>("lineEditSensorName"_s)->setText("Schieber"_s);
+        auto *unit = dialog->findChild<QLineEdit *>("lineEditSensorUnit"_s);
+        unit->clear();
+        QTest::keyClicks(unit, " N / mm  "_s + QString(50, QLatin1Char('x')));
+        QVERIFY(dialog->findChildren<QDoubleSpinBox *>().constFirst()->suffix().contains("N / mm xx"_s));
         dialog->accept();
         QTRY_COMPARE(tree->sensors().sensors.at(2).name, "Schieber"_s);
+        const QString entered = model.sensorDescription().sensorGroup(0).sensorUnit(2);
+        QVERIFY(entered.startsWith("N / mm xx"_s) && entered.size() <= SensorGroup::kLongestUnit);
+        QCOMPARE(tree->sensors().sensors.at(2).unit, entered);
+        const QTemporaryDir folder;
+        QVERIFY(model.save(folder.filePath("unit.vnt"_s)));
+        QCOMPARE(Model(folder.filePath("unit.vnt"_s)).sensorDescription().sensorGroup(0).sensorUnit(2), entered);
         QCOMPARE(model.sensorDescription().sensorGroup(0).sensorMinimum(2), -5.0); // left alone
         QVERIFY(containsLabel(view.tabOszi(), "Schieber"_s));
         // The choices for the sensor were kept under its new name.
