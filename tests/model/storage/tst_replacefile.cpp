@@ -9,6 +9,7 @@
 
 #include <QTemporaryDir>
 
+#include <array>
 #include <csignal>
 
 #include <sys/resource.h>
@@ -90,10 +91,9 @@ struct stat statusOf(const QString &file)
 
 QByteArray attribute(const QString &file, const char *name)
 {
-    QByteArray value(256, '\0');
-    const ssize_t size = ::getxattr(QFile::encodeName(file).constData(), name, value.data(), 256);
-    value.truncate(size > 0 ? static_cast<int>(size) : 0);
-    return value;
+    std::array<char, 256> value{};
+    const ssize_t size = ::getxattr(QFile::encodeName(file).constData(), name, value.data(), value.size());
+    return size > 0 ? QByteArray(value.data(), static_cast<int>(size)) : QByteArray();
 }
 
 bool setAttribute(const QString &file, const char *name, const QByteArray &value)
