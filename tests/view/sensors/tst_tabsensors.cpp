@@ -101,6 +101,14 @@ public:
     }
 };
 
+/// Of a sensor, in the project as it is when it is opened again.
+QString savedUnit(Model &model, int sensor)
+{
+    const QTemporaryDir folder;
+    const QString file = folder.filePath("unit.vnt"_s);
+    return model.save(file) ? Model(file).sensorDescription().sensorGroup(0).sensorUnit(sensor) : QString();
+}
+
 } // namespace
 
 class TestTabSensors : public QObject
@@ -325,9 +333,7 @@ private slots:
         const QString entered = model.sensorDescription().sensorGroup(0).sensorUnit(2);
         QVERIFY(entered.startsWith("N / mm xx"_s) && entered.size() <= SensorGroup::kLongestUnit);
         QCOMPARE(tree->sensors().sensors.at(2).unit, entered);
-        const QTemporaryDir folder;
-        QVERIFY(model.save(folder.filePath("unit.vnt"_s)));
-        QCOMPARE(Model(folder.filePath("unit.vnt"_s)).sensorDescription().sensorGroup(0).sensorUnit(2), entered);
+        QCOMPARE(savedUnit(model, 2), entered);
         QCOMPARE(model.sensorDescription().sensorGroup(0).sensorMinimum(2), -5.0); // left alone
         QVERIFY(containsLabel(view.tabOszi(), "Schieber"_s));
         // The choices for the sensor were kept under its new name.
