@@ -5,6 +5,7 @@
 #include <QtEndian>
 
 #include <cmath>
+#include <set>
 #include <utility>
 
 namespace {
@@ -54,9 +55,15 @@ bool readBase(QDataStream &stream, JournalContents &contents)
     base.checks.resize(count);
     for (quint32 &check : base.checks)
         stream >> check;
+    std::set<quint64> ids;
     for (std::size_t sensor = 0; sensor < base.runs.size(); ++sensor) {
         if (!readRuns(stream, base.runs[sensor]))
             return false;
+        // One measurement in two places is no state of a project.
+        for (const SavedRun &run : base.runs[sensor]) {
+            if (run.id != 0 && !ids.insert(run.id).second)
+                return false;
+        }
         contents.order[sensor].clear();
         for (const SavedRun &run : base.runs[sensor]) {
             contents.order[sensor].push_back(run.id);

@@ -37,7 +37,9 @@ bool contains(const UnknownMembers &members, const QString &name)
 // Those that are too large to be kept are told.
 void checkUnknown(const QByteArray &text, const Model &model)
 {
-    if (model.openLosses().lost.count > 0)
+    // The parser that this compares with reads what is no plain ASCII differently.
+    const bool isPlain = std::all_of(text.begin(), text.end(), [](char c) { return c > 0 && c != '\\'; });
+    if (!isPlain || model.openLosses().lost.count > 0)
         return;
     const QJsonObject object = QJsonDocument::fromJson(text).object();
     for (auto member = object.begin(); member != object.end(); ++member)
