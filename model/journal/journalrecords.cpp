@@ -4,6 +4,7 @@
 
 #include <QtEndian>
 
+#include <algorithm>
 #include <cmath>
 #include <set>
 #include <utility>
@@ -91,14 +92,12 @@ bool readSamples(QDataStream &stream, JournalContents &contents)
     known.samples.resize(before + int(count));
     double *samples = known.samples.data() + before;
     const int size = int(count) * 8;
-    if (stream.readRawData(reinterpret_cast<char *>(samples), size) != size)
-        return false;
+    bool isValid = stream.readRawData(reinterpret_cast<char *>(samples), size) == size;
     qFromLittleEndian<quint64>(samples, int(count), samples);
-    for (int i = 0; i < int(count); ++i) {
-        if (!std::isfinite(samples[i]))
-            return false;
-    }
-    return true;
+    isValid = isValid && std::all_of(samples, samples + count, [](double sample) { return std::isfinite(sample); });
+    if (!isValid)
+        known.samples.resize(before); // what came before it is still restored
+    return isValid;
 }
 
 bool readOrder(QDataStream &stream, JournalContents &contents)
